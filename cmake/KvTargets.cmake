@@ -1,0 +1,40 @@
+# kv_library_settings(TARGET EXPORTS NAME...)
+#
+# What the module and the companion libraries have in common: a file name without "lib", a place in
+# the folder of what runs, a run path of their own directory, and nothing exported but the names given.
+function(kv_library_settings target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXPORTS")
+    set_target_properties(${target} PROPERTIES
+        PREFIX ""
+        LIBRARY_OUTPUT_DIRECTORY "${KV_BIN_DIR}"
+        RUNTIME_OUTPUT_DIRECTORY "${KV_BIN_DIR}"
+        BUILD_RPATH_USE_ORIGIN ON
+        BUILD_RPATH "$ORIGIN"
+        INSTALL_RPATH "$ORIGIN")
+    if(WIN32)
+        set(exports "${CMAKE_CURRENT_BINARY_DIR}/${target}.def")
+        list(JOIN arg_EXPORTS "\n    " names)
+        file(CONFIGURE OUTPUT "${exports}" CONTENT "EXPORTS\n    ${names}\n" @ONLY)
+        target_sources(${target} PRIVATE "${exports}")
+    else()
+        # A version script, since template instances of weak linkage leak through hidden visibility.
+        set(exports "${CMAKE_CURRENT_BINARY_DIR}/${target}.map")
+        list(JOIN arg_EXPORTS ";\n        " names)
+        file(CONFIGURE OUTPUT "${exports}"
+            CONTENT "{\n    global:\n        ${names};\n    local:\n        *;\n};\n" @ONLY)
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${exports}")
+    endif()
+endfunction()
+
+# kv_add_companion(NAME EXPORTS NAME... SOURCES FILE...)
+#
+# A companion library: built on the public headers alone, and called by name only.
+function(kv_add_companion target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXPORTS;SOURCES")
+    add_library(${target} MODULE ${arg_SOURCES})
+    target_link_libraries(${target} PRIVATE kv_headers)
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    kv_library_settings(${target} EXPORTS ${arg_EXPORTS})
+    install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()
