@@ -25,11 +25,11 @@
 extern "C" {
 #endif
 
-/** View sub-records that a settings record holds. */
-enum { KV_MVC_RECORD_VIEWS = 2 };
-
-/** Views that the settings dialog can describe; see KvMvcSettings::num_views. */
-enum { KV_MVC_MAX_VIEWS = 4 };
+/** Counts of views. */
+enum {
+    KV_MVC_RECORD_VIEWS = 2, /**< view sub-records that a settings record holds */
+    KV_MVC_MAX_VIEWS = 4     /**< views that the dialog describes; see KvMvcSettings::num_views */
+};
 
 /** KvMvcViewSettings::profile: profile of the base view (H.264 A.2). */
 enum KvMvcProfile {
