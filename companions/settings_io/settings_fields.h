@@ -1,0 +1,49 @@
+// The named fields of the settings record: one row drives the reading and the writing of settings
+// files and the tables of their documentation.
+#ifndef KV_SETTINGS_FIELDS_H
+#define KV_SETTINGS_FIELDS_H
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace kv
+{
+
+enum class FieldKind { Integer, Rate };
+
+/** The readable form of one value of a field. */
+struct NamedValue {
+    std::string_view name;
+    int32_t value;
+};
+
+struct Field {
+    std::string_view name; /**< as in settings_record.h, and the key in a file */
+    std::size_t offset;    /**< in bytes from the start of the section's structure */
+    FieldKind kind;
+    std::span<const NamedValue> values; /**< empty for a plain number */
+
+    constexpr std::size_t size() const { return kind == FieldKind::Rate ? 8 : 4; }
+};
+
+/** Fields that stand together in a file, under a comment. */
+struct FieldGroup {
+    std::string_view title;
+    std::span<const Field> fields;
+};
+
+struct Section {
+    std::string_view name;
+    std::size_t offset; /**< of the section's structure in the record */
+    std::size_t size;
+    std::span<const FieldGroup> groups; /**< in the order in which a file is written */
+};
+
+/** "record", "view 0", "view 1". */
+std::span<const Section> settingsSections();
+
+} // namespace kv
+
+#endif
