@@ -1,0 +1,75 @@
+#include "Commands.h"
+
+namespace
+{
+
+#define KV_PRESETS_HELP                                                                            \
+    "\nPresets: 0 none, 1 \"Multivew High\", 2 \"Stereo High\", 3 \"Blu-ray 3D\"; by number\n"     \
+    "or by name (stereo-high).\n"
+
+constexpr char editHelp[] = R"(
+Opens the settings dialog. On OK the settings are saved in FILE, and each
+setting that changed is printed with its old and its new value.
+
+A FILE that does not exist yet starts with the defaults of the preset, and is
+created on OK. Without FILE nothing is saved unless -o names a file.
+)" KV_PRESETS_HELP R"(
+Exit code: 0 after OK, 1 after Cancel (nothing is saved or printed), 2 on
+trouble.
+)";
+
+constexpr char showHelp[] = R"(
+Prints the settings in FILE as a table: one row a setting, the views side by
+side.
+
+Exit code: 0, or 2 on trouble.
+)";
+
+constexpr char checkHelp[] = R"(
+Lets the encoder check the settings in FILE, without a window, and prints each
+of its messages after "error: ", "warning: " or "note: ". FILE is not changed.
+
+Exit code: 0 when the encoder accepts the settings, 1 when it refuses them, 2 on
+trouble.
+)";
+
+constexpr char defaultsHelp[] = R"(
+Writes a settings file with the defaults of a preset.
+)" KV_PRESETS_HELP R"(
+Exit code: 0, or 2 on trouble.
+)";
+
+constexpr char diffHelp[] = R"(
+Prints the settings that differ between two files, one a line: the value in A,
+then the value in B.
+
+Exit code: 0 when all settings are the same, 1 when some differ, 2 on trouble.
+)";
+
+constexpr char importHelp[] = R"(
+Writes a settings file that fits a media file: picture size, frame rate,
+interlacing and what else the stream tells, on top of a preset's defaults.
+
+Exit code: 0, or 2 on trouble.
+)";
+
+constexpr Command commands[] = {
+    {"edit", "[FILE]", 0, 1, "Opens the settings dialog.", editHelp, editOptions, runEdit, true},
+    {"show", "FILE", 1, 1, "Prints the settings as a table.", showHelp, showOptions, runShow,
+     false},
+    {"check", "FILE", 1, 1, "Runs the encoder's check, without a window.", checkHelp, checkOptions,
+     runCheck, false},
+    {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, writingOptions,
+     runDefaults, false},
+    {"diff", "A B", 2, 2, "Prints the settings that differ.", diffHelp, diffOptions, runDiff,
+     false},
+    {"import", "MEDIA", 1, 1, "Writes the settings that fit a media file.", importHelp,
+     writingOptions, runImport, false},
+};
+
+} // namespace
+
+std::span<const Command> allCommands()
+{
+    return commands;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Library.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <kv_config_gui_mvc/companions.h>
+
+/// Settings files and media files, through the settings file library.
+class SettingsFiles
+{
+public:
+    /// @param directory Where libraries are looked for first.
+    explicit SettingsFiles(const QString& directory);
+
+    /// @return The settings of a settings file or a media file.
+    /// @throws Failure, in one line, when the file is missing, unreadable or malformed.
+    [[nodiscard]] KvMvcSettings read(const QString& path) const;
+
+    /// Writes a settings file; a file of that name is replaced.
+    /// @throws Failure when it cannot be written.
+    void write(const KvMvcSettings& settings, const QString& path) const;
+
+    /// @return The text of a settings file.
+    [[nodiscard]] QByteArray text(const KvMvcSettings& settings) const;
+
+private:
+    Library m_library;
+    KvMvcReadSettings m_read;
+    KvMvcWriteSettings m_write;
+};
+
+/// Refuses a name that cannot be written, before any work is done for it: settings files end in
+/// ".cfg" or ".ini", so that no media file is ever written over.
+/// @throws Failure
+void requireWritable(const QString& path);

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QLatin1String>
+#include <QString>
+
+#include <kv_config_gui_mvc/settings_record.h>
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+/// What a value of a field is called.
+struct ValueName {
+    qint32 value;
+    QLatin1String text;
+};
+
+enum class SettingKind {
+    Number,     ///< a whole number; its names are special values
+    Code,       ///< its names are all the values that there are
+    Rate,       ///< a double, frames per second
+    BufferSize, ///< a whole number whose unit the field bitrate_units selects
+    Fullness    ///< likewise
+};
+
+/// One setting: a field of the record or of a view, and how people read it.
+struct Setting {
+    /// The field's name.
+    QLatin1String key;
+    QLatin1String name;
+    SettingKind kind;
+    /// In bytes, from the start of the record or of the view.
+    std::size_t offset;
+    std::span<const ValueName> names = {};
+    /// Follows a number; may be empty.
+    QLatin1String unit = {};
+
+    /// @return Bytes of the field.
+    [[nodiscard]] std::size_t size() const;
+};
+
+/// The settings of the whole record, and those that every view has. No field is left out.
+std::span<const Setting> recordSettings();
+std::span<const Setting> viewSettings();
+
+/// "Base view", "Second view".
+QLatin1String viewName(int view);
+
+/// Where a field lies.
+struct Place {
+    const Setting* setting;
+    /// The view's number, or -1 for a setting of the record.
+    int view;
+};
+
+/// @return The value as people read it, with its unit.
+QString settingText(const KvMvcSettings& settings, Place place);
+
+/// @return {"value": the field's number, "text": settingText()}.
+QJsonObject settingJson(const KvMvcSettings& settings, Place place);
+
+/// A setting that differs, or the reserved bytes of a view or of the record that do.
+struct Difference {
+    /// Without a setting: reserved bytes.
+    Place place;
+    std::size_t reservedBytes;
+};
+
+/// @return What differs, in the order of the tables: the record's settings first.
+std::vector<Difference> compareSettings(const KvMvcSettings& before, const KvMvcSettings& after);
+
+/// @return One line: "Picture width, base view: 1280 -> 1920".
+QString differenceText(const Difference& difference, const KvMvcSettings& before,
+                       const KvMvcSettings& after);
+
+/// @return {"setting", "name", "view", `beforeKey`, `afterKey`}; "bytes" instead of both values for
+///         reserved bytes; "view" is null for a setting of the record.
+QJsonObject differenceJson(const Difference& difference, const KvMvcSettings& before,
+                           const KvMvcSettings& after, QLatin1String beforeKey,
+                           QLatin1String afterKey);
+
+/// The number (KvMvcVideoType) of a preset.
+/// @param text A number 0 to 3 or a name; case does not matter, and '-' stands for a blank.
+/// @throws Failure when there is no such preset.
+qint32 requirePreset(const QString& text);

@@ -1,0 +1,88 @@
+#include "StandardErrorCapture.h"
+
+#include <cstdio>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace
+{
+
+#ifdef Q_OS_WIN
+int duplicate(int file)
+{
+    return _dup(file);
+}
+
+bool redirect(int from, int to)
+{
+    return _dup2(from, to) == 0;
+}
+
+void closeFile(int file)
+{
+    _close(file);
+}
+#else
+int duplicate(int file)
+{
+    return dup(file);
+}
+
+bool redirect(int from, int to)
+{
+    return dup2(from, to) >= 0;
+}
+
+void closeFile(int file)
+{
+    close(file);
+}
+#endif
+
+constexpr int standardError = 2;
+
+} // namespace
+
+StandardErrorCapture::StandardErrorCapture()
+{
+    std::fflush(stderr);
+    // A file, not a pipe: nobody reads while the library writes.
+    if (!m_file.open()) {
+        return;
+    }
+    m_original = duplicate(standardError);
+    if (m_original >= 0 && !redirect(m_file.handle(), standardError)) {
+        closeFile(m_original);
+        m_original = -1;
+    }
+}
+
+StandardErrorCapture::~StandardErrorCapture()
+{
+    restore();
+}
+
+QByteArray StandardErrorCapture::finish()
+{
+    if (m_original < 0) {
+        return {};
+    }
+    restore();
+    m_file.seek(0);
+    return m_file.readAll();
+}
+
+void StandardErrorCapture::restore()
+{
+    if (m_original < 0) {
+        return;
+    }
+    std::fflush(stderr);
+    redirect(m_original, standardError);
+    closeFile(m_original);
+    m_original = -1;
+}
