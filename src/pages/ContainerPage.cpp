@@ -1,0 +1,43 @@
+#include "ContainerPage.h"
+
+#include "ToolBox.h"
+
+#include <QVBoxLayout>
+
+namespace
+{
+
+void setWeight(QWidget* widget, QFont::Weight weight)
+{
+    QFont font = widget->font();
+    font.setWeight(weight);
+    widget->setFont(font);
+}
+
+} // namespace
+
+ContainerPage::ContainerPage(QWidget* parent) : SettingsPage(parent) {}
+
+void ContainerPage::receiveState(const ConfigState& state)
+{
+    SettingsPage::receiveState(state);
+    for (SettingsPage* page : qAsConst(m_pages))
+        page->receiveState(state);
+}
+
+void ContainerPage::makeToolBox(QFrame* collectionFrame)
+{
+    m_toolBox = new ToolBox(this);
+    auto* layout = new QVBoxLayout(collectionFrame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_toolBox);
+    setWeight(m_toolBox, QFont::Bold);
+}
+
+void ContainerPage::addPage(SettingsPage* page, const QString& title)
+{
+    m_toolBox->addSection(page, title);
+    setWeight(page, QFont::Normal);
+    connect(page, &SettingsPage::stateChanged, this, &SettingsPage::stateChanged);
+    m_pages.append(page);
+}

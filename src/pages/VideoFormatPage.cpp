@@ -1,0 +1,138 @@
+#include "VideoFormatPage.h"
+
+#include "model/KeyNames.h"
+
+namespace
+{
+
+void refill(QComboBox* box, const QStringList& items)
+{
+    box->clear();
+    box->addItems(items);
+}
+
+} // namespace
+
+VideoFormatPage::VideoFormatPage(QWidget* parent) : SettingsPage(parent)
+{
+    using Page = VideoFormatPage;
+    ui.setupUi(this);
+    bind(ui.widthSpin, keys::horizontalSize, &Page::slotChangeWidth);
+    bind(ui.heightSpin, keys::verticalSize, &Page::slotChangeHeight);
+    bind(ui.aspectRatioList, keys::pictureAspectRatio, &Page::slotChangeAspectRatio);
+    bind(ui.framerateList, keys::frameRate, &Page::slotChangeFramerate);
+    bind(ui.pixelXSpin, keys::pixelX, &Page::slotChangePixelX);
+    bind(ui.pixelYSpin, keys::pixelY, &Page::slotChangePixelY);
+    bind(ui.interlaceList, keys::interlace, &Page::slotChangeInterlace);
+    bind(ui.fieldOrderList, keys::fieldOrder, &Page::slotChangeFieldOrder);
+    bind(ui.pulldownList, keys::pulldown, &Page::slotChangePulldown);
+    bind(ui.chromaList, keys::chromaFormat, &Page::slotChangeChroma);
+    bind(ui.bitdepthLList, keys::bitDepthLuma, &Page::slotChangeBitdepthLuma);
+    bind(ui.bitdepthCList, keys::bitDepthChroma, &Page::slotChangeBitdepthChroma);
+    // No setting of the record: it only couples the edits that this page reports.
+    connect(ui.aspectRatioCheck, &QCheckBox::toggled, this, &Page::slotChangeAspectRatioCheck);
+}
+
+void VideoFormatPage::fillLists()
+{
+    m_customAspect = tr("Custom");
+    m_aspects = {{tr("1:1"), 1.0}, {tr("4:3"), 4.0 / 3}, {tr("16:9"), 16.0 / 9}};
+    refill(ui.aspectRatioList, {m_customAspect});
+    for (const Aspect& aspect : qAsConst(m_aspects))
+        ui.aspectRatioList->addItem(aspect.text);
+    refill(ui.framerateList, {tr("7.60"), tr("9.10"), tr("10.00"), tr("12.50"), tr("12.80"),
+                              tr("15.00"), tr("23.98"), tr("24.00"), tr("25.00"), tr("29.97"),
+                              tr("30.00"), tr("50.00"), tr("59.94"), tr("60.00")});
+    refill(ui.interlaceList, {tr("Progressive"), tr("Interlaced"), tr("MBAFF")});
+    refill(ui.fieldOrderList, {tr("Top Field First"), tr("Bot Field First")});
+    refill(ui.pulldownList, {tr("Off"), tr("2:3"), tr("3:2"), tr("2:3 P"), tr("3:2 P"), tr("Auto"),
+                             tr("2:2"), tr("3:3")});
+    refill(ui.chromaList, {tr("4:0:0"), tr("4:2:0"), tr("4:2:2")});
+    for (QComboBox* depths : {ui.bitdepthLList, ui.bitdepthCList})
+        refill(depths, {tr("8 bits"), tr("10 bits")});
+}
+
+void VideoFormatPage::addFramerateItem(const QString& text)
+{
+    if (m_extraFrameRateAdded)
+        return;
+    ui.framerateList->addItem(text);
+    m_extraFrameRateAdded = true;
+}
+
+void VideoFormatPage::receiveState(const ConfigState& state)
+{
+    SettingsPage::receiveState(state);
+    const bool sizeIsFree = ui.widthSpin->isEnabled() && ui.heightSpin->isEnabled();
+    ui.aspectRatioCheck->setEnabled(sizeIsFree);
+    ui.aspectRatioList->setEnabled(sizeIsFree);
+}
+
+VideoFormatPage::AspectChoice VideoFormatPage::currentAspect(double* ratio) const
+{
+    const QString text = ui.aspectRatioList->currentText();
+    if (text == m_customAspect)
+        return AspectChoice::Custom;
+    for (const Aspect& aspect : m_aspects) {
+        if (text == aspect.text) {
+            *ratio = aspect.ratio;
+            return AspectChoice::Ratio;
+        }
+    }
+    return AspectChoice::Unknown;
+}
+
+void VideoFormatPage::addWidthFromHeight(ConfigState& state) const
+{
+    double ratio = 0;
+    if (currentAspect(&ratio) != AspectChoice::Ratio)
+        return;
+    state.insert(keys::horizontalSize, int(ui.heightSpin->value() * ratio));
+}
+
+void VideoFormatPage::addHeightFromWidth(ConfigState& state) const
+{
+    const int width = ui.widthSpin->value();
+    // Without a choice the present ratio is kept, and the height is reported all the same.
+    double ratio = double(width) / ui.heightSpin->value();
+    if (currentAspect(&ratio) == AspectChoice::Custom)
+        return;
+    state.insert(keys::verticalSize, int(width / ratio));
+}
+
+void VideoFormatPage::slotChangeWidth(int width)
+{
+    ConfigState state;
+    state.insert(senderKey(), width);
+    if (ui.aspectRatioCheck->isChecked())
+        addHeightFromWidth(state);
+    Q_EMIT stateChanged(state);
+}
+
+void VideoFormatPage::slotChangeHeight(int height)
+{
+    ConfigState state;
+    state.insert(senderKey(), height);
+    if (ui.aspectRatioCheck->isChecked())
+        addWidthFromHeight(state);
+    Q_EMIT stateChanged(state);
+}
+
+void VideoFormatPage::slotChangeAspectRatio(const QString& text)
+{
+    ConfigState state;
+    state.insert(senderKey(), text);
+    if (ui.aspectRatioCheck->isChecked())
+        addWidthFromHeight(state);
+    Q_EMIT stateChanged(state);
+}
+
+void VideoFormatPage::slotChangeAspectRatioCheck(bool)
+{
+    if (!ui.aspectRatioCheck->isChecked())
+        return;
+    ConfigState state;
+    addWidthFromHeight(state);
+    if (!state.entries().isEmpty())
+        Q_EMIT stateChanged(state);
+}

@@ -1,0 +1,236 @@
+#include "ViewPage.h"
+
+#include "model/KeyNames.h"
+
+#include <QAbstractButton>
+#include <QSignalBlocker>
+
+#include <limits>
+
+namespace
+{
+
+// Ids of the unit buttons, which are the stored codes.
+enum Units { BytesAndPercent, Bits, BitsAndClock };
+
+constexpr int unlimited = std::numeric_limits<int>::max();
+
+/// What a choice of units sets.
+struct UnitRow {
+    const char* bufferLabel;
+    const char* initialLabel;
+    const char* targetLabel;
+    int vbvMaximum;
+    int bufferStep;
+    int vbvStep;
+};
+
+constexpr UnitRow unitRows[] = {
+    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bytes)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (%)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (%)"), 100, 1024, 1},
+    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bits)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (bits)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (bits)"), unlimited, 8192, 8192},
+    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bits)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (90 kHz)"),
+     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (90 kHz)"), unlimited, 8192, 1},
+};
+
+} // namespace
+
+ViewPage::ViewPage(int view, QWidget* parent)
+    : SettingsPage(parent),
+      m_view(view),
+      m_unitGroup(new QButtonGroup(this)),
+      m_constantBitrate(QObject::tr("Constant Bitrate")),
+      m_variableBitrate(QObject::tr("Variable Bitrate")),
+      m_constantQuantizer(QObject::tr("Const. Quality - Constant Quantizer")),
+      m_averageQuantizer(QObject::tr("Const. Quality - Average Quantizer"))
+{
+}
+
+template <class Control>
+Control* ViewPage::control(const char* name) const
+{
+    auto* found = findChild<Control*>(QLatin1String(name));
+    Q_ASSERT(found);
+    return found;
+}
+
+QString ViewPage::key(QLatin1String base) const
+{
+    return keys::ofView(base, m_view);
+}
+
+void ViewPage::bindControls()
+{
+    struct SpinRow {
+        const char* control;
+        QLatin1String key;
+        void (ViewPage::*slot)(int);
+    };
+    static const SpinRow spinRows[] = {
+        {"targetRateSpin", keys::targetBitrate, &ViewPage::slotChangeTargetRate},
+        {"maxRateSpin", keys::maxBitrate, &ViewPage::slotChangeMaxRate},
+        {"bitrateBufferSpin", keys::bitrateBuffer, &ViewPage::slotChangeBuffer},
+        {"iSizeSpin", keys::iSize, &ViewPage::slotChangeISize},
+        {"pSizeSpin", keys::pSize, &ViewPage::slotChangePSize},
+        {"bSizeSpin", keys::bSize, &ViewPage::slotChangeBSize},
+        {"brSizeSpin", keys::brSize, &ViewPage::slotChangeBrSize},
+        {"quantISpin", keys::iQuantizer, &ViewPage::slotChangeQuantI},
+        {"quantPSpin", keys::pQuantizer, &ViewPage::slotChangeQuantP},
+        {"quantBSpin", keys::bQuantizer, &ViewPage::slotChangeQuantB},
+        {"maxQuantSpin", keys::maxQuantizer, &ViewPage::slotChangeQuantMax},
+        {"minQuantSpin", keys::minQuantizer, &ViewPage::slotChangeQuantMin},
+    };
+
+    m_modeList = control<QComboBox>("bitrateModeList");
+    m_targetRate = control<QSpinBox>("targetRateSpin");
+    m_maxRate = control<QSpinBox>("maxRateSpin");
+    m_buffer = control<QSpinBox>("bitrateBufferSpin");
+    m_vbvInitial = control<QSpinBox>("vbvInitialSpin");
+    m_vbvTarget = control<QSpinBox>("vbvTargetSpin");
+    m_oneSecond = control<QCheckBox>("onesecCheck");
+
+    bind(m_modeList, key(keys::bitrateMode), &ViewPage::slotChangeBitrateMode);
+    for (const SpinRow& row : spinRows)
+        bind(control<QSpinBox>(row.control), key(row.key), row.slot);
+    bind(control<QCheckBox>("hrdCheck"), key(keys::hrd), &ViewPage::slotChangeHRD);
+
+    // Both slots hang on the initial fullness; the target is shown but reports nothing.
+    bind(m_vbvInitial, key(keys::vbvInitial), &ViewPage::slotChangeVBVInitial);
+    connect(m_vbvInitial, qOverload<int>(&QSpinBox::valueChanged), this,
+            &ViewPage::slotChangeVBVTarget);
+    bindWith(m_vbvTarget, key(keys::vbvTarget),
+             [this](const ConfigState& state) { setSpinFromState(m_vbvTarget, state); });
+
+    m_unitGroup->addButton(control<QAbstractButton>("units1Radio"), BytesAndPercent);
+    m_unitGroup->addButton(control<QAbstractButton>("units2Radio"), Bits);
+    m_unitGroup->addButton(control<QAbstractButton>("units3Radio"), BitsAndClock);
+    bindWith(m_unitGroup, key(keys::units),
+             [this](const ConfigState& state) { setGroupFromState(m_unitGroup, state); });
+    connect(m_unitGroup, qOverload<QAbstractButton*>(&QButtonGroup::buttonClicked), this,
+            &ViewPage::slotChangeUnits);
+
+    connect(m_oneSecond, &QCheckBox::toggled, this, &ViewPage::slotChangeOneSec);
+}
+
+void ViewPage::fillBitrateModes()
+{
+    m_modeList->clear();
+    m_modeList->addItems(bitrateModeTexts());
+}
+
+void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate)
+{
+    if (!m_oneSecond->isChecked())
+        return;
+    const bool inBytes = m_unitGroup->checkedId() == BytesAndPercent;
+    state.insert(keyOf(m_buffer), inBytes ? rate / 8 : rate);
+    setSpinFromState(m_buffer, state);
+}
+
+void ViewPage::setGroupFromState(QButtonGroup* group, const ConfigState& state)
+{
+    const ConfigEntry entry = state.entry(keyOf(group));
+    const QSignalBlocker blocker(group);
+    // An exclusive group does not let go of its last button.
+    QAbstractButton* const chosen = group->button(entry.value.toInt());
+    group->setExclusive(false);
+    const auto buttons = group->buttons();
+    for (QAbstractButton* button : buttons) {
+        button->setChecked(button == chosen);
+        button->setEnabled(entry.enabled);
+    }
+    group->setExclusive(true);
+}
+
+void ViewPage::slotChangeTargetRate(int rate)
+{
+    ConfigState state;
+    state.insert(senderKey(), rate);
+    if (rate > m_maxRate->value()) {
+        state.insert(keyOf(m_maxRate), rate);
+        setSpinFromState(m_maxRate, state);
+    }
+    applyOneSecondBuffer(state, rate);
+    Q_EMIT stateChanged(state);
+}
+
+void ViewPage::slotChangeMaxRate(int rate)
+{
+    ConfigState state;
+    state.insert(senderKey(), rate);
+    if (rate < m_targetRate->value()) {
+        state.insert(keyOf(m_targetRate), rate);
+        setSpinFromState(m_targetRate, state);
+        applyOneSecondBuffer(state, rate);
+    }
+    Q_EMIT stateChanged(state);
+}
+
+void ViewPage::slotChangeUnits(QAbstractButton* button)
+{
+    ConfigState state;
+    state.insert(senderKey(), m_unitGroup->id(button));
+    applyOneSecondBuffer(state, m_targetRate->value());
+    Q_EMIT stateChanged(state);
+}
+
+void ViewPage::slotChangeOneSec(bool onesec)
+{
+    m_buffer->setEnabled(!onesec);
+    // The sender has no key, so the rate travels under the empty one, which no setting has.
+    slotChangeTargetRate(m_targetRate->value());
+}
+
+void ViewPage::receiveState(const ConfigState& state)
+{
+    SettingsPage::receiveState(state);
+    showFor(state.value(key(keys::bitrateMode)).toString(),
+            state.value(key(keys::hrd)).toInt() == 1);
+    setUnits(state.value(key(keys::units)).toInt());
+    m_buffer->setEnabled(!m_oneSecond->isChecked());
+}
+
+void ViewPage::setShown(std::initializer_list<const char*> names, bool visible)
+{
+    for (const char* name : names)
+        control<QWidget>(name)->setVisible(visible);
+}
+
+void ViewPage::showFor(const QString& mode, bool hrd)
+{
+    const bool variable = mode == m_variableBitrate;
+    const bool byRate = variable || mode == m_constantBitrate;
+    const bool constantQuantizer = mode == m_constantQuantizer;
+    const bool byQuantizer = constantQuantizer || mode == m_averageQuantizer;
+
+    setShown({"targetRateLabel", "targetRateSpin"}, byRate);
+    setShown({"maxRateLabel", "maxRateSpin"}, variable && hrd);
+    setShown({"groupBoxBuffers", "bitrateBufferSpin"}, byRate && hrd);
+    setShown({"quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel", "quantBSpin",
+              "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"},
+             byQuantizer);
+    setShown({"iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel", "bSizeSpin",
+              "brSizeLabel", "brSizeSpin"},
+             !constantQuantizer);
+}
+
+void ViewPage::setUnits(int units)
+{
+    if (units < BytesAndPercent || units > BitsAndClock)
+        return;
+    const UnitRow& row = unitRows[units];
+    control<QLabel>("bitrateBufferLabel")->setText(tr(row.bufferLabel));
+    control<QLabel>("vbvInitialLabel")->setText(tr(row.initialLabel));
+    control<QLabel>("vbvTargetLabel")->setText(tr(row.targetLabel));
+    m_buffer->setMaximum(unlimited);
+    m_buffer->setSingleStep(row.bufferStep);
+    // With signals on: a fullness beyond 100 % is clamped, and the clamp is reported like an edit.
+    for (QSpinBox* fullness : {m_vbvInitial, m_vbvTarget}) {
+        fullness->setMaximum(row.vbvMaximum);
+        fullness->setSingleStep(row.vbvStep);
+    }
+}

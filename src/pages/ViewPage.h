@@ -1,0 +1,78 @@
+#pragma once
+
+#include "SettingsPage.h"
+
+#include <QButtonGroup>
+#include <QLabel>
+
+class QAbstractButton;
+
+/// Rate control of one view: what View0Page to View3Page have in common, which is everything but
+/// the context of their texts. Each of them builds its layout and then binds the controls.
+class ViewPage : public SettingsPage
+{
+    Q_OBJECT
+
+public:
+    /// Fills the mode list; once, after construction.
+    void fillBitrateModes();
+
+    /// Also shows what fits the mode, and sets labels and limits by the units.
+    void receiveState(const ConfigState& state) override;
+
+public Q_SLOTS:
+    void slotChangeBitrateMode(const QString& text) { reportEdit(text); }
+    void slotChangeTargetRate(int rate);
+    void slotChangeMaxRate(int rate);
+    void slotChangeBuffer(int size) { reportEdit(size); }
+    void slotChangeISize(int bytes) { reportEdit(bytes); }
+    void slotChangePSize(int bytes) { reportEdit(bytes); }
+    void slotChangeBSize(int bytes) { reportEdit(bytes); }
+    void slotChangeBrSize(int bytes) { reportEdit(bytes); }
+    void slotChangeQuantI(int quantizer) { reportEdit(quantizer); }
+    void slotChangeQuantP(int quantizer) { reportEdit(quantizer); }
+    void slotChangeQuantB(int quantizer) { reportEdit(quantizer); }
+    void slotChangeQuantMax(int quantizer) { reportEdit(quantizer); }
+    void slotChangeQuantMin(int quantizer) { reportEdit(quantizer); }
+    void slotChangeHRD(bool on) { reportEdit(on); }
+    void slotChangeVBVInitial(int fullness) { reportEdit(fullness); }
+    void slotChangeVBVTarget(int fullness) { reportEdit(fullness); }
+    void slotChangeUnits(QAbstractButton* button);
+    void slotChangeOneSec(bool onesec);
+
+protected:
+    /// @param view 0 to 3: the suffix of the page's keys.
+    ViewPage(int view, QWidget* parent);
+
+    void bindControls();
+    /// The items of the mode list, in the context of the page's own class.
+    virtual QStringList bitrateModeTexts() const = 0;
+
+private:
+    /// Keeps the buffer as large as one second at `rate` (bit/s) while the box for it is checked.
+    void applyOneSecondBuffer(ConfigState& state, int rate);
+    void setGroupFromState(QButtonGroup* group, const ConfigState& state);
+    void showFor(const QString& mode, bool hrd);
+    void setUnits(int units);
+
+    QString key(QLatin1String base) const;
+    template <class Control>
+    Control* control(const char* name) const;
+    void setShown(std::initializer_list<const char*> names, bool visible);
+
+    const int m_view;
+    QButtonGroup* m_unitGroup;
+    QComboBox* m_modeList = nullptr;
+    QSpinBox* m_targetRate = nullptr;
+    QSpinBox* m_maxRate = nullptr;
+    QSpinBox* m_buffer = nullptr;
+    QSpinBox* m_vbvInitial = nullptr;
+    QSpinBox* m_vbvTarget = nullptr;
+    QCheckBox* m_oneSecond = nullptr;
+
+    /// The mode texts as states carry them.
+    const QString m_constantBitrate;
+    const QString m_variableBitrate;
+    const QString m_constantQuantizer;
+    const QString m_averageQuantizer;
+};

@@ -1,0 +1,33 @@
+#include "ViewsPage.h"
+
+#include "View0Page.h"
+#include "View1Page.h"
+#include "View2Page.h"
+#include "View3Page.h"
+#include "model/KeyNames.h"
+
+ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
+{
+    ui.setupUi(this);
+    bind(ui.numViewsSpin, keys::numberOfViews, &ViewsPage::slotChangeNumLayers);
+    bind(ui.splitCheck, keys::split, &ViewsPage::slotChangeSplit);
+
+    ViewPage* const views[] = {new View0Page(this), new View1Page(this), new View2Page(this),
+                               new View3Page(this)};
+    const QString titles[] = {tr("Base View"), tr("View 1"), tr("View 2"), tr("View 3")};
+    makeToolBox(ui.collectionFrame);
+    for (int i = 0; i < 4; ++i) {
+        views[i]->fillBitrateModes();
+        addPage(views[i], titles[i]);
+    }
+    m_additionalViews = {views[1], views[2], views[3]};
+}
+
+void ViewsPage::receiveState(const ConfigState& state)
+{
+    ContainerPage::receiveState(state);
+    // Unsigned: a count out of range enables all.
+    const auto count = quint32(state.value(keys::numberOfViews).toInt());
+    for (int i = 0; i < m_additionalViews.size(); ++i)
+        m_additionalViews[i]->setEnabled(count > quint32(i));
+}
