@@ -1,0 +1,359 @@
+#include "h264_headers.h"
+
+#include "bit_reader.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace kv
+{
+namespace
+{
+
+/** Profiles whose parameter sets hold chroma format and bit depths (7.3.2.1.1). */
+constexpr uint32_t kHighProfiles[] = {100, 110, 122, 244, 44, 83, 86, 118, 128, 138, 139, 134, 135};
+
+/** Profiles of Annex H, whose subset parameter sets hold the multiview extension (7.3.2.1.3). */
+constexpr uint32_t kMultiviewProfiles[] = {118, 128, 134};
+
+constexpr uint32_t kMostRefFrames = 16;
+constexpr uint32_t kMostViews = 1024;          // H.7.4.2.1.4
+constexpr uint32_t kMostMacroblocks = 1 << 14; // in a row or column; far beyond every level
+constexpr uint32_t kMostBufferSets = 32;       // cpb_cnt_minus1 + 1 (E.2.2)
+constexpr uint32_t kExtendedAspect = 255;
+
+/** aspect_ratio_idc (Table E-1). */
+constexpr uint32_t kAspects[][2] = {{0, 0},   {1, 1},    {12, 11}, {10, 11}, {16, 11}, {40, 33},
+                                    {24, 11}, {20, 11},  {32, 11}, {80, 33}, {18, 11}, {15, 11},
+                                    {64, 33}, {160, 99}, {4, 3},   {3, 2},   {2, 1}};
+
+bool contains(std::span<const uint32_t> values, uint32_t value)
+{
+    return std::ranges::find(values, value) != values.end();
+}
+
+void skipScalingList(BitReader& reader, int size)
+{
+    int32_t last = 8;
+    int32_t next = 8;
+    for (int at = 0; at < size && !reader.overrun() && next != 0; ++at) {
+        next = (last + reader.signedGolomb() % 256 + 256) % 256;
+        last = next == 0 ? last : next;
+    }
+}
+
+/** @return Whether the values are possible. */
+bool readColour(BitReader& reader, SequenceParameters& sequence)
+{
+    constexpr int kSmallLists = 6;
+    sequence.chromaFormat = reader.unsignedGolomb();
+    if (sequence.chromaFormat == 3)
+        sequence.separatePlanes = reader.flag();
+    sequence.bitDepthLuma = 8 + reader.unsignedGolomb();
+    sequence.bitDepthChroma = 8 + reader.unsignedGolomb();
+    reader.bits(1);      // qpprime_y_zero_transform_bypass_flag
+    if (reader.flag()) { // seq_scaling_matrix_present_flag
+        const int lists = sequence.chromaFormat == 3 ? 12 : 8;
+        for (int list = 0; list < lists && !reader.overrun(); ++list) {
+            if (reader.flag())
+                skipScalingList(reader, list < kSmallLists ? 16 : 64);
+        }
+    }
+    return sequence.chromaFormat <= 3 && sequence.bitDepthLuma <= 14 &&
+           sequence.bitDepthChroma <= 14;
+}
+
+void skipPictureOrder(BitReader& reader)
+{
+    const uint32_t type = reader.unsignedGolomb();
+    if (type == 0)
+        reader.unsignedGolomb();
+    if (type != 1)
+        return;
+    reader.bits(1);
+    reader.signedGolomb();
+    reader.signedGolomb();
+    const uint32_t cycle = reader.unsignedGolomb();
+    for (uint32_t frame = 0; frame < cycle && !reader.overrun(); ++frame)
+        reader.signedGolomb();
+}
+
+/** Width and height, cropped (7.4.2.1.1, equations 7-19 to 7-22). */
+bool readSize(BitReader& reader, SequenceParameters& sequence)
+{
+    const uint64_t columns = uint64_t(reader.unsignedGolomb()) + 1;
+    const uint64_t mapRows = uint64_t(reader.unsignedGolomb()) + 1;
+    sequence.framesOnly = reader.flag();
+    if (!sequence.framesOnly)
+        sequence.mbaff = reader.flag();
+    reader.bits(1); // direct_8x8_inference_flag
+    const uint64_t rows = mapRows * (sequence.framesOnly ? 1 : 2);
+    if (columns > kMostMacroblocks || rows > kMostMacroblocks)
+        return false;
+    uint64_t crop[4] = {}; // left, right, top, bottom
+    if (reader.flag()) {
+        for (uint64_t& side : crop)
+            side = reader.unsignedGolomb();
+    }
+    const bool planar = sequence.separatePlanes || sequence.chromaFormat == 0;
+    const uint64_t unitX = !planar && sequence.chromaFormat < 3 ? 2 : 1;
+    const uint64_t unitY =
+        (!planar && sequence.chromaFormat == 1 ? 2u : 1u) * (sequence.framesOnly ? 1u : 2u);
+    const uint64_t cropX = (crop[0] + crop[1]) * unitX;
+    const uint64_t cropY = (crop[2] + crop[3]) * unitY;
+    if (cropX >= columns * 16 || cropY >= rows * 16)
+        return false;
+    sequence.width = static_cast<uint32_t>(columns * 16 - cropX);
+    sequence.height = static_cast<uint32_t>(rows * 16 - cropY);
+    return true;
+}
+
+struct BufferModel {
+    uint64_t bitRate = 0;
+    uint64_t bufferSize = 0;
+};
+
+/** The presence flag and hrd_parameters (E.1.2); the last of several buffers has the highest rate.
+ */
+std::optional<BufferModel> readBufferModel(BitReader& reader)
+{
+    if (!reader.flag())
+        return std::nullopt;
+    BufferModel model;
+    const uint32_t last = reader.unsignedGolomb();
+    const int rateShift = 6 + static_cast<int>(reader.bits(4));
+    const int sizeShift = 4 + static_cast<int>(reader.bits(4));
+    if (last >= kMostBufferSets)
+        reader.fail();
+    for (uint32_t set = 0; set <= last && !reader.overrun(); ++set) {
+        model.bitRate = (uint64_t(reader.unsignedGolomb()) + 1) << rateShift;
+        model.bufferSize = (uint64_t(reader.unsignedGolomb()) + 1) << sizeShift;
+        reader.bits(1);
+    }
+    reader.bits(20); // four lengths
+    return model;
+}
+
+void readAspect(BitReader& reader, SequenceParameters& sequence)
+{
+    const uint32_t code = reader.bits(8);
+    if (code == kExtendedAspect) {
+        sequence.aspectX = reader.bits(16);
+        sequence.aspectY = reader.bits(16);
+    } else if (code < std::size(kAspects)) {
+        sequence.aspectX = kAspects[code][0];
+        sequence.aspectY = kAspects[code][1];
+    }
+    if (sequence.aspectX == 0 || sequence.aspectY == 0)
+        sequence.aspectX = sequence.aspectY = 0;
+}
+
+/** vui_parameters (E.1.1). */
+void readVui(BitReader& reader, SequenceParameters& sequence)
+{
+    if (reader.flag())
+        readAspect(reader, sequence);
+    if (reader.flag()) // overscan_info_present_flag
+        reader.bits(1);
+    if (reader.flag()) { // video_signal_type_present_flag
+        reader.bits(4);
+        if (reader.flag())
+            reader.bits(24);
+    }
+    if (reader.flag()) { // chroma_loc_info_present_flag
+        reader.unsignedGolomb();
+        reader.unsignedGolomb();
+    }
+    if (reader.flag()) { // timing_info_present_flag
+        reader.bits(32);
+        reader.bits(32);
+        reader.bits(1);
+    }
+    const auto nal = readBufferModel(reader);
+    const auto vcl = readBufferModel(reader);
+    if (nal || vcl) {
+        sequence.hrdBitRate = (nal ? nal : vcl)->bitRate;
+        sequence.hrdBufferSize = (nal ? nal : vcl)->bufferSize;
+        reader.bits(1); // low_delay_hrd_flag
+    }
+    reader.bits(1);      // pic_struct_present_flag
+    if (reader.flag()) { // bitstream_restriction_flag
+        reader.bits(1);
+        for (int value = 0; value < 6; ++value)
+            reader.unsignedGolomb();
+    }
+}
+
+/** The number of views of seq_parameter_set_mvc_extension (H.7.3.2.1.4). */
+bool readViews(BitReader& reader, SequenceParameters& sequence)
+{
+    const bool one = reader.flag(); // bit_equal_to_one
+    const uint64_t views = uint64_t(reader.unsignedGolomb()) + 1;
+    if (!one || views > kMostViews)
+        return false;
+    sequence.views = static_cast<uint32_t>(views);
+    return true;
+}
+
+} // namespace
+
+std::optional<SequenceParameters> parseSequenceParameters(Bytes payload, bool subset)
+{
+    BitReader reader(payload);
+    SequenceParameters sequence;
+    sequence.profile = reader.bits(8);
+    sequence.constraintFlags = reader.bits(8);
+    sequence.level = reader.bits(8);
+    sequence.id = reader.unsignedGolomb();
+    if (contains(kHighProfiles, sequence.profile) && !readColour(reader, sequence))
+        return std::nullopt;
+    const uint32_t frameNumBits = reader.unsignedGolomb();
+    skipPictureOrder(reader);
+    sequence.refFrames = reader.unsignedGolomb();
+    reader.bits(1); // gaps_in_frame_num_value_allowed_flag
+    if (reader.overrun() || sequence.id > 31 || frameNumBits > 12 ||
+        sequence.refFrames > kMostRefFrames || !readSize(reader, sequence))
+        return std::nullopt;
+    sequence.frameNumBits = 4 + static_cast<int>(frameNumBits);
+    if (reader.flag())
+        readVui(reader, sequence);
+    if (subset && contains(kMultiviewProfiles, sequence.profile) && !readViews(reader, sequence))
+        return std::nullopt;
+    return reader.overrun() ? std::nullopt : std::optional(sequence);
+}
+
+std::vector<uint8_t> withoutEmulationPrevention(Bytes bytes, std::size_t limit)
+{
+    std::vector<uint8_t> result;
+    int zeros = 0;
+    for (const uint8_t byte : bytes.first(std::min(bytes.size(), limit))) {
+        const bool prevention = zeros >= 2 && byte == 3;
+        zeros = byte == 0 ? zeros + 1 : 0;
+        if (!prevention)
+            result.push_back(byte);
+    }
+    return result;
+}
+
+namespace
+{
+
+void forEachLengthPrefixed(Bytes stream, std::size_t lengthSize,
+                           const std::function<void(Bytes)>& visit)
+{
+    while (stream.size() > lengthSize) {
+        const uint64_t length = std::accumulate(
+            stream.begin(), stream.begin() + static_cast<std::ptrdiff_t>(lengthSize), uint64_t(0),
+            [](uint64_t sum, uint8_t byte) { return sum << 8 | byte; });
+        stream = stream.subspan(lengthSize);
+        const auto unit = stream.first(std::min<uint64_t>(length, stream.size()));
+        if (!unit.empty())
+            visit(unit);
+        stream = stream.subspan(unit.size());
+    }
+}
+
+/** The position of the next 00 00 01, or the stream's size. */
+std::size_t nextStartCode(Bytes stream, std::size_t from)
+{
+    for (std::size_t at = from; at + 3 <= stream.size(); ++at) {
+        if (stream[at] == 0 && stream[at + 1] == 0 && stream[at + 2] == 1)
+            return at;
+    }
+    return stream.size();
+}
+
+} // namespace
+
+void forEachNalUnit(Bytes stream, int lengthSize, const std::function<void(Bytes)>& visit)
+{
+    constexpr std::size_t kStartCode = 3;
+    if (lengthSize > 0)
+        return forEachLengthPrefixed(stream, static_cast<std::size_t>(lengthSize), visit);
+    std::size_t at = nextStartCode(stream, 0);
+    while (at < stream.size()) {
+        const std::size_t begin = at + kStartCode;
+        at = nextStartCode(stream, begin);
+        std::size_t end = at;
+        while (end > begin && stream[end - 1] == 0) // trailing_zero_8bits, or a longer start code
+            --end;
+        if (end > begin)
+            visit(stream.subspan(begin, end - begin));
+    }
+}
+
+void H264Scan::visit(Bytes unit)
+{
+    constexpr std::size_t kLongestHeader = 4096; // far more than any parameter set takes
+    constexpr std::size_t kSliceBeginning = 32;
+    const int type = unit.empty() ? 0 : unit[0] & 31;
+    const bool dependent = type == NalViewSlice || type == NalSubsetSequenceParameters;
+    (dependent ? m_dependentBytes : m_baseBytes) += unit.size();
+    const bool slice = type == NalSlice || type == NalIdrSlice;
+    if (!slice && type != NalSequenceParameters && type != NalPictureParameters &&
+        type != NalSubsetSequenceParameters)
+        return;
+    const auto payload =
+        withoutEmulationPrevention(unit.subspan(1), slice ? kSliceBeginning : kLongestHeader);
+    if (slice)
+        visitSlice(payload);
+    else if (type == NalSequenceParameters)
+        visitSequence(payload);
+    else if (type == NalPictureParameters)
+        visitPictureParameters(payload);
+    else
+        visitSubset(payload);
+}
+
+double H264Scan::dependentShare() const
+{
+    const uint64_t all = m_baseBytes + m_dependentBytes;
+    return all == 0 ? 0 : static_cast<double>(m_dependentBytes) / static_cast<double>(all);
+}
+
+void H264Scan::visitSequence(Bytes payload)
+{
+    const auto sequence = parseSequenceParameters(payload, false);
+    if (!sequence)
+        return;
+    m_sequences[sequence->id] = sequence;
+    if (!m_base)
+        m_base = sequence;
+}
+
+void H264Scan::visitSubset(Bytes payload)
+{
+    const auto sequence = parseSequenceParameters(payload, true);
+    if (sequence && contains(kMultiviewProfiles, sequence->profile) &&
+        (!m_subset || sequence->views > m_subset->views))
+        m_subset = sequence;
+}
+
+void H264Scan::visitPictureParameters(Bytes payload)
+{
+    BitReader reader(payload);
+    const uint32_t id = reader.unsignedGolomb();
+    const uint32_t sequence = reader.unsignedGolomb();
+    if (!reader.overrun() && id < m_sequenceOfPicture.size() && sequence < m_sequences.size())
+        m_sequenceOfPicture[id] = static_cast<int>(sequence);
+}
+
+/** slice_header (7.3.3) as far as field_pic_flag. */
+void H264Scan::visitSlice(Bytes payload)
+{
+    BitReader reader(payload);
+    reader.unsignedGolomb(); // first_mb_in_slice
+    reader.unsignedGolomb(); // slice_type
+    const uint32_t picture = reader.unsignedGolomb();
+    if (picture >= m_sequenceOfPicture.size() || m_sequenceOfPicture[picture] < 0)
+        return;
+    const auto& sequence = m_sequences[static_cast<std::size_t>(m_sequenceOfPicture[picture])];
+    if (!sequence || sequence->framesOnly)
+        return;
+    if (sequence->separatePlanes)
+        reader.bits(2);
+    reader.bits(sequence->frameNumBits);
+    m_fieldPictures = (reader.flag() && !reader.overrun()) || m_fieldPictures;
+}
+
+} // namespace kv

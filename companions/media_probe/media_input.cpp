@@ -1,0 +1,90 @@
+#include "media_input.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kv
+{
+namespace
+{
+
+constexpr int kBufferSize = 64 * 1024;
+constexpr int kMostStreams = 256;
+constexpr int64_t kProbeBytes = 8 << 20;
+constexpr int64_t kProbeTime = 5 * AV_TIME_BASE;
+
+/** Playlists, capture devices, still pictures and text are no recordings. */
+constexpr char kFormats[] = "mpeg,mpegts,mpegvideo,m4v,h264,hevc,mov,mxf,avi,matroska,flv,asf,mp3,"
+                            "aac,ac3,wav,vc1";
+
+constexpr char kDecoders[] =
+    "h264,hevc,mpeg1video,mpeg2video,mpeg4,h263,vc1,wmv3,mjpeg,dvvideo,dnxhd,prores,vp8,vp9";
+
+int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
+{
+    return AVERROR(EPERM);
+}
+
+} // namespace
+
+MediaInput::MediaInput(int descriptor, std::chrono::seconds limit)
+    : m_descriptor(descriptor), m_deadline(std::chrono::steady_clock::now() + limit)
+{
+}
+
+MediaInput::~MediaInput()
+{
+    avformat_close_input(&m_format);
+    if (m_io)
+        av_freep(&m_io->buffer);
+    avio_context_free(&m_io);
+}
+
+int MediaInput::open(const char* name)
+{
+    auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
+    m_io = buffer ? avio_alloc_context(buffer, kBufferSize, 0, this, read, nullptr, seek) : nullptr;
+    m_format = avformat_alloc_context();
+    if (!m_io || !m_format) {
+        if (!m_io)
+            av_free(buffer);
+        return AVERROR(ENOMEM);
+    }
+    m_format->pb = m_io;
+    m_format->io_open = refuseToOpen;
+    m_format->interrupt_callback = {
+        [](void* input) -> int { return static_cast<MediaInput*>(input)->timeIsUp(); }, this};
+    m_format->format_whitelist = av_strdup(kFormats);
+    m_format->codec_whitelist = av_strdup(kDecoders);
+    m_format->max_streams = kMostStreams;
+    m_format->probesize = kProbeBytes;
+    m_format->max_analyze_duration = kProbeTime;
+    const int opened = avformat_open_input(&m_format, name, nullptr, nullptr);
+    return opened < 0 ? opened : std::min(0, avformat_find_stream_info(m_format, nullptr));
+}
+
+int MediaInput::read(void* opaque, uint8_t* buffer, int size)
+{
+    const auto* input = static_cast<MediaInput*>(opaque);
+    if (input->timeIsUp())
+        return AVERROR_EXIT;
+    const ssize_t count = ::read(input->m_descriptor, buffer, static_cast<std::size_t>(size));
+    if (count < 0)
+        return AVERROR(errno);
+    return count == 0 ? AVERROR_EOF : static_cast<int>(count);
+}
+
+int64_t MediaInput::seek(void* opaque, int64_t offset, int whence)
+{
+    const auto* input = static_cast<MediaInput*>(opaque);
+    if ((whence & AVSEEK_SIZE) != 0) {
+        struct stat status = {};
+        return ::fstat(input->m_descriptor, &status) == 0 ? status.st_size : AVERROR(errno);
+    }
+    const off_t position = ::lseek(input->m_descriptor, offset, whence & ~AVSEEK_FORCE);
+    return position < 0 ? AVERROR(errno) : position;
+}
+
+} // namespace kv

@@ -1,0 +1,24 @@
+// What the worker process writes to its standard output, as bytes.
+#ifndef KV_PROBE_ANSWER_H
+#define KV_PROBE_ANSWER_H
+
+#include <kv_config_gui_mvc/media_info.h>
+
+namespace kv
+{
+
+struct ProbeAnswer {
+    int32_t result = KV_MEDIA_OK; /**< KvMediaResult */
+    KvMediaInfo info{};
+};
+
+/** Limits of the worker process; it keeps the first by itself and is ended at the second. */
+constexpr int kSoftSeconds = 3;
+constexpr int kHardSeconds = 4;
+constexpr unsigned long kLargestMemory = 192ul << 20;
+
+ProbeAnswer refusal(KvMediaResult result, const char* reason);
+
+} // namespace kv
+
+#endif

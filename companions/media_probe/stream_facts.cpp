@@ -1,0 +1,230 @@
+#include "stream_facts.h"
+
+#include "media_input.h"
+#include "stream_scan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+extern "C" {
+#include <libavutil/pixdesc.h>
+}
+
+namespace kv
+{
+namespace
+{
+
+/** What MPEG-1 headers say of a variable rate (bit_rate all ones, in units of 400 bit/s). */
+constexpr int64_t kVariableRate = 0x3FFFF * 400;
+
+/** Of a container's index, from its end: a picture may lie before its predecessor. */
+constexpr int kEntriesLookedAt = 100;
+
+void copyName(char (&to)[32], const char* from)
+{
+    std::snprintf(to, sizeof to, "%s", from);
+}
+
+ProbeAnswer refusalFor(int error)
+{
+    switch (error) {
+    case AVERROR(ENOMEM):
+        return refusal(KV_MEDIA_LIMIT, "describing it takes too much memory");
+    case AVERROR_EXIT:
+        return refusal(KV_MEDIA_LIMIT, "describing it takes too long");
+    case AVERROR_INVALIDDATA:
+        return refusal(KV_MEDIA_UNREADABLE, "no media format, or damaged");
+    default: {
+        char text[AV_ERROR_MAX_STRING_SIZE] = "";
+        av_strerror(error, text, sizeof text);
+        return refusal(KV_MEDIA_UNREADABLE, text);
+    }
+    }
+}
+
+bool isDescribed(const AVStream& stream)
+{
+    return isRecordedVideo(stream) && stream.codecpar->width > 0 && stream.codecpar->height > 0;
+}
+
+/** The stream that players choose; with views in streams of their own, that of the base view. */
+AVStream* mainStream(AVFormatContext* format)
+{
+    const int best = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    if (best >= 0 && isDescribed(*format->streams[best]))
+        return format->streams[best];
+    const auto end = format->streams + format->nb_streams;
+    const auto first = std::find_if(format->streams, end,
+                                    [](const AVStream* stream) { return isDescribed(*stream); });
+    return first == end ? nullptr : *first;
+}
+
+/** The container's index leads behind the file's end. */
+bool isTruncated(AVFormatContext* format, AVStream* stream)
+{
+    const int64_t size = avio_size(format->pb);
+    const int entries = avformat_index_get_entries_count(stream);
+    for (int index = std::max(0, entries - kEntriesLookedAt); index < entries; ++index) {
+        const AVIndexEntry* entry = avformat_index_get_entry(stream, index);
+        if (size > 0 && entry && entry->pos >= 0 && entry->pos > size - entry->size)
+            return true;
+    }
+    return false;
+}
+
+void describePicture(KvMediaInfo& info, AVFormatContext* format, AVStream* stream)
+{
+    const AVCodecParameters& codec = *stream->codecpar;
+    const AVRational rate = av_guess_frame_rate(format, stream, nullptr);
+    const AVRational aspect = av_guess_sample_aspect_ratio(format, stream, nullptr);
+    info.width = codec.width;
+    info.height = codec.height;
+    if (rate.num > 0 && rate.den > 0) {
+        info.frame_rate_num = rate.num;
+        info.frame_rate_den = rate.den;
+    }
+    if (aspect.num > 0 && aspect.den > 0) {
+        info.pixel_aspect_num = aspect.num;
+        info.pixel_aspect_den = aspect.den;
+    }
+}
+
+/** The display order of the fields: the second letter of FFmpeg's names. */
+void describeFields(KvMediaInfo& info, AVFieldOrder order)
+{
+    info.scan = order > AV_FIELD_PROGRESSIVE ? KV_MEDIA_INTERLACED : KV_MEDIA_PROGRESSIVE;
+    info.field_order = order == AV_FIELD_BB || order == AV_FIELD_TB ? KV_MEDIA_BOTTOM_FIELD_FIRST
+                                                                    : KV_MEDIA_TOP_FIELD_FIRST;
+}
+
+void describeSamples(KvMediaInfo& info, int pixelFormat)
+{
+    const auto* format = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(pixelFormat));
+    info.chroma_format = -1;
+    info.bit_depth_luma = info.bit_depth_chroma = 8;
+    if (!format)
+        return;
+    const int shifts = format->log2_chroma_w * 2 + format->log2_chroma_h;
+    const bool rgb = (format->flags & AV_PIX_FMT_FLAG_RGB) != 0;
+    info.chroma_format = rgb                         ? -1
+                         : format->nb_components < 3 ? 0
+                         : shifts == 3               ? 1
+                         : shifts == 2               ? 2
+                         : shifts == 0               ? 3
+                                                     : -1;
+    info.bit_depth_luma = format->comp[0].depth;
+    info.bit_depth_chroma = format->comp[format->nb_components < 3 ? 0 : 1].depth;
+}
+
+/** What only the stream's own headers tell, and what they tell better. */
+void describeH264(KvMediaInfo& info, const H264Scan& scan)
+{
+    const auto& base = scan.base();
+    info.codec = KV_MEDIA_CODEC_H264;
+    if (!base)
+        return;
+    info.profile_idc = static_cast<int32_t>(base->profile);
+    info.constraint_flags = static_cast<int32_t>(base->constraintFlags);
+    info.level_idc = static_cast<int32_t>(base->level);
+    info.num_ref_frames = static_cast<int32_t>(base->refFrames);
+    info.chroma_format = static_cast<int32_t>(base->chromaFormat);
+    info.bit_depth_luma = static_cast<int32_t>(base->bitDepthLuma);
+    info.bit_depth_chroma =
+        static_cast<int32_t>(base->chromaFormat == 0 ? base->bitDepthLuma : base->bitDepthChroma);
+    info.hrd_bit_rate = static_cast<int64_t>(base->hrdBitRate);
+    info.hrd_buffer_size = static_cast<int64_t>(base->hrdBufferSize);
+    if (base->framesOnly)
+        info.scan = KV_MEDIA_PROGRESSIVE;
+    else if (base->mbaff)
+        info.scan = KV_MEDIA_MBAFF;
+    else if (scan.fieldPictures())
+        info.scan = KV_MEDIA_INTERLACED;
+    if (info.scan == KV_MEDIA_PROGRESSIVE)
+        info.field_order = KV_MEDIA_TOP_FIELD_FIRST;
+}
+
+/** Views may lie in the base view's stream or in streams beside it. */
+void describeViews(KvMediaInfo& info, const StreamCounts& counts)
+{
+    info.num_views = 1;
+    for (const auto& [index, count] : counts) {
+        const auto& subset = count.headers.subset();
+        if (subset && static_cast<int32_t>(subset->views) > info.num_views) {
+            info.num_views = static_cast<int32_t>(subset->views);
+            info.mvc_profile_idc = static_cast<int32_t>(subset->profile);
+            info.mvc_level_idc = static_cast<int32_t>(subset->level);
+        }
+    }
+}
+
+void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCounts& counts)
+{
+    const auto main = counts.find(stream.index);
+    const double rate = info.frame_rate_den > 0
+                            ? static_cast<double>(info.frame_rate_num) / info.frame_rate_den
+                            : 0;
+    info.bit_rate = stream.codecpar->bit_rate;
+    if (info.bit_rate == kVariableRate)
+        info.bit_rate = 0;
+    if (main != counts.end() && info.bit_rate <= 0)
+        info.bit_rate = main->second.bitRate(rate);
+    info.bit_rate = std::max<int64_t>(info.bit_rate, 0);
+    if (info.num_views < 2 || main == counts.end())
+        return;
+    info.dependent_bit_rate =
+        std::llround(static_cast<double>(info.bit_rate) * main->second.headers.dependentShare());
+    for (const auto& [index, count] : counts) {
+        if (index == stream.index || !count.headers.subset())
+            continue;
+        info.bit_rate += count.bitRate(rate);
+        info.dependent_bit_rate += count.bitRate(rate);
+    }
+}
+
+void describeSignalledBuffer(KvMediaInfo& info, const AVStream& stream)
+{
+    const auto* buffer = reinterpret_cast<const AVCPBProperties*>(
+        av_stream_get_side_data(&stream, AV_PKT_DATA_CPB_PROPERTIES, nullptr));
+    if (buffer && info.hrd_bit_rate == 0 && buffer->max_bitrate > 0 && buffer->buffer_size > 0) {
+        info.hrd_bit_rate = buffer->max_bitrate;
+        info.hrd_buffer_size = buffer->buffer_size;
+    }
+}
+
+} // namespace
+
+ProbeAnswer streamFacts(int descriptor, const char* name)
+{
+    MediaInput input(descriptor, std::chrono::seconds(kSoftSeconds));
+    const int opened = input.open(name);
+    if (opened < 0)
+        return refusalFor(input.timeIsUp() ? AVERROR_EXIT : opened);
+    AVStream* stream = mainStream(input.format());
+    if (!stream)
+        return refusal(KV_MEDIA_NO_VIDEO, "no video in it");
+    if (isTruncated(input.format(), stream))
+        return refusal(KV_MEDIA_UNREADABLE, "truncated");
+
+    ProbeAnswer answer;
+    KvMediaInfo& info = answer.info;
+    copyName(info.codec_name, avcodec_get_name(stream->codecpar->codec_id));
+    copyName(info.container_name, input.format()->iformat->name);
+    info.num_ref_frames = -1;
+    describePicture(info, input.format(), stream);
+    describeFields(info, stream->codecpar->field_order);
+    describeSamples(info, stream->codecpar->format);
+    const StreamCounts counts = scanStreams(input);
+    const auto main = counts.find(stream->index);
+    if (stream->codecpar->codec_id == AV_CODEC_ID_H264 && main != counts.end())
+        describeH264(info, main->second.headers);
+    describeViews(info, counts);
+    describeRates(info, *stream, counts);
+    describeSignalledBuffer(info, *stream);
+    if (main == counts.end() || main->second.packets == 0)
+        return refusal(KV_MEDIA_UNREADABLE, "its video stream holds no pictures");
+    return answer;
+}
+
+} // namespace kv

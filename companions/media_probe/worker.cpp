@@ -1,0 +1,63 @@
+// The process that a media file is read in, so that whatever it does ends with the process.
+//
+// Usage: kv_media_probe_worker NAME; the file is standard input, a ProbeAnswer goes to standard
+// output. Started by the library; of no use otherwise.
+#include "stream_facts.h"
+
+#include <exception>
+#include <new>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+namespace
+{
+
+struct Limit {
+    decltype(RLIMIT_DATA) what;
+    rlim_t most;
+};
+
+constexpr Limit kLimits[] = {
+    {RLIMIT_CPU, kv::kHardSeconds},
+    {RLIMIT_CORE, 0},
+    {RLIMIT_FSIZE, 0}, // it writes to a pipe
+#if !defined(KV_MEMORY_UNLIMITED)
+    {RLIMIT_DATA, kv::kLargestMemory},
+#endif
+};
+
+void limitProcess()
+{
+    for (const Limit& limit : kLimits) {
+        const rlimit both = {limit.most, limit.most};
+        ::setrlimit(limit.what, &both);
+    }
+    ::alarm(kv::kHardSeconds); // also when nobody waits any more
+}
+
+kv::ProbeAnswer probe(const char* name)
+{
+    try {
+        return kv::streamFacts(STDIN_FILENO, name);
+    } catch (const std::bad_alloc&) {
+        return kv::refusal(KV_MEDIA_LIMIT, "describing it takes too much memory");
+    } catch (const std::exception& error) {
+        return kv::refusal(KV_MEDIA_UNREADABLE, error.what());
+    }
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    limitProcess();
+    av_log_set_level(AV_LOG_QUIET);
+    const kv::ProbeAnswer answer = probe(count > 1 ? arguments[1] : "");
+    const ssize_t written = ::write(STDOUT_FILENO, &answer, sizeof answer);
+    return written == static_cast<ssize_t>(sizeof answer) ? 0 : 1;
+}
