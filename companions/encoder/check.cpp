@@ -1,0 +1,38 @@
+#include "check.h"
+
+#include "rules.h"
+
+namespace kv::encoder
+{
+
+bool checkSettings(KvMvcSettings& record, Report& report)
+{
+    correctFields(record, report);
+    alignViews(record, report);
+    correctRateFields(record, report);
+    correctSlices(record, report);
+    correctAspect(record, report);
+    correctRates(record, report);
+
+    const Stream stream(record);
+    judgePicture(stream, report);
+    judgeProfile(stream, report);
+    judgeViews(stream, report);
+    judgeGop(stream, report);
+    judgeRates(stream, report);
+    const Level* level = judgeLevel(stream, report);
+    judgeDisc(stream, level, report);
+    tellSummary(stream, level, report);
+    return report.errors() == 0;
+}
+
+std::span<const RuleGroup> ruleGroups()
+{
+    static const RuleGroup groups[] = {
+        fieldRules(), viewRules(), pictureRules(), profileRules(), levelRules(),
+        gopRules(),   rateRules(), discRules(),    summaryRules(),
+    };
+    return groups;
+}
+
+} // namespace kv::encoder

@@ -1,0 +1,69 @@
+// Prints the rule list: as a document, or with --formats each message format on a line of its own.
+
+#include <cstdio>
+#include <cstring>
+
+#include "rules.h"
+
+namespace
+{
+
+using namespace kv::encoder;
+
+const char* nameOf(Severity severity)
+{
+    switch (severity) {
+    case Severity::Error:
+        return "error";
+    case Severity::Warning:
+        return "warning";
+    default:
+        return "note";
+    }
+}
+
+void printFormats()
+{
+    for (const RuleGroup& group : ruleGroups()) {
+        for (const RuleInfo* rule : group.rules) {
+            std::printf("%s\n", rule->format);
+        }
+    }
+}
+
+void printDocument()
+{
+    std::puts(
+        "# Rules of the settings check\n\n"
+        "<!-- Written by kv_check_rules_doc; do not edit. -->\n\n"
+        "What the reference encoder library `kv_mvcenc` holds a settings record against. An\n"
+        "**error** refuses the settings. A **warning** tells what was corrected; checking the\n"
+        "corrected record again changes nothing and repeats no warning. A **note** tells what\n"
+        "follows, or what is legal but worth knowing.\n\n"
+        "What a user may be in the middle of changing is never corrected. Of more than two\n"
+        "views the record holds the first two; the others count as the second does. In the\n"
+        "messages view 0 is the base view. Clauses are those of Rec. ITU-T H.264 (08/2021).");
+    for (const RuleGroup& group : ruleGroups()) {
+        std::printf("\n## %s\n\n| rule | kind | message | rests on |\n|---|---|---|---|\n",
+                    group.title);
+        for (const RuleInfo* rule : group.rules) {
+            std::printf("| %s | %s | %s | %s |\n", rule->id, nameOf(rule->severity), rule->format,
+                        rule->basis);
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc == 2 && std::strcmp(argv[1], "--formats") == 0) {
+        printFormats();
+    } else if (argc == 1) {
+        printDocument();
+    } else {
+        std::fputs("Usage: kv_check_rules_doc [--formats]\n", stderr);
+        return 2;
+    }
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}

@@ -1,0 +1,241 @@
+// Picture size, frame rate, aspect ratio, field order and pulldown.
+
+#include <cmath>
+#include <iterator>
+
+#include "rules.h"
+
+namespace kv::encoder
+{
+
+namespace
+{
+
+constexpr Rule<int> smallWidth = {"picture.width", Severity::Error,
+                                  "The picture width %d is below 16, the least possible.",
+                                  "7.4.2.1.1: pic_width_in_mbs_minus1"};
+constexpr Rule<int> smallHeight = {"picture.height", Severity::Error,
+                                   "The picture height %d is below 16, the least possible.",
+                                   "7.4.2.1.1: pic_height_in_map_units_minus1"};
+constexpr Rule<int, int> widthStep = {
+    "picture.width-step", Severity::Error,
+    "The picture width %d has to be a multiple of %d in this chroma format.",
+    "7.4.2.1.1: CropUnitX"};
+constexpr Rule<int, int> heightStep = {
+    "picture.height-step", Severity::Error,
+    "The picture height %d has to be a multiple of %d in this format and structure.",
+    "7.4.2.1.1: CropUnitY"};
+constexpr Rule<> rateUnset = {"picture.frame-rate-unset", Severity::Note,
+                              "No frame rate is set: the limits per second were not checked.",
+                              "A.3.1: the limits hold for times of removal and output"};
+
+constexpr Rule<> displayPair = {"aspect.display", Severity::Warning,
+                                "Half a display aspect ratio is none; it is now Custom.",
+                                "codes of the encoder"};
+constexpr Rule<> pixelPair = {"aspect.pixel", Severity::Warning,
+                              "The pixel aspect ratio now follows from the picture aspect ratio.",
+                              "E.2.1: one ratio is written, the display's or the sample's"};
+constexpr Rule<> aspectUnset = {"aspect.unspecified", Severity::Note,
+                                "The pixel aspect ratio is left unspecified.",
+                                "E.2.1: aspect_ratio_idc 0"};
+constexpr Rule<double, double> aspectRange = {
+    "aspect.range", Severity::Error,
+    "The pixel aspect ratio %.0f:%.0f cannot be written: no part may exceed 65535.",
+    "E.2.1: sar_width and sar_height have 16 bits"};
+constexpr Rule<double, double> aspectExtended = {
+    "aspect.extended", Severity::Note,
+    "The pixel aspect ratio %.0f:%.0f is no predefined one and is written in full.",
+    "E.2.1, Table E-1: aspect_ratio_idc 255"};
+
+constexpr Rule<> unusedOrder = {
+    "field-order.unused", Severity::Note,
+    "The field order has no effect on progressive pictures without pulldown.", "D.2.3"};
+constexpr Rule<> pulldownFields = {
+    "pulldown.fields", Severity::Error,
+    "Interlaced pictures cannot be repeated: choose no pulldown, or Progressive.",
+    "D.2.3: pic_struct 5 to 8 need field_pic_flag 0"};
+constexpr Rule<> pulldownMbaff = {
+    "pulldown.mbaff", Severity::Note,
+    "Pulldown repeats real fields of MBAFF pictures: motion stutters.", "D.2.3"};
+constexpr Rule<double> pulldown23 = {"pulldown.2-3", Severity::Note,
+                                     "Pulldown 2:3 is meant for 23.976 and 24 frames/s, not %g.",
+                                     "D.2.3; practice"};
+constexpr Rule<double> pulldown22 = {
+    "pulldown.2-2", Severity::Note,
+    "Pulldown 2:2 at %g frames/s gives a rate that displays rarely have.", "D.2.3; practice"};
+constexpr Rule<double> pulldown33 = {"pulldown.3-3", Severity::Note,
+                                     "Pulldown 3:3 at %g frames/s exceeds 72 frames/s.",
+                                     "D.2.3; practice"};
+constexpr Rule<> pulldownAuto = {
+    "pulldown.auto", Severity::Note,
+    "Automatic pulldown is the encoder's choice and cannot be checked.", "not in the standard"};
+constexpr Rule<> pulldownTiming = {"pulldown.timing", Severity::Note,
+                                   "Pulldown adds picture timing messages to the stream.",
+                                   "D.2.3, E.2.1: pic_struct_present_flag 1"};
+
+// Table E-1, codes 1 to 16.
+constexpr SampleAspect predefined[] = {
+    {1, 1},   {12, 11}, {10, 11}, {16, 11}, {40, 33},  {24, 11}, {20, 11}, {32, 11},
+    {80, 33}, {18, 11}, {15, 11}, {64, 33}, {160, 99}, {4, 3},   {3, 2},   {2, 1},
+};
+
+void judgeSize(const Stream& stream, Report& report)
+{
+    const KvMvcViewSettings& base = stream.base;
+    if (base.width < 16) {
+        report.say(smallWidth, base.width);
+    }
+    if (base.height < 16) {
+        report.say(smallHeight, base.height);
+    }
+    // Cropping counts chroma samples, and rows of both fields at once.
+    const bool mono = base.chroma_format == KV_MVC_CHROMA_400;
+    const int across = mono ? 1 : 2;
+    const int down =
+        (base.chroma_format == KV_MVC_CHROMA_420 ? 2 : 1) * (stream.interlaced ? 2 : 1);
+    if (base.width >= 16 && base.width % across != 0) {
+        report.say(widthStep, base.width, across);
+    }
+    if (base.height >= 16 && base.height % down != 0) {
+        report.say(heightStep, base.height, down);
+    }
+    if (stream.frameRate == 0) {
+        report.say(rateUnset);
+    }
+}
+
+void judgeAspect(const Stream& stream, Report& report)
+{
+    const SampleAspect aspect = sampleAspect(stream.base);
+    if (!stream.sized) {
+        return;
+    }
+    if (aspect.x == 0) {
+        report.say(aspectUnset);
+        return;
+    }
+    const auto x = static_cast<double>(aspect.x);
+    const auto y = static_cast<double>(aspect.y);
+    if (x > 65535 || y > 65535) {
+        report.say(aspectRange, x, y);
+        return;
+    }
+    for (const SampleAspect& row : predefined) {
+        if (row.x == aspect.x && row.y == aspect.y) {
+            return;
+        }
+    }
+    report.say(aspectExtended, x, y);
+}
+
+bool isNear(double rate, double wanted)
+{
+    return std::fabs(rate - wanted) < 0.001;
+}
+
+void judgeCadence(const Stream& stream, Report& report)
+{
+    const double rate = stream.frameRate;
+    if (rate == 0) {
+        return;
+    }
+    switch (stream.base.pulldown) {
+    case KV_MVC_PULLDOWN_2_3:
+    case KV_MVC_PULLDOWN_3_2:
+    case KV_MVC_PULLDOWN_2_3_PROGRESSIVE:
+    case KV_MVC_PULLDOWN_3_2_PROGRESSIVE:
+        if (!isNear(rate, 24000.0 / 1001) && !isNear(rate, 24)) {
+            report.say(pulldown23, rate);
+        }
+        break;
+    case KV_MVC_PULLDOWN_2_2:
+        for (const double odd : {24000.0 / 1001, 24.0, 50.0, 60000.0 / 1001, 60.0}) {
+            if (isNear(rate, odd)) {
+                report.say(pulldown22, rate);
+            }
+        }
+        break;
+    case KV_MVC_PULLDOWN_3_3:
+        if (rate > 24.001) {
+            report.say(pulldown33, rate);
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void judgePulldown(const Stream& stream, Report& report)
+{
+    const int pulldown = stream.base.pulldown;
+    if (pulldown == KV_MVC_PULLDOWN_OFF) {
+        if (!stream.interlaced && stream.base.field_order != KV_MVC_TOP_FIELD_FIRST) {
+            report.say(unusedOrder);
+        }
+        return;
+    }
+    report.say(pulldownTiming);
+    if (pulldown == KV_MVC_PULLDOWN_AUTO) {
+        report.say(pulldownAuto);
+        return;
+    }
+    // 2:2 shows each field once, so it repeats nothing in field pictures.
+    const bool repeats = pulldown != KV_MVC_PULLDOWN_2_2;
+    if (repeats && stream.base.interlace_mode == KV_MVC_INTERLACED) {
+        report.say(pulldownFields);
+    }
+    if (repeats && stream.base.interlace_mode == KV_MVC_MBAFF) {
+        report.say(pulldownMbaff);
+    }
+    judgeCadence(stream, report);
+}
+
+void correctAspectOf(KvMvcViewSettings& view, Report& report)
+{
+    const bool unset = view.display_aspect_x == KV_MVC_ASPECT_UNSET &&
+                       view.display_aspect_y == KV_MVC_ASPECT_UNSET;
+    const bool set = view.display_aspect_x > 0 && view.display_aspect_y > 0;
+    if (!unset && !set) {
+        view.display_aspect_x = KV_MVC_ASPECT_UNSET;
+        view.display_aspect_y = KV_MVC_ASPECT_UNSET;
+        report.say(displayPair);
+    }
+    if (set && (view.pixel_aspect_x != KV_MVC_ASPECT_UNSET ||
+                view.pixel_aspect_y != KV_MVC_ASPECT_UNSET)) {
+        view.pixel_aspect_x = KV_MVC_ASPECT_UNSET;
+        view.pixel_aspect_y = KV_MVC_ASPECT_UNSET;
+        report.say(pixelPair);
+    }
+}
+
+constexpr const RuleInfo* rules[] = {
+    &smallWidth,    &smallHeight, &widthStep,   &heightStep,     &rateUnset,    &displayPair,
+    &pixelPair,     &aspectUnset, &aspectRange, &aspectExtended, &unusedOrder,  &pulldownFields,
+    &pulldownMbaff, &pulldown23,  &pulldown22,  &pulldown33,     &pulldownAuto, &pulldownTiming,
+};
+
+} // namespace
+
+void correctAspect(KvMvcSettings& record, Report& report)
+{
+    correctAspectOf(record.views[0], report);
+    // The second view has the same pairs by now: no second message.
+    Report silent;
+    if (countSubRecords(record) > 1) {
+        correctAspectOf(record.views[1], silent);
+    }
+}
+
+void judgePicture(const Stream& stream, Report& report)
+{
+    judgeSize(stream, report);
+    judgeAspect(stream, report);
+    judgePulldown(stream, report);
+}
+
+RuleGroup pictureRules()
+{
+    return {"Picture format", rules};
+}
+
+} // namespace kv::encoder

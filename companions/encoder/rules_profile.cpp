@@ -1,0 +1,122 @@
+// Tools that a profile does not have, and tools that it has and that are left out.
+
+#include "rules.h"
+
+namespace kv::encoder
+{
+
+namespace
+{
+
+constexpr Rule<int> unassigned = {"profile.code", Severity::Error,
+                                  "The profile code %d is not assigned: choose a profile.", "A.2"};
+constexpr Rule<const char*> bFrames = {
+    "profile.b-frames", Severity::Error,
+    "%s has no B-frames: set their number to 0, or choose Main or High.", "A.2.1"};
+constexpr Rule<const char*> interlace = {
+    "profile.interlace", Severity::Error,
+    "%s has progressive pictures only: choose Progressive, Main or High.", "A.2.1"};
+constexpr Rule<const char*> cabac = {"profile.cabac", Severity::Error,
+                                     "%s has no CABAC: choose CAVLC, or Main or High.", "A.2.1"};
+constexpr Rule<const char*> weighted = {
+    "profile.weighted", Severity::Error,
+    "%s has no weighted prediction: switch it off, or choose Main or High.", "A.2.1"};
+constexpr Rule<const char*> monochrome = {"profile.4-0-0", Severity::Error,
+                                          "%s has no 4:0:0: choose 4:2:0, or the profile High.",
+                                          "A.2.1, A.2.2"};
+constexpr Rule<const char*> chroma422 = {"profile.4-2-2", Severity::Error,
+                                         "%s has no 4:2:2: choose 4:2:0.", "A.2.1 to A.2.5"};
+constexpr Rule<> unnamed = {"profile.chroma", Severity::Error,
+                            "No profile has the unnamed chroma format: choose 4:2:0.",
+                            "A.2: the profiles end at 4:2:2"};
+constexpr Rule<const char*, int> lumaDepth = {
+    "profile.depth-luma", Severity::Error,
+    "%s does not code %d bits of luma: choose 8 bits, or High 10.", "A.2.1 to A.2.4"};
+constexpr Rule<const char*, int> chromaDepth = {
+    "profile.depth-chroma", Severity::Error,
+    "%s does not code %d bits of chroma: choose 8 bits, or High 10.", "A.2.1 to A.2.4"};
+constexpr Rule<> unusedDepth = {"profile.depth-unused", Severity::Note,
+                                "The bit-depth of chroma has no effect: 4:0:0 has no chroma.",
+                                "7.4.2.1.1"};
+constexpr Rule<const char*> cavlc = {"profile.cavlc", Severity::Note,
+                                     "%s has CABAC, which needs fewer bits than CAVLC.", "A.2.2"};
+constexpr Rule<const char*> noBFrames = {"profile.no-b-frames", Severity::Note,
+                                         "%s has B-frames, which save bits; none are set.",
+                                         "A.2.2"};
+
+struct Tool {
+    bool used;
+    bool allowed;
+    const Rule<const char*>& rule;
+};
+
+// The base view has to conform by itself; the multiview profiles have all that other views may use.
+void judgeTools(const Stream& stream, const Profile& profile, Report& report)
+{
+    const KvMvcViewSettings& base = stream.base;
+    const Tool tools[] = {
+        {stream.bFrames, profile.bFrames, bFrames},
+        {stream.interlaced, profile.interlace, interlace},
+        {base.entropy_mode == KV_MVC_CABAC, profile.cabac, cabac},
+        {base.weighted_p != 0, profile.weighted, weighted},
+        {base.chroma_format == KV_MVC_CHROMA_400, profile.monochrome, monochrome},
+        {base.chroma_format == KV_MVC_CHROMA_422, profile.chroma422, chroma422},
+    };
+    for (const Tool& tool : tools) {
+        if (tool.used && !tool.allowed) {
+            report.say(tool.rule, profile.name);
+        }
+    }
+}
+
+void judgeDepth(const KvMvcViewSettings& base, const Profile& profile, Report& report)
+{
+    if (base.bit_depth_luma > profile.maxDepth) {
+        report.say(lumaDepth, profile.name, base.bit_depth_luma);
+    }
+    if (base.chroma_format == KV_MVC_CHROMA_400) {
+        if (base.bit_depth_chroma != 8) {
+            report.say(unusedDepth);
+        }
+    } else if (base.bit_depth_chroma > profile.maxDepth) {
+        report.say(chromaDepth, profile.name, base.bit_depth_chroma);
+    }
+}
+
+void tellUnused(const Stream& stream, const Profile& profile, Report& report)
+{
+    if (profile.cabac && stream.base.entropy_mode == KV_MVC_CAVLC) {
+        report.say(cavlc, profile.name);
+    }
+    if (profile.bFrames && stream.predicts && !stream.bFrames) {
+        report.say(noBFrames, profile.name);
+    }
+}
+
+constexpr const RuleInfo* rules[] = {
+    &unassigned, &bFrames,   &interlace,   &cabac,       &weighted, &monochrome, &chroma422,
+    &unnamed,    &lumaDepth, &chromaDepth, &unusedDepth, &cavlc,    &noBFrames,
+};
+
+} // namespace
+
+void judgeProfile(const Stream& stream, Report& report)
+{
+    if (stream.base.chroma_format == KV_MVC_CHROMA_UNNAMED) {
+        report.say(unnamed);
+    }
+    if (!stream.profile) {
+        report.say(unassigned, stream.base.profile);
+        return;
+    }
+    judgeTools(stream, *stream.profile, report);
+    judgeDepth(stream.base, *stream.profile, report);
+    tellUnused(stream, *stream.profile, report);
+}
+
+RuleGroup profileRules()
+{
+    return {"Profile", rules};
+}
+
+} // namespace kv::encoder
