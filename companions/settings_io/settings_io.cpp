@@ -1,11 +1,15 @@
 // The exported function, and the reader and the writer that it hands out.
+#include "file_kind.h"
 #include "file_store.h"
+#include "media_import.h"
 #include "settings_text.h"
+#include "utf8.h"
 
 #include <kv_config_gui_mvc/companions.h>
 
 #include <cstdio>
 #include <exception>
+#include <vector>
 
 namespace
 {
@@ -15,23 +19,59 @@ enum Result : int32_t { Succeeded = 0, Failed = 1 };
 constexpr std::size_t kLargestFile =
     1024 * 1024; // twenty times what the writer makes of any record
 
+void report(const std::string& where, const std::string& what)
+{
+    std::fprintf(stderr, "%s: %s\n", where.c_str(), what.c_str());
+}
+
 int32_t fail(const std::string& file, const std::string& reason)
 {
-    std::fprintf(stderr, "%s: %s\n", file.c_str(), reason.c_str());
+    report(file, reason);
     return Failed;
 }
 
-int32_t readSettingsFile(const std::filesystem::path& file, KvMvcSettings& settings)
+int32_t readMedia(const std::filesystem::path& file, KvMvcSettings& settings)
 {
-    const std::string name = kv::displayName(file);
-    std::string text;
-    const std::string reason = kv::readFile(file, kLargestFile, text);
+    std::vector<std::string> notes;
+    const std::string reason = kv::importMedia(file, settings, notes);
     if (!reason.empty())
-        return fail(name, reason);
+        return fail(kv::displayName(file), reason);
+    for (const std::string& note : notes)
+        report(kv::displayName(file), "note: " + note);
+    return Succeeded;
+}
+
+int32_t readText(const std::string& name, const std::string& text, KvMvcSettings& settings)
+{
     const auto problems = kv::parseSettings(text, settings);
     for (const kv::Problem& problem : problems)
-        fail(name + ":" + std::to_string(problem.line), problem.reason);
+        report(name + ":" + std::to_string(problem.line), problem.reason);
     return problems.empty() ? Succeeded : Failed;
+}
+
+/** A name that tells nothing leaves it to the content: text is settings, everything else media. */
+int32_t readFile(const std::filesystem::path& file, KvMvcSettings& settings)
+{
+    const std::string name = kv::displayName(file);
+    const kv::FileKind kind = kv::kindByName(name);
+    if (kind == kv::FileKind::Media)
+        return readMedia(file, settings);
+    std::string text;
+    const std::string reason = kv::readFile(file, kLargestFile, text);
+    const bool noText = text.size() > kLargestFile || (reason.empty() && !kv::isUtf8(text));
+    if (kind == kv::FileKind::Unknown && noText)
+        return readMedia(file, settings);
+    return reason.empty() ? readText(name, text, settings) : fail(name, reason);
+}
+
+/** A settings file under a medium's name could not be read back, and may take a film's place. */
+int32_t writeFile(const std::filesystem::path& file, const KvMvcSettings& settings)
+{
+    const std::string name = kv::displayName(file);
+    if (kv::kindByName(name) == kv::FileKind::Media)
+        return fail(name, "the name is that of a media file");
+    const std::string reason = kv::replaceFile(file, kv::formatSettings(settings));
+    return reason.empty() ? int32_t(Succeeded) : fail(name, reason);
 }
 
 /** No exception may cross the library's boundary. */
@@ -52,18 +92,14 @@ int32_t readSettings(KvMvcSettings* settings, const char* path)
 {
     if (!settings || !path)
         return Failed;
-    return guarded(path, [&] { return readSettingsFile(kv::meantFile(path), *settings); });
+    return guarded(path, [&] { return readFile(kv::meantFile(path), *settings); });
 }
 
 int32_t writeSettings(KvMvcSettings* settings, const char* path)
 {
     if (!settings || !path)
         return Failed;
-    return guarded(path, [&] {
-        const std::filesystem::path file = kv::meantFile(path);
-        const std::string reason = kv::replaceFile(file, kv::formatSettings(*settings));
-        return reason.empty() ? int32_t(Succeeded) : fail(kv::displayName(file), reason);
-    });
+    return guarded(path, [&] { return writeFile(kv::meantFile(path), *settings); });
 }
 
 } // namespace

@@ -171,6 +171,7 @@ void Reader::finish()
 {
     if (!problems.empty())
         return;
+    m_line = std::max<std::size_t>(m_line, 1); // of an empty file
     for (const Section& section : settingsSections().first(2)) {
         if (std::ranges::find(m_seen, &section) == m_seen.end())
             report("section " + quoted(section.name) + " is missing");

@@ -61,7 +61,6 @@ typedef struct KvMediaInfo {
     int32_t num_views; /**< coded views: 1, or what a subset parameter set says (H.7.3.2.1.4) */
     int32_t mvc_profile_idc;    /**< profile_idc of that subset parameter set; 0: none */
     int32_t mvc_level_idc;      /**< level_idc of that subset parameter set; 0: none */
-    uint8_t reserved[4];        /**< zero */
     int64_t bit_rate;           /**< average of all views in bit/s; 0: not known */
     int64_t dependent_bit_rate; /**< what the views other than the base view have of it */
     int64_t hrd_bit_rate;       /**< signalled maximum of the base view in bit/s; 0: none */

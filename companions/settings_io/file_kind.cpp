@@ -1,0 +1,36 @@
+#include "file_kind.h"
+
+#include "field_value.h"
+
+#include <algorithm>
+
+namespace kv
+{
+namespace
+{
+
+struct Suffix {
+    std::string_view text;
+    FileKind kind;
+};
+
+constexpr Suffix kSuffixes[] = {
+    {"cfg", FileKind::Settings}, {"ini", FileKind::Settings}, {"m2p", FileKind::Media},
+    {"m2t", FileKind::Media},    {"m2v", FileKind::Media},    {"m4p", FileKind::Media},
+    {"mp2", FileKind::Media},    {"mp4", FileKind::Media},    {"mpeg", FileKind::Media},
+    {"mpg", FileKind::Media},    {"mpv", FileKind::Media},    {"mxf", FileKind::Media},
+    {"trp", FileKind::Media},    {"ts", FileKind::Media},     {"vob", FileKind::Media},
+    {"ifo", FileKind::Media}};
+
+} // namespace
+
+FileKind kindByName(std::string_view name)
+{
+    const auto dot = name.rfind('.');
+    const std::string_view end = dot == name.npos ? std::string_view() : name.substr(dot + 1);
+    const auto known = std::ranges::find_if(
+        kSuffixes, [&](const Suffix& suffix) { return equalIgnoringCase(suffix.text, end); });
+    return known == std::end(kSuffixes) ? FileKind::Unknown : known->kind;
+}
+
+} // namespace kv

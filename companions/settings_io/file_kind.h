@@ -1,0 +1,17 @@
+// What a file is by its name.
+#ifndef KV_FILE_KIND_H
+#define KV_FILE_KIND_H
+
+#include <string_view>
+
+namespace kv
+{
+
+enum class FileKind { Settings, Media, Unknown };
+
+/** By what follows the last dot, without regard to case. */
+FileKind kindByName(std::string_view name);
+
+} // namespace kv
+
+#endif

@@ -1,0 +1,54 @@
+#include "media_import.h"
+
+#include "companion_library.h"
+#include "file_store.h"
+#include "media_settings.h"
+
+namespace kv
+{
+namespace
+{
+
+std::string probe(const std::filesystem::path& file, KvMediaInfo& info)
+{
+    const CompanionLibrary library({"kv_media_probe_x", "kv_media_probe"});
+    if (!library.isLoaded())
+        return "media files cannot be read without the library kv_media_probe: " + library.reason();
+    const auto prepare = library.find<KvMediaInfoInit>(KV_MVC_PROBE_INIT);
+    const auto getInfo = library.find<KvMediaGetInfo>(KV_MVC_PROBE_GET_INFO);
+    if (!prepare || !getInfo || prepare(&info, sizeof info) != KV_MEDIA_OK)
+        return "media files cannot be read with this library kv_media_probe";
+    if (getInfo(&info, displayName(file).c_str()) == KV_MEDIA_OK)
+        return {};
+    return info.reason[0] != '\0' ? info.reason : "not readable as media";
+}
+
+std::string presetDefaults(int32_t preset, KvMvcSettings& settings)
+{
+    const CompanionLibrary library({"kv_mvcenc_b", "kv_mvcenc"});
+    const auto defaults = library.find<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
+    if (!defaults)
+        return "media files cannot be read without the library kv_mvcenc: " + library.reason();
+    defaults(&settings, 0, preset, 0);
+    return {};
+}
+
+} // namespace
+
+std::string importMedia(const std::filesystem::path& file, KvMvcSettings& settings,
+                        std::vector<std::string>& notes)
+{
+    KvMediaInfo info{};
+    std::string reason = probe(file, info);
+    if (!reason.empty())
+        return reason;
+    KvMvcSettings imported{};
+    reason = presetDefaults(fittingPreset(info.num_views), imported);
+    if (!reason.empty())
+        return reason;
+    notes = applyMedia(info, imported);
+    settings = imported;
+    return {};
+}
+
+} // namespace kv

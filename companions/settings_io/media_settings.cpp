@@ -1,0 +1,209 @@
+#include "media_settings.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace kv
+{
+namespace
+{
+
+using Notes = std::vector<std::string>;
+
+struct CodePair {
+    int32_t stream;
+    int32_t setting;
+};
+
+/** profile_idc (A.2). */
+constexpr CodePair kProfiles[] = {
+    {66, KV_MVC_PROFILE_BASELINE}, {77, KV_MVC_PROFILE_MAIN},      {100, KV_MVC_PROFILE_HIGH},
+    {110, KV_MVC_PROFILE_HIGH_10}, {122, KV_MVC_PROFILE_HIGH_422},
+};
+
+/** chroma_format_idc (Table 6-1). */
+constexpr CodePair kChromaFormats[] = {
+    {0, KV_MVC_CHROMA_400}, {1, KV_MVC_CHROMA_420}, {2, KV_MVC_CHROMA_422}};
+
+/** level_idc (A.3); level 1b (9) is within the limits of level 1.1. */
+constexpr CodePair kLevels[] = {{9, 11},  {10, 10}, {11, 11}, {12, 12}, {13, 13}, {20, 20},
+                                {21, 21}, {22, 22}, {30, 30}, {31, 31}, {32, 32}, {40, 40},
+                                {41, 41}, {42, 42}, {50, 50}, {51, 51}, {52, 52}};
+
+/** KvMediaScan. */
+constexpr CodePair kScans[] = {{KV_MEDIA_PROGRESSIVE, KV_MVC_PROGRESSIVE},
+                               {KV_MEDIA_INTERLACED, KV_MVC_INTERLACED},
+                               {KV_MEDIA_MBAFF, KV_MVC_MBAFF}};
+
+constexpr double kStandardRates[] = {24000 / 1001.0, 24, 25, 30000 / 1001.0, 30, 50,
+                                     60000 / 1001.0, 60};
+
+/** Rounded time stamps stray less; 24 and 23.976 differ by ten times as much. */
+constexpr double kRateTolerance = 0.0001;
+
+template <std::size_t Count>
+const CodePair* find(const CodePair (&pairs)[Count], int32_t stream)
+{
+    const auto pair = std::ranges::find(pairs, stream, &CodePair::stream);
+    return pair == std::end(pairs) ? nullptr : pair;
+}
+
+int32_t toField(double value)
+{
+    constexpr double kMost = std::numeric_limits<int32_t>::max();
+    return static_cast<int32_t>(std::llround(std::clamp(value, 0.0, kMost)));
+}
+
+double standardRate(double rate)
+{
+    const auto standard = std::ranges::find_if(kStandardRates, [&](double known) {
+        return std::abs(rate - known) < known * kRateTolerance;
+    });
+    return standard == std::end(kStandardRates) ? rate : *standard;
+}
+
+void applyPicture(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
+{
+    view.width = info.width;
+    view.height = info.height;
+    if (info.frame_rate_num > 0 && info.frame_rate_den > 0)
+        view.frame_rate =
+            standardRate(static_cast<double>(info.frame_rate_num) / info.frame_rate_den);
+    else
+        notes.push_back("its frame rate is not known, the default is taken");
+    if (const auto* scan = find(kScans, info.scan))
+        view.interlace_mode = scan->setting;
+    view.field_order = info.field_order == KV_MEDIA_BOTTOM_FIELD_FIRST ? KV_MVC_BOTTOM_FIELD_FIRST
+                                                                       : KV_MVC_TOP_FIELD_FIRST;
+    const bool aspectKnown = info.pixel_aspect_num > 0 && info.pixel_aspect_den > 0;
+    view.pixel_aspect_x = aspectKnown ? info.pixel_aspect_num : 1;
+    view.pixel_aspect_y = aspectKnown ? info.pixel_aspect_den : 1;
+    view.display_aspect_x = view.display_aspect_y = KV_MVC_ASPECT_UNSET;
+}
+
+void applySamples(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
+{
+    constexpr int32_t kDeepest = 10;
+    constexpr int32_t kFullChroma = 3; // chroma_format_idc of 4:4:4
+    const auto* chroma = find(kChromaFormats, info.chroma_format);
+    view.chroma_format = chroma                              ? chroma->setting
+                         : info.chroma_format == kFullChroma ? KV_MVC_CHROMA_422
+                                                             : KV_MVC_CHROMA_420;
+    if (!chroma)
+        notes.push_back("its chroma format is not among the settings, the nearest is taken");
+    const auto depth = [](int32_t bits) { return bits > 8 ? kDeepest : 8; };
+    view.bit_depth_luma = depth(info.bit_depth_luma);
+    view.bit_depth_chroma = depth(info.bit_depth_chroma);
+    if (std::max(info.bit_depth_luma, info.bit_depth_chroma) > kDeepest)
+        notes.push_back("its samples have more than 10 bits, 10 are taken");
+}
+
+/** The smallest profile that has the picture's chroma format and bit depths (A.2). */
+int32_t profileOfSamples(const KvMvcViewSettings& view)
+{
+    if (view.chroma_format == KV_MVC_CHROMA_422)
+        return KV_MVC_PROFILE_HIGH_422;
+    if (std::max(view.bit_depth_luma, view.bit_depth_chroma) > 8)
+        return KV_MVC_PROFILE_HIGH_10;
+    return view.chroma_format == KV_MVC_CHROMA_400 ? KV_MVC_PROFILE_HIGH : KV_MVC_PROFILE_BASELINE;
+}
+
+/** Tools that the Baseline profile does not have (A.2.1). */
+void leaveOutMainTools(KvMvcViewSettings& view)
+{
+    view.entropy_mode = KV_MVC_CAVLC;
+    view.ref_distance = 1;
+    view.adaptive_b = view.reference_b = view.pyramid_b = view.weighted_p = 0;
+}
+
+void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
+{
+    const bool h264 = info.codec == KV_MEDIA_CODEC_H264;
+    const auto* profile = h264 ? find(kProfiles, info.profile_idc) : nullptr;
+    if (profile)
+        view.profile = profile->setting;
+    else if (h264)
+        notes.push_back("its profile is not among the settings, a fitting one is taken");
+    view.profile = std::max(view.profile, profileOfSamples(view));
+    if (view.profile == KV_MVC_PROFILE_BASELINE)
+        leaveOutMainTools(view);
+    const auto* level =
+        h264 ? find(kLevels, std::max(info.level_idc, info.mvc_level_idc)) : nullptr;
+    view.level = level ? level->setting : int32_t(KV_MVC_LEVEL_AUTO);
+    if (info.num_ref_frames >= 0)
+        view.num_ref_frames = std::max(info.num_ref_frames, 1);
+}
+
+/** The other rates and the buffer keep the proportion that they have in the defaults. */
+void applyBitRate(double rate, KvMvcViewSettings& view)
+{
+    if (rate <= 0 || view.bitrate <= 0)
+        return;
+    const double factor = rate / view.bitrate;
+    const bool fullnessInBits = view.bitrate_units == KV_MVC_UNITS_BITS;
+    view.bitrate = toField(rate);
+    view.max_bitrate = toField(view.max_bitrate * factor);
+    view.bitrate_buffer = toField(view.bitrate_buffer * factor);
+    if (fullnessInBits) {
+        view.vbv_initial = toField(view.vbv_initial * factor);
+        view.vbv_target = toField(view.vbv_target * factor);
+    }
+}
+
+void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
+{
+    if (info.hrd_bit_rate < view.bitrate || info.hrd_buffer_size <= 0 || view.bitrate_buffer <= 0)
+        return;
+    const double unit = view.bitrate_units == KV_MVC_UNITS_BYTES_PERCENT ? 8 : 1;
+    const double rateFactor =
+        view.max_bitrate > 0 ? static_cast<double>(info.hrd_bit_rate) / view.max_bitrate : 1;
+    const double size = static_cast<double>(info.hrd_buffer_size) / unit;
+    const double sizeFactor = size / view.bitrate_buffer;
+    // The same share of the buffer, be it counted in bits or in the time that it takes.
+    const double factor = view.bitrate_units == KV_MVC_UNITS_BITS         ? sizeFactor
+                          : view.bitrate_units == KV_MVC_UNITS_BITS_90KHZ ? sizeFactor / rateFactor
+                                                                          : 1;
+    view.max_bitrate = toField(static_cast<double>(info.hrd_bit_rate));
+    view.bitrate_buffer = toField(size);
+    view.vbv_initial = toField(view.vbv_initial * factor);
+    view.vbv_target = toField(view.vbv_target * factor);
+}
+
+void applyRates(const KvMediaInfo& info, KvMvcSettings& settings)
+{
+    const double others = std::max(info.num_views - 1, 1);
+    const auto dependent = static_cast<double>(info.dependent_bit_rate);
+    applyBitRate(static_cast<double>(info.bit_rate) - dependent, settings.views[0]);
+    if (info.num_views > 1)
+        applyBitRate(dependent / others, settings.views[1]);
+    else
+        applyBitRate(static_cast<double>(info.bit_rate), settings.views[1]);
+    applySignalledBuffer(info, settings.views[0]);
+}
+
+} // namespace
+
+int32_t fittingPreset(int32_t views)
+{
+    return views > 2    ? KV_MVC_MULTIVIEW_HIGH
+           : views == 2 ? KV_MVC_STEREO_HIGH
+                        : KV_MVC_VIDEO_TYPE_NONE;
+}
+
+std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& settings)
+{
+    Notes notes;
+    settings.num_views = std::max(info.num_views, 1);
+    for (KvMvcViewSettings& view : settings.views) {
+        notes.clear(); // the same for each view
+        applyPicture(info, view, notes);
+        applySamples(info, view, notes);
+        applyProfile(info, view, notes);
+    }
+    applyRates(info, settings);
+    return notes;
+}
+
+} // namespace kv

@@ -1,0 +1,26 @@
+// Settings that make a stream like one that was found in a media file.
+#ifndef KV_MEDIA_SETTINGS_H
+#define KV_MEDIA_SETTINGS_H
+
+#include <kv_config_gui_mvc/media_info.h>
+#include <kv_config_gui_mvc/settings_record.h>
+
+#include <string>
+#include <vector>
+
+namespace kv
+{
+
+/** KvMvcVideoType whose defaults fit a stream of so many views. */
+int32_t fittingPreset(int32_t views);
+
+/**
+ * Puts the facts of a stream over a preset's defaults, in both view sub-records. What is not known
+ * of the stream stays as it was.
+ * @return What of the stream has no setting like it, each a sentence's part.
+ */
+std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& settings);
+
+} // namespace kv
+
+#endif
