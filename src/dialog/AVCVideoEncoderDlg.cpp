@@ -1,0 +1,251 @@
+#include "AVCVideoEncoderDlg.h"
+
+#include "Companions.h"
+#include "ForeignText.h"
+#include "MessageLog.h"
+#include "model/KeyNames.h"
+#include "model/SettingsToState.h"
+#include "model/StateToSettings.h"
+#include "pages/AdvancedPage.h"
+#include "pages/BasicPage.h"
+#include "pages/ViewsPage.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QSignalBlocker>
+
+// Outside any namespace, as the macro demands.
+static void registerResources()
+{
+    Q_INIT_RESOURCE(res_mvc);
+}
+
+AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosting* hosting,
+                                       QWidget* parent)
+    : QDialog(parent), m_flags(hosting ? hosting->flags : 0)
+{
+    ui.setupUi(this);
+    registerResources();
+
+    setWindowTitle(hosting && hosting->title ? foreignText(hosting->title)
+                                             : tr("Korvane MVC Video Encoder Settings"));
+    if (hosting && hosting->banner)
+        m_banner.load(foreignText(hosting->banner));
+    applySkin(QStringLiteral("default"));
+    const struct {
+        QPushButton* button;
+        const char* icon;
+    } icons[] = {{ui.presetButton, "restore"},
+                 {ui.buttonLoad, "load"},
+                 {ui.buttonSave, "save"},
+                 {ui.buttonOk, "ok"},
+                 {ui.buttonCancel, "cancel"}};
+    for (const auto& row : icons)
+        row.button->setIcon(
+            QIcon(QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon))));
+    if (!settings)
+        return;
+
+    buildPresetRow();
+    m_caller = settings;
+    m_record.settings = *settings;
+    messageLog().widget = ui.errorLog;
+    ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
+    connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
+    connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);
+    connect(this, &AVCVideoEncoderDlg::stateChanged, this, &AVCVideoEncoderDlg::slotReceiveState);
+    buildPages(m_flags);
+
+    if (!(m_flags & KV_MVC_GUI_FILE_BUTTONS)) {
+        ui.buttonLoad->hide();
+        ui.buttonSave->hide();
+    } else if (!(m_flags & KV_MVC_GUI_NO_INITIAL_CHECK)) {
+        check();
+    }
+    // After the first check, whose messages thus keep their colours until the next one.
+    if (!(m_flags & KV_MVC_GUI_LOG_COLOURS))
+        messageLog().dropDistinctColours();
+    limitHeight();
+    settingsToState();
+
+    m_lastLoadDirectory = QStringLiteral("./");
+    m_lastSaveDirectory = QStringLiteral("./");
+    ui.tabWidget->setAcceptDrops(true);
+    ui.tabWidget->installEventFilter(this);
+    installEventFilter(this);
+}
+
+AVCVideoEncoderDlg::~AVCVideoEncoderDlg() = default;
+
+void AVCVideoEncoderDlg::buildPresetRow()
+{
+    m_widgetKeys = {{ui.presetList, keys::videoType}, {ui.presetButton, keys::restorePreset}};
+    ui.presetList->clear();
+    ui.presetList->addItems(m_vocabulary.videoTypes().keys());
+}
+
+void AVCVideoEncoderDlg::buildPages(qint32 flags)
+{
+    ui.tabWidget->clear();
+    if (flags & KV_MVC_GUI_BASIC_TAB) {
+        m_basicPage = new BasicPage(this);
+        addPage(m_basicPage, tr("Basic Settings"));
+    }
+    if (flags & KV_MVC_GUI_ADVANCED_TAB) {
+        m_advancedPage = new AdvancedPage(this);
+        m_advancedPage->setProfileLevelLists(m_vocabulary.profiles(), m_vocabulary.levels());
+        addPage(m_advancedPage, tr("Advanced Settings"));
+    }
+    m_viewsPage = new ViewsPage(this);
+    addPage(m_viewsPage, tr("Views"));
+
+    // The pages came last, but stand before the buttons.
+    setTabOrder(previousInFocusChain(), ui.buttonCancel);
+    setTabOrder(ui.buttonCancel, ui.buttonOk);
+}
+
+void AVCVideoEncoderDlg::addPage(SettingsPage* page, const QString& title)
+{
+    ui.tabWidget->addTab(page, title);
+    connect(page, &SettingsPage::stateChanged, this, &AVCVideoEncoderDlg::slotReceiveState);
+}
+
+void AVCVideoEncoderDlg::limitHeight()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const int limit = int(screen->availableGeometry().height() * 0.95);
+    setMinimumHeight(qMin(minimumHeight(), limit));
+    setMaximumHeight(limit);
+}
+
+void AVCVideoEncoderDlg::applySkin(const QString& name)
+{
+    QFile sheet(QLatin1String(":/") + QLatin1String("res_mvc") + QLatin1String("/skins/") + name +
+                QLatin1String(".qss"));
+    QString text;
+    if (sheet.open(QIODevice::ReadOnly))
+        text = QString::fromLatin1(sheet.readAll());
+    // Setting a sheet anew costs as much as another one, even the same.
+    if (styleSheet() != text)
+        setStyleSheet(text);
+
+    if (m_banner.isNull()) {
+        ui.bannerFrame->setPixmap(QPixmap(QStringLiteral(":/res_mvc/banners/banner.png")));
+    } else {
+        ui.bannerFrame->setAlignment(Qt::AlignCenter);
+        ui.bannerFrame->setPixmap(m_banner);
+    }
+}
+
+void AVCVideoEncoderDlg::settingsToState()
+{
+    describeCurrentView();
+    describeAllViews();
+}
+
+void AVCVideoEncoderDlg::describeCurrentView()
+{
+    const QScopedValueRollback<bool> updating(m_updating, true);
+    const KvMvcViewSettings& view = currentView();
+
+    const ConfigEntry videoType = describeVideoType(m_vocabulary, m_flags, view);
+    ui.presetList->setCurrentIndex(ui.presetList->findText(videoType.value.toString()));
+    ui.presetList->setEnabled(videoType.enabled);
+
+    const BasicDescription basic = describeBasic(m_vocabulary, m_flags, view);
+    if (basic.customFrameRate)
+        m_customFrameRate = *basic.customFrameRate;
+    if (m_basicPage) {
+        if (basic.customFrameRate)
+            m_basicPage->addFramerateItem(basic.customFrameRate->text);
+        m_basicPage->receiveState(basic.state);
+    }
+    if (m_advancedPage)
+        m_advancedPage->receiveState(describeAdvanced(m_vocabulary, m_flags, view));
+}
+
+void AVCVideoEncoderDlg::describeAllViews()
+{
+    const QScopedValueRollback<bool> updating(m_updating, true);
+    m_viewsPage->receiveState(describeViews(m_vocabulary, m_flags, m_record));
+}
+
+void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
+{
+    const auto preset = requestedPreset(m_vocabulary, state);
+    if (preset && companionFunctions().defaults)
+        companionFunctions().defaults(&m_record.settings, 0, *preset, 0);
+
+    const Applying edit{m_vocabulary, m_customFrameRate, state};
+    const int views = m_record.viewCount();
+    for (int view = 0; view < views; ++view) {
+        m_currentView = view;
+        applyToView(edit, currentView());
+        describeCurrentView();
+    }
+    applyViews(edit, m_record);
+}
+
+void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
+{
+    stateToSettings(state);
+    settingsToState();
+    check();
+}
+
+bool AVCVideoEncoderDlg::check()
+{
+    if (m_updating)
+        return false;
+    messageLog().clearMessages();
+    const auto encoderCheck = companionFunctions().check;
+    const bool accepted =
+        encoderCheck && encoderCheck(&lookUpCheckFunction, &m_record.settings, 3, 0) == 0;
+
+    // A page may clamp what it is told and report that; the verdict is on the record as checked.
+    const WorkingRecord checked = m_record;
+    settingsToState();
+    m_record = checked;
+
+    m_suppressNextAccept = false;
+    messageLog().rewriteWidget();
+    return accepted;
+}
+
+void AVCVideoEncoderDlg::slotAccept()
+{
+    if (m_suppressNextAccept) {
+        m_suppressNextAccept = false;
+        return;
+    }
+    if (!check())
+        return;
+    *m_caller = m_record.settings;
+    accept();
+}
+
+void AVCVideoEncoderDlg::slotReject()
+{
+    reject();
+}
+
+void AVCVideoEncoderDlg::slotChangePreset(const QString& text)
+{
+    reportPreset(text);
+}
+
+void AVCVideoEncoderDlg::slotRestorePreset()
+{
+    reportPreset(ui.presetList->currentText());
+}
+
+void AVCVideoEncoderDlg::reportPreset(const QString& text)
+{
+    ConfigState state;
+    state.insert(m_widgetKeys.value(sender()), text);
+    Q_EMIT stateChanged(state);
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "model/ConfigState.h"
+#include "model/KeyTable.h"
+#include "model/Vocabulary.h"
+#include "model/WorkingRecord.h"
+
+#include "ui_AVCVideoEncoderDlg.h"
+
+#include <QDialog>
+#include <QPixmap>
+
+#include <kv_config_gui_mvc/config_gui.h>
+
+class AdvancedPage;
+class BasicPage;
+class QDropEvent;
+class QDragEnterEvent;
+class SettingsPage;
+class ViewsPage;
+
+/// The settings dialog. It edits a copy of the caller's record and copies it back when the user
+/// accepts and the encoder's check does, too.
+///
+/// Pages report edits as states; each is applied to the copy, the copy is described to all pages
+/// again, and then checked. Everything runs on the GUI thread.
+class AVCVideoEncoderDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @param settings The caller's record, which must outlive the dialog. Null makes an empty
+    /// shell.
+    /// @param hosting  Flags, title and banner; read here only. May be null.
+    AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosting* hosting, QWidget* parent);
+    ~AVCVideoEncoderDlg() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// A choice in the dialog's own preset row.
+    void stateChanged(const ConfigState& state);
+
+public Q_SLOTS:
+    /// Checks the settings; if the encoder accepts them, copies them to the caller and closes.
+    void slotAccept();
+    void slotReject();
+    void slotLoadSettings();
+    void slotSaveSettings();
+    /// Applies an edit, tells all pages what followed from it, and checks the settings.
+    void slotReceiveState(const ConfigState& state);
+    void slotChangePreset(const QString& text);
+    void slotRestorePreset();
+
+private:
+    void buildPresetRow();
+    void buildPages(qint32 flags);
+    void addPage(SettingsPage* page, const QString& title);
+    void limitHeight();
+    void applySkin(const QString& name);
+
+    /// Describes the working copy to the pages; nothing that they report meanwhile is checked.
+    void settingsToState();
+    void describeCurrentView();
+    void describeAllViews();
+    void stateToSettings(const ConfigState& state);
+    KvMvcViewSettings& currentView() { return m_record.view(m_currentView); }
+
+    /// The encoder's check of the working copy, which it may correct, with its messages in the log.
+    /// @return Whether the encoder accepts the settings; false at once while pages are being told.
+    bool check();
+
+    void loadFromFile(const QString& path);
+    void saveToFile(const QString& path);
+    void dragEntersTabs(QDragEnterEvent* event);
+    void dropOnTabs(QDropEvent* event);
+    void reportPreset(const QString& text);
+
+    KvMvcSettings* m_caller = nullptr;
+    WorkingRecord m_record;
+    int m_currentView = 0;
+    qint32 m_flags = 0;
+    /// A hook: set, it makes the next OK do nothing but clear it. Every check clears it, too.
+    bool m_suppressNextAccept = false;
+    bool m_updating = false;
+
+    Ui::IAVCVideoEncoderDlg ui;
+    QPixmap m_banner;
+    BasicPage* m_basicPage = nullptr;
+    AdvancedPage* m_advancedPage = nullptr;
+    ViewsPage* m_viewsPage = nullptr;
+
+    QMap<const QObject*, QString> m_widgetKeys;
+    Vocabulary m_vocabulary;
+    CustomFrameRate m_customFrameRate;
+    QString m_lastLoadDirectory;
+    QString m_lastSaveDirectory;
+
+    friend class DialogProbe;
+};

@@ -1,0 +1,7 @@
+#include "Companions.h"
+
+CompanionFunctions& companionFunctions()
+{
+    static CompanionFunctions functions;
+    return functions;
+}

@@ -1,0 +1,64 @@
+#include "SettingsFiles.h"
+
+#include "Companions.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+namespace
+{
+
+template <class Function>
+Function settingsIoFunction(KvMvcSettingsIoCode code)
+{
+    const auto getApi = companionFunctions().settingsIoGetApi;
+    return getApi ? reinterpret_cast<Function>(getApi(code)) : nullptr;
+}
+
+} // namespace
+
+namespace settings_files
+{
+
+std::optional<KvMvcSettings> read(const QString& path)
+{
+    const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
+    KvMvcSettings settings = {};
+    if (!reader || reader(&settings, path.toUtf8().constData()) != 0)
+        return std::nullopt;
+    return settings;
+}
+
+void write(const KvMvcSettings& settings, const QString& path)
+{
+    const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
+    KvMvcSettings copy = settings;
+    if (writer)
+        writer(&copy, path.toUtf8().constData());
+}
+
+bool isDroppable(const QString& path)
+{
+    static const QStringList suffixes = {
+        QStringLiteral("cfg"), QStringLiteral("ini"), QStringLiteral("m2p"),
+        QStringLiteral("m2t"), QStringLiteral("m2v"), QStringLiteral("m4p"),
+        QStringLiteral("mp2"), QStringLiteral("mp4"), QStringLiteral("mpeg"),
+        QStringLiteral("mpg"), QStringLiteral("mpv"), QStringLiteral("mxf"),
+        QStringLiteral("trp"), QStringLiteral("ts"),  QStringLiteral("vob"),
+        QStringLiteral("ifo")};
+    return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
+QString withSuffix(const QString& name)
+{
+    const bool hasSuffix = name.endsWith(QLatin1String(".cfg"), Qt::CaseInsensitive) ||
+                           name.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive);
+    return hasSuffix ? name : name + QLatin1String(".ini");
+}
+
+QString asPassedOn(const QString& name)
+{
+    return QString::fromLatin1(name.toUtf8());
+}
+
+} // namespace settings_files

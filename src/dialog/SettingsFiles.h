@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <kv_config_gui_mvc/settings_record.h>
+
+#include <optional>
+
+/// Settings files as the settings file library reads and writes them.
+namespace settings_files
+{
+
+/// The settings stored in the file, or taken from a media file. No value when the library has no
+/// reader or the reader fails.
+std::optional<KvMvcSettings> read(const QString& path);
+
+/// Writes the settings; that a library has no writer, or that it fails, is not told.
+void write(const KvMvcSettings& settings, const QString& path);
+
+/// Whether a file of this name may be dropped on the dialog; its suffix decides, in any case.
+bool isDroppable(const QString& path);
+
+/// The name with ".ini" behind it, unless it ends in ".cfg" or ".ini", in any case.
+QString withSuffix(const QString& name);
+
+/// The name as the file slots pass it on: its UTF-8 bytes read as 8-bit text. Settings file
+/// libraries know this form of a name and undo it.
+QString asPassedOn(const QString& name);
+
+} // namespace settings_files

@@ -1,0 +1,8 @@
+#pragma once
+
+class QCoreApplication;
+
+/// Gives the application the user's language, German or Japanese: installs the translation, found
+/// by the application's library paths, and loads the localization library beside it. Whatever is
+/// missing is silently left out; other languages see English.
+void setUpApplication(QCoreApplication& application);

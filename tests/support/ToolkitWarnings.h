@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QRegularExpression>
+#include <QTest>
+
+/// Makes an unexpected warning of the toolkit a failure of the running test function; call it from
+/// init(). The offscreen platform's complaint about size hints is no fault of ours.
+inline void failOnToolkitWarnings()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 3, 0)
+    QTest::failOnWarning(
+        QRegularExpression(QStringLiteral("^(?!This plugin does not support propagateSizeHints)")));
+#endif
+}
