@@ -140,8 +140,8 @@ DialogCall dialogCall(const Invocation& call)
     const Hosting hosting = call.has("hosting")
                                 ? findName(hostingNames, "hosting", call.value("hosting")).hosting
                                 : Hosting::Own;
-    if (call.has("banner") && !QFileInfo(call.value("banner")).isReadable()) {
-        throw Failure(QStringLiteral("cannot read '%1'").arg(call.value("banner")));
+    if (call.has("banner")) {
+        requireReadable(call.value("banner"));
     }
     return {flagsOf(call),
             hosting,

@@ -27,13 +27,16 @@ Library::Library(const QString& directory, const QStringList& baseNames)
             if (m_library.load()) {
                 return;
             }
-            // A library that is there but broken is the better reason than one that is not there.
-            if (reason.isEmpty() || (candidate == beside && QFileInfo::exists(beside))) {
+            // The loader's own words are worth more than ours only when there is something to load.
+            if (candidate == beside && QFileInfo::exists(beside)) {
                 reason = m_library.errorString();
             }
         }
     }
-    throw Failure(reason);
+    throw Failure(!reason.isEmpty() ? reason
+                                    : QStringLiteral("cannot find the library %1, neither in '%2' "
+                                                     "nor where the system looks")
+                                          .arg(baseNames.last() + suffix, directory));
 }
 
 Library::~Library()

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -35,8 +36,12 @@ void callLibrary(const QString& failed, const Call& call)
         std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
         return;
     }
-    const QString line = QString::fromUtf8(text.left(text.indexOf('\n'))).trimmed();
-    throw Failure(line.isEmpty() ? failed : line);
+    const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    if (lines.size() <= 1) {
+        throw Failure(lines.isEmpty() ? failed : lines.first().trimmed());
+    }
+    throw Failure(
+        QStringLiteral("%1 (and %2 more)").arg(lines.first().trimmed()).arg(lines.size() - 1));
 }
 
 } // namespace
@@ -50,14 +55,7 @@ SettingsFiles::SettingsFiles(const QString& directory)
 
 KvMvcSettings SettingsFiles::read(const QString& path) const
 {
-    QFile file(path);
-    if (QFileInfo(path).isDir()) {
-        throw Failure(QStringLiteral("cannot read '%1': it is a directory").arg(path));
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure(QStringLiteral("cannot read '%1': %2").arg(path, file.errorString()));
-    }
-    file.close();
+    requireReadable(path);
     KvMvcSettings settings = {};
     callLibrary(QStringLiteral("cannot read settings from '%1'").arg(path),
                 [&] { return m_read(&settings, path.toUtf8().constData()); });
@@ -83,6 +81,24 @@ QByteArray SettingsFiles::text(const KvMvcSettings& settings) const
                           .arg(directory.isValid() ? file.errorString() : directory.errorString()));
     }
     return file.readAll();
+}
+
+void requireReadable(const QString& path)
+{
+    // Not opened here: a pipe can be read only once.
+    const QFileInfo file(path);
+    const auto refuse = [&](const QString& reason) {
+        throw Failure(QStringLiteral("cannot read '%1': %2").arg(path, reason));
+    };
+    if (!file.exists()) {
+        refuse(QStringLiteral("there is no such file"));
+    }
+    if (file.isDir()) {
+        refuse(QStringLiteral("it is a directory"));
+    }
+    if (!file.isReadable()) {
+        refuse(QStringLiteral("permission denied"));
+    }
 }
 
 void requireWritable(const QString& path)

@@ -31,6 +31,10 @@ private:
     KvMvcWriteSettings m_write;
 };
 
+/// Refuses what cannot be read, with the reason.
+/// @throws Failure
+void requireReadable(const QString& path);
+
 /// Refuses a name that cannot be written, before any work is done for it: settings files end in
 /// ".cfg" or ".ini", so that no media file is ever written over.
 /// @throws Failure

@@ -1,0 +1,73 @@
+# Completion of kv-mvc-settings for bash.
+
+# _kv_mvc_settings_files WORD SUFFIXES: directories, and files with one of the suffixes ("a|b") in
+# upper or lower case.
+_kv_mvc_settings_files() {
+    local name
+    compopt -o filenames 2>/dev/null
+    while IFS= read -r name; do
+        if [[ -d $name || -z $2 || ${name,,} =~ \.($2)$ ]]; then
+            COMPREPLY+=("$name")
+        fi
+    done < <(compgen -f -- "$1")
+}
+
+# _kv_mvc_settings_words WORD CHOICE...
+_kv_mvc_settings_words() {
+    local word=$1
+    shift
+    mapfile -t COMPREPLY < <(compgen -W "$*" -- "$word")
+}
+
+# _kv_mvc_settings_list WORD CHOICE...: the last of the choices that commas separate.
+_kv_mvc_settings_list() {
+    local word=${1##*,} before=
+    [[ $1 == *,* ]] && before=${1%,*},
+    shift
+    mapfile -t COMPREPLY < <(compgen -P "$before" -W "$*" -- "$word")
+}
+
+# _kv_mvc_settings_options PROGRAM [COMMAND]: the options that the help page lists.
+_kv_mvc_settings_options() {
+    "$@" --help 2>/dev/null | sed -n 's/^  \(-[a-z], \)\{0,1\}\(--[a-z-]*\).*/\2/p'
+}
+
+_kv_mvc_settings() {
+    local program=$1 word=$2 previous=$3
+    local settings='cfg|ini'
+    local media='m2p|m2t|m2v|m4p|mp2|mp4|mpeg|mpg|mpv|mxf|trp|ts|vob|ifo'
+    local presets=(0 1 2 3 none multiview-high stereo-high blu-ray-3d)
+    COMPREPLY=()
+
+    if [[ $COMP_CWORD -eq 1 ]]; then
+        # shellcheck disable=SC2046 # one word an option
+        _kv_mvc_settings_words "$word" edit show check defaults diff import \
+            $(_kv_mvc_settings_options "$program")
+        return
+    fi
+    case $previous in
+        -o | --output) _kv_mvc_settings_files "$word" "$settings" ;;
+        --preset) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
+        --hosting) _kv_mvc_settings_words "$word" own host native ;;
+        --lock)
+            _kv_mvc_settings_list "$word" video-type size frame-rate pixel-ratio profile level views
+            ;;
+        --banner) _kv_mvc_settings_files "$word" '' ;;
+        --title | --parent) ;;
+        *)
+            if [[ $word == -* ]]; then
+                # shellcheck disable=SC2046 # one word an option
+                _kv_mvc_settings_words "$word" \
+                    $(_kv_mvc_settings_options "$program" "${COMP_WORDS[1]}")
+                return
+            fi
+            case ${COMP_WORDS[1]} in
+                edit | show | check | diff) _kv_mvc_settings_files "$word" "$settings" ;;
+                import) _kv_mvc_settings_files "$word" "$media" ;;
+                defaults) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
+            esac
+            ;;
+    esac
+}
+
+complete -F _kv_mvc_settings kv-mvc-settings

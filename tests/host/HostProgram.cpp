@@ -1,0 +1,142 @@
+#include "HostProgram.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLibrary>
+#include <QProcess>
+
+namespace
+{
+
+#ifdef Q_OS_WIN
+const QString programName = QStringLiteral("kv-mvc-settings.exe");
+const QString librarySuffix = QStringLiteral(".dll");
+#else
+const QString programName = QStringLiteral("kv-mvc-settings");
+const QString librarySuffix = QStringLiteral(".so");
+#endif
+
+QString builtFile(const QString& name)
+{
+    return QDir(qEnvironmentVariable("KV_BIN_DIR")).filePath(name);
+}
+
+void copy(const QString& from, const QString& to)
+{
+    if (!QFile::copy(from, to)) {
+        qFatal("cannot copy %s to %s", qPrintable(from), qPrintable(to));
+    }
+}
+
+} // namespace
+
+HostProgram::HostProgram()
+{
+    const QDir directory(m_directory.path());
+    if (!directory.mkdir(QStringLiteral("bin")) || !directory.mkdir(QStringLiteral("files"))) {
+        qFatal("no temporary directory");
+    }
+    copy(builtFile(programName), program());
+    const QString settingsIo = QStringLiteral("kv_mvc_settings_io");
+    addBuiltLibrary(settingsIo);
+
+    const auto getApi = reinterpret_cast<KvMvcSettingsIoGetApi>(
+        QLibrary::resolve(builtFile(settingsIo + librarySuffix), KV_MVC_SETTINGS_IO_GET_API));
+    if (getApi == nullptr) {
+        qFatal("no settings file library");
+    }
+    m_read = reinterpret_cast<KvMvcReadSettings>(getApi(KV_MVC_SETTINGS_IO_READER));
+    m_write = reinterpret_cast<KvMvcWriteSettings>(getApi(KV_MVC_SETTINGS_IO_WRITER));
+}
+
+QString HostProgram::libraryPath(const QString& baseName) const
+{
+    return m_directory.filePath(QStringLiteral("bin/") + baseName + librarySuffix);
+}
+
+void HostProgram::addLibrary(const QString& path, const QString& baseName)
+{
+    copy(path, libraryPath(baseName));
+}
+
+void HostProgram::addBuiltLibrary(const QString& baseName)
+{
+    addLibrary(builtFile(baseName + librarySuffix), baseName);
+}
+
+void HostProgram::addStub(const QString& stub, const QString& baseName)
+{
+    addLibrary(qEnvironmentVariable("KV_HOST_STUBS") + QLatin1Char('/') + stub + librarySuffix,
+               baseName);
+}
+
+void HostProgram::removeLibrary(const QString& baseName)
+{
+    QFile::remove(libraryPath(baseName));
+}
+
+HostProgram::Result HostProgram::run(const QStringList& arguments,
+                                     const QMap<QString, QString>& environment) const
+{
+    QProcess process;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (auto variable = environment.begin(); variable != environment.end(); ++variable) {
+        variables.insert(variable.key(), variable.value());
+    }
+    process.setProcessEnvironment(variables);
+    process.setWorkingDirectory(path(QString()));
+    process.start(program(), arguments, QIODevice::ReadOnly);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
+        return {-1, QString::fromUtf8(process.readAllStandardOutput()),
+                process.errorString() + QLatin1Char('\n') +
+                    QString::fromUtf8(process.readAllStandardError())};
+    }
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QString HostProgram::program() const
+{
+    return m_directory.filePath(QStringLiteral("bin/") + programName);
+}
+
+QString HostProgram::path(const QString& name) const
+{
+    return m_directory.filePath(QStringLiteral("files/") + name);
+}
+
+QByteArray HostProgram::content(const QString& name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void HostProgram::setContent(const QString& name, const QByteArray& content) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+}
+
+QStringList HostProgram::fileNames() const
+{
+    return QDir(path(QString())).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+void HostProgram::writeSettings(const QString& name, const KvMvcSettings& settings) const
+{
+    KvMvcSettings copy = settings;
+    if (m_write(&copy, path(name).toUtf8().constData()) != 0) {
+        qFatal("cannot write %s", qPrintable(name));
+    }
+}
+
+KvMvcSettings HostProgram::readSettings(const QString& name) const
+{
+    KvMvcSettings settings = {};
+    if (m_read(&settings, path(name).toUtf8().constData()) != 0) {
+        qFatal("cannot read %s", qPrintable(name));
+    }
+    return settings;
+}

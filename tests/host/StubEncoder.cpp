@@ -1,0 +1,61 @@
+// An encoder whose defaults are a picture width, and whose check says what the width asks for.
+
+#include <kv_config_gui_mvc/companions.h>
+
+#include <cstring>
+#include <string>
+
+namespace
+{
+
+KvMvcPrintf sinkOf(KvMvcLookup lookUp, const char* name)
+{
+    return reinterpret_cast<KvMvcPrintf>(lookUp(name));
+}
+
+} // namespace
+
+extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* settings, int32_t,
+                                                            int32_t preset, int32_t)
+{
+    std::memset(settings, 0, sizeof *settings);
+    settings->num_views = 1;
+    settings->views[0].width = 1000 + preset;
+    return 0;
+}
+
+/// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there.
+extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
+                                                               KvMvcSettings* settings,
+                                                               int32_t stage, int32_t reserved)
+{
+    sinkOf(lookUp, "prg_printf")("%d %%", 50);
+    if (stage != 3 || reserved != 0) {
+        sinkOf(lookUp, "err_printf")("stage %d, reserved %d", stage, reserved);
+        return 1;
+    }
+    switch (settings->views[0].width) {
+    case 1:
+        sinkOf(lookUp, "inf_printf")("the %s of %d x %d", "picture", 1, 2);
+        sinkOf(lookUp, "err_printf")("width %d is below %d", 1, 16);
+        sinkOf(lookUp, "wrn_printf")("100 %% of %.3f\nis less\n", 0.5);
+        return 1;
+    case 2:
+        settings->views[0].width = 16;
+        sinkOf(lookUp, "wrn_printf")("width %d corrected to %d", 2, 16);
+        return 0;
+    case 3: {
+        const std::string word(100000, 'x');
+        sinkOf(lookUp, "inf_printf")("%s.", word.c_str());
+        return 0;
+    }
+    case 4: {
+        void* memory = reinterpret_cast<void* (*)(std::size_t)>(lookUp("malloc"))(64);
+        reinterpret_cast<void (*)(void*)>(lookUp("free"))(memory);
+        sinkOf(lookUp, "inf_printf")("%s", lookUp("printf") == nullptr ? "no printf" : "printf");
+        return memory == nullptr;
+    }
+    default:
+        return 0;
+    }
+}

@@ -1,0 +1,347 @@
+#include "ExampleSettings.h"
+#include "HostProgram.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+namespace
+{
+
+const QString prefix = QStringLiteral("kv-mvc-settings: ");
+
+QStringList words(const QString& line)
+{
+    return line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class HostCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wrongArgumentsGetOneLine_data();
+    void wrongArgumentsGetOneLine();
+    void helpNamesEveryCommand();
+    void everyCommandHasHelp_data();
+    void everyCommandHasHelp();
+    void versionIsTheProjects();
+    void badFilesGetOneLineAndLeaveAllAsItWas_data();
+    void badFilesGetOneLineAndLeaveAllAsItWas();
+    void unreadableFileGetsOneLine();
+    void missingLibraryIsNamed_data();
+    void missingLibraryIsNamed();
+    void brokenLibraryIsNotPassedOver();
+    void libraryWithoutItsFunctionIsRefused();
+    void fullOutputIsTrouble();
+};
+
+void HostCommandsTest::wrongArgumentsGetOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("line");
+
+    const auto row = [](const char* name, const QString& arguments, const char* line) {
+        QTest::newRow(name) << words(arguments) << QString::fromLatin1(line);
+    };
+    const auto text = [](const char* literal) { return QString::fromLatin1(literal); };
+
+    row("no command", {}, "no command; see 'kv-mvc-settings --help'");
+    row("unknown command", text("frobnicate"),
+        "unknown command 'frobnicate'; see 'kv-mvc-settings --help'");
+    row("unknown option", text("--bogus"),
+        "unknown option '--bogus'; see 'kv-mvc-settings --help'");
+    row("show nothing", text("show"), "too few arguments; see 'kv-mvc-settings show --help'");
+    row("show two", text("show a b"), "too many arguments; see 'kv-mvc-settings show --help'");
+    row("show with an option of others", text("show a -o b"),
+        "unknown option 'o'; see 'kv-mvc-settings show --help'");
+    row("check nothing", text("check"), "too few arguments; see 'kv-mvc-settings check --help'");
+    row("diff one", text("diff a"), "too few arguments; see 'kv-mvc-settings diff --help'");
+    row("diff three", text("diff a b c"), "too many arguments; see 'kv-mvc-settings diff --help'");
+    row("import nothing", text("import"), "too few arguments; see 'kv-mvc-settings import --help'");
+    row("edit two", text("edit a b"), "too many arguments; see 'kv-mvc-settings edit --help'");
+    row("value missing", text("edit --title"),
+        "missing value after '--title'; see 'kv-mvc-settings edit --help'");
+    row("value too many", text("show --json=1 a"),
+        "unexpected value after '--json'; see 'kv-mvc-settings show --help'");
+    row("preset number", text("defaults 4"),
+        "there is no preset '4'; there are 0 None, 1 Multivew High, 2 Stereo High, 3 Blu-ray 3D");
+    row("preset name", text("edit --preset stereo"),
+        "there is no preset 'stereo'; there are 0 "
+        "None, 1 Multivew High, 2 Stereo High, 3 "
+        "Blu-ray 3D");
+    row("lock", text("edit --lock size,colour"),
+        "--lock does not know 'colour': video-type, size, frame-rate, pixel-ratio, profile, level, "
+        "views");
+    row("hosting", text("edit --hosting foreign"),
+        "--hosting does not know 'foreign': own, host, native");
+    row("native without window", text("edit --hosting native"), "--hosting native needs --parent");
+    row("window without native", text("edit --parent 17"), "--parent needs --hosting native");
+    row("window no number", text("edit --hosting native --parent xterm"),
+        "--parent: 'xterm' is no window identifier");
+    row("window null", text("edit --hosting native --parent 0"),
+        "--parent: '0' is no window identifier");
+    row("banner", text("edit --banner none.png"), "cannot read 'none.png': there is no such file");
+    QTest::newRow("empty file name")
+        << QStringList{text("show"), QString()}
+        << text("an argument is empty; see 'kv-mvc-settings show --help'");
+}
+
+void HostCommandsTest::wrongArgumentsGetOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, line);
+    const HostProgram program;
+    const HostProgram::Result result = program.run(arguments);
+    QCOMPARE(result.error, prefix + line + QLatin1Char('\n'));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
+}
+
+void HostCommandsTest::helpNamesEveryCommand()
+{
+    const HostProgram program;
+    const HostProgram::Result result = program.run({QStringLiteral("--help")});
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.exitCode, 0);
+    for (const char* line :
+         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ", "\n  defaults PRESET ",
+          "\n  diff A B ", "\n  import MEDIA ", "\n  -h, --help ", "\n  -v, --version "}) {
+        QVERIFY2(result.output.contains(QLatin1String(line)), line);
+    }
+    QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
+}
+
+void HostCommandsTest::everyCommandHasHelp_data()
+{
+    QTest::addColumn<QString>("usage");
+    QTest::addColumn<QStringList>("options");
+
+    const auto row = [](const char* command, const char* arguments, const char* options) {
+        QTest::newRow(command) << QStringLiteral("Usage: kv-mvc-settings %1 [OPTION]... %2")
+                                      .arg(QLatin1String(command), QLatin1String(arguments))
+                               << words(QString::fromLatin1(options));
+    };
+    row("edit", "[FILE]",
+        "--output --preset --hosting --parent --title --banner --lock --no-basic --no-advanced "
+        "--no-file-buttons --no-initial-check --plain-log --no-banner --help");
+    row("show", "FILE", "--json --help");
+    row("check", "FILE", "--json --output --help");
+    row("defaults", "PRESET", "--output --help");
+    row("diff", "A B", "--json --help");
+    row("import", "MEDIA", "--output --help");
+}
+
+void HostCommandsTest::everyCommandHasHelp()
+{
+    QFETCH(QString, usage);
+    QFETCH(QStringList, options);
+    const HostProgram program;
+    const QString command = QString::fromLatin1(QTest::currentDataTag());
+    // Help is given whatever else is wrong with the line.
+    const HostProgram::Result result =
+        program.run({command, QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                     QStringLiteral("--help")});
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output.section(QLatin1Char('\n'), 0, 0), usage);
+    QVERIFY(result.output.contains(QStringLiteral("\nExit code: 0")));
+
+    QStringList listed;
+    for (const QString& line : result.output.split(QLatin1Char('\n'))) {
+        QVERIFY2(line.size() <= 80, qPrintable(line));
+        if (line.startsWith(QStringLiteral("  -"))) {
+            listed << line.mid(line.indexOf(QStringLiteral("--"))).section(QLatin1Char(' '), 0, 0);
+        }
+    }
+    QCOMPARE(listed, options);
+}
+
+void HostCommandsTest::versionIsTheProjects()
+{
+    const HostProgram program;
+    for (const QString& option : {QStringLiteral("--version"), QStringLiteral("-v")}) {
+        const HostProgram::Result result = program.run({option});
+        QCOMPARE(result.output, QStringLiteral("kv-mvc-settings " KV_PROJECT_VERSION "\n"));
+        QCOMPARE(result.error, QString());
+        QCOMPARE(result.exitCode, 0);
+    }
+}
+
+void HostCommandsTest::badFilesGetOneLineAndLeaveAllAsItWas_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("line");
+
+    struct Bad {
+        const char* file;
+        const char* line;
+    };
+    static const Bad badFiles[] = {
+        {"none.ini", "cannot read 'none.ini': there is no such file"},
+        {"folder.ini", "cannot read 'folder.ini': it is a directory"},
+        {"broken.ini", "broken.ini:2: neither a section nor a 'key = value' line: 'nonsense' (and "
+                       "1 more)"},
+        {"empty.ini", "empty.ini:0: section 'views' is missing (and 1 more)"},
+    };
+    static const char* const commands[] = {"show %1",
+                                           "show --json %1",
+                                           "check %1",
+                                           "check --json -o kept.ini %1",
+                                           "diff %1 good.ini",
+                                           "diff --json good.ini %1",
+                                           "import %1",
+                                           "import %1 -o kept.ini",
+                                           "edit %1 -o kept.ini"};
+    for (const char* command : commands) {
+        for (const Bad& bad : badFiles) {
+            const QString line = QString::fromLatin1(command).arg(QLatin1String(bad.file));
+            QTest::newRow(qPrintable(line)) << words(line) << QString::fromLatin1(bad.line);
+        }
+    }
+    QTest::newRow("edit broken.ini")
+        << words(QStringLiteral("edit broken.ini")) << QString::fromLatin1(badFiles[2].line);
+    QTest::newRow("edit folder.ini") << words(QStringLiteral("edit folder.ini"))
+                                     << QStringLiteral("cannot write 'folder.ini': it is no file");
+
+    const QString wrongSuffix =
+        QStringLiteral("cannot write '%1': the name of a settings file ends in .cfg or .ini");
+    for (const char* command :
+         {"defaults 1 -o movie.mp4", "import good.ini -o movie.mp4", "check good.ini -o movie.mp4",
+          "edit movie.mp4", "edit good.ini -o movie.mp4"}) {
+        QTest::newRow(command) << words(QString::fromLatin1(command))
+                               << wrongSuffix.arg(QStringLiteral("movie.mp4"));
+    }
+    QTest::newRow("output in no folder")
+        << words(QStringLiteral("defaults 1 -o nowhere/a.ini"))
+        << QStringLiteral("cannot write 'nowhere/a.ini': there is no directory 'nowhere'");
+    QTest::newRow("output is a folder")
+        << words(QStringLiteral("defaults 1 -o folder.ini"))
+        << QStringLiteral("cannot write 'folder.ini': it is no file");
+    QTest::newRow("preset for a file that is there")
+        << words(QStringLiteral("edit good.ini --preset 2"))
+        << QStringLiteral("--preset is for new settings, and 'good.ini' exists");
+}
+
+void HostCommandsTest::badFilesGetOneLineAndLeaveAllAsItWas()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, line);
+    HostProgram program;
+    program.addStub(QStringLiteral("stub_encoder"), QStringLiteral("kv_mvcenc"));
+    program.addStub(QStringLiteral("stub_module"), QStringLiteral("kv_config_gui_mvc"));
+    program.writeSettings(QStringLiteral("good.ini"), exampleSettings());
+    QVERIFY(QDir(program.path(QString())).mkdir(QStringLiteral("folder.ini")));
+    const QMap<QString, QByteArray> contents = {
+        {QStringLiteral("broken.ini"), "[views]\nnonsense\n[nothing]\n"},
+        {QStringLiteral("empty.ini"), ""},
+        {QStringLiteral("good.ini"), program.content(QStringLiteral("good.ini"))},
+        {QStringLiteral("kept.ini"), "kept"},
+        {QStringLiteral("movie.mp4"), "movie"}};
+    for (auto file = contents.begin(); file != contents.end(); ++file) {
+        program.setContent(file.key(), file.value());
+    }
+
+    const HostProgram::Result result = program.run(arguments);
+    QCOMPARE(result.error, prefix + line + QLatin1Char('\n'));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(program.fileNames(), QStringList(contents.keys()));
+    for (auto file = contents.begin(); file != contents.end(); ++file) {
+        QCOMPARE(program.content(file.key()), file.value());
+    }
+}
+
+void HostCommandsTest::unreadableFileGetsOneLine()
+{
+    const HostProgram program;
+    const QString name = QStringLiteral("secret.ini");
+    program.writeSettings(name, exampleSettings());
+    QVERIFY(QFile::setPermissions(program.path(name), QFileDevice::WriteOwner));
+    if (QFile(program.path(name)).open(QIODevice::ReadOnly)) {
+        QSKIP("this user may read every file");
+    }
+    const HostProgram::Result result = program.run({QStringLiteral("show"), name});
+    QCOMPARE(result.error,
+             prefix + QStringLiteral("cannot read 'secret.ini': permission denied\n"));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
+}
+
+void HostCommandsTest::missingLibraryIsNamed_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("library");
+    QTest::newRow("settings files")
+        << QStringLiteral("show good.ini") << QStringLiteral("kv_mvc_settings_io");
+    QTest::newRow("encoder") << QStringLiteral("check good.ini") << QStringLiteral("kv_mvcenc");
+    QTest::newRow("dialog") << QStringLiteral("edit good.ini")
+                            << QStringLiteral("kv_config_gui_mvc");
+}
+
+void HostCommandsTest::missingLibraryIsNamed()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, library);
+    HostProgram program;
+    program.writeSettings(QStringLiteral("good.ini"), exampleSettings());
+    program.removeLibrary(library);
+    const HostProgram::Result result = program.run(words(arguments));
+    QVERIFY2(result.error.startsWith(prefix + QStringLiteral("cannot find the library ") + library +
+                                     QLatin1Char('.')),
+             qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
+}
+
+void HostCommandsTest::brokenLibraryIsNotPassedOver()
+{
+    HostProgram program;
+    program.setContent(QStringLiteral("library"), "no library");
+    program.addLibrary(program.path(QStringLiteral("library")), QStringLiteral("kv_mvcenc"));
+    const HostProgram::Result result =
+        program.run({QStringLiteral("defaults"), QStringLiteral("0")});
+    QVERIFY2(result.error.contains(QStringLiteral("bin/kv_mvcenc.")), qPrintable(result.error));
+    QVERIFY2(!result.error.contains(QStringLiteral("cannot find")), qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
+}
+
+void HostCommandsTest::libraryWithoutItsFunctionIsRefused()
+{
+    HostProgram program;
+    program.removeLibrary(QStringLiteral("kv_mvc_settings_io"));
+    program.addStub(QStringLiteral("stub_encoder"), QStringLiteral("kv_mvc_settings_io"));
+    program.setContent(QStringLiteral("a.ini"), "");
+    const HostProgram::Result result =
+        program.run({QStringLiteral("show"), QStringLiteral("a.ini")});
+    QVERIFY2(result.error.endsWith(QStringLiteral(" has no function MVCConfigGetAPIExt\n")),
+             qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+    QCOMPARE(result.exitCode, 2);
+}
+
+void HostCommandsTest::fullOutputIsTrouble()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full)) {
+        QSKIP("this system has no device that is always full");
+    }
+    const HostProgram program;
+    program.writeSettings(QStringLiteral("a.ini"), exampleSettings());
+    QProcess process;
+    process.setWorkingDirectory(program.path(QString()));
+    process.setStandardOutputFile(full);
+    process.start(program.program(), {QStringLiteral("show"), QStringLiteral("a.ini")});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+             prefix + QStringLiteral("cannot write to standard output\n"));
+    QCOMPARE(process.exitCode(), 2);
+}
+
+QTEST_GUILESS_MAIN(HostCommandsTest)
+#include "tst_host_commands.moc"

@@ -1,0 +1,165 @@
+// The manual page and the shell completion know what the program knows.
+
+#include "HostProgram.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+class HostDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void manualPageIsWellFormed();
+    void manualPageNamesEveryOption_data();
+    void manualPageNamesEveryOption();
+    void completionOffers_data();
+    void completionOffers();
+};
+
+namespace
+{
+
+const QStringList commandNames = {QStringLiteral("edit"),  QStringLiteral("show"),
+                                  QStringLiteral("check"), QStringLiteral("defaults"),
+                                  QStringLiteral("diff"),  QStringLiteral("import")};
+
+QString textOf(const char* name)
+{
+    QFile file(QString::fromUtf8(name));
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                            : QString();
+}
+
+/// @return The section of a command: from its heading to the next.
+QString manualSection(const QString& command)
+{
+    const QString page = textOf(KV_MAN_PAGE).remove(QLatin1Char('\\'));
+    const auto start = page.indexOf(QRegularExpression(
+        QStringLiteral("^\\.SS .*\\b%1\\b").arg(command), QRegularExpression::MultilineOption));
+    const auto end = page.indexOf(
+        QRegularExpression(QStringLiteral("^\\.S[SH] "), QRegularExpression::MultilineOption),
+        start + 1);
+    return start < 0 ? QString() : page.mid(start, end - start);
+}
+
+} // namespace
+
+void HostDocumentsTest::manualPageIsWellFormed()
+{
+    if (QByteArray(KV_GROFF).isEmpty()) {
+        QSKIP("groff is not installed");
+    }
+    QProcess groff;
+    groff.start(QStringLiteral(KV_GROFF),
+                {QStringLiteral("-t"), QStringLiteral("-man"), QStringLiteral("-Tutf8"),
+                 QStringLiteral("-ww"), QStringLiteral("-z"), QStringLiteral(KV_MAN_PAGE)});
+    QVERIFY(groff.waitForFinished());
+    QCOMPARE(QString::fromUtf8(groff.readAllStandardError()), QString());
+    QCOMPARE(groff.exitCode(), 0);
+}
+
+void HostDocumentsTest::manualPageNamesEveryOption_data()
+{
+    QTest::addColumn<QString>("command");
+    for (const QString& command : commandNames) {
+        QTest::newRow(qPrintable(command)) << command;
+    }
+}
+
+void HostDocumentsTest::manualPageNamesEveryOption()
+{
+    QFETCH(QString, command);
+    const QString section = manualSection(command);
+    QVERIFY(!section.isEmpty());
+    const HostProgram program;
+    const QString help = program.run({command, QStringLiteral("--help")}).output;
+    static const QRegularExpression option(QStringLiteral("^  (?:-\\w, )?(--[a-z-]+)"),
+                                           QRegularExpression::MultilineOption);
+    int options = 0;
+    for (auto match = option.globalMatch(help); match.hasNext();) {
+        const QString name = match.next().captured(1);
+        if (name != QStringLiteral("--help")) { // of every command, so said once
+            QVERIFY2(section.contains(name), qPrintable(name));
+            ++options;
+        }
+    }
+    QVERIFY(options > 0);
+}
+
+void HostDocumentsTest::completionOffers_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("offers");
+    const auto row = [](const char* line, const char* offers) {
+        QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(offers);
+    };
+    // The last word of the line, after its last blank, is being typed.
+    row("", "--help --version check defaults diff edit import show");
+    row("d", "defaults diff");
+    row("--v", "--version");
+    row("show ", "a.ini b.CFG folder");
+    row("show b", "b.CFG");
+    row("show folder/", "folder/c.cfg");
+    row("show --", "--help --json");
+    row("diff a.ini ", "a.ini b.CFG folder");
+    row("check --", "--help --json --output");
+    row("check a.ini -o ", "a.ini b.CFG folder");
+    row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
+    row("defaults s", "stereo-high");
+    row("defaults 1 --output b", "b.CFG");
+    row("import ", "folder movie.MP4 stream.ts");
+    row("import movie.MP4 -o a", "a.ini");
+    row("edit --no-b", "--no-banner --no-basic");
+    row("edit --preset ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
+    row("edit --hosting ", "host native own");
+    row("edit --lock ", "frame-rate level pixel-ratio profile size video-type views");
+    row("edit --lock size,v", "size,video-type size,views");
+    row("edit --banner st", "stream.ts");
+    row("edit --title ", "");
+    row("edit --title x a", "a.ini");
+    row("unknown ", "");
+}
+
+void HostDocumentsTest::completionOffers()
+{
+    if (QByteArray(KV_BASH).isEmpty()) {
+        QSKIP("bash is not installed");
+    }
+    QFETCH(QString, line);
+    QFETCH(QString, offers);
+    const HostProgram program;
+    for (const char* name : {"a.ini", "b.CFG", "movie.MP4", "stream.ts", "notes.txt"}) {
+        program.setContent(QString::fromLatin1(name), "");
+    }
+    QVERIFY(QDir(program.path(QString())).mkdir(QStringLiteral("folder")));
+    program.setContent(QStringLiteral("folder/c.cfg"), "");
+
+    const QString script = QStringLiteral(R"(
+        source "$1"
+        complete -p kv-mvc-settings > /dev/null || exit 1
+        shift
+        COMP_WORDS=("$@")
+        COMP_CWORD=$(($# - 1))
+        _kv_mvc_settings "$1" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+        printf '%s\n' "${COMPREPLY[@]}" | LC_ALL=C sort)");
+    QProcess bash;
+    bash.setWorkingDirectory(program.path(QString()));
+    bash.start(QStringLiteral(KV_BASH),
+               QStringList{QStringLiteral("--norc"), QStringLiteral("-c"), script,
+                           QStringLiteral("bash"), QStringLiteral(KV_COMPLETION),
+                           program.program()} +
+                   line.split(QLatin1Char(' ')));
+    QVERIFY(bash.waitForFinished());
+    QCOMPARE(QString::fromUtf8(bash.readAllStandardError()), QString());
+    QCOMPARE(bash.exitCode(), 0);
+    QCOMPARE(QString::fromUtf8(bash.readAllStandardOutput())
+                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                 .join(QLatin1Char(' ')),
+             offers);
+}
+
+QTEST_GUILESS_MAIN(HostDocumentsTest)
+#include "tst_host_documents.moc"
