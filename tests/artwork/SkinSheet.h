@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QVector>
+
+/// One rule of a style sheet.
+struct SkinRule {
+    QString selector;                    ///< as written, with single blanks
+    QMap<QString, QString> declarations; ///< property to value, with single blanks
+};
+
+/// The rules of a style sheet in their order; a rule for several selectors counts once for each.
+QVector<SkinRule> skinRules(const QString& sheet);
