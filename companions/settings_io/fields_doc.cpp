@@ -1,0 +1,92 @@
+// Prints docs/settings-fields.md: the field table, with the meanings that the public header gives.
+//
+// Usage: kv_settings_fields_doc HEADER
+#include "settings_fields.h"
+
+#include <cstdio>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <string>
+
+namespace
+{
+
+using Meanings = std::map<std::string, std::string, std::less<>>;
+
+std::string oneLine(const std::string& comment)
+{
+    static const std::regex breaks("\\s*\\n\\s*\\*?\\s*");
+    static const std::regex ends("^[\\s*]+|\\s+$");
+    return std::regex_replace(std::regex_replace(comment, ends, ""), breaks, " ");
+}
+
+/** The comment behind each field, or the one before it. */
+Meanings readMeanings(const std::string& header)
+{
+    static const std::regex behind("(int32_t|double)\\s+(\\w+);\\s*/\\*\\*<([^*]*)\\*/");
+    static const std::regex before("/\\*\\*([^/]*)\\*/\\s*(int32_t|double)\\s+(\\w+);");
+    Meanings meanings;
+    const std::sregex_iterator none;
+    for (std::sregex_iterator match(header.begin(), header.end(), before); match != none; ++match)
+        meanings[(*match)[3]] = oneLine((*match)[1]);
+    for (std::sregex_iterator match(header.begin(), header.end(), behind); match != none; ++match)
+        meanings[(*match)[2]] = oneLine((*match)[3]);
+    return meanings;
+}
+
+std::string valueNames(const kv::Field& field)
+{
+    std::string text;
+    for (const kv::NamedValue& row : field.values) {
+        text += text.empty() ? "" : ", ";
+        text.append("`").append(row.name).append("` ").append(std::to_string(row.value));
+    }
+    return text.empty() ? field.kind == kv::FieldKind::Rate ? "rate" : "number" : text;
+}
+
+bool printGroup(const kv::FieldGroup& group, const Meanings& meanings)
+{
+    std::printf("\n### %s\n\n| key | offset | values | meaning |\n|---|---|---|---|\n",
+                std::string(group.title).c_str());
+    for (const kv::Field& field : group.fields) {
+        const auto meaning = meanings.find(field.name);
+        if (meaning == meanings.end()) {
+            std::fprintf(stderr, "%s: not in the header\n", std::string(field.name).c_str());
+            return false;
+        }
+        std::printf("| `%s` | %zu | %s | %s |\n", std::string(field.name).c_str(), field.offset,
+                    valueNames(field).c_str(), meaning->second.c_str());
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    std::ifstream file(count == 2 ? arguments[1] : "");
+    std::stringstream header;
+    header << file.rdbuf();
+    if (!file) {
+        std::fputs("Usage: kv_settings_fields_doc HEADER\n", stderr);
+        return 2;
+    }
+    const Meanings meanings = readMeanings(header.str());
+    std::puts(
+        "# Keys of settings files\n\n<!-- Written by kv_settings_fields_doc; do not edit. -->\n");
+    std::puts("[settings-file.md](settings-file.md) tells how such files are written. A field with "
+              "named values takes\nany other whole number too; the offset is that in the section's "
+              "part of the record.");
+    const auto sections = kv::settingsSections().first(2); // all views have the same keys
+    for (const kv::Section& section : sections) {
+        std::printf("\n## [%s]%s\n", std::string(section.name).c_str(),
+                    &section == &sections.back() ? " and the sections of the other views" : "");
+        for (const kv::FieldGroup& group : section.groups) {
+            if (!printGroup(group, meanings))
+                return 1;
+        }
+    }
+    return 0;
+}
