@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -22,8 +24,16 @@ QLatin1String kindName(CheckMessage::Kind kind)
     return QLatin1String("note");
 }
 
-QByteArray resultText(const CheckResult& result)
+/// @param notesToo Whether notes are worth printing when there is nothing else.
+QByteArray resultText(const CheckResult& result, bool notesToo)
 {
+    const auto isNote = [](const CheckMessage& message) {
+        return message.kind == CheckMessage::Note;
+    };
+    if (!notesToo && result.accepted &&
+        std::all_of(result.messages.begin(), result.messages.end(), isNote)) {
+        return {};
+    }
     QString text;
     for (const CheckMessage& message : result.messages) {
         // A message is a line, whatever the encoder wrote.
@@ -57,6 +67,8 @@ QByteArray resultJson(const CheckResult& result, const KvMvcSettings& before)
 QList<QCommandLineOption> checkOptions()
 {
     return {jsonOption(),
+            {QStringLiteral("notes"),
+             QStringLiteral("Prints the encoder's notes even when there is nothing but notes.")},
             outputOption(QStringLiteral("Saves the settings as the check corrected them, when it "
                                         "accepts them. FILE is replaced when it exists."))};
 }
@@ -73,6 +85,7 @@ Outcome runCheck(const Invocation& call)
     if (result.accepted && call.has("output")) {
         files.write(result.corrected, output);
     }
-    return {result.accepted ? ExitYes : ExitNo,
-            call.has("json") ? resultJson(result, settings) : resultText(result)};
+    return {result.accepted ? ExitYes : ExitNo, call.has("json")
+                                                    ? resultJson(result, settings)
+                                                    : resultText(result, call.has("notes"))};
 }

@@ -27,7 +27,8 @@ Exit code: 0, or 2 on trouble.
 
 constexpr char checkHelp[] = R"(
 Lets the encoder check the settings in FILE, without a window, and prints each
-of its messages after "error: ", "warning: " or "note: ". FILE is not changed.
+of its messages after "error: ", "warning: " or "note: ". When it accepts them
+and has only notes, nothing is printed. FILE is not changed.
 
 Exit code: 0 when the encoder accepts the settings, 1 when it refuses them, 2 on
 trouble.

@@ -58,10 +58,9 @@ constexpr ValueName bitrateModeNames[] = {{KV_MVC_CONSTANT_BITRATE, "Constant bi
                                           {KV_MVC_CONSTANT_QUANTIZER, "Constant quantizer"_l1},
                                           {KV_MVC_VARIABLE_BITRATE, "Variable bitrate"_l1},
                                           {KV_MVC_AVERAGE_QUANTIZER, "Average quantizer"_l1}};
-constexpr ValueName unitsNames[] = {
-    {KV_MVC_UNITS_BYTES_PERCENT, "Buffer in bytes, fullness in percent"_l1},
-    {KV_MVC_UNITS_BITS, "Buffer and fullness in bits"_l1},
-    {KV_MVC_UNITS_BITS_90KHZ, "Buffer in bits, fullness in 90 kHz ticks"_l1}};
+constexpr ValueName unitsNames[] = {{KV_MVC_UNITS_BYTES_PERCENT, "Bytes and percent"_l1},
+                                    {KV_MVC_UNITS_BITS, "Bits"_l1},
+                                    {KV_MVC_UNITS_BITS_90KHZ, "Bits and 90 kHz"_l1}};
 constexpr ValueName partitionNames[] = {{KV_MVC_PARTITION_16X16, "16 x 16"_l1},
                                         {KV_MVC_PARTITION_8X8, "8 x 8"_l1}};
 constexpr ValueName subpixelNames[] = {{KV_MVC_SUBPIXEL_FULL, "Full"_l1},

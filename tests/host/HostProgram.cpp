@@ -80,6 +80,8 @@ HostProgram::Result HostProgram::run(const QStringList& arguments,
 {
     QProcess process;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    // Without it the toolkit says so on standard error.
+    variables.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path());
     for (auto variable = environment.begin(); variable != environment.end(); ++variable) {
         variables.insert(variable.key(), variable.value());
     }

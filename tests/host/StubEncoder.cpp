@@ -24,7 +24,8 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* setti
     return 0;
 }
 
-/// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there.
+/// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there; 5 is
+/// refused without an error.
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
                                                                KvMvcSettings* settings,
                                                                int32_t stage, int32_t reserved)
@@ -55,6 +56,9 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
         sinkOf(lookUp, "inf_printf")("%s", lookUp("printf") == nullptr ? "no printf" : "printf");
         return memory == nullptr;
     }
+    case 5:
+        sinkOf(lookUp, "inf_printf")("no reason");
+        return 1;
     default:
         return 0;
     }

@@ -48,29 +48,38 @@ void prepare(HostProgram& program, int width)
 void HostCheckTest::messagesAndVerdict_data()
 {
     QTest::addColumn<int>("width");
+    QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("output");
     QTest::addColumn<int>("exitCode");
-    QTest::newRow("accepted in silence") << 1920 << QString() << 0;
-    QTest::newRow("refused") << 1
-                             << QStringLiteral("note: the picture of 1 x 2\n"
-                                               "error: width 1 is below 16\n"
-                                               "warning: 100 % of 0.500 is less\n")
-                             << 1;
-    QTest::newRow("accepted with a correction")
-        << 2 << QStringLiteral("warning: width 2 corrected to 16\n") << 0;
-    QTest::newRow("memory functions, and no others")
-        << 4 << QStringLiteral("note: no printf\n") << 0;
+    const QStringList none;
+    const QStringList notes = {QStringLiteral("--notes")};
+    const QString refusal = QStringLiteral("note: the picture of 1 x 2\n"
+                                           "error: width 1 is below 16\n"
+                                           "warning: 100 % of 0.500 is less\n");
+    const QString correction = QStringLiteral("warning: width 2 corrected to 16\n");
+    const QString note = QStringLiteral("note: no printf\n");
+    QTest::newRow("accepted in silence") << 1920 << none << QString() << 0;
+    QTest::newRow("refused") << 1 << none << refusal << 1;
+    QTest::newRow("refused, with notes") << 1 << notes << refusal << 1;
+    QTest::newRow("accepted with a correction") << 2 << none << correction << 0;
+    QTest::newRow("accepted with nothing but notes") << 4 << none << QString() << 0;
+    // The encoder asked for memory and, in vain, for a function that is not on offer.
+    QTest::newRow("accepted, with notes") << 4 << notes << note << 0;
+    QTest::newRow("refused with nothing but notes")
+        << 5 << none << QStringLiteral("note: no reason\n") << 1;
 }
 
 void HostCheckTest::messagesAndVerdict()
 {
     QFETCH(int, width);
+    QFETCH(QStringList, options);
     QFETCH(QString, output);
     QFETCH(int, exitCode);
     HostProgram program;
     prepare(program, width);
     const QByteArray before = program.content(a);
-    const HostProgram::Result result = program.run({QStringLiteral("check"), a});
+    const HostProgram::Result result =
+        program.run(QStringList{QStringLiteral("check"), a} + options);
     QCOMPARE(result.error, QString());
     QCOMPARE(result.output, output);
     QCOMPARE(result.exitCode, exitCode);
@@ -82,7 +91,8 @@ void HostCheckTest::messagesOfAnyLengthAreWhole()
 {
     HostProgram program;
     prepare(program, 3);
-    const HostProgram::Result result = program.run({QStringLiteral("check"), a});
+    const HostProgram::Result result =
+        program.run({QStringLiteral("check"), QStringLiteral("--notes"), a});
     QCOMPARE(result.output.size(), 6 + 100000 + 2);
     QCOMPARE(result.output,
              QStringLiteral("note: ") + QString(100000, QLatin1Char('x')) + QStringLiteral(".\n"));

@@ -128,7 +128,7 @@ void HostCommandsTest::everyCommandHasHelp_data()
         "--output --preset --hosting --parent --title --banner --lock --no-basic --no-advanced "
         "--no-file-buttons --no-initial-check --plain-log --no-banner --help");
     row("show", "FILE", "--json --help");
-    row("check", "FILE", "--json --output --help");
+    row("check", "FILE", "--json --notes --output --help");
     row("defaults", "PRESET", "--output --help");
     row("diff", "A B", "--json --help");
     row("import", "MEDIA", "--output --help");
@@ -184,7 +184,7 @@ void HostCommandsTest::badFilesGetOneLineAndLeaveAllAsItWas_data()
         {"folder.ini", "cannot read 'folder.ini': it is a directory"},
         {"broken.ini", "broken.ini:2: neither a section nor a 'key = value' line: 'nonsense' (and "
                        "1 more)"},
-        {"empty.ini", "empty.ini:0: section 'views' is missing (and 1 more)"},
+        {"empty.ini", "empty.ini:1: section 'record' is missing (and 1 more)"},
     };
     static const char* const commands[] = {"show %1",
                                            "show --json %1",
@@ -235,7 +235,7 @@ void HostCommandsTest::badFilesGetOneLineAndLeaveAllAsItWas()
     program.writeSettings(QStringLiteral("good.ini"), exampleSettings());
     QVERIFY(QDir(program.path(QString())).mkdir(QStringLiteral("folder.ini")));
     const QMap<QString, QByteArray> contents = {
-        {QStringLiteral("broken.ini"), "[views]\nnonsense\n[nothing]\n"},
+        {QStringLiteral("broken.ini"), "[record]\nnonsense\n[nothing]\n"},
         {QStringLiteral("empty.ini"), ""},
         {QStringLiteral("good.ini"), program.content(QStringLiteral("good.ini"))},
         {QStringLiteral("kept.ini"), "kept"},

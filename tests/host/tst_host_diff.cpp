@@ -91,9 +91,9 @@ void HostDiffTest::everyFieldIsSeen()
     }
     const HostProgram::Result result = diff(before, after);
     QCOMPARE(result.output.count(QStringLiteral(", base view: ")),
-             static_cast<qsizetype>(std::size(viewFields)));
+             static_cast<int>(std::size(viewFields)));
     QCOMPARE(result.output.count(QStringLiteral(", second view: ")),
-             static_cast<qsizetype>(std::size(viewFields)));
+             static_cast<int>(std::size(viewFields)));
     QVERIFY(!result.output.contains(QStringLiteral("Reserved")));
     QCOMPARE(result.exitCode, 1);
 }
