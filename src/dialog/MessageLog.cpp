@@ -115,9 +115,8 @@ void MessageLog::rewriteWidget() const
         const QColor& colour;
     } blocks[] = {{warnings, warningColour}, {errors, errorColour}, {notes, noteColour}};
 
-    QTextDocument* document = widget->document();
-    document->clear();
-    QTextCursor cursor(document);
+    widget->clear();
+    QTextCursor cursor(widget->document());
     cursor.beginEditBlock();
     for (const auto& block : blocks) {
         QTextCharFormat format;
@@ -127,6 +126,13 @@ void MessageLog::rewriteWidget() const
         cursor.insertText(block.messages, format);
     }
     cursor.endEditBlock();
+
+    // Starts reading at the first message, not at the empty paragraphs before it.
+    QTextBlock first = widget->document()->begin();
+    while (first.next().isValid() && first.text().isEmpty())
+        first = first.next();
+    widget->moveCursor(QTextCursor::End);
+    widget->setTextCursor(QTextCursor(first));
 }
 
 KvMvcFunction lookUpCheckFunction(const char* name)
