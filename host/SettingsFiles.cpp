@@ -85,7 +85,7 @@ QByteArray SettingsFiles::text(const KvMvcSettings& settings) const
 
 void requireReadable(const QString& path)
 {
-    // Not opened here: a pipe can be read only once.
+    // Not opened here: the reader does, and has its own words for what it finds inside.
     const QFileInfo file(path);
     const auto refuse = [&](const QString& reason) {
         throw Failure(QStringLiteral("cannot read '%1': %2").arg(path, reason));
