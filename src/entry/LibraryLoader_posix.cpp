@@ -1,5 +1,7 @@
 #include "LibraryLoader.h"
 
+#include <QFile>
+
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -12,25 +14,6 @@ namespace
 // The codes that Windows has for the same two failures.
 constexpr std::uint32_t libraryNotFound = 126;
 constexpr std::uint32_t functionNotFound = 127;
-
-std::string narrow(const std::wstring& text)
-{
-    // UTF-8, whatever the locale: file names are bytes here.
-    std::string bytes;
-    for (const wchar_t character : text) {
-        const auto code = static_cast<std::uint32_t>(character);
-        if (code < 0x80) {
-            bytes += static_cast<char>(code);
-            continue;
-        }
-        const int further = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-        const std::uint32_t lead = further == 1 ? 0xC0 : further == 2 ? 0xE0 : 0xF0;
-        bytes += static_cast<char>(lead | (code >> (6 * further)));
-        for (int i = further - 1; i >= 0; --i)
-            bytes += static_cast<char>(0x80 | ((code >> (6 * i)) & 0x3F));
-    }
-    return bytes;
-}
 
 std::string hostProgramDirectory()
 {
@@ -52,7 +35,7 @@ std::string dynamicLinkerError()
 void* LibraryLoader::openSystemLibrary(const std::wstring& fileName)
 {
     constexpr int mode = RTLD_NOW | RTLD_LOCAL;
-    const std::string name = narrow(fileName);
+    const std::string name = QFile::encodeName(QString::fromStdWString(fileName)).toStdString();
     void* handle = nullptr;
     if (name.find('/') == std::string::npos) {
         const std::string besideHost = hostProgramDirectory() + name;
