@@ -1,7 +1,19 @@
 #include "SkinSheet.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QStringList>
+
+QByteArray skinBytes(const QString& name)
+{
+    QFile file(QStringLiteral(":/res_mvc/skins/%1.qss").arg(name));
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString skinText(const QString& name)
+{
+    return QString::fromLatin1(skinBytes(name));
+}
 
 QVector<SkinRule> skinRules(const QString& sheet)
 {

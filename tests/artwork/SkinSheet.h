@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QVector>
+
+/// The bytes of a skin of the bundle, and its text; empty when there is none.
+QByteArray skinBytes(const QString& name);
+QString skinText(const QString& name);
 
 /// One rule of a style sheet.
 struct SkinRule {

@@ -1,4 +1,5 @@
 #include "Contrast.h"
+#include "ToolkitWarnings.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -41,6 +42,8 @@ public:
     static void initMain() { qputenv("QT_SCALE_FACTOR", "3"); }
 
 private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
     void everyPathOpens_data();
     void everyPathOpens();
     void holdsNothingElse();
