@@ -1,0 +1,101 @@
+// The settings file library as a caller has it, and what it prints.
+#ifndef KV_TEST_SETTINGS_LIBRARY_H
+#define KV_TEST_SETTINGS_LIBRARY_H
+
+#include <kv_config_gui_mvc/companions.h>
+
+#include <QByteArray>
+#include <QLibrary>
+#include <QString>
+#include <QTemporaryFile>
+
+#include <cstdio>
+#include <cstring>
+#include <functional>
+
+#include <unistd.h>
+
+namespace kvtest
+{
+
+/** Standard error of the whole process, as text, while `work` runs. */
+inline QByteArray standardErrorOf(const std::function<void()>& work)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        return "no temporary file";
+    std::fflush(stderr);
+    const int former = ::dup(STDERR_FILENO);
+    ::dup2(file.handle(), STDERR_FILENO);
+    work();
+    std::fflush(stderr);
+    ::dup2(former, STDERR_FILENO);
+    ::close(former);
+    file.seek(0);
+    return file.readAll();
+}
+
+class SettingsLibrary
+{
+public:
+    explicit SettingsLibrary(const QString& folder = qEnvironmentVariable("KV_BIN_DIR"))
+        : m_library(folder + QStringLiteral("/kv_mvc_settings_io.so"))
+    {
+        const auto getApi =
+            reinterpret_cast<KvMvcSettingsIoGetApi>(m_library.resolve(KV_MVC_SETTINGS_IO_GET_API));
+        if (!getApi)
+            return;
+        m_read = reinterpret_cast<KvMvcReadSettings>(getApi(KV_MVC_SETTINGS_IO_READER));
+        m_write = reinterpret_cast<KvMvcWriteSettings>(getApi(KV_MVC_SETTINGS_IO_WRITER));
+    }
+    ~SettingsLibrary() { m_library.unload(); }
+    SettingsLibrary(const SettingsLibrary&) = delete;
+    SettingsLibrary& operator=(const SettingsLibrary&) = delete;
+
+    bool isLoaded() const { return m_read && m_write; }
+    QString loadError() const { return m_library.errorString(); }
+
+    /** The result; what is printed goes to `messages`. */
+    int read(KvMvcSettings& settings, const QByteArray& path)
+    {
+        int result = -1;
+        messages = standardErrorOf([&] { result = m_read(&settings, path.constData()); });
+        return result;
+    }
+    int write(KvMvcSettings settings, const QByteArray& path)
+    {
+        int result = -1;
+        messages = standardErrorOf([&] { result = m_write(&settings, path.constData()); });
+        return result;
+    }
+
+    QByteArray messages;
+
+private:
+    QLibrary m_library;
+    KvMvcReadSettings m_read = nullptr;
+    KvMvcWriteSettings m_write = nullptr;
+};
+
+inline bool same(const KvMvcSettings& left, const KvMvcSettings& right)
+{
+    return std::memcmp(&left, &right, sizeof left) == 0;
+}
+
+/** A record of which every byte is `byte`. */
+inline KvMvcSettings filledRecord(int byte)
+{
+    KvMvcSettings settings;
+    std::memset(static_cast<void*>(&settings), byte, sizeof settings);
+    return settings;
+}
+
+/** UTF-8 that was read as Latin-1 and encoded again, as callers do it. */
+inline QByteArray doubleConverted(const QByteArray& path)
+{
+    return QString::fromLatin1(path).toUtf8();
+}
+
+} // namespace kvtest
+
+#endif

@@ -1,0 +1,579 @@
+// Settings files as text: every record comes back byte for byte, every error names its line.
+#include "SettingsLibrary.h"
+
+#include <settings_text.h>
+
+#include <QFile>
+#include <QTest>
+
+#include <limits>
+#include <random>
+
+using kvtest::filledRecord;
+using kvtest::same;
+
+namespace
+{
+
+/** A whole file around lines of the first view; those begin in line 3. */
+QByteArray inViewZero(const QByteArray& lines)
+{
+    return "[record]\n[view 0]\n" + lines;
+}
+
+struct Numbered {
+    const char* key;
+    int offset;
+};
+
+/** Whole-number fields of a view, by offset. */
+constexpr Numbered kViewNumbers[] = {
+    {"profile", 0},
+    {"level", 4},
+    {"i_interval", 8},
+    {"ref_distance", 12},
+    {"interlace_mode", 20},
+    {"width", 24},
+    {"height", 28},
+    {"num_ref_frames", 40},
+    {"motion_search", 44},
+    {"quant_i", 60},
+    {"quant_p", 64},
+    {"quant_b", 68},
+    {"bitrate_mode", 72},
+    {"bitrate_buffer", 76},
+    {"bitrate", 80},
+    {"max_bitrate", 84},
+    {"min_partition", 88},
+    {"entropy_mode", 92},
+    {"hadamard", 96},
+    {"pixel_aspect_x", 100},
+    {"pixel_aspect_y", 104},
+    {"vbv_initial", 124},
+    {"vbv_target", 128},
+    {"bitrate_units", 132},
+    {"frame_size_i", 160},
+    {"frame_size_p", 164},
+    {"frame_size_b", 168},
+    {"frame_size_bref", 172},
+    {"hrd_mode", 176},
+    {"deblocking", 256},
+    {"video_type", 1804},
+    {"pulldown", 1808},
+    {"bit_depth_luma", 2244},
+    {"bit_depth_chroma", 2248},
+    {"chroma_format", 2252},
+    {"scene_detection", 2836},
+    {"multi_slice", 2844},
+    {"num_slices", 2848},
+    {"reference_b", 2852},
+    {"pyramid_b", 2856},
+    {"subpixel_mode", 2868},
+    {"weighted_p", 2872},
+    {"fast_intra", 2880},
+    {"fast_inter", 2884},
+    {"display_aspect_x", 2888},
+    {"display_aspect_y", 2892},
+    {"num_threads", 2904},
+    {"quant_min", 2916},
+    {"quant_max", 2920},
+    {"force_i", 4100},
+    {"adaptive_b", 4104},
+    {"idr_marker", 4108},
+    {"field_order", 4112},
+    {"fixed_i_position", 4116},
+    {"fast_reference", 4316},
+    {"fast_subblock", 4320},
+    {"simple_rd", 5116},
+    {"brightness", 5492},
+    {"contrast", 5496},
+    {"complexity", 5500},
+};
+
+struct Named {
+    const char* key;
+    int offset;
+    const char* name;
+    int value;
+};
+
+constexpr Named kNames[] = {
+    {"profile", 0, "baseline", 0},
+    {"profile", 0, "main", 1},
+    {"profile", 0, "high", 3},
+    {"profile", 0, "high 10", 4},
+    {"profile", 0, "high 4:2:2", 5},
+    {"level", 4, "1.0", 10},
+    {"level", 4, "1.1", 11},
+    {"level", 4, "1.2", 12},
+    {"level", 4, "1.3", 13},
+    {"level", 4, "1.6", 16},
+    {"level", 4, "2.0", 20},
+    {"level", 4, "2.1", 21},
+    {"level", 4, "2.2", 22},
+    {"level", 4, "3.0", 30},
+    {"level", 4, "3.1", 31},
+    {"level", 4, "3.2", 32},
+    {"level", 4, "4.0", 40},
+    {"level", 4, "4.1", 41},
+    {"level", 4, "4.2", 42},
+    {"level", 4, "5.0", 50},
+    {"level", 4, "5.1", 51},
+    {"level", 4, "5.2", 52},
+    {"level", 4, "auto", 100},
+    {"interlace_mode", 20, "progressive", 0},
+    {"interlace_mode", 20, "interlaced", 1},
+    {"interlace_mode", 20, "mbaff", 2},
+    {"field_order", 4112, "top field first", 0},
+    {"field_order", 4112, "bottom field first", 1},
+    {"bitrate_mode", 72, "constant bitrate", 0},
+    {"bitrate_mode", 72, "constant quantizer", 1},
+    {"bitrate_mode", 72, "variable bitrate", 2},
+    {"bitrate_mode", 72, "average quantizer", 3},
+    {"bitrate_units", 132, "bytes and percent", 0},
+    {"bitrate_units", 132, "bits", 1},
+    {"bitrate_units", 132, "bits and 90 kHz", 2},
+    {"min_partition", 88, "16x16", 0},
+    {"min_partition", 88, "8x8", 1},
+    {"subpixel_mode", 2868, "full", 0},
+    {"subpixel_mode", 2868, "half", 1},
+    {"subpixel_mode", 2868, "quarter", 2},
+    {"entropy_mode", 92, "cavlc", 0},
+    {"entropy_mode", 92, "cabac", 1},
+    {"video_type", 1804, "none", 0},
+    {"video_type", 1804, "multiview high", 1},
+    {"video_type", 1804, "stereo high", 2},
+    {"video_type", 1804, "blu-ray 3d", 3},
+    {"pulldown", 1808, "off", 0},
+    {"pulldown", 1808, "2:3", 1},
+    {"pulldown", 1808, "3:2", 2},
+    {"pulldown", 1808, "2:3 progressive", 4},
+    {"pulldown", 1808, "3:2 progressive", 5},
+    {"pulldown", 1808, "auto", 6},
+    {"pulldown", 1808, "2:2", 7},
+    {"pulldown", 1808, "3:3", 8},
+    {"chroma_format", 2252, "4:0:0", 1},
+    {"chroma_format", 2252, "4:2:0", 2},
+    {"chroma_format", 2252, "4:2:2", 3},
+    {"pixel_aspect_x", 100, "from display", -1},
+    {"pixel_aspect_y", 104, "from display", -1},
+    {"display_aspect_x", 2888, "custom", -1},
+    {"display_aspect_y", 2892, "custom", -1},
+    {"hrd_mode", 176, "off", 0},
+    {"hrd_mode", 176, "on", 1},
+    {"deblocking", 256, "on", 1},
+    {"scene_detection", 2836, "on", 1},
+    {"multi_slice", 2844, "on", 1},
+    {"hadamard", 96, "on", 1},
+};
+
+int32_t numberAt(const KvMvcSettings& settings, std::size_t offset)
+{
+    int32_t number = 0;
+    std::memcpy(&number, reinterpret_cast<const char*>(&settings) + offset, sizeof number);
+    return number;
+}
+
+std::string firstProblem(const QByteArray& text)
+{
+    KvMvcSettings settings{};
+    const auto problems = kv::parseSettings(text.toStdString(), settings);
+    return problems.empty() ? std::string()
+                            : std::to_string(problems[0].line) + ": " + problems[0].reason;
+}
+
+/** One field of the first view set to something by a line, then the record. */
+KvMvcSettings readLine(const QByteArray& line)
+{
+    KvMvcSettings settings = filledRecord(0x5A);
+    const auto problems = kv::parseSettings(inViewZero(line).toStdString(), settings);
+    return problems.empty() ? settings : filledRecord(0xEE);
+}
+
+class TestSettingsText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anyRecordComesBackByteForByte();
+    void everyBytePositionComesBack();
+    void numbersGoToTheirOffset_data();
+    void numbersGoToTheirOffset();
+    void viewsAndRecordAreApart();
+    void namesStandForTheirCodes_data();
+    void namesStandForTheirCodes();
+    void frameRates_data();
+    void frameRates();
+    void frameRatesKeepTheirBits_data();
+    void frameRatesKeepTheirBits();
+    void filesAreWrittenAsThePatternFile();
+    void linesAreReadInAnyDress_data();
+    void linesAreReadInAnyDress();
+    void whatIsLeftOutIsZero();
+    void bytesMayCoverNamedFields();
+    void problemsNameTheirLine_data();
+    void problemsNameTheirLine();
+    void problemsAreAllReportedUpToTwenty();
+    void recordStaysUntouchedByAFaultyText();
+};
+
+void TestSettingsText::anyRecordComesBackByteForByte()
+{
+    std::mt19937 random(20240607);
+    auto anyByte = [&] { return static_cast<unsigned char>(random()); };
+    for (int round = 0; round < 3000; ++round) {
+        KvMvcSettings settings{};
+        auto* bytes = reinterpret_cast<unsigned char*>(&settings);
+        const unsigned rarity = round % 4 == 0 ? 1 : round % 4 == 1 ? 2 : round % 4 == 2 ? 40 : 400;
+        for (std::size_t at = 0; at < sizeof settings; ++at)
+            bytes[at] = random() % rarity == 0 ? anyByte() : 0;
+        KvMvcSettings back = filledRecord(0x5A);
+        const auto problems = kv::parseSettings(kv::formatSettings(settings), back);
+        QVERIFY2(problems.empty(), problems.empty() ? "" : problems[0].reason.c_str());
+        QVERIFY2(same(settings, back), qPrintable(QStringLiteral("round %1").arg(round)));
+    }
+}
+
+void TestSettingsText::everyBytePositionComesBack()
+{
+    for (std::size_t at = 0; at < sizeof(KvMvcSettings); ++at) {
+        KvMvcSettings settings{};
+        reinterpret_cast<unsigned char*>(&settings)[at] = 0x80;
+        KvMvcSettings back = filledRecord(0x5A);
+        QVERIFY(kv::parseSettings(kv::formatSettings(settings), back).empty());
+        QVERIFY2(same(settings, back), qPrintable(QStringLiteral("byte %1").arg(at)));
+    }
+}
+
+void TestSettingsText::numbersGoToTheirOffset_data()
+{
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<int>("offset");
+    for (const Numbered& row : kViewNumbers)
+        QTest::newRow(row.key) << QByteArray(row.key) << row.offset;
+}
+
+void TestSettingsText::numbersGoToTheirOffset()
+{
+    QFETCH(QByteArray, key);
+    QFETCH(int, offset);
+    for (const int32_t number :
+         {0, 1, -1, 77, std::numeric_limits<int32_t>::max(), std::numeric_limits<int32_t>::min()}) {
+        KvMvcSettings expected{};
+        std::memcpy(reinterpret_cast<char*>(&expected) + 256 + offset, &number, sizeof number);
+        QVERIFY(same(readLine(key + " = " + QByteArray::number(number)), expected));
+    }
+}
+
+void TestSettingsText::viewsAndRecordAreApart()
+{
+    KvMvcSettings settings{};
+    QVERIFY(kv::parseSettings("[view 1]\nwidth=3\nfast_subblock=on\n[record]\nnum_views=2\n"
+                              "split_views=on\n[view 0]\nwidth=4\n",
+                              settings)
+                .empty());
+    QCOMPARE(numberAt(settings, 0), 2);
+    QCOMPARE(numberAt(settings, 4), 1);
+    QCOMPARE(numberAt(settings, 256 + 24), 4);
+    QCOMPARE(numberAt(settings, 256 + 8316 + 24), 3);
+    QCOMPARE(numberAt(settings, 256 + 8316 + 4320), 1);
+}
+
+void TestSettingsText::namesStandForTheirCodes_data()
+{
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("value");
+    for (const Named& row : kNames)
+        QTest::addRow("%s = %s", row.key, row.name)
+            << QByteArray(row.key) << row.offset << QByteArray(row.name) << row.value;
+}
+
+void TestSettingsText::namesStandForTheirCodes()
+{
+    QFETCH(QByteArray, key);
+    QFETCH(int, offset);
+    QFETCH(QByteArray, name);
+    QFETCH(int, value);
+    KvMvcSettings expected{};
+    std::memcpy(reinterpret_cast<char*>(&expected) + 256 + offset, &value, sizeof value);
+    QVERIFY(same(readLine(key + " = " + name), expected));
+    QVERIFY(same(readLine(key + "=" + name.toUpper()), expected));
+    QVERIFY(same(readLine(key + " = " + QByteArray::number(value)), expected));
+    const QByteArray text = QByteArray::fromStdString(kv::formatSettings(expected));
+    QVERIFY(text.contains("\n" + key + " = " + name + "\n"));
+}
+
+void TestSettingsText::frameRates_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("0") << QByteArray("0") << 0.0 << QByteArray("0");
+    QTest::newRow("negative zero") << QByteArray("-0") << -0.0 << QByteArray("-0");
+    QTest::newRow("25") << QByteArray("25") << 25.0 << QByteArray("25");
+    QTest::newRow("25.0") << QByteArray("25.0") << 25.0 << QByteArray("25");
+    QTest::newRow("12.5") << QByteArray("12.5") << 12.5 << QByteArray("12.5");
+    QTest::newRow("7.6") << QByteArray("7.6") << 7.6 << QByteArray("7.6");
+    QTest::newRow("23.976") << QByteArray("23.976") << 23.976 << QByteArray("23.976");
+    QTest::newRow("24000/1001") << QByteArray("24000/1001") << 24000 / 1001.0
+                                << QByteArray("24000/1001");
+    QTest::newRow("its decimal") << QByteArray("23.976023976023978") << 24000 / 1001.0
+                                 << QByteArray("24000/1001");
+    QTest::newRow("30000/1001") << QByteArray("30000/1001") << 30000 / 1001.0
+                                << QByteArray("30000/1001");
+    QTest::newRow("60000/1001") << QByteArray("60000/1001") << 60000 / 1001.0
+                                << QByteArray("60000/1001");
+    QTest::newRow("50/2") << QByteArray("50/2") << 25.0 << QByteArray("25");
+    QTest::newRow("exponent") << QByteArray("1e-3") << 0.001 << QByteArray("0.001");
+    QTest::newRow("largest") << QByteArray("1.7976931348623157e+308")
+                             << std::numeric_limits<double>::max()
+                             << QByteArray("1.7976931348623157e+308");
+    QTest::newRow("smallest") << QByteArray("5e-324") << std::numeric_limits<double>::denorm_min()
+                              << QByteArray("5e-324");
+}
+
+void TestSettingsText::frameRates()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(double, rate);
+    QFETCH(QByteArray, written);
+    const KvMvcSettings settings = readLine("frame_rate = " + text);
+    const double stored = settings.views[0].frame_rate;
+    QCOMPARE(std::memcmp(&stored, &rate, sizeof rate), 0);
+    const QByteArray file = QByteArray::fromStdString(kv::formatSettings(settings));
+    QVERIFY(file.contains("\nframe_rate = " + written + "\n"));
+}
+
+void TestSettingsText::frameRatesKeepTheirBits_data()
+{
+    QTest::addColumn<quint64>("bits");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("infinity") << Q_UINT64_C(0x7ff0000000000000) << QByteArray("0x7ff0000000000000");
+    QTest::newRow("-infinity") << Q_UINT64_C(0xfff0000000000000)
+                               << QByteArray("0xfff0000000000000");
+    QTest::newRow("quiet") << Q_UINT64_C(0x7ff8000000000000) << QByteArray("0x7ff8000000000000");
+    QTest::newRow("payload") << Q_UINT64_C(0xfff8000000abcdef) << QByteArray("0xfff8000000abcdef");
+    QTest::newRow("signalling") << Q_UINT64_C(0x7ff0000000000001)
+                                << QByteArray("0x7ff0000000000001");
+}
+
+void TestSettingsText::frameRatesKeepTheirBits()
+{
+    QFETCH(quint64, bits);
+    QFETCH(QByteArray, written);
+    KvMvcSettings settings{};
+    std::memcpy(reinterpret_cast<char*>(&settings) + 256 + 32, &bits, sizeof bits);
+    const std::string text = kv::formatSettings(settings);
+    QVERIFY(QByteArray::fromStdString(text).contains("frame_rate = " + written + "\n"));
+    KvMvcSettings back{};
+    QVERIFY(kv::parseSettings(text, back).empty());
+    QVERIFY(same(back, settings));
+}
+
+void TestSettingsText::filesAreWrittenAsThePatternFile()
+{
+    KvMvcSettings settings{};
+    settings.num_views = 2;
+    settings.split_views = 1;
+    settings.reserved_8[0] = 0x11;
+    settings.reserved_8[247] = 0x22;
+    KvMvcViewSettings& view = settings.views[0];
+    view.profile = KV_MVC_PROFILE_HIGH;
+    view.level = 41;
+    view.i_interval = 24;
+    view.ref_distance = 3;
+    view.width = 1920;
+    view.height = 1080;
+    view.frame_rate = 24000 / 1001.0;
+    view.num_ref_frames = 4;
+    view.bitrate_mode = KV_MVC_VARIABLE_BITRATE;
+    view.bitrate = 20000000;
+    view.max_bitrate = 30000000;
+    view.bitrate_buffer = 30000000;
+    view.bitrate_units = KV_MVC_UNITS_BITS_90KHZ;
+    view.vbv_initial = 45000;
+    view.entropy_mode = KV_MVC_CABAC;
+    view.pixel_aspect_x = view.pixel_aspect_y = -1;
+    view.display_aspect_x = 16;
+    view.display_aspect_y = 9;
+    view.video_type = KV_MVC_STEREO_HIGH;
+    view.pulldown = 3; // no such code
+    view.chroma_format = KV_MVC_CHROMA_420;
+    view.bit_depth_luma = view.bit_depth_chroma = 8;
+    view.quant_max = 51;
+    view.brightness = -100;
+    view.reserved_16[0] = 1;
+    view.reserved_260[5] = 7;
+    view.reserved_5504[2811] = 0xFE;
+    settings.views[1].frame_rate = 12.5;
+    QFile pattern(QFINDTESTDATA("data/pattern.ini"));
+    QVERIFY(pattern.open(QIODevice::ReadOnly));
+    const QByteArray expected = pattern.readAll();
+    const QByteArray written = QByteArray::fromStdString(kv::formatSettings(settings));
+    QCOMPARE(written.split('\n'), expected.split('\n'));
+}
+
+void TestSettingsText::linesAreReadInAnyDress_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const QByteArray plain = "[record]\nnum_views = 2\n[view 0]\nwidth = 64\n";
+    QTest::newRow("plain") << plain;
+    QTest::newRow("CR LF") << QByteArray(plain).replace("\n", "\r\n");
+    QTest::newRow("byte-order mark") << "\xEF\xBB\xBF" + plain;
+    QTest::newRow("no last line end") << plain.chopped(1);
+    QTest::newRow("CR but no LF at the end") << plain.chopped(1) + "\r";
+    QTest::newRow("no blanks") << QByteArray(plain).replace(" = ", "=");
+    QTest::newRow("tabulators")
+        << QByteArray(plain).replace(" = ", "\t=\t").replace("width", "\t width");
+    QTest::newRow("blanks behind") << QByteArray(plain).replace("\n", " \t\n");
+    QTest::newRow("blank lines") << QByteArray(plain).replace("\n", "\n\n \n");
+    QTest::newRow("blanks in headings") << QByteArray(plain).replace("record", " record ");
+    QTest::newRow("comments") << QByteArray(plain).replace("\n", " # \xC3\xA4 [x] = ;\n; y\n#\n");
+    QTest::newRow("sections in another order")
+        << QByteArray("[view 0]\nwidth = 64\n[record]\nnum_views = 2\n");
+    QTest::newRow("as bytes") << QByteArray(
+        "[record]\nbytes 0 = 02\n[view 0]\nbytes 24=40000000\n");
+    QTest::newRow("as bytes with blanks, in capitals and zeros")
+        << QByteArray("[record]\nbytes 0 = 02\n[view 0]\nbytes 22=00 00 40 0000 00 00\n");
+}
+
+void TestSettingsText::linesAreReadInAnyDress()
+{
+    QFETCH(QByteArray, text);
+    QCOMPARE(firstProblem(text), std::string());
+    KvMvcSettings settings = filledRecord(0x5A);
+    kv::parseSettings(text.toStdString(), settings);
+    KvMvcSettings expected{};
+    expected.num_views = 2;
+    expected.views[0].width = 64;
+    QVERIFY(same(settings, expected));
+}
+
+void TestSettingsText::whatIsLeftOutIsZero()
+{
+    KvMvcSettings settings = filledRecord(0x5A);
+    QVERIFY(kv::parseSettings("[record]\n[view 0]", settings).empty());
+    QVERIFY(same(settings, filledRecord(0)));
+}
+
+void TestSettingsText::bytesMayCoverNamedFields()
+{
+    const KvMvcSettings settings = readLine("bytes 16 = 01020304 01000000 40000000");
+    QCOMPARE(settings.views[0].reserved_16[3], uint8_t(4));
+    QCOMPARE(settings.views[0].interlace_mode, 1);
+    QCOMPARE(settings.views[0].width, 64);
+}
+
+void TestSettingsText::problemsNameTheirLine_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("problem");
+    const auto row = [](const char* name, const QByteArray& lines, const char* problem) {
+        QTest::newRow(name) << inViewZero(lines) << QByteArray(problem);
+    };
+    row("unknown key", "\nwidht = 3\n", "4: unknown key 'widht' in section 'view 0'");
+    row("key of another section", "num_views = 2",
+        "3: unknown key 'num_views' in section 'view 0'");
+    row("capitals", "Width = 2", "3: unknown key 'Width' in section 'view 0'");
+    row("no key", "= 2", "3: unknown key '' in section 'view 0'");
+    row("repeated key", "width = 1\n\nwidth = 1", "5: 'width' is set twice, first in line 3");
+    row("bytes over a key", "width = 1\nbytes 20 = 0000000000",
+        "4: 'bytes 20' is set twice, first in line 3");
+    row("a key over bytes", "bytes 27 = 00\nwidth = 1", "4: 'width' is set twice, first in line 3");
+    row("bytes over bytes", "bytes 260 = 0000\nbytes 261 = 00",
+        "4: 'bytes 261' is set twice, first in line 3");
+    row("unknown section", "[view 2]", "3: unknown section 'view 2'");
+    row("section in capitals", "[Record]", "3: unknown section 'Record'");
+    row("repeated section", "width=1\n[view 0]\n", "4: section 'view 0' is there twice");
+    row("section without an end", "[view 1", "3: ']' missing at the end of the section's name");
+    row("text", "width 3", "3: neither a section nor a 'key = value' line: 'width 3'");
+    row("no value", "width =", "3: bad value '' for 'width': expected a whole number of 32 bits");
+    row("word", "width = big",
+        "3: bad value 'big' for 'width': expected a whole number of 32 bits");
+    row("fraction for a number", "width = 1.5",
+        "3: bad value '1.5' for 'width': expected a whole number of 32 bits");
+    row("too large", "width = 2147483648",
+        "3: bad value '2147483648' for 'width': expected a whole number of 32 bits");
+    row("too small", "width = -2147483649",
+        "3: bad value '-2147483649' for 'width': expected a whole number of 32 bits");
+    row("unit", "width = 64 px",
+        "3: bad value '64 px' for 'width': expected a whole number of 32 bits");
+    row("unknown name", "entropy_mode = huffman",
+        "3: bad value 'huffman' for 'entropy_mode': expected cavlc, cabac, or a whole number of 32 "
+        "bits");
+    row("rate in words", "frame_rate = film",
+        "3: bad value 'film' for 'frame_rate': expected a number, a fraction or a bit pattern");
+    for (const char* bad : {"inf", "nan", "1e999", "1/0", "1/-2", "1/2/3", "0x7ff8", "25,0",
+                            "0x7ff800000000000g", "0x7ff80000000000000"})
+        QTest::addRow("rate %s", bad)
+            << inViewZero(QByteArray("frame_rate = ") + bad)
+            << QByteArray("3: bad value '") + bad +
+                   "' for 'frame_rate': expected a number, a fraction or a bit pattern";
+    row("odd digits", "bytes 260 = 000", "3: bad bytes: expected pairs of hexadecimal digits");
+    row("split pair", "bytes 260 = 0 0", "3: bad bytes: expected pairs of hexadecimal digits");
+    row("no digits", "bytes 260 = 0g", "3: bad bytes: expected pairs of hexadecimal digits");
+    row("no bytes", "bytes 260 =", "3: bad bytes: expected pairs of hexadecimal digits");
+    row("no offset", "bytes x = 00", "3: bad offset 'x' of bytes");
+    row("negative offset", "bytes -1 = 00", "3: bad offset '-1' of bytes");
+    row("behind the end", "bytes 8316 = 00",
+        "3: bytes beyond the end of section 'view 0', which has 8316 bytes");
+    row("across the end", "bytes 8315 = 0000",
+        "3: bytes beyond the end of section 'view 0', which has 8316 bytes");
+    row("far behind the end", "bytes 18446744073709551615 = 0000",
+        "3: bytes beyond the end of section 'view 0', which has 8316 bytes");
+    row("Latin-1", "# \xE4", "3: not valid UTF-8 text");
+    row("surrogate", "# \xED\xA0\x80", "3: not valid UTF-8 text");
+    row("overlong", "# \xC0\x80", "3: not valid UTF-8 text");
+    row("beyond Unicode", "# \xF4\x90\x80\x80", "3: not valid UTF-8 text");
+    row("cut character", "# \xE2\x82", "3: not valid UTF-8 text");
+    row("zero byte", QByteArray("width = 1\0", 10), "3: a control character");
+    row("escape", "# \x1B[2J", "3: a control character");
+    row("C1 control", "# \xC2\x9B", "3: a control character");
+    row("CR inside", "width = 1\rheight = 1", "3: a control character");
+    row("endless text", QByteArray(100, 'x'),
+        "3: neither a section nor a 'key = value' line: "
+        "'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...'");
+    QTest::newRow("before the first section")
+        << QByteArray("width = 1\n[record]")
+        << QByteArray("1: key 'width' before the first section");
+    QTest::newRow("empty") << QByteArray() << QByteArray("1: section 'record' is missing");
+    QTest::newRow("no view") << QByteArray("\n[record]\n")
+                             << QByteArray("2: section 'view 0' is missing");
+    QTest::newRow("UTF-16") << QByteArray("\xFF\xFE[\0r\0", 6)
+                            << QByteArray("1: not valid UTF-8 text");
+}
+
+void TestSettingsText::problemsNameTheirLine()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, problem);
+    QCOMPARE(QByteArray::fromStdString(firstProblem(text)), problem);
+    QCOMPARE(QByteArray::fromStdString(firstProblem(QByteArray(text).replace("\n", "\r\n"))),
+             problem);
+}
+
+void TestSettingsText::problemsAreAllReportedUpToTwenty()
+{
+    KvMvcSettings settings{};
+    const auto some = kv::parseSettings("[x]\nwidth = 1\n[record]\nnum_views=x\na=1\n", settings);
+    QCOMPARE(some.size(), std::size_t(3)); // a refused section's lines are not judged
+    QCOMPARE(some[1].line, std::size_t(4));
+    QCOMPARE(some[2].line, std::size_t(5));
+    const QByteArray many = QByteArray("nonsense\n").repeated(1000);
+    QCOMPARE(kv::parseSettings(many.toStdString(), settings).size(), std::size_t(20));
+}
+
+void TestSettingsText::recordStaysUntouchedByAFaultyText()
+{
+    KvMvcSettings settings = filledRecord(0x5A);
+    const auto problems = kv::parseSettings("[record]\nnum_views=2\n[view 0]\nx=1", settings);
+    QCOMPARE(problems.size(), std::size_t(1));
+    QVERIFY(same(settings, filledRecord(0x5A)));
+}
+
+} // namespace
+
+QTEST_APPLESS_MAIN(TestSettingsText)
+#include "tst_settings_text.moc"
