@@ -12,7 +12,7 @@
 
 #include <span>
 
-#include "limits.h"
+#include "level_limits.h"
 #include "report.h"
 #include "rule.h"
 #include "stream.h"

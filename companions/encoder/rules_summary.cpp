@@ -29,6 +29,7 @@ constexpr Rule<int, double, double> bufferTime = {
     "summary.buffer", Severity::Note, "View %d: a buffer of %.2f s, which starts after %.2f s.",
     "C.1.1: size and initial fullness over the rate"};
 
+// What exceeds a limit has its error already, and no note says it again.
 void tellRates(const Stream& stream, const Level* level, Report& report)
 {
     bool known = true;
@@ -39,7 +40,10 @@ void tellRates(const Stream& stream, const Level* level, Report& report)
         report.say(rateUnknown);
     } else if (level) {
         const auto limit = static_cast<double>(level->bitrate * stream.streamProfile()->nalFactor);
-        report.say(rate, static_cast<double>(stream.totalRate()), limit, level->name);
+        const auto total = static_cast<double>(stream.totalRate());
+        if (total <= limit) {
+            report.say(rate, total, limit, level->name);
+        }
     }
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
@@ -68,8 +72,10 @@ void tellSummary(const Stream& stream, const Level* level, Report& report)
         report.say(oneView, stream.profile->name, stream.profile->idc);
     }
     if (level && stream.frameMbs <= level->frameMbs) {
-        report.say(buffered, stream.totalReferences(), static_cast<int>(dpbFrames(stream, *level)),
-                   level->name);
+        const int frames = static_cast<int>(dpbFrames(stream, *level));
+        if (stream.totalReferences() <= frames) {
+            report.say(buffered, stream.totalReferences(), frames, level->name);
+        }
     }
     tellRates(stream, level, report);
 }

@@ -9,7 +9,7 @@
 
 #include <cstdint>
 
-#include "limits.h"
+#include "level_limits.h"
 
 namespace kv::encoder
 {

@@ -1,9 +1,9 @@
 /**
- * @file limits.h
+ * @file level_limits.h
  * The limits of H.264 (08/2021) for levels and profiles, as tables.
  */
-#ifndef KV_ENCODER_LIMITS_H
-#define KV_ENCODER_LIMITS_H
+#ifndef KV_ENCODER_LEVEL_LIMITS_H
+#define KV_ENCODER_LEVEL_LIMITS_H
 
 #include <cstdint>
 #include <span>

@@ -1,4 +1,4 @@
-#include "limits.h"
+#include "level_limits.h"
 
 #include <kv_config_gui_mvc/settings_record.h>
 

@@ -1,0 +1,55 @@
+// The encoder library as a host sees it: loaded by file name, called through its two functions.
+#pragma once
+
+#include <kv_config_gui_mvc/companions.h>
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QStringList>
+
+/** What one check said and did. */
+struct Outcome {
+    qint32 result = -1;
+    QByteArrayList formats[3]; ///< as passed to the error, warning and note sinks
+    QByteArrayList texts[3];   ///< formatted
+    QStringList rules;         ///< names of the rules behind the formats, in order
+
+    bool accepted() const { return result == 0; }
+    bool said(const QString& rule) const { return rules.contains(rule); }
+    QByteArrayList errors() const { return texts[0]; }
+    QByteArrayList warnings() const { return texts[1]; }
+    QByteArrayList notes() const { return texts[2]; }
+    /** All texts, for the message of a failing comparison. */
+    QByteArray all() const;
+};
+
+namespace encoder
+{
+
+/** The functions of kv_mvcenc, resolved by name; a test that cannot load it stops. */
+KvMvcDefaults defaultsFunction();
+KvMvcCheck checkFunction();
+
+/** A preset's record. */
+KvMvcSettings preset(int number);
+
+/** Checks the record through the real library; it may be corrected. */
+Outcome check(KvMvcSettings& record);
+
+/** Gives both views the same value of a field that all views share. */
+template <class Value>
+void setBoth(KvMvcSettings& record, Value KvMvcViewSettings::*field, Value value)
+{
+    for (KvMvcViewSettings& view : record.views) {
+        view.*field = value;
+    }
+}
+
+inline void setFrameRate(KvMvcSettings& record, double rate)
+{
+    for (KvMvcViewSettings& view : record.views) {
+        view.frame_rate = rate;
+    }
+}
+
+} // namespace encoder

@@ -1,0 +1,151 @@
+// What views have in common, and the multiview profiles.
+
+#include "cases.h"
+
+namespace
+{
+
+using Record = KvMvcSettings;
+using encoder::setBoth;
+using encoder::setFrameRate;
+
+constexpr RuleCase rows[] = {
+    {"views.picture", "same", 2, [](Record&) {}, false},
+    {"views.picture", "width differs", 2, [](Record& r) { r.views[1].width = 1280; }, true},
+    {"views.picture", "frame rate differs", 2, [](Record& r) { r.views[1].frame_rate = 25; }, true},
+    {"views.picture", "chroma differs", 2, [](Record& r) { r.views[1].chroma_format = 1; }, true},
+    {"views.picture", "differs in an unused view", 0, [](Record& r) { r.views[1].width = 1280; },
+     false},
+    {"views.stream", "level differs", 2, [](Record& r) { r.views[1].level = 51; }, true},
+    {"views.stream", "preset differs", 2, [](Record& r) { r.views[1].video_type = 1; }, true},
+    {"views.stream", "same", 2, [](Record&) {}, false},
+    {"views.gop", "interval differs", 2, [](Record& r) { r.views[1].i_interval = 12; }, true},
+    {"views.gop", "IDR marking differs", 2, [](Record& r) { r.views[1].idr_marker = 0; }, true},
+    {"views.gop", "same", 2, [](Record&) {}, false},
+    {"views.tools", "same", 2, [](Record&) {}, false},
+    {"views.tools", "slices differ", 2, [](Record& r) { r.views[1].num_slices = 5; }, true},
+    {"views.tools", "rates differ", 2, [](Record& r) { r.views[1].bitrate = 5000000; }, false},
+    {"views.tools", "differ in an unused view", 0, [](Record& r) { r.views[1].num_slices = 5; },
+     false},
+    {"views.beyond", "2 views", 1, [](Record&) {}, false},
+    {"views.beyond", "3 views", 1, [](Record& r) { r.num_views = 3; }, true},
+    {"views.split", "two views", 2, [](Record& r) { r.split_views = 1; }, false},
+    {"views.split", "one view", 0, [](Record& r) { r.split_views = 1; }, true},
+    {"mvc.stereo-views", "2 views", 2, [](Record&) {}, false},
+    {"mvc.stereo-views", "3 views", 2, [](Record& r) { r.num_views = 3; }, true},
+    {"mvc.stereo-views", "3 views of Blu-ray", 3, [](Record& r) { r.num_views = 3; }, true},
+    {"mvc.stereo-views", "4 views of Multiview High", 1, [](Record& r) { r.num_views = 4; }, false},
+    {"mvc.stereo-views", "3 views without preset", 0, [](Record& r) { r.num_views = 3; }, false},
+    {"mvc.frames", "Multiview High progressive", 1, [](Record&) {}, false},
+    {"mvc.frames", "Multiview High interlaced", 1,
+     [](Record& r) { setBoth(r, &V::interlace_mode, 1); }, true},
+    {"mvc.frames", "Multiview High MBAFF", 1, [](Record& r) { setBoth(r, &V::interlace_mode, 2); },
+     true},
+    {"mvc.frames", "Stereo High interlaced", 2,
+     [](Record& r) { setBoth(r, &V::interlace_mode, 1); }, false},
+    {"mvc.frames", "2 views without preset, interlaced", 0,
+     [](Record& r) {
+         r.num_views = 2;
+         setBoth(r, &V::interlace_mode, 1);
+     },
+     false},
+    {"mvc.frames", "3 views without preset, interlaced", 0,
+     [](Record& r) {
+         r.num_views = 3;
+         setBoth(r, &V::interlace_mode, 1);
+     },
+     true},
+    {"mvc.frames", "Multiview High reduced to one view", 1,
+     [](Record& r) {
+         r.num_views = 1;
+         setBoth(r, &V::interlace_mode, 1);
+     },
+     false},
+    {"mvc.base-profile", "High", 2, [](Record&) {}, false},
+    {"mvc.base-profile", "Main", 2, [](Record& r) { setBoth(r, &V::profile, 1); }, false},
+    {"mvc.base-profile", "Baseline", 2,
+     [](Record& r) {
+         setBoth(r, &V::ref_distance, 1);
+         setBoth(r, &V::entropy_mode, 0);
+         setBoth(r, &V::profile, 0);
+     },
+     false},
+    {"mvc.base-profile", "High 10", 2, [](Record& r) { setBoth(r, &V::profile, 4); }, true},
+    {"mvc.base-profile", "High 422", 2, [](Record& r) { setBoth(r, &V::profile, 5); }, true},
+    {"mvc.base-profile", "High 10 of one view", 0, [](Record& r) { setBoth(r, &V::profile, 4); },
+     false},
+    {"mvc.chroma", "4:2:2", 2, [](Record& r) { setBoth(r, &V::chroma_format, 3); }, true},
+    {"mvc.chroma", "4:0:0", 2, [](Record& r) { setBoth(r, &V::chroma_format, 1); }, false},
+    {"mvc.chroma", "4:2:2 of one view", 0, [](Record& r) { setBoth(r, &V::chroma_format, 3); },
+     false},
+    {"mvc.depth", "10 bits of luma", 2, [](Record& r) { setBoth(r, &V::bit_depth_luma, 10); },
+     true},
+    {"mvc.depth", "10 bits of chroma", 2, [](Record& r) { setBoth(r, &V::bit_depth_chroma, 10); },
+     true},
+    {"mvc.depth", "10 bits of no chroma", 2,
+     [](Record& r) {
+         setBoth(r, &V::bit_depth_chroma, 10);
+         setBoth(r, &V::chroma_format, 1);
+     },
+     false},
+    {"mvc.list-size", "7 and the other view", 2,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 7);
+     },
+     false},
+    {"mvc.list-size", "8 and the other view", 2,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 8);
+     },
+     true},
+    {"mvc.list-size", "8 in the base view only", 2,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         r.views[0].num_ref_frames = 8;
+         r.views[1].num_ref_frames = 7;
+     },
+     false},
+    {"mvc.list-size", "9 in the base view", 2,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         r.views[0].num_ref_frames = 9;
+         r.views[1].num_ref_frames = 1;
+     },
+     true},
+    {"mvc.list-size", "14 of 3 views", 1,
+     [](Record& r) {
+         r.num_views = 3;
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 14);
+     },
+     false},
+    {"mvc.list-size", "15 of 3 views", 1,
+     [](Record& r) {
+         r.num_views = 3;
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 15);
+     },
+     true},
+    {"mvc.list-size", "16 of one view", 0,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 16);
+     },
+     false},
+};
+
+} // namespace
+
+std::span<const RuleCase> viewCases()
+{
+    return rows;
+}

@@ -1,0 +1,223 @@
+// The check as a caller sees it: sinks, results, corrections in place, and a user's half-done
+// edits.
+
+#include <QTest>
+
+#include <cstring>
+
+#include "Encoder.h"
+
+namespace
+{
+
+using V = KvMvcViewSettings;
+using encoder::setBoth;
+
+int errorsHeard = 0;
+
+int hearError(const char*, ...)
+{
+    return ++errorsHeard;
+}
+
+KvMvcFunction noSinks(const char*)
+{
+    return nullptr;
+}
+
+KvMvcFunction errorSinkOnly(const char* name)
+{
+    return std::strcmp(name, "err_printf") == 0 ? reinterpret_cast<KvMvcFunction>(hearError)
+                                                : nullptr;
+}
+
+/** A record with a correction, an error and notes. */
+KvMvcSettings faulty()
+{
+    KvMvcSettings record = encoder::preset(2);
+    setBoth(record, &V::i_interval, 999);
+    setBoth(record, &V::level, 30);
+    return record;
+}
+
+} // namespace
+
+class TestEncoderCheck : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void worksWithoutSinks_data();
+    void worksWithoutSinks();
+    void usesTheSinksThatThereAre();
+    void refusesANullRecord();
+    void treatsAllStagesAlike();
+    void formatsAreHandedOverUnformatted();
+    void viewOneGetsWhatAllViewsShare();
+    void anUnusedViewIsLeftAlone();
+    void halfDoneEditsSurvive_data();
+    void halfDoneEditsSurvive();
+    void constantBitrateLeavesTheHrdSwitchAlone();
+    void changingUnitsKeepsTheInitialFullness();
+    void messagesOfALevelThatIsTooLowAreFew();
+};
+
+void TestEncoderCheck::worksWithoutSinks_data()
+{
+    QTest::addColumn<bool>("lookup");
+    QTest::newRow("a lookup that knows nothing") << true;
+    QTest::newRow("no lookup") << false;
+}
+
+void TestEncoderCheck::worksWithoutSinks()
+{
+    QFETCH(const bool, lookup);
+    KvMvcSettings record = faulty();
+    QVERIFY(encoder::checkFunction()(lookup ? noSinks : nullptr, &record, 3, 0) != 0);
+    QCOMPARE(record.views[0].i_interval, 300);
+    KvMvcSettings good = encoder::preset(2);
+    QCOMPARE(encoder::checkFunction()(lookup ? noSinks : nullptr, &good, 3, 0), 0);
+}
+
+void TestEncoderCheck::usesTheSinksThatThereAre()
+{
+    errorsHeard = 0;
+    KvMvcSettings record = faulty();
+    QVERIFY(encoder::checkFunction()(errorSinkOnly, &record, 3, 0) != 0);
+    KvMvcSettings same = faulty();
+    QCOMPARE(errorsHeard, encoder::check(same).errors().size());
+}
+
+void TestEncoderCheck::refusesANullRecord()
+{
+    QVERIFY(encoder::checkFunction()(noSinks, nullptr, 3, 0) != 0);
+}
+
+void TestEncoderCheck::treatsAllStagesAlike()
+{
+    for (const int stage : {-1, 0, 1, 3, 100}) {
+        KvMvcSettings record = faulty();
+        QVERIFY(encoder::checkFunction()(noSinks, &record, stage, stage) != 0);
+        QCOMPARE(record.views[0].i_interval, 300);
+    }
+}
+
+void TestEncoderCheck::formatsAreHandedOverUnformatted()
+{
+    // A localization library looks formats up, so numbers and names may not be in them.
+    KvMvcSettings record = faulty();
+    const Outcome outcome = encoder::check(record);
+    QVERIFY(outcome.formats[1].contains("The I-frame interval was %d; it is now %d (%d to %d)."));
+    QVERIFY(outcome.texts[1].contains("The I-frame interval was 999; it is now 300 (0 to 300)."));
+    QVERIFY(outcome.formats[2].contains("Level %s is the lowest that fits."));
+}
+
+void TestEncoderCheck::viewOneGetsWhatAllViewsShare()
+{
+    // One view edited, then a second one added: it still has the preset's picture.
+    KvMvcSettings record = encoder::preset(0);
+    record.views[0].width = 1280;
+    record.views[0].height = 720;
+    record.views[0].frame_rate = 25;
+    record.views[0].ref_distance = 1;
+    record.num_views = 2;
+    const int rate = record.views[1].bitrate;
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.accepted(), outcome.all().constData());
+    QCOMPARE(outcome.warnings().size(), 2);
+    QCOMPARE(record.views[1].width, 1280);
+    QCOMPARE(record.views[1].height, 720);
+    const double frameRate = record.views[1].frame_rate;
+    QVERIFY(frameRate == 25);
+    QCOMPARE(record.views[1].ref_distance, 1);
+    QCOMPARE(record.views[1].bitrate, rate);
+}
+
+void TestEncoderCheck::anUnusedViewIsLeftAlone()
+{
+    KvMvcSettings record = encoder::preset(0);
+    std::memset(&record.views[1], 0xa5, sizeof record.views[1]);
+    const KvMvcSettings before = record;
+    QVERIFY(encoder::check(record).accepted());
+    QVERIFY(std::memcmp(&before, &record, sizeof record) == 0);
+}
+
+void TestEncoderCheck::halfDoneEditsSurvive_data()
+{
+    QTest::addColumn<int>("row");
+    int row = 0;
+    // Controls that report each keystroke: 250 is typed by way of 2 and 25.
+    QTest::newRow("I interval, first digit") << row++;
+    QTest::newRow("minimum distance above the interval") << row++;
+    QTest::newRow("slices, first digit") << row++;
+    QTest::newRow("reference frames, first digit") << row++;
+    QTest::newRow("minimum quantizer before the maximum") << row++;
+    QTest::newRow("profile before its tools") << row++;
+    QTest::newRow("buffer taken away") << row++;
+    QTest::newRow("odd width of a kept aspect ratio") << row++;
+    QTest::newRow("custom aspect ratio before its parts") << row++;
+    QTest::newRow("level before the picture") << row++;
+}
+
+void TestEncoderCheck::halfDoneEditsSurvive()
+{
+    QFETCH(const int, row);
+    const struct {
+        std::int32_t V::*field;
+        int value;
+        bool accepted;
+    } edits[] = {
+        {&V::i_interval, 2, false},     {&V::force_i, 250, false}, {&V::num_slices, 1, false},
+        {&V::num_ref_frames, 1, false}, {&V::quant_min, 51, true}, {&V::profile, 0, false},
+        {&V::bitrate_buffer, 0, false}, {&V::width, 1333, false},  {&V::display_aspect_x, -1, true},
+        {&V::level, 10, false},
+    };
+    KvMvcSettings record = encoder::preset(2);
+    setBoth(record, edits[row].field, edits[row].value);
+    if (edits[row].field == &V::display_aspect_x) {
+        setBoth(record, &V::display_aspect_y, -1); // the dialog sets the pair
+    }
+    if (edits[row].field == &V::num_slices) {
+        setBoth(record, &V::multi_slice, 0); // the dialog derives it
+    }
+    const KvMvcSettings before = record;
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.accepted() == edits[row].accepted, outcome.all().constData());
+    QVERIFY2(std::memcmp(&before, &record, sizeof record) == 0, outcome.all().constData());
+}
+
+void TestEncoderCheck::constantBitrateLeavesTheHrdSwitchAlone()
+{
+    for (const int hrd : {0, 1}) {
+        KvMvcSettings record = encoder::preset(2);
+        setBoth(record, &V::bitrate_mode, int{KV_MVC_CONSTANT_BITRATE});
+        setBoth(record, &V::hrd_mode, hrd);
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(outcome.accepted(), outcome.all().constData());
+        QCOMPARE(record.views[0].hrd_mode, hrd);
+        QCOMPARE(record.views[0].max_bitrate, record.views[0].bitrate);
+    }
+}
+
+void TestEncoderCheck::changingUnitsKeepsTheInitialFullness()
+{
+    // 50 percent become 50 bits: a poor start that the user is told about, not a corrected one.
+    KvMvcSettings record = encoder::preset(2);
+    setBoth(record, &V::bitrate_units, int{KV_MVC_UNITS_BITS});
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.accepted(), outcome.all().constData());
+    QVERIFY(outcome.said(QStringLiteral("hrd.initial-short")));
+    QCOMPARE(record.views[0].vbv_initial, 50);
+    QCOMPARE(record.views[0].vbv_target, 50);
+}
+
+void TestEncoderCheck::messagesOfALevelThatIsTooLowAreFew()
+{
+    KvMvcSettings record = encoder::preset(2);
+    setBoth(record, &V::level, 10);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.errors().size() <= 4, outcome.all().constData());
+}
+
+QTEST_GUILESS_MAIN(TestEncoderCheck)
+#include "tst_encoder_check.moc"

@@ -1,0 +1,479 @@
+// Every level at its limits: the largest value that passes, and the next that does not.
+
+#include <QTest>
+
+#include "Encoder.h"
+
+#include <cmath>
+
+namespace
+{
+
+using V = KvMvcViewSettings;
+using encoder::setBoth;
+
+/** Table A-1 of H.264 (08/2021), with pictures that lie on its edges. */
+struct LevelRow {
+    int code;
+    const char* name;
+    int fullWidth, fullHeight; ///< macroblocks: exactly MaxFS
+    int side, sideHeight;      ///< most macroblocks in a row, and rows that still fit one more
+    double mbRate;
+    int dpbFrames;   ///< of the full picture
+    int dpbTwoViews; ///< of the full picture, reference frames in each of two views
+    int bitrate;     ///< MaxBR
+    int buffer;      ///< MaxCPB
+    int minCompression;
+    int slices; ///< most slices of a picture of one macroblock column; 0: no limit
+    bool interlaced;
+};
+
+// clang-format off
+constexpr LevelRow levelRows[] = {
+    //code name   full      side       MaxMBPS  DPB 2   MaxBR   MaxCPB MinCR slices
+    {10, "1",    11,   9,   28,  3,     1485,   4,  4,     64,    175, 2,   0, false},
+    {11, "1.1",  22,  18,   56,  6,     3000,   2,  2,    192,    500, 2,   0, false},
+    {12, "1.2",  22,  18,   56,  6,     6000,   6,  6,    384,   1000, 2,   0, false},
+    {13, "1.3",  22,  18,   56,  6,    11880,   6,  6,    768,   2000, 2,   0, false},
+    {20, "2",    22,  18,   56,  6,    11880,   6,  6,   2000,   2000, 2,   0, false},
+    {21, "2.1",  36,  22,   79,  9,    19800,   6,  6,   4000,   4000, 2,   0, true},
+    {22, "2.2",  45,  36,  113, 14,    20250,   5,  5,   4000,   4000, 2,   0, true},
+    {30, "3",    45,  36,  113, 14,    40500,   5,  5,  10000,  10000, 2,  10, true},
+    {31, "3.1",  80,  45,  169, 21,   108000,   5,  5,  14000,  14000, 4,  10, true},
+    {32, "3.2",  80,  64,  202, 25,   216000,   4,  4,  20000,  20000, 4,  20, true},
+    {40, "4",   128,  64,  256, 31,   245760,   4,  4,  20000,  25000, 4,  23, true},
+    {41, "4.1", 128,  64,  256, 31,   245760,   4,  4,  50000,  62500, 2,  59, true},
+    {42, "4.2", 136,  64,  263, 32,   522240,   4,  4,  50000,  62500, 2, 126, false},
+    {50, "5",   184, 120,  420, 52,   589824,   5,  5, 135000, 135000, 2, 142, false},
+    {51, "5.1", 192, 192,  543, 67,   983040,   5,  5, 240000, 240000, 2, 238, false},
+    {52, "5.2", 192, 192,  543, 67,  2073600,   5,  5, 240000, 240000, 2, 502, false},
+};
+// clang-format on
+
+void setSize(KvMvcSettings& record, int widthMbs, int heightMbs)
+{
+    setBoth(record, &V::width, widthMbs * 16);
+    setBoth(record, &V::height, heightMbs * 16);
+}
+
+/** A record that every level takes: P frames, one slice, 64 kbit/s, one full picture a second. */
+KvMvcSettings modest(const LevelRow& row)
+{
+    KvMvcSettings record = encoder::preset(0);
+    setBoth(record, &V::level, row.code);
+    setBoth(record, &V::ref_distance, 1);
+    setBoth(record, &V::num_ref_frames, 1);
+    setBoth(record, &V::num_slices, 1);
+    setBoth(record, &V::multi_slice, 0);
+    setBoth(record, &V::bitrate, 64);
+    setBoth(record, &V::max_bitrate, 64);
+    setBoth(record, &V::bitrate_units, int{KV_MVC_UNITS_BITS});
+    setBoth(record, &V::bitrate_buffer, 64000);
+    setBoth(record, &V::vbv_initial, 32000);
+    setBoth(record, &V::vbv_target, 32000);
+    setBoth(record, &V::motion_search, 16);
+    encoder::setFrameRate(record, 1);
+    setSize(record, row.fullWidth, row.fullHeight);
+    return record;
+}
+
+/** Checks both sides of a limit: without any error, and with the one error that is meant. */
+void compareSides(KvMvcSettings within, KvMvcSettings beyond, const char* rule)
+{
+    const Outcome passes = encoder::check(within);
+    QVERIFY2(passes.accepted() && passes.warnings().isEmpty(), passes.all().constData());
+    const Outcome fails = encoder::check(beyond);
+    // Beyond the highest levels a second error says that no level is left.
+    const int none = fails.said(QStringLiteral("level.none")) ? 1 : 0;
+    QVERIFY2(!fails.accepted() && fails.errors().size() == 1 + none, fails.all().constData());
+    QVERIFY2(fails.said(QString::fromLatin1(rule)), fails.all().constData());
+}
+
+template <class Change>
+void compareSides(const KvMvcSettings& start, Change change, int within, int beyond,
+                  const char* rule)
+{
+    KvMvcSettings first = start;
+    change(first, within);
+    KvMvcSettings second = start;
+    change(second, beyond);
+    compareSides(first, second, rule);
+}
+
+void setField(KvMvcSettings& record, std::int32_t V::*field, int value)
+{
+    setBoth(record, field, value);
+}
+
+} // namespace
+
+class TestEncoderLevels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pictureSize_data() { levels(); }
+    void pictureSize();
+    void pictureSides_data() { levels(); }
+    void pictureSides();
+    void macroblockRate_data() { levels(); }
+    void macroblockRate();
+    void macroblockRateOfTwoViews_data() { levels(); }
+    void macroblockRateOfTwoViews();
+    void references_data() { levels(); }
+    void references();
+    void referencesOfTwoViews_data() { levels(); }
+    void referencesOfTwoViews();
+    void bitrate_data() { levels(); }
+    void bitrate();
+    void bitrateOfTwoViews_data() { levels(); }
+    void bitrateOfTwoViews();
+    void buffer_data() { levels(); }
+    void buffer();
+    void pictureBytes_data() { levels(); }
+    void pictureBytes();
+    void slices_data() { levels(); }
+    void slices();
+    void interlace_data() { levels(); }
+    void interlace();
+    void factors_data();
+    void factors();
+    void severalViewsOf1080Lines_data();
+    void severalViewsOf1080Lines();
+    void automaticLevel_data();
+    void automaticLevel();
+    void automaticLevelKeepsItsCode();
+    void lowestLevelIsTold();
+
+private:
+    void levels();
+    const LevelRow& row() const;
+};
+
+void TestEncoderLevels::levels()
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const LevelRow& row : levelRows) {
+        QTest::addRow("level %s", row.name) << index++;
+    }
+}
+
+const LevelRow& TestEncoderLevels::row() const
+{
+    QFETCH(const int, index);
+    return levelRows[index];
+}
+
+void TestEncoderLevels::pictureSize()
+{
+    const auto change = [this](KvMvcSettings& record, int height) {
+        setSize(record, row().fullWidth, height);
+    };
+    compareSides(modest(row()), change, row().fullHeight, row().fullHeight + 1, "level.picture");
+}
+
+void TestEncoderLevels::pictureSides()
+{
+    const auto wide = [this](KvMvcSettings& record, int side) {
+        setSize(record, side, row().sideHeight);
+    };
+    compareSides(modest(row()), wide, row().side, row().side + 1, "level.side");
+    const auto high = [this](KvMvcSettings& record, int side) {
+        setSize(record, row().sideHeight, side);
+    };
+    compareSides(modest(row()), high, row().side, row().side + 1, "level.side");
+}
+
+void TestEncoderLevels::macroblockRate()
+{
+    KvMvcSettings within = modest(row());
+    KvMvcSettings beyond = within;
+    const double most = row().mbRate / (row().fullWidth * row().fullHeight);
+    encoder::setFrameRate(within, most);
+    encoder::setFrameRate(beyond, most * 1.0001);
+    compareSides(within, beyond, "level.rate");
+}
+
+void TestEncoderLevels::macroblockRateOfTwoViews()
+{
+    // Twice the macroblocks, and twice the limit.
+    KvMvcSettings within = modest(row());
+    within.num_views = 2;
+    setBoth(within, &V::num_slices, 9); // enough for slices of a quarter of the limit
+    setBoth(within, &V::multi_slice, 1);
+    KvMvcSettings beyond = within;
+    const double most = row().mbRate / (row().fullWidth * row().fullHeight);
+    encoder::setFrameRate(within, most);
+    encoder::setFrameRate(beyond, most * 1.0001);
+    compareSides(within, beyond, "level.rate-views");
+}
+
+void TestEncoderLevels::references()
+{
+    const auto change = [](KvMvcSettings& record, int frames) {
+        setField(record, &V::num_ref_frames, frames);
+    };
+    compareSides(modest(row()), change, row().dpbFrames, row().dpbFrames + 1, "level.dpb");
+}
+
+void TestEncoderLevels::referencesOfTwoViews()
+{
+    KvMvcSettings record = modest(row());
+    record.num_views = 2;
+    setBoth(record, &V::num_slices, 9);
+    setBoth(record, &V::multi_slice, 1);
+    const auto change = [](KvMvcSettings& changed, int frames) {
+        setField(changed, &V::num_ref_frames, frames);
+    };
+    compareSides(record, change, row().dpbTwoViews, row().dpbTwoViews + 1, "level.dpb-views");
+}
+
+void TestEncoderLevels::bitrate()
+{
+    const auto change = [](KvMvcSettings& record, int rate) {
+        setField(record, &V::max_bitrate, rate);
+    };
+    const int most = row().bitrate * 1500;
+    compareSides(modest(row()), change, most, most + 1, "level.bitrate");
+
+    KvMvcSettings record = modest(row());
+    change(record, row().bitrate * 1250);
+    QVERIFY(!encoder::check(record).said(QStringLiteral("level.bitrate-vcl")));
+    change(record, row().bitrate * 1250 + 1);
+    QVERIFY(encoder::check(record).said(QStringLiteral("level.bitrate-vcl")));
+}
+
+void TestEncoderLevels::bitrateOfTwoViews()
+{
+    // The limit is not doubled.
+    KvMvcSettings record = modest(row());
+    record.num_views = 2;
+    setBoth(record, &V::num_slices, 9);
+    setBoth(record, &V::multi_slice, 1);
+    record.views[0].max_bitrate = row().bitrate * 1000;
+    const auto change = [](KvMvcSettings& changed, int rate) {
+        changed.views[1].max_bitrate = rate;
+    };
+    compareSides(record, change, row().bitrate * 500, row().bitrate * 500 + 1,
+                 "level.bitrate-views");
+}
+
+void TestEncoderLevels::buffer()
+{
+    const auto change = [](KvMvcSettings& record, int bits) {
+        setField(record, &V::bitrate_buffer, bits);
+    };
+    const int most = row().buffer * 1500;
+    compareSides(modest(row()), change, most, most + 1, "level.buffer");
+
+    KvMvcSettings record = modest(row());
+    change(record, row().buffer * 1250);
+    QVERIFY(!encoder::check(record).said(QStringLiteral("level.buffer-vcl")));
+    change(record, row().buffer * 1250 + 1);
+    QVERIFY(encoder::check(record).said(QStringLiteral("level.buffer-vcl")));
+}
+
+void TestEncoderLevels::pictureBytes()
+{
+    KvMvcSettings record = modest(row());
+    setBoth(record, &V::hrd_mode, 0); // the buffer has limits of its own
+    const int first = 384 * row().fullWidth * row().fullHeight / row().minCompression;
+    const auto changeI = [](KvMvcSettings& changed, int bytes) {
+        setField(changed, &V::frame_size_i, bytes);
+    };
+    compareSides(record, changeI, first, first + 1, "level.size-i");
+    // One picture a second.
+    const int later = static_cast<int>(384 * row().mbRate / row().minCompression);
+    const auto changeP = [](KvMvcSettings& changed, int bytes) {
+        setField(changed, &V::frame_size_p, bytes);
+    };
+    compareSides(record, changeP, later, later + 1, "level.size-p");
+}
+
+void TestEncoderLevels::slices()
+{
+    const int limit = row().slices;
+    KvMvcSettings record = modest(row());
+    setBoth(record, &V::multi_slice, 1);
+    setSize(record, 1, limit == 0 ? row().side : limit + 1);
+    if (limit == 0) {
+        setBoth(record, &V::num_slices, row().side);
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(outcome.accepted(), outcome.all().constData());
+        return;
+    }
+    const auto change = [](KvMvcSettings& changed, int slices) {
+        setField(changed, &V::num_slices, slices);
+    };
+    compareSides(record, change, limit, limit + 1, "level.slices-most");
+}
+
+void TestEncoderLevels::interlace()
+{
+    for (const int mode : {1, 2}) {
+        KvMvcSettings record = modest(row());
+        setSize(record, 8, 8);
+        setBoth(record, &V::interlace_mode, mode);
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(outcome.accepted() == row().interlaced, outcome.all().constData());
+        QCOMPARE(outcome.said(QStringLiteral("level.interlace")), !row().interlaced);
+    }
+}
+
+void TestEncoderLevels::factors_data()
+{
+    QTest::addColumn<int>("profile");
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<int>("buffer");
+    // At level 4.1: 50000 and 62500 times the NAL factor.
+    QTest::newRow("Baseline, 1200") << 0 << 60000000 << 75000000;
+    QTest::newRow("Main, 1200") << 1 << 60000000 << 75000000;
+    QTest::newRow("High, 1500") << 3 << 75000000 << 93750000;
+    QTest::newRow("High 10, 3600") << 4 << 180000000 << 225000000;
+    QTest::newRow("High 4:2:2, 4800") << 5 << 240000000 << 300000000;
+}
+
+void TestEncoderLevels::factors()
+{
+    QFETCH(const int, profile);
+    QFETCH(const int, rate);
+    QFETCH(const int, buffer);
+    KvMvcSettings record = modest(levelRows[11]);
+    setSize(record, 45, 36); // a slice of any profile may hold this many macroblocks
+    setBoth(record, &V::profile, profile);
+    setBoth(record, &V::entropy_mode, 0);
+    const auto changeRate = [](KvMvcSettings& changed, int value) {
+        setField(changed, &V::max_bitrate, value);
+    };
+    compareSides(record, changeRate, rate, rate + 1, "level.bitrate");
+    const auto changeBuffer = [](KvMvcSettings& changed, int value) {
+        setField(changed, &V::bitrate_buffer, value);
+    };
+    compareSides(record, changeBuffer, buffer, buffer + 1, "level.buffer");
+}
+
+void TestEncoderLevels::severalViewsOf1080Lines_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<int>("views");
+    QTest::addColumn<double>("frameRate"); // fits; a tenth more does not
+    QTest::addColumn<int>("references");   // of each view; one more does not fit
+    QTest::newRow("4.1, 2") << 41 << 2 << 30.1 << 4;
+    QTest::newRow("4.1, 3") << 41 << 3 << 20.0 << 2;
+    QTest::newRow("4.1, 4") << 41 << 4 << 15.0 << 2;
+    QTest::newRow("4.2, 2") << 42 << 2 << 64.0 << 4;
+    QTest::newRow("4.2, 3") << 42 << 3 << 42.6 << 2;
+    QTest::newRow("4.2, 4") << 42 << 4 << 32.0 << 2;
+    QTest::newRow("5, 3") << 50 << 3 << 48.1 << 9;
+    QTest::newRow("5, 4") << 50 << 4 << 36.1 << 6;
+    QTest::newRow("5.1, 3") << 51 << 3 << 80.3 << 10;
+    QTest::newRow("5.1, 4") << 51 << 4 << 60.2 << 8;
+    QTest::newRow("5.2, 3") << 52 << 3 << 169.4 << 10;
+    QTest::newRow("5.2, 4") << 52 << 4 << 127.0 << 8;
+}
+
+void TestEncoderLevels::severalViewsOf1080Lines()
+{
+    QFETCH(const int, level);
+    QFETCH(const int, views);
+    QFETCH(const double, frameRate);
+    QFETCH(const int, references);
+    KvMvcSettings start = encoder::preset(1);
+    start.num_views = views;
+    setBoth(start, &V::level, level);
+    setBoth(start, &V::max_bitrate, 12800000);
+    setBoth(start, &V::bitrate, 10000000);
+    setBoth(start, &V::bitrate_buffer, 1600000);
+    encoder::setFrameRate(start, 10);
+    setBoth(start, &V::num_ref_frames, 2);
+
+    KvMvcSettings within = start;
+    encoder::setFrameRate(within, frameRate);
+    KvMvcSettings beyond = start;
+    encoder::setFrameRate(beyond, frameRate + 0.15);
+    compareSides(within, beyond, "level.rate-views");
+    const auto change = [](KvMvcSettings& changed, int frames) {
+        setField(changed, &V::num_ref_frames, frames);
+    };
+    compareSides(start, change, references, references + 1, "level.dpb-views");
+}
+
+void TestEncoderLevels::automaticLevel_data()
+{
+    QTest::addColumn<int>("widthMbs");
+    QTest::addColumn<int>("heightMbs");
+    QTest::addColumn<double>("frameRate");
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<QByteArray>("level");
+    const auto add = [](const char* name, int width, int height, double frameRate, int rate,
+                        const char* level) {
+        QTest::newRow(name) << width << height << frameRate << rate << QByteArray(level);
+    };
+    add("the least", 1, 1, 1, 64, "1");
+    add("most of 1", 11, 9, 15, 96000, "1");
+    add("rate beyond 1", 11, 9, 15, 96001, "1b");
+    add("most of 1b", 11, 9, 15, 192000, "1b");
+    add("rate beyond 1b", 11, 9, 15, 192001, "1.1");
+    add("frames beyond 1", 11, 9, 15.01, 64, "1.1");
+    add("rate beyond 1.1", 11, 9, 15, 288001, "1.2");
+    add("rate beyond 1.2", 11, 9, 15, 576001, "1.3");
+    add("rate beyond 1.3", 11, 9, 15, 1152001, "2");
+    add("frames beyond 2", 22, 18, 30.1, 64, "2.1");
+    add("picture beyond 2.1", 45, 36, 12.5, 64, "2.2");
+    add("frames beyond 2.2", 45, 36, 25, 64, "3");
+    add("1280 x 720 at 30", 80, 45, 30, 64, "3.1");
+    add("1280 x 720 at 60", 80, 45, 60, 64, "3.2");
+    add("1920 x 1080 at 30", 120, 68, 30, 30000000, "4");
+    add("rate beyond 4", 120, 68, 30, 30000001, "4.1");
+    add("1920 x 1080 at 50", 120, 68, 50, 64, "4.2");
+    add("2560 x 1440 at 30", 160, 90, 30, 64, "5");
+    add("3840 x 2160 at 30", 240, 135, 30, 64, "5.1");
+    add("3840 x 2160 at 60", 240, 135, 60, 64, "5.2");
+}
+
+void TestEncoderLevels::automaticLevel()
+{
+    QFETCH(const int, widthMbs);
+    QFETCH(const int, heightMbs);
+    QFETCH(const double, frameRate);
+    QFETCH(const int, rate);
+    QFETCH(const QByteArray, level);
+    KvMvcSettings record = modest(levelRows[0]);
+    setBoth(record, &V::level, int{KV_MVC_LEVEL_AUTO});
+    setSize(record, widthMbs, heightMbs);
+    encoder::setFrameRate(record, frameRate);
+    setBoth(record, &V::max_bitrate, rate);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.accepted(), outcome.all().constData());
+    QVERIFY2(
+        outcome.notes().contains("Level Auto comes to level " + level + ", the lowest that fits."),
+        outcome.all().constData());
+}
+
+void TestEncoderLevels::automaticLevelKeepsItsCode()
+{
+    for (const int number : {0, 1, 2, 3}) {
+        KvMvcSettings record = encoder::preset(number);
+        setBoth(record, &V::level, int{KV_MVC_LEVEL_AUTO});
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(outcome.accepted(), outcome.all().constData());
+        QCOMPARE(record.views[0].level, 100);
+        QCOMPARE(record.views[1].level, 100);
+        QVERIFY(outcome.said(QStringLiteral("level.auto")));
+    }
+}
+
+void TestEncoderLevels::lowestLevelIsTold()
+{
+    // Also of a level that is too low, so that the user sees where to go.
+    KvMvcSettings record = encoder::preset(2);
+    setBoth(record, &V::level, 30);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY(!outcome.accepted());
+    QVERIFY2(outcome.notes().contains("Level 4.1 is the lowest that fits."),
+             outcome.all().constData());
+}
+
+QTEST_GUILESS_MAIN(TestEncoderLevels)
+#include "tst_encoder_levels.moc"

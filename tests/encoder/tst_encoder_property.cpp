@@ -1,0 +1,289 @@
+// What holds for every record, whatever its bytes: the check is deterministic, its corrections are
+// stable, and it writes nothing but listed fields.
+
+#include <QTest>
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "Encoder.h"
+
+namespace
+{
+
+// Offsets in a view sub-record of the fields of four bytes.
+constexpr int fieldOffsets[] = {
+    0,    4,    8,    12,   20,   24,   28,   40,   44,   60,   64,   68,   72,   76,   80,
+    84,   88,   92,   96,   100,  104,  124,  128,  132,  160,  164,  168,  172,  176,  256,
+    1804, 1808, 2244, 2248, 2252, 2836, 2844, 2848, 2852, 2856, 2868, 2872, 2880, 2884, 2888,
+    2892, 2904, 2916, 2920, 4100, 4104, 4108, 4112, 4116, 4316, 4320, 5116, 5492, 5496, 5500,
+};
+constexpr int frameRateOffset = 32;
+constexpr int viewOffset = 256;
+constexpr int viewSize = 8316;
+
+std::string texts[3];
+
+template <int kind>
+int sink(const char* format, ...)
+{
+    char text[512];
+    va_list arguments;
+    va_start(arguments, format);
+    const int length = std::vsnprintf(text, sizeof text, format, arguments);
+    va_end(arguments);
+    texts[kind].append(text).append("\n");
+    return length;
+}
+
+KvMvcFunction lookUp(const char* name)
+{
+    return std::strcmp(name, "err_printf") == 0   ? reinterpret_cast<KvMvcFunction>(sink<0>)
+           : std::strcmp(name, "wrn_printf") == 0 ? reinterpret_cast<KvMvcFunction>(sink<1>)
+           : std::strcmp(name, "inf_printf") == 0 ? reinterpret_cast<KvMvcFunction>(sink<2>)
+                                                  : nullptr;
+}
+
+struct Verdict {
+    qint32 result;
+    std::string errors, warnings, notes;
+
+    bool operator==(const Verdict&) const = default;
+};
+
+Verdict check(KvMvcSettings& record)
+{
+    for (std::string& text : texts) {
+        text.clear();
+    }
+    const qint32 result = encoder::checkFunction()(lookUp, &record, 3, 0);
+    return {result, texts[0], texts[1], texts[2]};
+}
+
+class Records
+{
+public:
+    KvMvcSettings next(bool nearValid)
+    {
+        KvMvcSettings record = encoder::preset(pick(0, 3));
+        if (nearValid) {
+            scatterReserved(record);
+            for (int edits = pick(1, 6); edits > 0; --edits) {
+                edit(record);
+            }
+            return record;
+        }
+        auto* bytes = reinterpret_cast<unsigned char*>(&record);
+        for (std::size_t i = 0; i + 4 <= sizeof record; i += 4) {
+            const auto word = static_cast<std::uint32_t>(m_random());
+            std::memcpy(bytes + i, &word, 4);
+        }
+        record.num_views = pick(-1, 6);
+        for (int v = 0; v < 2; ++v) {
+            for (const int offset : fieldOffsets) {
+                setField(record, v, offset, value());
+            }
+            setFrameRate(record, v);
+        }
+        return record;
+    }
+
+private:
+    int pick(int low, int high) { return std::uniform_int_distribution(low, high)(m_random); }
+
+    int value()
+    {
+        static constexpr int odd[] = {INT32_MIN, INT32_MIN + 1,
+                                      -65536,    -1,
+                                      0,         1,
+                                      2,         3,
+                                      4,         7,
+                                      8,         10,
+                                      15,        16,
+                                      41,        51,
+                                      52,        62,
+                                      100,       101,
+                                      255,       300,
+                                      1080,      1920,
+                                      4096,      65535,
+                                      65536,     46341,
+                                      30000000,  INT32_MAX - 1,
+                                      INT32_MAX};
+        switch (pick(0, 3)) {
+        case 0:
+            return static_cast<int>(static_cast<std::uint32_t>(m_random()));
+        case 1:
+            return pick(-2, 12);
+        case 2:
+            return pick(0, 5000);
+        default:
+            return odd[static_cast<std::size_t>(pick(0, int{std::size(odd)} - 1))];
+        }
+    }
+
+    static void setField(KvMvcSettings& record, int v, int offset, int value)
+    {
+        auto* bytes = reinterpret_cast<unsigned char*>(&record);
+        std::memcpy(bytes + viewOffset + v * viewSize + offset, &value, 4);
+    }
+
+    void setFrameRate(KvMvcSettings& record, int v)
+    {
+        static constexpr double odd[] = {0.0,  -0.0,   -1.0, 1.0,  7.6,  24.0,   25.0,  30.0,
+                                         60.0, 171.99, 172., 173., 1e-9, 1e-310, 1e300, 5e-324};
+        const int choice = pick(0, 18);
+        double rate = 24000.0 / 1001;
+        if (choice < 16) {
+            rate = odd[choice];
+        } else if (choice == 16) {
+            rate = qInf();
+        } else if (choice == 17) {
+            rate = qQNaN();
+        } else {
+            const std::uint64_t bits = m_random();
+            std::memcpy(&rate, &bits, sizeof rate);
+        }
+        record.views[v].frame_rate = rate;
+    }
+
+    // An edit as the dialog makes it, or as a file brings it: one field, of both views or of one.
+    void edit(KvMvcSettings& record)
+    {
+        const int what = pick(0, 9);
+        if (what == 0) {
+            record.num_views = pick(-1, 6);
+        } else if (what == 1) {
+            record.split_views = pick(-1, 2);
+        } else if (what == 2) {
+            setFrameRate(record, 0);
+            if (pick(0, 1) == 0) {
+                const double rate = record.views[0].frame_rate;
+                record.views[1].frame_rate = rate;
+            }
+        } else {
+            const int offset =
+                fieldOffsets[static_cast<std::size_t>(pick(0, int{std::size(fieldOffsets)} - 1))];
+            const int now = value();
+            const int which = pick(0, 3);
+            for (int v = 0; v < 2; ++v) {
+                if (which >= 2 || which == v) {
+                    setField(record, v, offset, now);
+                }
+            }
+        }
+    }
+
+    void scatterReserved(KvMvcSettings& record)
+    {
+        for (std::uint8_t& byte : record.reserved_8) {
+            byte = static_cast<std::uint8_t>(m_random());
+        }
+        for (KvMvcViewSettings& view : record.views) {
+            for (std::uint8_t& byte : view.reserved_260) {
+                byte = static_cast<std::uint8_t>(m_random());
+            }
+        }
+    }
+
+    std::mt19937_64 m_random{20240229};
+};
+
+/** 1 for bytes that the check may write, with so many sub-records in use. */
+std::vector<char> writable(int subRecords)
+{
+    std::vector<char> map(sizeof(KvMvcSettings), 0);
+    std::fill_n(map.begin(), 8, 1);
+    for (int v = 0; v < subRecords; ++v) {
+        const auto view = map.begin() + viewOffset + v * viewSize;
+        for (const int offset : fieldOffsets) {
+            std::fill_n(view + offset, 4, 1);
+        }
+        std::fill_n(view + frameRateOffset, 8, 1);
+    }
+    return map;
+}
+
+bool touchesOnly(const KvMvcSettings& before, const KvMvcSettings& after,
+                 const std::vector<char>& map)
+{
+    const auto* a = reinterpret_cast<const unsigned char*>(&before);
+    const auto* b = reinterpret_cast<const unsigned char*>(&after);
+    for (std::size_t i = 0; i < map.size(); ++i) {
+        if (a[i] != b[i] && map[i] == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool same(const KvMvcSettings& a, const KvMvcSettings& b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+} // namespace
+
+class TestEncoderProperty : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void holdsForEveryRecord_data();
+    void holdsForEveryRecord();
+};
+
+void TestEncoderProperty::holdsForEveryRecord_data()
+{
+    QTest::addColumn<bool>("nearValid");
+    QTest::addColumn<int>("count");
+    QTest::newRow("random") << false << 100000;
+    QTest::newRow("a few edits away from a preset") << true << 100000;
+}
+
+void TestEncoderProperty::holdsForEveryRecord()
+{
+    QFETCH(const bool, nearValid);
+    QFETCH(const int, count);
+    const std::vector<char> oneView = writable(1);
+    const std::vector<char> twoViews = writable(2);
+    Records records;
+    int accepted = 0;
+    int corrected = 0;
+    for (int i = 0; i < count; ++i) {
+        const KvMvcSettings original = records.next(nearValid);
+        KvMvcSettings record = original;
+        const Verdict first = check(record);
+        const std::string context =
+            "record " + std::to_string(i) + ": " + first.errors + first.warnings;
+
+        QVERIFY2((first.result == 0) == first.errors.empty(), context.c_str());
+        QVERIFY2(touchesOnly(original, record, original.num_views > 1 ? twoViews : oneView),
+                 context.c_str());
+        QVERIFY2(same(original, record) == first.warnings.empty(), context.c_str());
+
+        KvMvcSettings again = record;
+        const Verdict second = check(again);
+        QVERIFY2(same(record, again), context.c_str());
+        QVERIFY2(second.warnings.empty(), (context + second.warnings).c_str());
+        QVERIFY2(second.errors == first.errors && second.notes == first.notes &&
+                     second.result == first.result,
+                 (context + second.errors).c_str());
+
+        if (i % 16 == 0) {
+            KvMvcSettings twin = original;
+            QVERIFY2(check(twin) == first && same(twin, record), context.c_str());
+        }
+        accepted += first.result == 0 ? 1 : 0;
+        corrected += first.warnings.empty() ? 0 : 1;
+    }
+    // Both sides were met, so the loop above looked at more than refusals.
+    QVERIFY(corrected > count / 10);
+    QVERIFY(!nearValid || (accepted > count / 10 && accepted < count * 9 / 10));
+}
+
+QTEST_GUILESS_MAIN(TestEncoderProperty)
+#include "tst_encoder_property.moc"
