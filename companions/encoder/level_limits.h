@@ -32,7 +32,7 @@ std::span<const Level> levels();
 /** @return The row of a level code, or null for reserved codes and the automatic level. */
 const Level* findLevel(int code);
 
-/** Most macroblocks in a row or column: the square root of 8 MaxFS (A.3.1 f, g). */
+/** Most macroblocks in a row or column: the square root of 8 MaxFS (A.3.1 f, g, A.3.2 d, e). */
 int maxSideMbs(const Level& level);
 
 /** What a profile may use (A.2) and its factors (Tables A-2, A.3.1, H.10.2.1). */
@@ -61,7 +61,7 @@ const Profile* findProfile(int code);
 const Profile& multiviewHigh();
 const Profile& stereoHigh();
 
-/** Most frames per second at any level below 6: fR is 1/172 (Table A-6). */
+/** Most frames per second at any level below 6: fR is 1/172, half of it for a field (A.3). */
 inline constexpr int maxFrameRate = 172;
 
 /** Slice size is limited in pictures of more macroblocks than this (H.10.2.1 w). */

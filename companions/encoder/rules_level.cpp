@@ -18,30 +18,30 @@ constexpr Rule<double> reserved = {
 constexpr Rule<const char*, int, double> pictureSize = {
     "level.picture", Severity::Error,
     "Level %s has at most %d macroblocks in a picture, not %.0f: choose a higher level.",
-    "A.3.1 e, Table A-1: MaxFS; of each view, H.10.2.1 c"};
+    "A.3.1 e, A.3.2 c, H.10.2.1 c, Table A-1: MaxFS; of each view"};
 constexpr Rule<const char*, int, double, double> pictureSide = {
     "level.side", Severity::Error,
     "Level %s has at most %d macroblocks in a row or column, not %.0f x %.0f.",
-    "A.3.1 f, g: the square root of 8 * MaxFS"};
+    "A.3.1 f, g, A.3.2 d, e, H.10.2.1 d, e: the square root of 8 * MaxFS"};
 constexpr Rule<const char*, int, double> mbRate = {
     "level.rate", Severity::Error,
     "Level %s has at most %d macroblocks/s, not %.0f: choose a higher level.",
-    "A.3.1 a, b, Table A-1: MaxMBPS"};
+    "A.3.1 a, b, A.3.2 a, b, Table A-1: MaxMBPS; pulldown brings output times closer"};
 constexpr Rule<const char*, int, int, double> mbRateViews = {
     "level.rate-views", Severity::Error,
     "Level %s has at most %d macroblocks/s for %d views, not %.0f: choose a higher level.",
     "H.10.2.1 a, b: mvcScaleFactor 2 * MaxMBPS, of all views"};
 constexpr Rule<double, int> frameRate = {"level.frame-rate", Severity::Error,
                                          "%g frames/s exceed the %d frames/s of all levels.",
-                                         "A.3.3, Table A-6: fR is 1/172"};
+                                         "A.3: fR is 1/172"};
 constexpr Rule<const char*> interlace = {
     "level.interlace", Severity::Error,
     "Level %s has progressive pictures only: choose Progressive, or a level from 2.1 to 4.1.",
-    "A.3.3 c, Table A-4: frame_mbs_only_flag; H.10.2.2"};
+    "A.3.3 d, H.10.2.2 a, Table A-4: frame_mbs_only_flag"};
 constexpr Rule<const char*, int, int> dpb = {
     "level.dpb", Severity::Error,
     "Level %s holds %d frames of this size, not %d: use fewer reference frames.",
-    "A.3.1 h: min(MaxDpbMbs / frame size, 16)"};
+    "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)"};
 constexpr Rule<const char*, int, int, int> dpbViews = {
     "level.dpb-views", Severity::Error,
     "Level %s holds %d frames of this size for %d views, not %d: use fewer reference frames.",
@@ -49,7 +49,7 @@ constexpr Rule<const char*, int, int, int> dpbViews = {
 constexpr Rule<const char*, int, int> dpbHalf = {
     "level.dpb-half", Severity::Error,
     "Level %s allows a view half its buffer, %d frames, not %d: use fewer reference frames.",
-    "H.10.2.1 x: max_num_ref_frames of a view; this keeps the base view within A.3.1 h by itself"};
+    "H.10.2.1 x: max_num_ref_frames of a view; the base view then also fits by itself"};
 constexpr Rule<const char*, double, double> bitrate = {
     "level.bitrate", Severity::Error,
     "Level %s has at most %.0f bit/s, not %.0f: lower the rate, or choose a higher level.",
@@ -57,11 +57,11 @@ constexpr Rule<const char*, double, double> bitrate = {
 constexpr Rule<const char*, double, int, double> bitrateViews = {
     "level.bitrate-views", Severity::Error,
     "Level %s has at most %.0f bit/s for %d views together, not %.0f.",
-    "H.10.2.1 q, r: MaxBR * 1500, not doubled"};
+    "H.10.2.1 r: MaxBR * 1500, not doubled"};
 constexpr Rule<double, const char*, double> bitrateVcl = {
     "level.bitrate-vcl", Severity::Note,
     "%.0f bit/s fit level %s, but slices alone may use only %.0f of them.",
-    "A.3.3 g, H.10.2.1 q: MaxBR * cpbBrVclFactor"};
+    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxBR * cpbBrVclFactor"};
 constexpr Rule<const char*, double, double> buffer = {
     "level.buffer", Severity::Error,
     "Level %s has a buffer of at most %.0f bits, not %.0f: make the buffer smaller.",
@@ -69,11 +69,11 @@ constexpr Rule<const char*, double, double> buffer = {
 constexpr Rule<const char*, double, int, double> bufferViews = {
     "level.buffer-views", Severity::Error,
     "Level %s has buffers of at most %.0f bits for %d views together, not %.0f.",
-    "H.10.2.1 q, r: MaxCPB * 1500, not doubled"};
+    "H.10.2.1 r: MaxCPB * 1500, not doubled"};
 constexpr Rule<double, const char*, double> bufferVcl = {
     "level.buffer-vcl", Severity::Note,
     "Buffers of %.0f bits fit level %s, but slices alone may use only %.0f of them.",
-    "A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor"};
+    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor"};
 constexpr Rule<const char*, int, int> slicesMost = {
     "level.slices-most", Severity::Error,
     "Level %s has at most %d slices per picture here, not %d.",
@@ -85,7 +85,7 @@ constexpr Rule<const char*, int, int> slicesLeast = {
 constexpr Rule<const char*, int, int> vectors = {
     "level.vectors", Severity::Note,
     "Level %s ends vertical vectors at %d samples: the search range %d holds horizontally.",
-    "A.3.1 l, Table A-1: MaxVmvR"};
+    "A.3.1 k, A.3.2 g, H.10.2.1 g, Table A-1: MaxVmvR"};
 constexpr Rule<> none = {"level.none", Severity::Error,
                          "No level from 1 to 5.2 fits these settings.", "A.3"};
 constexpr Rule<const char*> automatic = {"level.auto", Severity::Note,
@@ -96,7 +96,8 @@ constexpr Rule<const char*> lowest = {"level.lowest", Severity::Note,
                                       "A.3: the first level that holds every limit"};
 
 // Largest coded pictures, one row a frame size limit.
-constexpr const char* pictureBytesClause = "A.3.1 c, d, A.3.3 i, j: MinCR; of each view component";
+constexpr const char* pictureBytesClause =
+    "A.3.1 c, d, A.3.3 i, j, H.10.2.1 t, v: MinCR; of each view component";
 struct PictureBytes {
     std::int32_t KvMvcViewSettings::*field;
     bool first; ///< the first picture of a stream is one of these
@@ -226,11 +227,17 @@ void judgeSums(const Stream& stream, const Level& level, Report& report)
              report);
 }
 
+/** Pictures that a frame is coded as: field pictures have half the size and half the time. */
+int picturesAFrame(const Stream& stream)
+{
+    return stream.base.interlace_mode == KV_MVC_INTERLACED ? 2 : 1;
+}
+
 /** Macroblocks that the time before the first picture is worth, at least one picture. */
 double firstPictureMbs(const Stream& stream, const Level& level)
 {
     return std::max(static_cast<double>(stream.pictureMbs),
-                    static_cast<double>(level.mbRate) / maxFrameRate);
+                    static_cast<double>(level.mbRate) / (maxFrameRate * picturesAFrame(stream)));
 }
 
 /** Macroblocks that the time from one picture to the next is worth; no limit without a rate. */
@@ -239,9 +246,7 @@ double laterPictureMbs(const Stream& stream, const Level& level)
     if (stream.frameRate == 0) {
         return std::numeric_limits<double>::infinity();
     }
-    // Field pictures come twice as often as frames.
-    const bool fields = stream.base.interlace_mode == KV_MVC_INTERLACED;
-    return static_cast<double>(level.mbRate) / (stream.frameRate * (fields ? 2 : 1));
+    return static_cast<double>(level.mbRate) / (stream.frameRate * picturesAFrame(stream));
 }
 
 /** @return No less than 1; a huge number where nothing limits the slices. */

@@ -17,14 +17,14 @@ constexpr Rule<int, const char*, int, const char*> severalViews = {
 constexpr Rule<int, int, const char*> buffered = {
     "summary.dpb", Severity::Note,
     "Reference frames: %d of the %d that the decoded picture buffer holds at level %s.",
-    "A.3.1 h, H.10.2.1 f"};
+    "A.3.1 h, A.3.2 f, H.10.2.1 f"};
 constexpr Rule<double, double, const char*> rate = {
     "summary.bitrate", Severity::Note, "Bit rate: at most %.0f of the %.0f bit/s of level %s.",
-    "A.3.3 h, H.10.2.1 r"};
+    "A.3.1 j, A.3.3 h, H.10.2.1 r"};
 constexpr Rule<> rateUnknown = {
     "summary.bitrate-unknown", Severity::Note,
     "Quantizers set the bit rate: whether it fits the level shows only when encoding.",
-    "A.3.3 h, H.10.2.1 r"};
+    "A.3.1 j, A.3.3 h, H.10.2.1 r"};
 constexpr Rule<int, double, double> bufferTime = {
     "summary.buffer", Severity::Note, "View %d: a buffer of %.2f s, which starts after %.2f s.",
     "C.1.1: size and initial fullness over the rate"};

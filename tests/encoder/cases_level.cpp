@@ -23,6 +23,8 @@ constexpr RuleCase rows[] = {
     {"level.slices-most", "59 of a thin picture", 0, [](Record& r) { setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 59); }, false},
     {"level.slices-most", "60 of a thin picture", 0, [](Record& r) { setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 60); }, true},
     {"level.slices-most", "60 of Baseline", 0, [](Record& r) { setBoth(r, &V::profile, 0); setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 60); }, false},
+    {"level.slices-most", "29 of a thin field", 0, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 29); }, false},
+    {"level.slices-most", "30 of a thin field", 0, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 30); }, true},
     {"level.vectors", "64 at level 1", 0, [](Record& r) { setBoth(r, &V::level, 10); setBoth(r, &V::width, 176); setBoth(r, &V::height, 144); }, false},
     {"level.vectors", "65 at level 1", 0, [](Record& r) { setBoth(r, &V::level, 10); setBoth(r, &V::width, 176); setBoth(r, &V::height, 144); setBoth(r, &V::motion_search, 65); }, true},
     {"level.code", "1.6", 0, [](Record& r) { setBoth(r, &V::level, 16); }, true},
