@@ -16,6 +16,13 @@
 #include <QScreen>
 #include <QSignalBlocker>
 
+namespace
+{
+
+constexpr QSize builtInBannerSize(380, 74);
+
+} // namespace
+
 // Outside any namespace, as the macro demands.
 static void registerResources()
 {
@@ -134,7 +141,9 @@ void AVCVideoEncoderDlg::applySkin(const QString& name)
         setStyleSheet(text);
 
     if (m_banner.isNull()) {
-        ui.bannerFrame->setPixmap(QPixmap(QStringLiteral(":/res_mvc/banners/banner.png")));
+        // By way of an icon, which has the picture in the screen's density.
+        const QIcon banner(QStringLiteral(":/res_mvc/banners/banner.png"));
+        ui.bannerFrame->setPixmap(banner.pixmap(builtInBannerSize));
     } else {
         ui.bannerFrame->setAlignment(Qt::AlignCenter);
         ui.bannerFrame->setPixmap(m_banner);
