@@ -5,6 +5,24 @@
 #include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QVector>
+
+namespace
+{
+
+/// What takes the keyboard focus inside the page, in the order of the Tab key.
+QVector<QWidget*> focusChain(const QWidget* page)
+{
+    QVector<QWidget*> chain;
+    for (QWidget* widget = page->nextInFocusChain(); widget != page;
+         widget = widget->nextInFocusChain())
+        if (page->isAncestorOf(widget) && widget->focusPolicy() != Qt::NoFocus &&
+            !widget->focusProxy())
+            chain.append(widget);
+    return chain;
+}
+
+} // namespace
 
 ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
 {
@@ -23,6 +41,7 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->setWidget(m_content);
     outer->addWidget(m_scrollArea);
     outer->setContentsMargins(0, 0, 0, 0);
+    m_lastInChain = m_scrollArea;
 }
 
 void ToolBox::addSection(QWidget* page, const QString& title, const QString& expandedIcon,
@@ -52,6 +71,14 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     m_grid->addWidget(label, row, 1);
     m_grid->addWidget(page, row + 1, 0, 1, 2);
     connect(button, &QToolButton::toggled, page, &QWidget::setVisible);
+
+    // The pages are older than the buttons, but the Tab key shall go from top to bottom.
+    QVector<QWidget*> chain = focusChain(page);
+    chain.prepend(button);
+    for (QWidget* widget : qAsConst(chain)) {
+        setTabOrder(m_lastInChain, widget);
+        m_lastInChain = widget;
+    }
 }
 
 void ToolBox::addSection(QWidget* page, const QString& title)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 class QGridLayout;
 class QScrollArea;
@@ -26,4 +27,6 @@ private:
     QScrollArea* m_scrollArea;
     QFrame* m_content;
     QGridLayout* m_grid;
+    /// Behind it in the order of the Tab key comes the next section.
+    QPointer<QWidget> m_lastInChain;
 };
