@@ -35,6 +35,7 @@ ProbeAnswer refusalFor(int error)
     case AVERROR_EXIT:
         return refusal(KV_MEDIA_LIMIT, "describing it takes too long");
     case AVERROR_INVALIDDATA:
+    case AVERROR(EINVAL): // a format that is not among those tried
         return refusal(KV_MEDIA_UNREADABLE, "no media format, or damaged");
     default: {
         char text[AV_ERROR_MAX_STRING_SIZE] = "";
@@ -72,6 +73,17 @@ bool isTruncated(AVFormatContext* format, AVStream* stream)
             return true;
     }
     return false;
+}
+
+/** Streams of which nothing is known had their descriptions in a part that is lost. */
+ProbeAnswer refusalWithoutVideo(const AVFormatContext& format)
+{
+    const auto end = format.streams + format.nb_streams;
+    const bool otherStreams = std::any_of(format.streams, end, [](const AVStream* stream) {
+        return !isRecordedVideo(*stream) && stream->codecpar->codec_type != AVMEDIA_TYPE_UNKNOWN;
+    });
+    return otherStreams ? refusal(KV_MEDIA_NO_VIDEO, "no video in it")
+                        : refusal(KV_MEDIA_UNREADABLE, "no video in it, truncated or damaged");
 }
 
 void describePicture(KvMediaInfo& info, AVFormatContext* format, AVStream* stream)
@@ -203,7 +215,7 @@ ProbeAnswer streamFacts(int descriptor, const char* name)
         return refusalFor(input.timeIsUp() ? AVERROR_EXIT : opened);
     AVStream* stream = mainStream(input.format());
     if (!stream)
-        return refusal(KV_MEDIA_NO_VIDEO, "no video in it");
+        return refusalWithoutVideo(*input.format());
     if (isTruncated(input.format(), stream))
         return refusal(KV_MEDIA_UNREADABLE, "truncated");
 

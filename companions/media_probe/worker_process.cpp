@@ -115,8 +115,9 @@ std::string workerProgram()
            "kv_media_probe_worker";
 }
 
-/** @return Whether the whole answer came before the deadline. */
-bool receive(int pipe, Clock::time_point deadline, ProbeAnswer& answer)
+enum class Received { Whole, Part, Late };
+
+Received receive(int pipe, Clock::time_point deadline, ProbeAnswer& answer)
 {
     auto* to = reinterpret_cast<char*>(&answer);
     std::size_t missing = sizeof answer;
@@ -127,17 +128,19 @@ bool receive(int pipe, Clock::time_point deadline, ProbeAnswer& answer)
         const int polled = left > 0 ? ::poll(&ready, 1, static_cast<int>(left)) : 0;
         if (polled < 0 && errno == EINTR)
             continue;
-        if (polled <= 0)
-            return false;
+        if (polled == 0)
+            return Received::Late;
+        if (polled < 0)
+            return Received::Part;
         const ssize_t count = ::read(pipe, to, missing);
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
-            return false;
+            return Received::Part;
         to += count;
         missing -= static_cast<std::size_t>(count);
     }
-    return true;
+    return Received::Whole;
 }
 
 /** A host that ignores its children's ends has none to wait for: no error. */
@@ -166,15 +169,18 @@ ProbeAnswer askWorker(int file, const char* name)
     }
     writing.reset();
     ProbeAnswer answer;
-    const bool complete = receive(reading.get(), deadline, answer);
-    const bool late = Clock::now() >= deadline;
-    if (!complete)
+    const Received received = receive(reading.get(), deadline, answer);
+    if (received != Received::Whole)
         ::kill(child, SIGKILL);
     reap(child);
-    if (complete)
+    switch (received) {
+    case Received::Whole:
         return answer;
-    return late ? refusal(KV_MEDIA_LIMIT, "describing it takes too long")
-                : refusal(KV_MEDIA_UNREADABLE, "damaged: reading it fails");
+    case Received::Late:
+        return refusal(KV_MEDIA_LIMIT, "describing it takes too long");
+    default:
+        return refusal(KV_MEDIA_UNREADABLE, "damaged: reading it fails");
+    }
 }
 
 } // namespace

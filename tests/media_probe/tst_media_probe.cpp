@@ -1,0 +1,418 @@
+// What the stream information library says of media that ffmpeg makes, and that ffprobe agrees.
+#include "MediaMaker.h"
+#include "ProbeLibrary.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using kvtest::makeMedia;
+using kvtest::picture;
+using kvtest::ProbeLibrary;
+
+namespace
+{
+
+/** What a file is made of, and what is to be found. */
+struct Medium {
+    const char* file;
+    const char* size;
+    const char* rate;
+    const char* arguments;
+    int width, height, rateNum, rateDen, scan, order, aspectNum, aspectDen;
+    int chroma, luma, profile, level, references;
+};
+
+constexpr int P = KV_MEDIA_PROGRESSIVE;
+constexpr int I = KV_MEDIA_INTERLACED;
+constexpr int M = KV_MEDIA_MBAFF;
+constexpr int T = KV_MEDIA_TOP_FIELD_FIRST;
+constexpr int B = KV_MEDIA_BOTTOM_FIELD_FIRST;
+
+// clang-format off
+constexpr Medium kMedia[] = {
+    // file                size         rate          arguments of ffmpeg                                w     h     rate         scan ord aspect  chroma bits prof level refs
+    {"qcif.mp4",          "176x144",   "15",         "-c:v libx264 -profile:v baseline -level 1.1 -pix_fmt yuv420p -refs 1", 176, 144, 15, 1,      P, T, 1, 1,   1, 8,  66, 11, 1},
+    {"main.mp4",          "352x288",   "25",         "-c:v libx264 -profile:v main -level 2 -pix_fmt yuv420p -refs 2 -x264-params b-pyramid=none", 352, 288, 25, 1, P, T, 1, 1, 1, 8, 77, 20, 2},
+    {"high.ts",           "1280x720",  "60000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 3.2", 1280, 720, 60000, 1001, P, T, 1, 1, 1, 8, 100, 32, 1},
+    {"high.m2t",          "1920x1080", "24000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 4.1 -refs 3", 1920, 1080, 24000, 1001, P, T, 1, 1, 1, 8, 100, 41, 3},
+    {"tff.ts",            "720x576",   "25",         "-c:v libx264 -flags +ilme+ildct -x264-params tff=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3 -aspect 16:9", 720, 576, 25, 1, M, T, 64, 45, 1, 8, 100, 30, 2},
+    {"bff.mp4",           "720x480",   "30000/1001", "-c:v libx264 -flags +ilme+ildct -x264-params bff=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3 -aspect 4:3", 720, 480, 30000, 1001, M, B, 8, 9, 1, 8, 100, 30, 2},
+    {"fake.h264",         "720x576",   "25",         "-c:v libx264 -x264-params fake-interlaced=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3", 720, 576, 25, 1, P, T, 1, 1, 1, 8, 100, 30, 2},
+    {"ten.m4p",           "640x360",   "24",         "-f mp4 -c:v libx264 -pix_fmt yuv420p10le -x264-params b-pyramid=none:ref=2 -level 3", 640, 360, 24, 1, P, T, 1, 1, 1, 10, 110, 30, 2},
+    {"tenTwoTwo.trp",     "640x360",   "50",         "-f mpegts -c:v libx264 -pix_fmt yuv422p10le -x264-params b-pyramid=none:ref=2 -level 3.1", 640, 360, 50, 1, P, T, 1, 1, 2, 10, 122, 31, 2},
+    {"grey.mp4",          "320x240",   "10",         "-c:v libx264 -pix_fmt gray -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 1, P, T, 1, 1, 0, 8, 100, 13, 2},
+    {"full.mp4",          "320x240",   "10",         "-c:v libx264 -pix_fmt yuv444p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 1, P, T, 1, 1, 3, 8, 244, 13, 2},
+    {"odd.mp4",           "350x286",   "12.5",       "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3 -aspect 4:3", 350, 286, 25, 2, P, T, 572, 525, 1, 8, 100, 13, 2},
+    {"uhd.mp4",           "3840x2160", "30",         "-c:v libx264 -preset ultrafast -pix_fmt yuv420p -level 5.1", 3840, 2160, 30, 1, P, T, 1, 1, 1, 8, 66, 51, 1},
+    {"withAudio.ts",      "320x240",   "25",         "-f lavfi -i sine -t 1 -c:a mp2 -c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 1, P, T, 1, 1, 1, 8, 100, 13, 2},
+    {"two.m2v",           "352x288",   "25",         "-c:v mpeg2video -pix_fmt yuv420p",   352, 288, 25, 1,      P, T, 1, 1,   1, 8,  0, 0, -1},
+    {"two.mpv",           "352x288",   "24",         "-f mpeg2video -c:v mpeg2video -pix_fmt yuv420p", 352, 288, 24, 1, P, T, 1, 1, 1, 8,  0, 0, -1},
+    {"one.mpeg",          "352x288",   "30",         "-f mpeg -c:v mpeg1video -pix_fmt yuv420p", 352, 288, 30, 1, P, T, 1, 1,   1, 8,  0, 0, -1},
+    {"two.mpg",           "720x576",   "25",         "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0 -aspect 4:3", 720, 576, 25, 1, I, B, 16, 15, 1, 8, 0, 0, -1},
+    {"dvd.vob",           "720x576",   "25",         "-target pal-dvd -aspect 16:9",        720, 576, 25, 1,      P, T, 64, 45, 1, 8,  0, 0, -1},
+    {"svcd.m2p",          "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, 30000, 1001, P, T, 4, 3, 1, 8, 0, 0, -1},
+    {"studio.mxf",        "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, I, T, 1, 1, 2, 8, 0, 0, -1},
+    {"hevc.mp4",          "320x240",   "25",         "-c:v libx265 -x265-params log-level=0 -pix_fmt yuv420p10le", 320, 240, 25, 1, P, T, 1, 1, 1, 10, 0, 0, -1},
+};
+// clang-format on
+
+/** Copies the pictures of elementary streams, with times for those that need some. */
+constexpr char kCopy[] = " -c copy -bsf:v setts=ts=N*3600"; // 25 of 90,000 ticks
+
+class TestMediaProbe : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void factsOfMedia_data();
+    void factsOfMedia();
+    void ffprobeAgrees_data() { factsOfMedia_data(); }
+    void ffprobeAgrees();
+    void bitRateIsTheAverage_data();
+    void bitRateIsTheAverage();
+    void signalledBufferModels();
+    void viewsAreCounted_data();
+    void viewsAreCounted();
+    void viewsInAStreamOfTheirOwn();
+    void indexFilesOfTitlesStandForTheirVideo_data();
+    void indexFilesOfTitlesStandForTheirVideo();
+    void recordsOfAnotherSizeAreRespected();
+    void badArgumentsAreRefused();
+    void nothingStaysLoaded();
+
+private:
+    QString file(const char* name) const
+    {
+        return m_folder.path() + QLatin1Char('/') + QLatin1String(name);
+    }
+    /** Made once, on first use. */
+    QString medium(const Medium& row);
+
+    QTemporaryDir m_folder;
+    ProbeLibrary m_library;
+};
+
+void TestMediaProbe::initTestCase()
+{
+    QVERIFY(m_library.isLoaded());
+    if (!kvtest::hasFfmpeg())
+        QSKIP("the ffmpeg program makes the media of this test");
+}
+
+QString TestMediaProbe::medium(const Medium& row)
+{
+    const QString name = file(row.file);
+    if (QFile::exists(name))
+        return name;
+    const QByteArray error =
+        makeMedia(picture(row.size, row.rate, 0.6) + QLatin1String(row.arguments), name);
+    return error.isEmpty() ? name : QString::fromUtf8(error);
+}
+
+void TestMediaProbe::factsOfMedia_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(kMedia)); ++row)
+        QTest::newRow(kMedia[row].file) << row;
+}
+
+void TestMediaProbe::factsOfMedia()
+{
+    QFETCH(int, row);
+    const Medium& expected = kMedia[row];
+    const QString name = medium(expected);
+    QVERIFY2(QFile::exists(name), qPrintable(name));
+    const int result = m_library.probe(name);
+    const KvMediaInfo& info = m_library.info;
+    QVERIFY2(result == KV_MEDIA_OK, info.reason);
+    QCOMPARE(info.reason[0], '\0');
+    QCOMPARE(info.width, expected.width);
+    QCOMPARE(info.height, expected.height);
+    QCOMPARE(info.frame_rate_num, expected.rateNum);
+    QCOMPARE(info.frame_rate_den, expected.rateDen);
+    QCOMPARE(info.scan, expected.scan);
+    QCOMPARE(info.field_order, expected.order);
+    QCOMPARE(info.pixel_aspect_num, expected.aspectNum);
+    QCOMPARE(info.pixel_aspect_den, expected.aspectDen);
+    QCOMPARE(info.chroma_format, expected.chroma);
+    QCOMPARE(info.bit_depth_luma, expected.luma);
+    QCOMPARE(info.bit_depth_chroma, expected.luma);
+    QCOMPARE(info.codec, expected.profile != 0 ? KV_MEDIA_CODEC_H264 : KV_MEDIA_CODEC_OTHER);
+    QCOMPARE(info.profile_idc, expected.profile);
+    QCOMPARE(info.level_idc, expected.level);
+    QCOMPARE(info.num_ref_frames, expected.references);
+    QCOMPARE(info.num_views, 1);
+    QCOMPARE(info.mvc_profile_idc, 0);
+    QVERIFY(info.bit_rate > 0);
+    QCOMPARE(info.dependent_bit_rate, int64_t(0));
+}
+
+void TestMediaProbe::ffprobeAgrees()
+{
+    QFETCH(int, row);
+    const QString name = medium(kMedia[row]);
+    const QJsonObject facts = kvtest::probeMedia(name);
+    const auto text = [&](const char* key) { return facts.value(QLatin1String(key)).toString(); };
+    const auto number = [&](const char* key) { return facts.value(QLatin1String(key)).toInt(); };
+    QCOMPARE(m_library.probe(name), int(KV_MEDIA_OK));
+    const KvMediaInfo& info = m_library.info;
+    QCOMPARE(QLatin1String(info.codec_name), text("codec_name"));
+    QCOMPARE(info.width, number("width"));
+    QCOMPARE(info.height, number("height"));
+    QCOMPARE(QStringLiteral("%1/%2").arg(info.frame_rate_num).arg(info.frame_rate_den),
+             text("r_frame_rate"));
+    QCOMPARE(QStringLiteral("%1:%2").arg(info.pixel_aspect_num).arg(info.pixel_aspect_den),
+             text("sample_aspect_ratio"));
+    if (info.codec == KV_MEDIA_CODEC_H264)
+        QCOMPARE(info.level_idc, number("level"));
+    const QString order = text("field_order");
+    if (info.scan == KV_MEDIA_PROGRESSIVE)
+        QVERIFY2(order == QLatin1String("progressive") || order.isEmpty() ||
+                     order == QLatin1String("unknown"),
+                 qPrintable(order));
+    else
+        QCOMPARE(order, info.field_order == KV_MEDIA_TOP_FIELD_FIRST ? QStringLiteral("tt")
+                                                                     : QStringLiteral("bb"));
+}
+
+void TestMediaProbe::bitRateIsTheAverage_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("container");
+    QTest::newRow("mp4") << "rate.mp4"
+                         << "";
+    QTest::newRow("ts") << "rate.ts"
+                        << "";
+    QTest::newRow("elementary stream") << "rate.h264"
+                                       << "";
+    QTest::newRow("program stream") << "rate.mpg"
+                                    << "-f mpeg";
+}
+
+void TestMediaProbe::bitRateIsTheAverage()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, container);
+    const QString made = m_folder.path() + QLatin1Char('/') + name;
+    const QByteArray error =
+        makeMedia(picture("640x480", "25", 4) +
+                      QStringLiteral("-vf noise=alls=30:allf=t -c:v libx264 -preset ultrafast "
+                                     "-pix_fmt yuv420p -b:v 2M -minrate 2M -maxrate 2M -bufsize 1M "
+                                     "-x264-params nal-hrd=cbr ") +
+                      container,
+                  made);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QCOMPARE(m_library.probe(made), int(KV_MEDIA_OK));
+    const double rate = double(m_library.info.bit_rate);
+    QVERIFY2(rate > 1.8e6 && rate < 2.2e6, qPrintable(QString::number(rate)));
+}
+
+void TestMediaProbe::signalledBufferModels()
+{
+    const QString h264 = file("hrd.ts");
+    QByteArray error = makeMedia(
+        picture("640x480", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -x264-params "
+                                                  "nal-hrd=vbr:vbv-maxrate=3000:vbv-bufsize=2000"),
+        h264);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QCOMPARE(m_library.probe(h264), int(KV_MEDIA_OK));
+    QCOMPARE(m_library.info.hrd_bit_rate, int64_t(3000000));
+    QCOMPARE(m_library.info.hrd_buffer_size, int64_t(2000000));
+
+    const QString mpeg = file("buffer.m2v");
+    error = makeMedia(picture("640x480", "25") +
+                          QStringLiteral("-c:v mpeg2video -b:v 2M -maxrate 3M -bufsize 1835008"),
+                      mpeg);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QCOMPARE(m_library.probe(mpeg), int(KV_MEDIA_OK));
+    QCOMPARE(m_library.info.hrd_bit_rate, int64_t(3000000));
+    QCOMPARE(m_library.info.hrd_buffer_size, int64_t(1835008));
+}
+
+void TestMediaProbe::viewsAreCounted_data()
+{
+    QTest::addColumn<int>("views");
+    QTest::addColumn<int>("profile");
+    QTest::addColumn<QString>("name");
+    for (const char* suffix : {"264", "ts", "m2t", "mp4"}) {
+        QTest::addRow("two in %s", suffix)
+            << 2 << 128 << QStringLiteral("two.") + QLatin1String(suffix);
+        QTest::addRow("five in %s", suffix)
+            << 5 << 118 << QStringLiteral("five.") + QLatin1String(suffix);
+    }
+}
+
+void TestMediaProbe::viewsAreCounted()
+{
+    QFETCH(int, views);
+    QFETCH(int, profile);
+    QFETCH(QString, name);
+    const QString base = file("base.h264");
+    QByteArray error = makeMedia(
+        picture("352x288", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), base);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QFile in(base);
+    QVERIFY(in.open(QIODevice::ReadOnly));
+    const QString stream = file("views.264");
+    QFile out(stream);
+    QVERIFY(out.open(QIODevice::WriteOnly));
+    out.write(kvtest::withViews(in.readAll(), profile, 31, views, 0.5));
+    out.close();
+    const QString made = m_folder.path() + QLatin1Char('/') + name;
+    if (name.endsWith(QLatin1String(".264"))) {
+        QVERIFY(QFile::copy(stream, made));
+    } else {
+        error =
+            makeMedia(QStringLiteral("-f h264 -r 25 -i ") + stream +
+                          QLatin1String(name.endsWith(QLatin1String("mp4")) ? " -c copy" : kCopy),
+                      made);
+        QVERIFY2(error.isEmpty(), error.constData());
+    }
+    const int result = m_library.probe(made);
+    QVERIFY2(result == KV_MEDIA_OK, m_library.info.reason);
+    const KvMediaInfo& info = m_library.info;
+    QCOMPARE(info.num_views, views);
+    QCOMPARE(info.mvc_profile_idc, profile);
+    QCOMPARE(info.mvc_level_idc, 31);
+    QCOMPARE(info.profile_idc, 100);
+    QCOMPARE(info.level_idc, 30);
+    QCOMPARE(info.width, 352);
+    QCOMPARE(info.height, 288);
+    // Each further view has half of the base view's slices.
+    const double share = double(info.dependent_bit_rate) / double(info.bit_rate);
+    const double slices = 0.5 * (views - 1) / (1 + 0.5 * (views - 1));
+    QVERIFY2(share > slices * 0.8 && share < slices * 1.1, qPrintable(QString::number(share)));
+}
+
+/** As discs have it: the base view and the others as two streams of one transport stream. */
+void TestMediaProbe::viewsInAStreamOfTheirOwn()
+{
+    const QString base = file("own.h264");
+    QByteArray error = makeMedia(
+        picture("352x288", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), base);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QFile in(base);
+    QVERIFY(in.open(QIODevice::ReadOnly));
+    QByteArray further;
+    for (const QByteArray& unit : kvtest::nalUnits(in.readAll())) {
+        const int type = unit[0] & 31;
+        if (type == 7)
+            further += kvtest::subsetParameterSet(128, 30, 2) + QByteArray("\0\0\0\1", 4) + unit;
+        else if (type == 8)
+            further += QByteArray("\0\0\0\1", 4) + unit;
+        else if (type == 1 || type == 5)
+            further += QByteArray("\0\0\0\1", 4) + unit + kvtest::nalUnit(2, 20, unit);
+    }
+    const QString other = file("further.h264");
+    QFile out(other);
+    QVERIFY(out.open(QIODevice::WriteOnly));
+    out.write(further);
+    out.close();
+    const QString made = file("streams.ts");
+    error = makeMedia(
+        QStringLiteral("-f h264 -r 25 -i %1 -f h264 -r 25 -i %2 -map 0 -map 1").arg(base, other) +
+            QLatin1String(kCopy),
+        made);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QCOMPARE(m_library.probe(made), int(KV_MEDIA_OK));
+    QCOMPARE(m_library.info.num_views, 2);
+    QCOMPARE(m_library.info.mvc_profile_idc, 128);
+    QVERIFY(m_library.info.dependent_bit_rate > 0);
+    QVERIFY(m_library.info.dependent_bit_rate < m_library.info.bit_rate);
+}
+
+void TestMediaProbe::indexFilesOfTitlesStandForTheirVideo_data()
+{
+    QTest::addColumn<QString>("index");
+    QTest::addColumn<QString>("video");
+    QTest::newRow("title") << "VTS_01_0.IFO"
+                           << "VTS_01_1.VOB";
+    QTest::newRow("menu") << "VIDEO_TS.IFO"
+                          << "VIDEO_TS.VOB";
+    QTest::newRow("small letters") << "vts_02_0.ifo"
+                                   << "vts_02_1.vob";
+}
+
+void TestMediaProbe::indexFilesOfTitlesStandForTheirVideo()
+{
+    QFETCH(QString, index);
+    QFETCH(QString, video);
+    QTemporaryDir folder;
+    QFile file(folder.filePath(index));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("DVDVIDEO-VTS");
+    file.close();
+    QCOMPARE(m_library.probe(folder.filePath(index)), int(KV_MEDIA_UNREADABLE));
+    QCOMPARE(QByteArray(m_library.info.reason), QByteArray("No such file or directory"));
+    const QByteArray error = makeMedia(picture("720x576", "25") + QStringLiteral("-target pal-dvd"),
+                                       folder.filePath(video));
+    QVERIFY2(error.isEmpty(), error.constData());
+    QCOMPARE(m_library.probe(folder.filePath(index)), int(KV_MEDIA_OK));
+    QCOMPARE(m_library.info.height, 576);
+}
+
+void TestMediaProbe::recordsOfAnotherSizeAreRespected()
+{
+    const QString name = medium(kMedia[0]);
+    // A caller that knows no more than the first fields.
+    const uint32_t known = offsetof(KvMediaInfo, frame_rate_num);
+    KvMediaInfo info;
+    std::memset(&info, 0x5A, sizeof info);
+    QCOMPARE(m_library.init(&info, known), int32_t(KV_MEDIA_OK));
+    QCOMPARE(m_library.getInfo(&info, name.toUtf8().constData()), int32_t(KV_MEDIA_OK));
+    QCOMPARE(info.size, known);
+    QCOMPARE(info.width, 176);
+    QCOMPARE(info.frame_rate_num, 0x5A5A5A5A);
+    // And one of a later version: what this one does not know stays zero.
+    struct {
+        KvMediaInfo info;
+        char further[64];
+    } larger;
+    std::memset(&larger, 0x5A, sizeof larger);
+    QCOMPARE(m_library.init(&larger.info, sizeof larger), int32_t(KV_MEDIA_OK));
+    QCOMPARE(m_library.getInfo(&larger.info, name.toUtf8().constData()), int32_t(KV_MEDIA_OK));
+    QCOMPARE(larger.info.size, uint32_t(sizeof larger));
+    QCOMPARE(larger.info.width, 176);
+    QCOMPARE(QByteArray(larger.further, sizeof larger.further), QByteArray(64, '\0'));
+}
+
+void TestMediaProbe::badArgumentsAreRefused()
+{
+    KvMediaInfo info{};
+    QCOMPARE(m_library.init(nullptr, sizeof info), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    QCOMPARE(m_library.init(&info, 0), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    QCOMPARE(m_library.init(&info, 3), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    QCOMPARE(m_library.getInfo(&info, "x.mp4"), int32_t(KV_MEDIA_BAD_ARGUMENT)); // no size
+    QCOMPARE(m_library.getInfo(nullptr, "x.mp4"), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    m_library.init(&info, sizeof info);
+    QCOMPARE(m_library.getInfo(&info, nullptr), int32_t(KV_MEDIA_BAD_ARGUMENT));
+}
+
+void TestMediaProbe::nothingStaysLoaded()
+{
+    const auto maps = [] {
+        QFile file(QStringLiteral("/proc/self/maps"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QTemporaryDir folder;
+    const QString name = medium(kMedia[0]);
+    for (const char* part : {"kv_media_probe.so", "kv_media_probe_worker"})
+        QVERIFY(
+            QFile::copy(qEnvironmentVariable("KV_BIN_DIR") + QLatin1Char('/') + QLatin1String(part),
+                        folder.filePath(QLatin1String(part))));
+    {
+        ProbeLibrary library(folder.path());
+        QVERIFY(library.isLoaded());
+        QCOMPARE(library.probe(name), int(KV_MEDIA_OK));
+        QVERIFY(maps().contains(folder.path().toUtf8()));
+        QVERIFY(!maps().contains("libavformat")); // it works in another process
+    }
+    QVERIFY(!maps().contains(folder.path().toUtf8()));
+}
+
+} // namespace
+
+QTEST_GUILESS_MAIN(TestMediaProbe)
+#include "tst_media_probe.moc"
