@@ -108,8 +108,11 @@ void AVCVideoEncoderDlg::buildPages(qint32 flags)
     m_viewsPage = new ViewsPage(this);
     addPage(m_viewsPage, tr("Views"));
 
-    // The pages came last, but stand before the buttons.
-    setTabOrder(previousInFocusChain(), ui.buttonCancel);
+    // The pages came last, but stand before the buttons. Labels are in the chain, too.
+    QWidget* last = previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus || last->focusProxy())
+        last = last->previousInFocusChain();
+    setTabOrder(last, ui.buttonCancel);
     setTabOrder(ui.buttonCancel, ui.buttonOk);
 }
 
