@@ -75,15 +75,15 @@ bool isTruncated(AVFormatContext* format, AVStream* stream)
     return false;
 }
 
-/** Streams of which nothing is known had their descriptions in a part that is lost. */
+/** Where no stream is described at all, the descriptions were in a part that is lost. */
 ProbeAnswer refusalWithoutVideo(const AVFormatContext& format)
 {
     const auto end = format.streams + format.nb_streams;
-    const bool otherStreams = std::any_of(format.streams, end, [](const AVStream* stream) {
-        return !isRecordedVideo(*stream) && stream->codecpar->codec_type != AVMEDIA_TYPE_UNKNOWN;
+    const bool audio = std::any_of(format.streams, end, [](const AVStream* stream) {
+        return stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
     });
-    return otherStreams ? refusal(KV_MEDIA_NO_VIDEO, "no video in it")
-                        : refusal(KV_MEDIA_UNREADABLE, "no video in it, truncated or damaged");
+    return audio ? refusal(KV_MEDIA_NO_VIDEO, "no video in it")
+                 : refusal(KV_MEDIA_UNREADABLE, "no video in it, truncated or damaged");
 }
 
 void describePicture(KvMediaInfo& info, AVFormatContext* format, AVStream* stream)
