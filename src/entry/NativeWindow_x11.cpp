@@ -1,5 +1,6 @@
 #include "NativeWindow.h"
 
+#include <QByteArray>
 #include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace
 {
@@ -64,18 +66,83 @@ xcb_window_t windowId(NativeWindowHandle window)
     return static_cast<xcb_window_t>(reinterpret_cast<quintptr>(window));
 }
 
-/// The ancestor below the root: the window manager's frame, where it has put one around the window.
-std::optional<xcb_window_t> frameOf(xcb_connection_t* connection, xcb_window_t window)
+/// The window and its ancestors, the one below the root last: that is the window manager's frame,
+/// where there is one. Empty without such a window.
+std::vector<xcb_window_t> lineOf(xcb_connection_t* server, xcb_window_t window)
 {
+    std::vector<xcb_window_t> line;
     for (;;) {
         const ReplyPointer<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+            xcb_query_tree_reply(server, xcb_query_tree(server, window), nullptr));
         if (!tree)
-            return std::nullopt;
+            return {};
+        line.push_back(window);
         if (tree->parent == tree->root || tree->parent == XCB_WINDOW_NONE)
-            return window;
+            return line;
         window = tree->parent;
     }
+}
+
+xcb_window_t windowWithFocus(xcb_connection_t* server)
+{
+    const ReplyPointer<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+    return focus ? focus->focus : xcb_window_t(XCB_WINDOW_NONE);
+}
+
+/// Waits until the server has dealt with all requests.
+void synchronize(xcb_connection_t* server)
+{
+    windowWithFocus(server);
+}
+
+/// The window that the window manager looks after, which has that mark of it; without one the
+/// outermost.
+xcb_window_t managedWindow(const Connection& connection, xcb_window_t window)
+{
+    const xcb_atom_t mark = connection.atom("WM_STATE");
+    const auto line = lineOf(connection.get(), window);
+    for (const xcb_window_t candidate : line) {
+        const auto cookie =
+            xcb_get_property(connection.get(), 0, candidate, mark, XCB_ATOM_ANY, 0, 0);
+        const ReplyPointer<xcb_get_property_reply_t> state(
+            xcb_get_property_reply(connection.get(), cookie, nullptr));
+        if (state && state->type != XCB_ATOM_NONE)
+            return candidate;
+    }
+    return line.empty() ? window : line.back();
+}
+
+/// Lies unseen over a window and swallows its mouse and key events. It goes with its connection.
+class Shield
+{
+public:
+    explicit Shield(xcb_window_t window)
+    {
+        if (!m_connection.isUsable())
+            return;
+        xcb_connection_t* const server = m_connection.get();
+        // As large as windows get, since the host's may grow; the host's window clips it.
+        constexpr uint16_t extent = 0x7FFF;
+        constexpr uint32_t swallowed = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE |
+                                       XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE |
+                                       XCB_EVENT_MASK_POINTER_MOTION;
+        const xcb_window_t shield = xcb_generate_id(server);
+        xcb_create_window(server, 0, shield, window, 0, 0, extent, extent, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_DONT_PROPAGATE,
+                          &swallowed);
+        xcb_map_window(server, shield);
+        synchronize(server);
+    }
+
+private:
+    Connection m_connection;
+};
+
+std::unique_ptr<Shield>& currentShield()
+{
+    static std::unique_ptr<Shield> shield;
+    return shield;
 }
 
 } // namespace
@@ -91,11 +158,11 @@ std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
     if (!connection.isUsable())
         return std::nullopt;
     xcb_connection_t* const server = connection.get();
-    const auto frame = frameOf(server, windowId(window));
-    if (!frame)
+    const auto line = lineOf(server, windowId(window));
+    if (line.empty())
         return std::nullopt;
     const ReplyPointer<xcb_get_geometry_reply_t> geometry(
-        xcb_get_geometry_reply(server, xcb_get_geometry(server, *frame), nullptr));
+        xcb_get_geometry_reply(server, xcb_get_geometry(server, line.back()), nullptr));
     if (!geometry)
         return std::nullopt;
     const int border = 2 * geometry->border_width;
@@ -103,38 +170,71 @@ std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
                        geometry->y + geometry->height + border};
 }
 
+void embed(QWidget*, NativeWindowHandle) {}
+
 void setTransientFor(QWidget* dialog, NativeWindowHandle window)
 {
     if (!isX11() || !outerRectangle(window))
         return;
     dialog->winId(); // makes the window
     QWindow* const foreign = QWindow::fromWinId(windowId(window));
-    foreign->setParent(nullptr);
     dialog->windowHandle()->setTransientParent(foreign);
-    QObject::connect(dialog, &QObject::destroyed, foreign, &QObject::deleteLater);
+    QObject::connect(dialog, &QObject::destroyed, foreign, [foreign] { delete foreign; });
 }
 
-void activate(NativeWindowHandle window)
+void setEnabled(NativeWindowHandle window, bool enabled)
+{
+    currentShield() = enabled || !isX11() ? nullptr : std::make_unique<Shield>(windowId(window));
+}
+
+NativeWindowHandle focusWindow(NativeWindowHandle window)
+{
+    if (!isX11())
+        return nullptr;
+    const Connection connection;
+    if (!connection.isUsable())
+        return nullptr;
+    const xcb_window_t focus = windowWithFocus(connection.get());
+    for (const xcb_window_t ancestor : lineOf(connection.get(), focus))
+        if (ancestor == windowId(window))
+            return reinterpret_cast<NativeWindowHandle>(quintptr(focus));
+    return nullptr;
+}
+
+void setFocus(NativeWindowHandle window)
 {
     if (!isX11())
         return;
     const Connection connection;
     if (!connection.isUsable())
         return;
+    xcb_connection_t* const server = connection.get();
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
-    message.window = windowId(window);
+    message.window = managedWindow(connection, windowId(window));
     message.type = connection.atom("_NET_ACTIVE_WINDOW");
     message.data.data32[0] = 1; // from an application
-    xcb_connection_t* const server = connection.get();
     xcb_send_event(server, 0, connection.root(),
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char*>(&message));
     xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, windowId(window), XCB_CURRENT_TIME);
-    // Waits until the server has seen both.
-    const ReplyPointer<xcb_get_input_focus_reply_t> done(
-        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+    synchronize(server);
+}
+
+void activate(NativeWindowHandle window)
+{
+    setFocus(window);
+}
+
+void bringToTop(NativeWindowHandle window)
+{
+    setFocus(window);
+}
+
+std::optional<Qt::FocusReason> focusReason(const QByteArray&, const void*)
+{
+    return std::nullopt;
 }
 
 } // namespace native_window

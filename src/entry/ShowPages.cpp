@@ -74,10 +74,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     if (host)
         placeOverNativeParent(dialog, *host);
     QApplication::setActiveWindow(dialog);
-    const bool accepted = runModally(dialog, application);
-    if (host)
-        native_window::activate(host->parentWindow());
-    return accepted;
+    return runModally(dialog, application);
 }
 
 int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
