@@ -50,6 +50,7 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     const int row = m_grid->rowCount();
 
     auto* button = new QToolButton(m_content);
+    button->setObjectName(QLatin1String("toggle") + page->objectName());
     button->setCheckable(true);
     button->setChecked(true);
     button->setAutoRaise(true);

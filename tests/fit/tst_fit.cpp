@@ -1,0 +1,106 @@
+// Every text of the dialog has the room that it needs, in every language and skin, on every tab and
+// in every state that shows other texts.
+
+#include "DialogTest.h"
+#include "TextRoom.h"
+#include "ToolkitWarnings.h"
+
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QTest>
+#include <QTranslator>
+
+class TestFit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { failOnToolkitWarnings(); }
+
+    void narrowLabelIsFound();
+    void textsFit_data();
+    void textsFit();
+};
+
+void TestFit::initTestCase()
+{
+    // Without one the Japanese texts would be measured as boxes.
+    QVERIFY2(QFontMetrics(QApplication::font()).inFont(QChar(0x30D5)), "no Japanese font");
+}
+
+void TestFit::narrowLabelIsFound()
+{
+    OpenDialog dialog;
+    QVERIFY(cutTexts(dialog.get()).isEmpty());
+    auto* label = dialog->findChild<QLabel*>(QStringLiteral("fpsLabel"));
+    const int needed = label->fontMetrics().horizontalAdvance(QStringLiteral("rate"));
+    label->setFixedWidth(needed - 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(cutTexts(dialog.get()).size(), 1);
+    auto* list = dialog->findChild<QComboBox*>(QStringLiteral("interlaceList"));
+    list->setGeometry(list->geometry().translated(0, list->height()));
+    QVERIFY(collisions(dialog.get()).join(QLatin1Char(' ')).contains(QLatin1String("overlaps")));
+}
+
+void TestFit::textsFit_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("skinKey");
+    const struct {
+        const char* name;
+        Qt::Key key;
+    } skins[] = {{"default", Qt::Key_F5}, {"metal", Qt::Key_F6}};
+    for (const char* language : {"en", "de", "jp"})
+        for (const auto& skin : skins)
+            QTest::addRow("%s, %s", language, skin.name)
+                << QString::fromLatin1(language) << int(skin.key);
+}
+
+void TestFit::textsFit()
+{
+    QFETCH(QString, language);
+    QFETCH(int, skinKey);
+
+    QTranslator translator;
+    if (language != QLatin1String("en")) {
+        QVERIFY(translator.load(QStringLiteral("gui_mvc_") + language,
+                                qEnvironmentVariable("KV_BIN_DIR"), QString()));
+        QCoreApplication::installTranslator(&translator);
+    }
+    OpenDialog dialog;
+    dialog.probe().record().settings.num_views = KV_MVC_MAX_VIEWS;
+    QTest::keyClick(dialog.get(), Qt::Key(skinKey));
+
+    QStringList faults;
+    const auto look = [&](const QString& state) {
+        for (int tab = 0; tab < dialog.tabs()->count(); ++tab) {
+            dialog.tabs()->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            QCOMPARE(dialog->width(), 400);
+            for (const QString& fault : cutTexts(dialog.get()) + collisions(dialog.get()))
+                faults += state + QLatin1String(": ") + fault;
+        }
+    };
+
+    // Rate control shows other controls for each mode, and other labels for each unit.
+    for (int mode = 0; mode < 4; ++mode)
+        for (int units = 0; units < (mode == KV_MVC_VARIABLE_BITRATE ? 3 : 1); ++units) {
+            for (int view = 0; view < KV_MVC_RECORD_VIEWS; ++view) {
+                KvMvcViewSettings& settings = dialog.probe().record().settings.views[view];
+                settings.bitrate_mode = mode;
+                settings.bitrate_units = units;
+                settings.hrd_mode = 1;
+                settings.brightness = 0;
+                settings.contrast = -100;
+            }
+            dialog.probe().settingsToState();
+            look(QStringLiteral("mode %1, units %2").arg(mode).arg(units));
+        }
+
+    faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+QTEST_MAIN(TestFit)
+#include "tst_fit.moc"
