@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
     if (kv::parseSettings(text, settings).empty())
         mustComeBack(settings);
     KvMvcSettings record{};
-    std::memcpy(static_cast<void*>(&record), data, std::min(size, sizeof record));
+    std::copy_n(data, std::min(size, sizeof record), reinterpret_cast<uint8_t*>(&record));
     mustComeBack(record);
     return 0;
 }

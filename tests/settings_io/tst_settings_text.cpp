@@ -221,7 +221,7 @@ void TestSettingsText::anyRecordComesBackByteForByte()
 {
     std::mt19937 random(20240607);
     auto anyByte = [&] { return static_cast<unsigned char>(random()); };
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 2000; ++round) {
         KvMvcSettings settings{};
         auto* bytes = reinterpret_cast<unsigned char*>(&settings);
         const unsigned rarity = round % 4 == 0 ? 1 : round % 4 == 1 ? 2 : round % 4 == 2 ? 40 : 400;
@@ -236,12 +236,14 @@ void TestSettingsText::anyRecordComesBackByteForByte()
 
 void TestSettingsText::everyBytePositionComesBack()
 {
-    for (std::size_t at = 0; at < sizeof(KvMvcSettings); ++at) {
+    constexpr std::size_t kStep = 97; // no multiple of any field's size
+    for (std::size_t first = 0; first < kStep; ++first) {
         KvMvcSettings settings{};
-        reinterpret_cast<unsigned char*>(&settings)[at] = 0x80;
+        for (std::size_t at = first; at < sizeof settings; at += kStep)
+            reinterpret_cast<unsigned char*>(&settings)[at] = 0x80;
         KvMvcSettings back = filledRecord(0x5A);
         QVERIFY(kv::parseSettings(kv::formatSettings(settings), back).empty());
-        QVERIFY2(same(settings, back), qPrintable(QStringLiteral("byte %1").arg(at)));
+        QVERIFY2(same(settings, back), qPrintable(QStringLiteral("from byte %1").arg(first)));
     }
 }
 
