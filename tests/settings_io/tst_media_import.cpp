@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <cstdlib>
 
 using kvtest::filledRecord;
 using kvtest::makeMedia;
@@ -70,6 +71,31 @@ KvMvcSettings presetDefaults(int preset)
         defaults(&settings, 0, preset, 0);
     library.unload();
     return settings;
+}
+
+int ignoreMessage(const char*, ...)
+{
+    return 0;
+}
+
+KvMvcFunction findFunction(const char* name)
+{
+    const QByteArray wanted(name);
+    if (wanted == "malloc")
+        return reinterpret_cast<KvMvcFunction>(&std::malloc);
+    if (wanted == "free")
+        return reinterpret_cast<KvMvcFunction>(&std::free);
+    return wanted.endsWith("_printf") ? reinterpret_cast<KvMvcFunction>(&ignoreMessage) : nullptr;
+}
+
+/** Whether the encoder library takes the settings, corrected or not. */
+bool isAccepted(KvMvcSettings settings)
+{
+    QLibrary library(qEnvironmentVariable("KV_BIN_DIR") + QStringLiteral("/kv_mvcenc.so"));
+    const auto check = reinterpret_cast<KvMvcCheck>(library.resolve(KV_MVC_ENCODER_CHECK));
+    const bool accepted = check && check(findFunction, &settings, 3, 0) == 0;
+    library.unload();
+    return accepted;
 }
 
 class TestMediaImport : public QObject
@@ -136,6 +162,7 @@ void TestMediaImport::streamsBecomeSettings()
     const int result = m_library->read(settings, name.toUtf8());
     QVERIFY2(result == 0, m_library->messages.constData());
     const KvMvcSettings defaults = presetDefaults(KV_MVC_VIDEO_TYPE_NONE);
+    QVERIFY(isAccepted(settings));
     QCOMPARE(settings.num_views, 1);
     for (const KvMvcViewSettings& view : settings.views) {
         QCOMPARE(view.width, expected.width);
@@ -230,6 +257,7 @@ void TestMediaImport::viewsChooseThePreset()
     QVERIFY2(error.isEmpty(), error.constData());
     KvMvcSettings settings{};
     QCOMPARE(m_library->read(settings, name.toUtf8()), 0);
+    QVERIFY(isAccepted(settings));
     QCOMPARE(settings.num_views, views);
     for (const KvMvcViewSettings& view : settings.views) {
         QCOMPARE(view.video_type, preset);
