@@ -49,6 +49,9 @@ struct SequenceParameters {
     uint32_t views = 1; // of a subset parameter set
 };
 
+/** Whether subset parameter sets of the profile tell the number of views (Annex H). */
+bool isMultiviewProfile(uint32_t profile);
+
 /**
  * Parses the payload of a sequence parameter set or of a subset one, emulation prevention removed.
  * @return None for a damaged or impossible set.
