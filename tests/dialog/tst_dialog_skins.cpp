@@ -1,0 +1,126 @@
+// F5 and F6 change the skin, and the banner is set with it.
+
+#include "DialogTest.h"
+#include "ToolkitWarnings.h"
+#include "UserInput.h"
+
+#include <QFile>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+QString sheet(const char* skin)
+{
+    QFile file(QStringLiteral(":/res_mvc/skins/%1.qss").arg(QLatin1String(skin)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+}
+
+} // namespace
+
+class TestDialogSkins : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void opensInTheDefaultSkin();
+    void keysSwitchTheSkin();
+    void keysOfAFocusedControl();
+    void otherKeysDoNot_data();
+    void otherKeysDoNot();
+    void bannerIsSetAgainEachTime_data();
+    void bannerIsSetAgainEachTime();
+    void editsSurviveASkin();
+};
+
+void TestDialogSkins::opensInTheDefaultSkin()
+{
+    OpenDialog dialog;
+    QVERIFY(!sheet("default").isEmpty());
+    QVERIFY(sheet("default") != sheet("metal"));
+    QCOMPARE(dialog->styleSheet(), sheet("default"));
+}
+
+void TestDialogSkins::keysSwitchTheSkin()
+{
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key_F6);
+    QCOMPARE(dialog->styleSheet(), sheet("metal"));
+    QTest::keyClick(dialog.get(), Qt::Key_F6);
+    QCOMPARE(dialog->styleSheet(), sheet("metal"));
+    QTest::keyClick(dialog.get(), Qt::Key_F5);
+    QCOMPARE(dialog->styleSheet(), sheet("default"));
+    QVERIFY(dialog.companions.calls.isEmpty());
+    QVERIFY(dialog->isVisible());
+}
+
+void TestDialogSkins::keysOfAFocusedControl()
+{
+    OpenDialog dialog;
+    auto* width = findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin");
+    width->setFocus();
+    QTest::keyClick(width, Qt::Key_F6);
+    QCOMPARE(dialog->styleSheet(), sheet("metal"));
+    QCOMPARE(width->value(), 720);
+}
+
+void TestDialogSkins::otherKeysDoNot_data()
+{
+    QTest::addColumn<int>("key");
+    for (const int key : {Qt::Key_F1, Qt::Key_F4, Qt::Key_F7, Qt::Key_5, Qt::Key_6})
+        QTest::addRow("%x", unsigned(key)) << key;
+}
+
+void TestDialogSkins::otherKeysDoNot()
+{
+    QFETCH(int, key);
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key(key));
+    QCOMPARE(dialog->styleSheet(), sheet("default"));
+}
+
+void TestDialogSkins::bannerIsSetAgainEachTime_data()
+{
+    QTest::addColumn<bool>("ofTheHost");
+    QTest::newRow("built in") << false;
+    QTest::newRow("of the host") << true;
+}
+
+void TestDialogSkins::bannerIsSetAgainEachTime()
+{
+    QFETCH(bool, ofTheHost);
+    QTemporaryDir directory;
+    const QByteArray path = directory.filePath(QStringLiteral("banner.png")).toUtf8();
+    QImage image(30, 10, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QVERIFY(image.save(QString::fromUtf8(path)));
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {0, nullptr, nullptr, ofTheHost ? path.constData() : nullptr};
+    AVCVideoEncoderDlg dialog(&settings, &hosting, nullptr);
+    auto* const banner = dialog.findChild<QLabel*>(QStringLiteral("bannerFrame"));
+    const QImage shown = banner->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(shown.size() == QSize(30, 10), ofTheHost);
+
+    for (const auto key : {Qt::Key_F6, Qt::Key_F5}) {
+        banner->setPixmap(QPixmap());
+        QTest::keyClick(&dialog, key);
+        QCOMPARE(banner->pixmap(Qt::ReturnByValue).toImage(), shown);
+    }
+}
+
+void TestDialogSkins::editsSurviveASkin()
+{
+    OpenDialog dialog;
+    user::type(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin"),
+               QStringLiteral("640"));
+    QTest::keyClick(dialog.get(), Qt::Key_F6);
+    QCOMPARE(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin")->value(), 640);
+    QCOMPARE(int(dialog.probe().record().settings.views[0].width), 640);
+}
+
+QTEST_MAIN(TestDialogSkins)
+#include "tst_dialog_skins.moc"
