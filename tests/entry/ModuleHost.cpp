@@ -1,0 +1,264 @@
+// A host program for the module, driven by its arguments: each is a step, and what comes of it is
+// written to standard output, a line each. What happens in an open dialog is done by a timer.
+//
+//   module_host MODULE STEP...
+//
+// | step            | does                                                                |
+// |-----------------|---------------------------------------------------------------------|
+// | flags=NUMBER    | the flags of the next calls                                          |
+// | ext=KIND        | null, application, window=ID; with "record:" before it, in a record  |
+// |                 | of the host (bit 29); "record" is a null record                      |
+// | title=, banner= | of the record                                                        |
+// | press=WHAT      | ok, cancel, close: what is done in the dialog                         |
+// | call            | calls the module: "result", "changed", "record flags"                |
+// | call-null       | calls it without settings                                            |
+// | mapped          | names what of the host's and the module's folders is mapped          |
+// | application     | makes an application object; "delete" deletes it                     |
+// | instance        | says whether there is an application object                          |
+// | window, unwindow| shows a window of the host's application; closes it                  |
+// | run             | runs the application's event loop until the last window is closed    |
+// | unload          | unloads the module                                                   |
+// | replace=FILE    | puts "replacement.so" in the place of a file beside the module       |
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <dlfcn.h>
+
+#include <kv_config_gui_mvc/config_gui.h>
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace
+{
+
+void say(const QString& line)
+{
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+QString what = QStringLiteral("cancel");
+
+QString yesNo(bool yes)
+{
+    return yes ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+void describe(QDialog* dialog)
+{
+    say(QStringLiteral("title ") + dialog->windowTitle());
+    say(QStringLiteral("place %1,%2 %3x%4")
+            .arg(dialog->pos().x())
+            .arg(dialog->pos().y())
+            .arg(dialog->width())
+            .arg(dialog->height()));
+    const QWidget* const parent = dialog->parentWidget();
+    say(QStringLiteral("parent ") +
+        (parent ? QString::fromLatin1(parent->metaObject()->className()) : QStringLiteral("none")));
+    say(QStringLiteral("active ") + yesNo(QApplication::activeWindow() == dialog));
+    if (const auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget")))
+        say(QStringLiteral("last tab ") + tabs->tabText(tabs->count() - 1));
+    if (const auto* log = dialog->findChild<QTextEdit*>(QStringLiteral("errorLog")))
+        say(QStringLiteral("log ") + log->toPlainText().simplified());
+    if (const auto* banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame")))
+        say(QStringLiteral("banner %1").arg(banner->pixmap(Qt::ReturnByValue).width()));
+}
+
+void press(QDialog* dialog)
+{
+    const char* const button = what == QLatin1String("ok") ? "buttonOk" : "buttonCancel";
+    if (what == QLatin1String("close"))
+        dialog->close();
+    else
+        dialog->findChild<QPushButton*>(QLatin1String(button))->click();
+    if (dialog->isVisible()) {
+        say(QStringLiteral("still open"));
+        dialog->reject();
+    }
+}
+
+/// Runs in every application object's constructor, also in that of the module's own.
+void watchDialogs()
+{
+    auto* const timer = new QTimer(QCoreApplication::instance());
+    auto last = std::make_shared<QPointer<QWidget>>();
+    QObject::connect(timer, &QTimer::timeout, timer, [last] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible() || *last == dialog)
+            return;
+        *last = dialog;
+        describe(dialog);
+        press(dialog);
+    });
+    timer->start(50);
+}
+
+struct Host {
+    std::string modulePath;
+    void* module = nullptr;
+    KvShowMvcEncoderPages show = nullptr;
+
+    std::unique_ptr<QApplication> application;
+    std::unique_ptr<QWidget> window;
+
+    KvMvcSettings settings = {};
+    int32_t flags = 0;
+    KvMvcHosting record = {-1, nullptr, nullptr, nullptr};
+    bool ownRecord = false;
+    bool nullRecord = false;
+    void* parent = nullptr;
+    std::string title;
+    std::string banner;
+
+    bool load();
+    void setExt(std::string kind);
+    void call(KvMvcSettings* edited);
+    void mapped() const;
+    bool step(const std::string& text);
+};
+
+bool Host::load()
+{
+    module = dlopen(modulePath.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!module) {
+        say(QString::fromUtf8(dlerror()));
+        return false;
+    }
+    show = reinterpret_cast<KvShowMvcEncoderPages>(dlsym(module, "showMVCEncoderPages"));
+    return show != nullptr;
+}
+
+void Host::setExt(std::string kind)
+{
+    const std::string prefix = "record:";
+    nullRecord = kind == "record";
+    ownRecord = kind.compare(0, prefix.size(), prefix) == 0;
+    if (ownRecord)
+        kind.erase(0, prefix.size());
+    parent = nullptr;
+    if (kind == "application")
+        parent = application.get();
+    else if (kind.compare(0, 7, "window=") == 0)
+        parent = reinterpret_cast<void*>(std::stoul(kind.substr(7), nullptr, 0));
+}
+
+void Host::call(KvMvcSettings* edited)
+{
+    settings = {};
+    settings.num_views = 2;
+    const KvMvcSettings before = settings;
+    record = {-1, parent, title.empty() ? nullptr : title.c_str(),
+              banner.empty() ? nullptr : banner.c_str()};
+    const int32_t result = show(edited, flags, ownRecord ? &record : nullRecord ? nullptr : parent);
+    say(QStringLiteral("result %1").arg(result));
+    say(QStringLiteral("changed ") + yesNo(std::memcmp(&before, &settings, sizeof before) != 0));
+    if (ownRecord)
+        say(QStringLiteral("record flags %1").arg(unsigned(record.flags), 8, 16, QLatin1Char('0')));
+}
+
+void Host::mapped() const
+{
+    std::set<std::string> names;
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);) {
+        const auto slash = line.rfind('/');
+        if (slash == std::string::npos)
+            continue;
+        const std::string file = line.substr(slash + 1);
+        if (file.compare(0, 3, "kv_") == 0 || file.compare(0, 4, "mvc_") == 0)
+            names.insert(file);
+    }
+    std::string all = "mapped";
+    for (const std::string& name : names)
+        all += ' ' + name;
+    say(QString::fromStdString(all));
+}
+
+bool Host::step(const std::string& text)
+{
+    const auto equals = text.find('=');
+    const std::string name = text.substr(0, equals);
+    const std::string value = equals == std::string::npos ? "" : text.substr(equals + 1);
+    static int argumentCount = 1;
+    static char programName[] = "module_host";
+    static char* arguments[] = {programName, nullptr};
+
+    if (name == "flags") {
+        flags = int32_t(std::stoul(value, nullptr, 0));
+    } else if (name == "ext") {
+        setExt(value);
+    } else if (name == "title") {
+        title = value;
+    } else if (name == "banner") {
+        banner = value;
+    } else if (name == "press") {
+        what = QString::fromStdString(value);
+    } else if (name == "call") {
+        call(&settings);
+    } else if (name == "call-null") {
+        call(nullptr);
+    } else if (name == "mapped") {
+        mapped();
+    } else if (name == "application") {
+        application = std::make_unique<QApplication>(argumentCount, arguments);
+    } else if (name == "delete") {
+        application.reset();
+    } else if (name == "instance") {
+        say(QStringLiteral("instance ") + yesNo(QCoreApplication::instance()));
+    } else if (name == "window") {
+        window = std::make_unique<QLabel>(QStringLiteral("host"));
+        window->show();
+        window->activateWindow();
+        QCoreApplication::processEvents();
+    } else if (name == "unwindow") {
+        window->close();
+        QCoreApplication::processEvents();
+        window.reset();
+    } else if (name == "run") {
+        const QPointer<QWidget> closed = window.get();
+        QTimer::singleShot(0, closed, [closed] { closed->close(); });
+        say(QStringLiteral("loop %1").arg(QApplication::exec()));
+    } else if (name == "unload") {
+        dlclose(module);
+        module = nullptr;
+        show = nullptr;
+    } else if (name == "replace") {
+        const std::string folder = modulePath.substr(0, modulePath.rfind('/') + 1);
+        return std::rename((folder + "replacement.so").c_str(), (folder + value).c_str()) == 0;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(watchDialogs)
+
+int main(int argc, char** argv)
+{
+    Host host;
+    host.modulePath = argc > 1 ? argv[1] : "";
+    if (!host.load())
+        return 2;
+    for (int i = 2; i < argc; ++i) {
+        if (!host.step(argv[i])) {
+            say(QStringLiteral("no such step: ") + QString::fromLocal8Bit(argv[i]));
+            return 2;
+        }
+    }
+    say(QStringLiteral("end"));
+    return 0;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// A folder "host" with the host program, a folder "module" with the module, or both in "host", and
+/// the companion stubs that a test puts into either. The program runs as a process of its own,
+/// since an application object, loaded libraries and environment are the process's.
+class Sandbox
+{
+public:
+    enum class Module { BesideHost, Apart };
+    explicit Sandbox(Module where = Module::BesideHost);
+
+    /// Copies a stub to "FOLDER/NAME.so".
+    void add(const char* stub, const char* name, const char* folder = "host") const;
+    /// The stubs of the required companions.
+    void addRequired() const;
+    QString path(const QString& name) const { return m_directory.filePath(name); }
+
+    struct Result {
+        int exitCode;
+        QStringList lines;
+        /// Load, call and unload lines of the stubs.
+        QStringList log;
+        QString errors;
+
+        /// The rest of the first line that begins so; null without one.
+        QString value(const char* beginning) const;
+        /// The rest of every line that begins so.
+        QStringList values(const char* beginning) const;
+    };
+    /// Runs the steps of the host program.
+    Result run(const QStringList& steps, const QMap<QString, QString>& environment = {}) const;
+
+private:
+    QTemporaryDir m_directory;
+    QString m_module;
+};

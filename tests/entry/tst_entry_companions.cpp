@@ -1,0 +1,214 @@
+// Which companion libraries a call loads, in which order, from where, and when it gives up.
+
+#include "Sandbox.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace
+{
+
+const QStringList ownCall = {QStringLiteral("flags=0"), QStringLiteral("call")};
+
+struct Stub {
+    const char* stub;
+    const char* name;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(QVector<Stub>)
+
+class TestEntryCompanions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loaded_data();
+    void loaded();
+    void nullSettingsTouchNoLibrary();
+    void companionBesideTheHostWins();
+    void companionBesideTheModuleIsFound();
+    void oneOfEachPlace();
+    void brokenFileCountsAsMissing();
+    void failedCallsLibrariesAreReleasedByTheNextCall();
+    void missingFunctionIsNotFoundInAnEarlierCallsLibrary();
+};
+
+void TestEntryCompanions::loaded_data()
+{
+    QTest::addColumn<QVector<Stub>>("stubs");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QStringList>("log");
+
+    const auto row = [](const char* name, const QVector<Stub>& stubs, int result,
+                        std::initializer_list<const char*> log) {
+        QStringList lines;
+        for (const char* line : log)
+            lines += QString::fromLatin1(line);
+        QTest::newRow(name) << stubs << result << lines;
+    };
+    const Stub settingsIo = {"stub_entry_settings_io", "kv_mvc_settings_io"};
+    const Stub encoder = {"stub_entry_encoder", "kv_mvcenc"};
+    const Stub encoderB = {"stub_entry_encoder", "kv_mvcenc_b"};
+
+    // What a failed call loaded is unloaded when the process ends, in no order of ours.
+    row("none", {}, 1, {});
+    row("no encoder", {settingsIo}, 1,
+        {"load host/kv_mvc_settings_io.so", "unload host/kv_mvc_settings_io.so"});
+    row("no settings file library", {encoder}, 1, {});
+    row("settings file library without its function",
+        {{"stub_entry_empty", "kv_mvc_settings_io"}, encoder}, 1,
+        {"load host/kv_mvc_settings_io.so", "unload host/kv_mvc_settings_io.so"});
+    row("the required ones", {settingsIo, encoder}, 1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so", "unload host/kv_mvcenc.so",
+         "unload host/kv_mvc_settings_io.so"});
+    row("the first encoder name", {settingsIo, encoderB}, 1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc_b.so",
+         "unload host/kv_mvcenc_b.so", "unload host/kv_mvc_settings_io.so"});
+    row("both encoder names", {settingsIo, encoder, encoderB}, 1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc_b.so",
+         "unload host/kv_mvcenc_b.so", "unload host/kv_mvc_settings_io.so"});
+    row("all", {settingsIo, encoder, {"stub_entry_probe", "kv_media_probe"}}, 1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so", "load host/kv_media_probe.so",
+         "unload host/kv_mvcenc.so", "unload host/kv_media_probe.so",
+         "unload host/kv_mvc_settings_io.so"});
+    row("both probe names",
+        {settingsIo,
+         encoder,
+         {"stub_entry_probe", "kv_media_probe"},
+         {"stub_entry_probe", "kv_media_probe_x"}},
+        1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so",
+         "load host/kv_media_probe_x.so", "unload host/kv_mvcenc.so",
+         "unload host/kv_media_probe_x.so", "unload host/kv_mvc_settings_io.so"});
+    row("probe without functions",
+        {settingsIo,
+         encoder,
+         {"stub_entry_empty", "kv_media_probe_x"},
+         {"stub_entry_probe", "kv_media_probe"}},
+        1001,
+        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so",
+         "load host/kv_media_probe_x.so", "unload host/kv_mvcenc.so",
+         "unload host/kv_media_probe_x.so", "unload host/kv_mvc_settings_io.so"});
+}
+
+void TestEntryCompanions::loaded()
+{
+    QFETCH(QVector<Stub>, stubs);
+    QFETCH(int, result);
+    QFETCH(QStringList, log);
+    const Sandbox sandbox;
+    for (const Stub& stub : stubs)
+        sandbox.add(stub.stub, stub.name);
+    const auto run = sandbox.run(ownCall);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.value("result"), QString::number(result));
+    QCOMPARE(run.log, log);
+    QCOMPARE(run.errors, QString());
+}
+
+void TestEntryCompanions::nullSettingsTouchNoLibrary()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(
+        {QStringLiteral("flags=0x13"), QStringLiteral("call-null"), QStringLiteral("instance")});
+    QCOMPARE(run.value("result"), QStringLiteral("1"));
+    QCOMPARE(run.value("instance"), QStringLiteral("no"));
+    QCOMPARE(run.log, QStringList());
+}
+
+void TestEntryCompanions::companionBesideTheHostWins()
+{
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    for (const char* folder : {"host", "module"}) {
+        sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io", folder);
+        sandbox.add("stub_entry_encoder", "kv_mvcenc", folder);
+    }
+    const auto run = sandbox.run(ownCall);
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load host/kv_mvc_settings_io.so"),
+                                             QStringLiteral("load host/kv_mvcenc.so")}));
+    QCOMPARE(run.log.size(), 4);
+}
+
+void TestEntryCompanions::companionBesideTheModuleIsFound()
+{
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io", "module");
+    sandbox.add("stub_entry_encoder", "kv_mvcenc", "module");
+    const auto run = sandbox.run(ownCall);
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load module/kv_mvc_settings_io.so"),
+                                             QStringLiteral("load module/kv_mvcenc.so")}));
+}
+
+void TestEntryCompanions::oneOfEachPlace()
+{
+    // The order of names comes before the order of places.
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.addRequired();
+    sandbox.add("stub_entry_encoder", "kv_mvcenc_b", "module");
+    const auto run = sandbox.run(ownCall);
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QVERIFY(run.log.contains(QLatin1String("load module/kv_mvcenc_b.so")));
+    QVERIFY(!run.log.contains(QLatin1String("load host/kv_mvcenc.so")));
+}
+
+void TestEntryCompanions::brokenFileCountsAsMissing()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    QFile broken(sandbox.path(QStringLiteral("host/kv_mvcenc_b.so")));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("no library");
+    broken.close();
+    const auto run = sandbox.run(ownCall);
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QVERIFY(run.log.contains(QLatin1String("load host/kv_mvcenc.so")));
+}
+
+void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()
+{
+    const Sandbox sandbox;
+    sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io");
+    sandbox.add("stub_entry_encoder_without_check", "kv_mvcenc_b");
+    sandbox.add("stub_entry_encoder", "kv_mvcenc");
+    sandbox.add("stub_entry_probe", "kv_media_probe");
+    const auto run =
+        sandbox.run({QStringLiteral("call"), QStringLiteral("mapped"), QStringLiteral("call-null"),
+                     QStringLiteral("mapped"), QStringLiteral("call"), QStringLiteral("mapped")});
+    QCOMPARE(run.values("result"),
+             QStringList({QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")}));
+    // No fallback to the other encoder, and no probe.
+    const QString left = QStringLiteral("kv_config_gui_mvc.so kv_mvc_settings_io.so "
+                                        "kv_mvcenc_b.so");
+    QCOMPARE(run.values("mapped"), QStringList({left, left, left}));
+    const QStringList expected = {QStringLiteral("load host/kv_mvc_settings_io.so"),
+                                  QStringLiteral("load host/kv_mvcenc_b.so"),
+                                  QStringLiteral("unload host/kv_mvc_settings_io.so"),
+                                  QStringLiteral("load host/kv_mvc_settings_io.so"),
+                                  QStringLiteral("unload host/kv_mvcenc_b.so"),
+                                  QStringLiteral("load host/kv_mvcenc_b.so")};
+    QCOMPARE(run.log.mid(0, 6), expected);
+}
+
+void TestEntryCompanions::missingFunctionIsNotFoundInAnEarlierCallsLibrary()
+{
+    // A good call, then the encoder is replaced by one that lacks a function.
+    for (const char* lacking :
+         {"stub_entry_encoder_without_check", "stub_entry_encoder_without_defaults"}) {
+        const Sandbox sandbox;
+        sandbox.addRequired();
+        sandbox.add(lacking, "replacement");
+        const auto run =
+            sandbox.run({QStringLiteral("call"), QStringLiteral("replace=kv_mvcenc.so"),
+                         QStringLiteral("call"), QStringLiteral("instance")});
+        QCOMPARE(run.values("result"), QStringList({QStringLiteral("1001"), QStringLiteral("1")}));
+        QCOMPARE(run.value("instance"), QStringLiteral("no"));
+    }
+}
+
+QTEST_MAIN(TestEntryCompanions)
+#include "tst_entry_companions.moc"

@@ -1,0 +1,211 @@
+// A window of another toolkit as the dialog's parent, on a virtual X display.
+
+#include "Sandbox.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <xcb/xcb.h>
+
+#include <memory>
+
+namespace
+{
+
+constexpr int screenWidth = 1280;
+constexpr int screenHeight = 1024;
+
+/// A window that nothing manages, so that it lies where it was put.
+class ForeignWindow
+{
+public:
+    ForeignWindow(const QByteArray& display, const QRect& place)
+        : m_connection(xcb_connect(display.constData(), nullptr))
+    {
+        const xcb_screen_t* const screen =
+            xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+        m_window = xcb_generate_id(m_connection);
+        const uint32_t unmanaged = 1;
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, screen->root,
+                          int16_t(place.x()), int16_t(place.y()), uint16_t(place.width()),
+                          uint16_t(place.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                          screen->root_visual, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
+        xcb_map_window(m_connection, m_window);
+        // The answer tells that the window is there.
+        free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    }
+    ForeignWindow(const ForeignWindow&) = delete;
+    ForeignWindow& operator=(const ForeignWindow&) = delete;
+    ~ForeignWindow() { xcb_disconnect(m_connection); }
+
+    QString id() const { return QString::number(m_window); }
+    bool hasFocus() const
+    {
+        auto* const reply =
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr);
+        const bool focused = reply && reply->focus == m_window;
+        free(reply);
+        return focused;
+    }
+
+private:
+    xcb_connection_t* m_connection;
+    xcb_window_t m_window = 0;
+};
+
+} // namespace
+
+class TestEntryNativeParent : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+
+    void dialogIsPutOverTheParent_data();
+    void dialogIsPutOverTheParent();
+    void parentMayBeInARecord();
+    void windowThatIsGone();
+    void parentGetsTheFocusBack();
+    void platformWithoutForeignWindows();
+
+private:
+    QMap<QString, QString> environment() const
+    {
+        return {{QStringLiteral("DISPLAY"), QString::fromLatin1(m_display)},
+                {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")}};
+    }
+
+    QProcess m_server;
+    QByteArray m_display;
+};
+
+void TestEntryNativeParent::initTestCase()
+{
+    if (qstrlen(KV_XVFB) == 0)
+        QSKIP("no Xvfb on this system");
+    m_server.start(QStringLiteral(KV_XVFB),
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"),
+                    QStringLiteral("%1x%2x24").arg(screenWidth).arg(screenHeight),
+                    QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    QVERIFY(m_server.waitForStarted());
+    while (!m_server.canReadLine())
+        QVERIFY(m_server.waitForReadyRead(20000));
+    m_display = ':' + m_server.readLine().trimmed();
+}
+
+void TestEntryNativeParent::cleanupTestCase()
+{
+    if (m_server.state() == QProcess::NotRunning)
+        return;
+    m_server.terminate();
+    m_server.waitForFinished();
+}
+
+void TestEntryNativeParent::dialogIsPutOverTheParent_data()
+{
+    QTest::addColumn<QRect>("parent");
+    QTest::addColumn<QPoint>("centre"); // of the dialog; -1: at the edge named by the tag
+    QTest::newRow("centre") << QRect(400, 200, 600, 700) << QPoint(700, 550);
+    QTest::newRow("off the left edge") << QRect(-500, 200, 600, 700) << QPoint(-1, 550);
+    QTest::newRow("off the right edge") << QRect(1200, 200, 600, 700) << QPoint(-1, 550);
+    QTest::newRow("off the top edge") << QRect(400, -600, 600, 700) << QPoint(700, -1);
+    QTest::newRow("off the bottom edge") << QRect(400, 900, 600, 700) << QPoint(700, -1);
+}
+
+void TestEntryNativeParent::dialogIsPutOverTheParent()
+{
+    QFETCH(QRect, parent);
+    QFETCH(QPoint, centre);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const ForeignWindow window(m_display, parent);
+    const auto run =
+        sandbox.run({QStringLiteral("ext=window=") + window.id(), QStringLiteral("flags=3"),
+                     QStringLiteral("call"), QStringLiteral("mapped")},
+                    environment());
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
+    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc.so"));
+
+    const auto place = QRegularExpression(QStringLiteral("^(-?\\d+),(-?\\d+) (\\d+)x(\\d+)$"))
+                           .match(run.value("place"));
+    QVERIFY2(place.hasMatch(), qPrintable(run.value("place")));
+    const QRect dialog(place.captured(1).toInt(), place.captured(2).toInt(),
+                       place.captured(3).toInt(), place.captured(4).toInt());
+    QCOMPARE(dialog.width(), 400);
+    QVERIFY(dialog.height() >= 500 && dialog.height() < screenHeight);
+
+    const QByteArray edge = QTest::currentDataTag();
+    const int x = edge.contains("left")    ? 0
+                  : edge.contains("right") ? screenWidth - 400
+                                           : centre.x() - 400 / 2;
+    const int y = edge.contains("top")      ? 0
+                  : edge.contains("bottom") ? screenHeight - dialog.height()
+                                            : centre.y() - dialog.height() / 2;
+    QCOMPARE(dialog.topLeft(), QPoint(x, y));
+}
+
+void TestEntryNativeParent::parentMayBeInARecord()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    const auto run = sandbox.run({QStringLiteral("ext=record:window=") + window.id(),
+                                  QStringLiteral("flags=0x20000000"), QStringLiteral("title=Over"),
+                                  QStringLiteral("call")},
+                                 environment());
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
+    QCOMPARE(run.value("title"), QStringLiteral("Over"));
+    QVERIFY(run.value("place").startsWith(QLatin1String("0,0 ")));
+}
+
+void TestEntryNativeParent::windowThatIsGone()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    QString id;
+    {
+        const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+        id = window.id();
+    }
+    const auto run = sandbox.run(
+        {QStringLiteral("ext=window=") + id, QStringLiteral("flags=0"), QStringLiteral("call")},
+        environment());
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    // In the desktop's middle.
+    QVERIFY2(run.value("place").startsWith(QLatin1String("440,")), qPrintable(run.value("place")));
+}
+
+void TestEntryNativeParent::parentGetsTheFocusBack()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const ForeignWindow window(m_display, QRect(100, 100, 300, 300));
+    QVERIFY(!window.hasFocus());
+    const auto run =
+        sandbox.run({QStringLiteral("ext=window=") + window.id(), QStringLiteral("flags=0x13"),
+                     QStringLiteral("press=ok"), QStringLiteral("call")},
+                    environment());
+    QCOMPARE(run.value("result"), QStringLiteral("1000"));
+    QVERIFY(window.hasFocus());
+}
+
+void TestEntryNativeParent::platformWithoutForeignWindows()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(
+        {QStringLiteral("ext=window=12345"), QStringLiteral("flags=0"), QStringLiteral("call")});
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
+    // Of the offscreen platform's 800 x 800.
+    QVERIFY2(run.value("place").startsWith(QLatin1String("200,")), qPrintable(run.value("place")));
+}
+
+QTEST_MAIN(TestEntryNativeParent)
+#include "tst_entry_native_parent.moc"

@@ -1,0 +1,149 @@
+// The C example, built as a project of its own and used as its readers would.
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+struct Result {
+    int exitCode;
+    QString output;
+    QString error;
+};
+
+Result run(const QString& program, const QStringList& arguments,
+           const QMap<QString, QString>& variables = {})
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (auto at = variables.begin(); at != variables.end(); ++at)
+        environment.insert(at.key(), at.value());
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    if (!process.waitForFinished(100000)) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, {}, QStringLiteral("did not end")};
+    }
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2,
+            QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+} // namespace
+
+class TestCHost : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void edits_data();
+    void edits();
+    void presetOfTheCommandLine();
+    void errors_data();
+    void errors();
+
+private:
+    /// Runs the example while a script is played on its dialog.
+    Result play(const QStringList& arguments, const QByteArray& script) const;
+    QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_directory;
+    QString m_program;
+    const QString m_folder = qEnvironmentVariable("KV_BIN_DIR");
+};
+
+void TestCHost::initTestCase()
+{
+    const Result configured =
+        run(QStringLiteral(KV_CMAKE),
+            {QStringLiteral("-S"), QStringLiteral(KV_C_HOST_SOURCE), QStringLiteral("-B"),
+             path("build"), QStringLiteral("-G"), QStringLiteral(KV_GENERATOR),
+             QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
+             QStringLiteral("-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror"),
+             QStringLiteral("-DKV_INCLUDE_DIR=" KV_INCLUDE)});
+    QVERIFY2(configured.exitCode == 0, qPrintable(configured.output + configured.error));
+    const Result built = run(QStringLiteral(KV_CMAKE), {QStringLiteral("--build"), path("build")});
+    QVERIFY2(built.exitCode == 0, qPrintable(built.output + built.error));
+    m_program = path("build/kv-c-host");
+}
+
+Result TestCHost::play(const QStringList& arguments, const QByteArray& script) const
+{
+    QFile file(path("script.txt"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size())
+        return {-1, {}, QStringLiteral("cannot write the script")};
+    file.close();
+    return run(m_program, arguments,
+               {{QStringLiteral("QT_PLUGIN_PATH"), qEnvironmentVariable("KV_PLUGINS")},
+                {QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
+                 QLatin1String("kvautopilot:") + file.fileName()}});
+}
+
+void TestCHost::edits_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("output");
+    QTest::newRow("accepted") << QByteArray("type widthSpin 1280\ntype heightSpin 720\n"
+                                            "choose framerateList 25.00\nclick OK\n")
+                              << 0
+                              << QStringLiteral("accepted\nview 0: 1280 x 720, 25.000 frames/s");
+    QTest::newRow("cancelled") << QByteArray("type widthSpin 1280\nclick Cancel\n") << 1
+                               << QStringLiteral("cancelled\n");
+}
+
+void TestCHost::edits()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, exitCode);
+    QFETCH(QString, output);
+    const Result result = play({m_folder}, script);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.exitCode, exitCode);
+    QVERIFY2(result.output.startsWith(output), qPrintable(result.output));
+    // Both views of the preset, or none.
+    QCOMPARE(result.output.count(QLatin1String("view ")), exitCode == 0 ? 2 : 0);
+}
+
+void TestCHost::presetOfTheCommandLine()
+{
+    const Result none = play({m_folder, QStringLiteral("0")}, "click OK\n");
+    QCOMPARE(none.exitCode, 0);
+    QCOMPARE(none.output.count(QLatin1String("view ")), 1);
+    const Result disc = play({m_folder, QStringLiteral("3")}, "click OK\n");
+    QCOMPARE(disc.exitCode, 0);
+    QVERIFY2(disc.output.contains(QLatin1String("view 1: 1920 x 1080")), qPrintable(disc.output));
+}
+
+void TestCHost::errors_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("no arguments") << QStringList() << QStringLiteral("usage: ");
+    QTest::newRow("too many") << QStringList{QStringLiteral("."), QStringLiteral("1"),
+                                             QStringLiteral("2")}
+                              << QStringLiteral("usage: ");
+    QTest::newRow("no such folder") << QStringList{QStringLiteral("/nowhere")}
+                                    << QStringLiteral("kv-c-host: /nowhere/kv_mvcenc.so");
+    QTest::newRow("path too long") << QStringList{QString(5000, QLatin1Char('x'))}
+                                   << QStringLiteral("kv-c-host: the path of kv_mvcenc");
+}
+
+void TestCHost::errors()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    const Result result = run(m_program, arguments);
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(result.error.startsWith(error), qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+}
+
+QTEST_MAIN(TestCHost)
+#include "tst_c_host.moc"
