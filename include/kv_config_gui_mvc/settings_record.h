@@ -118,26 +118,25 @@ enum { KV_MVC_ASPECT_UNSET = -1 };
 
 /** Settings of one view: 8,316 bytes. Switches are 0 or 1. */
 typedef struct KvMvcViewSettings {
-    int32_t profile;    /**< KvMvcProfile */
-    int32_t level;      /**< KvMvcLevel, or ten times the level number: 10 to 52 */
-    int32_t i_interval; /**< distance between I pictures in frames; 0: only the first */
-    int32_t
-        ref_distance; /**< distance between reference pictures: B pictures between them plus one */
+    int32_t profile;      /**< KvMvcProfile */
+    int32_t level;        /**< KvMvcLevel, or ten times the level number: 10 to 52 */
+    int32_t i_interval;   /**< distance between I pictures in frames; 0: only the first */
+    int32_t ref_distance; /**< distance of I and P pictures: B pictures in a row plus one */
     uint8_t reserved_16[4];
     int32_t interlace_mode; /**< KvMvcInterlaceMode */
     int32_t width;          /**< picture width in luma samples */
     int32_t height;         /**< picture height in luma samples */
     double frame_rate;      /**< frames per second; 0: not set. By value only: may be misaligned */
-    int32_t num_ref_frames; /**< reference frames per view */
-    int32_t motion_search;  /**< motion vector search range in luma samples */
+    int32_t num_ref_frames; /**< reference frames per view, 0 to 16 */
+    int32_t motion_search;  /**< motion vector search range in luma samples, 0 to 99 */
     uint8_t reserved_48[12];
-    int32_t quant_i;        /**< quantizer of I pictures */
-    int32_t quant_p;        /**< quantizer of P pictures */
-    int32_t quant_b;        /**< quantizer of B pictures */
+    int32_t quant_i;        /**< quantizer of I pictures, 0 to 51 at 8 bits per sample */
+    int32_t quant_p;        /**< quantizer of P pictures, 0 to 51 at 8 bits per sample */
+    int32_t quant_b;        /**< quantizer of B pictures, 0 to 51 at 8 bits per sample */
     int32_t bitrate_mode;   /**< KvMvcBitrateMode */
     int32_t bitrate_buffer; /**< coded picture buffer, in the unit of bitrate_units */
-    int32_t bitrate;        /**< target bit rate in bit/s */
-    int32_t max_bitrate;    /**< maximum bit rate in bit/s */
+    int32_t bitrate;        /**< target bit rate in bit/s, 0 or more */
+    int32_t max_bitrate;    /**< rate at which the buffer is filled at most, in bit/s (C.1.1) */
     int32_t min_partition;  /**< KvMvcMinPartition: smallest partition searched */
     int32_t entropy_mode;   /**< KvMvcEntropyMode */
     int32_t hadamard;       /**< switch: Hadamard transform in the cost measure */
@@ -178,10 +177,10 @@ typedef struct KvMvcViewSettings {
     int32_t display_aspect_x; /**< display aspect ratio, horizontal part, or KV_MVC_ASPECT_UNSET */
     int32_t display_aspect_y; /**< display aspect ratio, vertical part, or KV_MVC_ASPECT_UNSET */
     uint8_t reserved_2896[8];
-    int32_t num_threads; /**< worker threads; 0: the encoder's choice */
+    int32_t num_threads; /**< worker threads, 1 to 16; 0: the encoder's choice */
     uint8_t reserved_2908[8];
-    int32_t quant_min; /**< smallest quantizer */
-    int32_t quant_max; /**< largest quantizer */
+    int32_t quant_min; /**< smallest quantizer, 0 to 51 at 8 bits per sample */
+    int32_t quant_max; /**< largest quantizer, 0 to 51 at 8 bits per sample */
     uint8_t reserved_2924[1176];
     int32_t force_i;     /**< smallest distance between I pictures in frames */
     int32_t adaptive_b;  /**< switch: adaptive placement of B pictures */
@@ -204,7 +203,7 @@ typedef struct KvMvcViewSettings {
 typedef struct KvMvcSettings {
     /**
      * Number of coded views, 1 or more. The record has room for the first two;
-     * views beyond them exist only inside the dialog.
+     * the encoder takes the third and fourth to be like the second.
      */
     int32_t num_views;
     int32_t split_views; /**< switch: the views go to separate streams */

@@ -3,12 +3,14 @@
 #include "Companions.h"
 #include "ForeignText.h"
 #include "MessageLog.h"
+#include "model/FurtherViews.h"
 #include "model/KeyNames.h"
 #include "model/SettingsToState.h"
 #include "model/StateToSettings.h"
 #include "pages/AdvancedPage.h"
 #include "pages/BasicPage.h"
 #include "pages/ViewsPage.h"
+#include "pages/WheelGuard.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -20,6 +22,8 @@ namespace
 {
 
 constexpr QSize builtInBannerSize(380, 74);
+/// KvMvcCheck's stage as a dialog passes it.
+constexpr int32_t checkStage = 3;
 
 } // namespace
 
@@ -57,7 +61,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
 
     buildPresetRow();
     m_caller = settings;
-    m_record.settings = *settings;
+    takeSettings(*settings);
     messageLog().widget = ui.errorLog;
     ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
     connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
@@ -91,6 +95,8 @@ void AVCVideoEncoderDlg::buildPresetRow()
     m_widgetKeys = {{ui.presetList, keys::videoType}, {ui.presetButton, keys::restorePreset}};
     ui.presetList->clear();
     ui.presetList->addItems(m_vocabulary.videoTypes().keys());
+    // A turn of the wheel in passing would replace every setting.
+    WheelGuard::protect(ui.presetList);
 }
 
 void AVCVideoEncoderDlg::buildPages(qint32 flags)
@@ -189,8 +195,10 @@ void AVCVideoEncoderDlg::describeAllViews()
 void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
 {
     const auto preset = requestedPreset(m_vocabulary, state);
-    if (preset && companionFunctions().defaults)
+    if (preset && companionFunctions().defaults) {
         companionFunctions().defaults(&m_record.settings, 0, *preset, 0);
+        resetFurtherViews(m_record);
+    }
 
     const Applying edit{m_vocabulary, m_customFrameRate, state};
     const int views = m_record.viewCount();
@@ -209,6 +217,12 @@ void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
     check();
 }
 
+void AVCVideoEncoderDlg::takeSettings(const KvMvcSettings& settings)
+{
+    m_record.settings = settings;
+    resetFurtherViews(m_record);
+}
+
 bool AVCVideoEncoderDlg::check()
 {
     if (m_updating)
@@ -216,7 +230,8 @@ bool AVCVideoEncoderDlg::check()
     messageLog().clearMessages();
     const auto encoderCheck = companionFunctions().check;
     const bool accepted =
-        encoderCheck && encoderCheck(&lookUpCheckFunction, &m_record.settings, 3, 0) == 0;
+        encoderCheck && encoderCheck(&lookUpCheckFunction, &m_record.settings, checkStage, 0) == 0;
+    followSecondView(m_record);
 
     // A page may clamp what it is told and report that; the verdict is on the record as checked.
     const WorkingRecord checked = m_record;

@@ -66,6 +66,8 @@ private:
     void stateToSettings(const ConfigState& state);
     KvMvcViewSettings& currentView() { return m_record.view(m_currentView); }
 
+    /// Makes settings from outside the working copy.
+    void takeSettings(const KvMvcSettings& settings);
     /// The encoder's check of the working copy, which it may correct, with its messages in the log.
     /// @return Whether the encoder accepts the settings; false at once while pages are being told.
     bool check();

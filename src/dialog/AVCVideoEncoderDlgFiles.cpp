@@ -34,7 +34,7 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
     const auto settings = settings_files::read(path);
     if (!settings)
         return;
-    m_record.settings = *settings;
+    takeSettings(*settings);
     check();
     settingsToState();
 }

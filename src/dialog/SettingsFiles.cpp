@@ -23,7 +23,7 @@ namespace settings_files
 std::optional<KvMvcSettings> read(const QString& path)
 {
     const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
-    KvMvcSettings settings = {};
+    alignas(8) KvMvcSettings settings = {};
     if (!reader || reader(&settings, path.toUtf8().constData()) != 0)
         return std::nullopt;
     return settings;
@@ -32,7 +32,7 @@ std::optional<KvMvcSettings> read(const QString& path)
 void write(const KvMvcSettings& settings, const QString& path)
 {
     const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
-    KvMvcSettings copy = settings;
+    alignas(8) KvMvcSettings copy = settings;
     if (writer)
         writer(&copy, path.toUtf8().constData());
 }

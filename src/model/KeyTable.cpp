@@ -33,11 +33,9 @@ KeyTable makeTable()
          .enabledWhen = rules::hasCustomAspect},
         // After the pixel values, which a named ratio unsets.
         {.key = keys::pictureAspectRatio,
-         .field = &V::display_aspect_x,
          .describe = rules::describeAspectRatio,
          .apply = rules::applyAspectRatio},
         {.key = keys::frameRate,
-         .field = nullptr,
          .lock = KV_MVC_GUI_LOCK_FRAME_RATE,
          .describe = rules::describeFrameRate,
          .apply = rules::applyFrameRate},

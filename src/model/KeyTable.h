@@ -47,7 +47,8 @@ struct Fallback {
 template <class Record>
 struct SettingRow {
     QLatin1String key;
-    qint32 Record::*field;
+    /// Null where both functions below are set: the setting is no single whole number.
+    qint32 Record::*field = nullptr;
 
     /// Whole numbers: field = shown value + offset.
     qint32 offset = 0;
@@ -60,7 +61,7 @@ struct SettingRow {
 
     /// Rules of its own; null: the plain reading above.
     bool (*enabledWhen)(const Record&) = nullptr;
-    void (*describe)(const SettingRow&, const Record&, Describing&) = nullptr;
+    void (*describe)(const SettingRow&, const QString& key, const Record&, Describing&) = nullptr;
     void (*apply)(const SettingRow&, const QString& key, const Applying&, Record&) = nullptr;
 };
 
@@ -78,7 +79,7 @@ struct KeyTable {
 
 const KeyTable& keyTable();
 
-/// Puts the row's setting into the description under `key`, by the plain reading.
+/// Puts the row's setting into the description under `key`, by the plain reading; see describeRow.
 template <class Record>
 void describePlainly(const SettingRow<Record>& row, const QString& key, const Record& record,
                      Describing& out)
@@ -99,7 +100,7 @@ void describePlainly(const SettingRow<Record>& row, const QString& key, const Re
         out.state.insert(key, *text, enabled);
 }
 
-/// Stores the row's setting if the state holds `key`, by the plain reading.
+/// Stores the row's setting if the state holds `key`, by the plain reading; see applyRow.
 template <class Record>
 void applyPlainly(const SettingRow<Record>& row, const QString& key, const Applying& in,
                   Record& record)
@@ -116,4 +117,19 @@ void applyPlainly(const SettingRow<Record>& row, const QString& key, const Apply
         code = row.fallback->code;
     if (code)
         record.*row.field = *code;
+}
+
+/// Puts the row's setting into the description under `key`.
+template <class Record>
+void describeRow(const SettingRow<Record>& row, const QString& key, const Record& record,
+                 Describing& out)
+{
+    (row.describe ? row.describe : describePlainly<Record>)(row, key, record, out);
+}
+
+/// Stores the row's setting if the state holds `key`.
+template <class Record>
+void applyRow(const SettingRow<Record>& row, const QString& key, const Applying& in, Record& record)
+{
+    (row.apply ? row.apply : applyPlainly<Record>)(row, key, in, record);
 }

@@ -11,11 +11,12 @@ bool hasCustomAspect(const KvMvcViewSettings& view)
            view.display_aspect_y == KV_MVC_ASPECT_UNSET;
 }
 
-void describeAspectRatio(const ViewRow& row, const KvMvcViewSettings& view, Describing& out)
+void describeAspectRatio(const ViewRow&, const QString& key, const KvMvcViewSettings& view,
+                         Describing& out)
 {
     for (const auto& ratio : out.vocabulary.aspectRatios()) {
         if (view.display_aspect_x == ratio.x && view.display_aspect_y == ratio.y) {
-            out.state.insert(row.key, ratio.text);
+            out.state.insert(key, ratio.text);
             return;
         }
     }
@@ -69,16 +70,17 @@ std::optional<double> rateOfText(const Applying& in, const QString& text)
 
 } // namespace
 
-void describeFrameRate(const ViewRow& row, const KvMvcViewSettings& view, Describing& out)
+void describeFrameRate(const ViewRow& row, const QString& key, const KvMvcViewSettings& view,
+                       Describing& out)
 {
     const double rate = view.frame_rate;
     if (const auto text = standardRateText(out.vocabulary, rate)) {
-        out.state.insert(row.key, *text, !(out.flags & row.lock));
+        out.state.insert(key, *text, !(out.flags & row.lock));
         return;
     }
-    // A rate that the list lacks stays changeable even when locked: the host cannot have meant it.
+    // The lock covers the listed rates and "not set" only.
     out.customFrameRate = CustomFrameRate{QVariant(rate).toString(), rate};
-    out.state.insert(row.key, out.customFrameRate->text);
+    out.state.insert(key, out.customFrameRate->text);
 }
 
 void applyFrameRate(const ViewRow&, const QString& key, const Applying& in, KvMvcViewSettings& view)
@@ -89,7 +91,8 @@ void applyFrameRate(const ViewRow&, const QString& key, const Applying& in, KvMv
         view.frame_rate = *rate;
 }
 
-void describeFieldOrder(const ViewRow& row, const KvMvcViewSettings& view, Describing& out)
+void describeFieldOrder(const ViewRow& row, const QString& key, const KvMvcViewSettings& view,
+                        Describing& out)
 {
     const bool interlaced =
         view.interlace_mode == KV_MVC_INTERLACED || view.interlace_mode == KV_MVC_MBAFF;
@@ -97,7 +100,7 @@ void describeFieldOrder(const ViewRow& row, const KvMvcViewSettings& view, Descr
     if (!topFirst && !interlaced)
         return;
     const qint32 order = topFirst ? KV_MVC_TOP_FIELD_FIRST : KV_MVC_BOTTOM_FIELD_FIRST;
-    out.state.insert(row.key, *out.vocabulary.list(*row.list).textOf(order), interlaced);
+    out.state.insert(key, *out.vocabulary.list(*row.list).textOf(order), interlaced);
 }
 
 void applySlices(const ViewRow& row, const QString& key, const Applying& in,

@@ -9,12 +9,8 @@ namespace
 
 void describeRows(const std::vector<ViewRow>& rows, const KvMvcViewSettings& view, Describing& out)
 {
-    for (const ViewRow& row : rows) {
-        if (row.describe)
-            row.describe(row, view, out);
-        else
-            describePlainly(row, row.key, view, out);
-    }
+    for (const ViewRow& row : rows)
+        describeRow(row, row.key, view, out);
 }
 
 } // namespace
@@ -46,9 +42,9 @@ ConfigState describeViews(const Vocabulary& vocabulary, qint32 flags, const Work
 {
     Describing out{vocabulary, flags};
     for (const RecordRow& row : keyTable().record)
-        describePlainly(row, row.key, record.settings, out);
+        describeRow(row, row.key, record.settings, out);
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view)
         for (const ViewRow& row : keyTable().rateControl)
-            describePlainly(row, keys::ofView(row.key, view), record.view(view), out);
+            describeRow(row, keys::ofView(row.key, view), record.view(view), out);
     return out.state;
 }

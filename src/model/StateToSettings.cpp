@@ -2,20 +2,6 @@
 
 #include "KeyNames.h"
 
-namespace
-{
-
-template <class Record>
-void applyRow(const SettingRow<Record>& row, const QString& key, const Applying& in, Record& record)
-{
-    if (row.apply)
-        row.apply(row, key, in, record);
-    else
-        applyPlainly(row, key, in, record);
-}
-
-} // namespace
-
 std::optional<qint32> requestedPreset(const Vocabulary& vocabulary, const ConfigState& state)
 {
     for (const QLatin1String key : {keys::restorePreset, keys::videoType}) {

@@ -93,7 +93,7 @@ const std::array<CodedText, 2> entropyCoders{{
     {QT_TRANSLATE_NOOP("QObject", "CABAC"), KV_MVC_CABAC},
 }};
 
-// "Multivew High" is spelled so in settings files and scripts of the encoder family.
+// "Multivew High" is the name as shown and as matched, on the command line, too.
 const std::array<CodedText, 3> videoTypes{{
     {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Multivew High"), KV_MVC_MULTIVIEW_HIGH},
     {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Stereo High"), KV_MVC_STEREO_HIGH},

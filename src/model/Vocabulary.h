@@ -44,7 +44,8 @@ enum class ListName {
     EntropyCoders,
     VideoTypes,
     Profiles,
-    Levels
+    Levels,
+    Count
 };
 
 /// Every item text that travels in a state, in the language that was installed when the object was
@@ -77,7 +78,7 @@ public:
 private:
     ItemList& at(ListName name) { return m_lists[static_cast<int>(name)]; }
 
-    static constexpr int listCount = static_cast<int>(ListName::Levels) + 1;
+    static constexpr int listCount = static_cast<int>(ListName::Count);
     ItemList m_lists[listCount];
     QVector<AspectRatio> m_aspectRatios;
     QVector<FrameRate> m_frameRates;

@@ -7,7 +7,9 @@
 
 /// The dialog's working storage: the settings record with its two views and, behind it at the same
 /// stride, the slots of views 2 and 3, which reach neither the host nor a library.
-struct WorkingRecord {
+///
+/// Aligned like a record of naturally aligned fields, which a library may take it for.
+struct alignas(8) WorkingRecord {
     KvMvcSettings settings = {};
     KvMvcViewSettings furtherViews[KV_MVC_MAX_VIEWS - KV_MVC_RECORD_VIEWS] = {};
 

@@ -5,9 +5,8 @@
 BasicPage::BasicPage(QWidget* parent) : ContainerPage(parent)
 {
     ui.setupUi(this);
-    for (QWidget* widget :
-         {static_cast<QWidget*>(ui.deviceList), static_cast<QWidget*>(ui.deviceLabel),
-          static_cast<QWidget*>(ui.deviceGroup)})
+    QWidget* const inert[] = {ui.deviceList, ui.deviceLabel, ui.deviceGroup};
+    for (QWidget* widget : inert)
         widget->setVisible(false);
 
     m_videoFormat = new VideoFormatPage(this);

@@ -4,6 +4,8 @@
 
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace
 {
 
@@ -21,7 +23,7 @@ ContainerPage::ContainerPage(QWidget* parent) : SettingsPage(parent) {}
 void ContainerPage::receiveState(const ConfigState& state)
 {
     SettingsPage::receiveState(state);
-    for (SettingsPage* page : qAsConst(m_pages))
+    for (SettingsPage* page : std::as_const(m_pages))
         page->receiveState(state);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace
 {
 
@@ -21,7 +23,7 @@ SettingsPage::SettingsPage(QWidget* parent) : QFrame(parent) {}
 
 void SettingsPage::receiveState(const ConfigState& state)
 {
-    for (const StateSetter& setFromState : qAsConst(m_setters))
+    for (const StateSetter& setFromState : std::as_const(m_setters))
         setFromState(state);
 }
 

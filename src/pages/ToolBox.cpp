@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 #include <QVector>
 
+#include <utility>
+
 namespace
 {
 
@@ -33,6 +35,8 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->setSizePolicy(policy);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    // Focused controls are scrolled into view anyway; a stop of its own would be invisible.
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_content = new QFrame(this);
     m_grid = new QGridLayout(m_content);
     m_grid->setAlignment(Qt::AlignTop);
@@ -41,7 +45,6 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->setWidget(m_content);
     outer->addWidget(m_scrollArea);
     outer->setContentsMargins(0, 0, 0, 0);
-    m_lastInChain = m_scrollArea;
 }
 
 void ToolBox::addSection(QWidget* page, const QString& title, const QString& expandedIcon,
@@ -76,8 +79,9 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     // The pages are older than the buttons, but the Tab key shall go from top to bottom.
     QVector<QWidget*> chain = focusChain(page);
     chain.prepend(button);
-    for (QWidget* widget : qAsConst(chain)) {
-        setTabOrder(m_lastInChain, widget);
+    for (QWidget* widget : std::as_const(chain)) {
+        if (m_lastInChain)
+            setTabOrder(m_lastInChain, widget);
         m_lastInChain = widget;
     }
 }

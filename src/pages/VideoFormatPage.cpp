@@ -13,7 +13,10 @@ void refill(QComboBox* box, const QStringList& items)
 
 } // namespace
 
-VideoFormatPage::VideoFormatPage(QWidget* parent) : SettingsPage(parent)
+VideoFormatPage::VideoFormatPage(QWidget* parent)
+    : SettingsPage(parent),
+      m_customAspect(tr("Custom")),
+      m_aspects{{tr("1:1"), 1.0}, {tr("4:3"), 4.0 / 3}, {tr("16:9"), 16.0 / 9}}
 {
     using Page = VideoFormatPage;
     ui.setupUi(this);
@@ -35,10 +38,8 @@ VideoFormatPage::VideoFormatPage(QWidget* parent) : SettingsPage(parent)
 
 void VideoFormatPage::fillLists()
 {
-    m_customAspect = tr("Custom");
-    m_aspects = {{tr("1:1"), 1.0}, {tr("4:3"), 4.0 / 3}, {tr("16:9"), 16.0 / 9}};
     refill(ui.aspectRatioList, {m_customAspect});
-    for (const Aspect& aspect : qAsConst(m_aspects))
+    for (const Aspect& aspect : m_aspects)
         ui.aspectRatioList->addItem(aspect.text);
     refill(ui.framerateList, {tr("7.60"), tr("9.10"), tr("10.00"), tr("12.50"), tr("12.80"),
                               tr("15.00"), tr("23.98"), tr("24.00"), tr("25.00"), tr("29.97"),
@@ -63,41 +64,39 @@ void VideoFormatPage::addFramerateItem(const QString& text)
 void VideoFormatPage::receiveState(const ConfigState& state)
 {
     SettingsPage::receiveState(state);
-    const bool sizeIsFree = ui.widthSpin->isEnabled() && ui.heightSpin->isEnabled();
+    const bool sizeIsFree = ui.widthSpin->isEnabledTo(this) && ui.heightSpin->isEnabledTo(this);
     ui.aspectRatioCheck->setEnabled(sizeIsFree);
     ui.aspectRatioList->setEnabled(sizeIsFree);
 }
 
-VideoFormatPage::AspectChoice VideoFormatPage::currentAspect(double* ratio) const
+bool VideoFormatPage::isCustomAspect() const
+{
+    return ui.aspectRatioList->currentText() == m_customAspect;
+}
+
+std::optional<double> VideoFormatPage::chosenRatio() const
 {
     const QString text = ui.aspectRatioList->currentText();
-    if (text == m_customAspect)
-        return AspectChoice::Custom;
-    for (const Aspect& aspect : m_aspects) {
-        if (text == aspect.text) {
-            *ratio = aspect.ratio;
-            return AspectChoice::Ratio;
-        }
-    }
-    return AspectChoice::Unknown;
+    for (const Aspect& aspect : m_aspects)
+        if (text == aspect.text)
+            return aspect.ratio;
+    return std::nullopt;
 }
 
 void VideoFormatPage::addWidthFromHeight(ConfigState& state) const
 {
-    double ratio = 0;
-    if (currentAspect(&ratio) != AspectChoice::Ratio)
-        return;
-    state.insert(keys::horizontalSize, int(ui.heightSpin->value() * ratio));
+    if (const auto ratio = chosenRatio())
+        state.insert(keys::horizontalSize, int(ui.heightSpin->value() * *ratio));
 }
 
 void VideoFormatPage::addHeightFromWidth(ConfigState& state) const
 {
-    const int width = ui.widthSpin->value();
-    // Without a choice the present ratio is kept, and the height is reported all the same.
-    double ratio = double(width) / ui.heightSpin->value();
-    if (currentAspect(&ratio) == AspectChoice::Custom)
+    if (isCustomAspect())
         return;
-    state.insert(keys::verticalSize, int(width / ratio));
+    // Without a choice the present ratio is kept, and the height is reported all the same.
+    const int width = ui.widthSpin->value();
+    const double present = double(width) / ui.heightSpin->value();
+    state.insert(keys::verticalSize, int(width / chosenRatio().value_or(present)));
 }
 
 void VideoFormatPage::slotChangeWidth(int width)
@@ -127,12 +126,11 @@ void VideoFormatPage::slotChangeAspectRatio(const QString& text)
     Q_EMIT stateChanged(state);
 }
 
-void VideoFormatPage::slotChangeAspectRatioCheck(bool)
+void VideoFormatPage::slotChangeAspectRatioCheck(bool on)
 {
-    if (!ui.aspectRatioCheck->isChecked())
-        return;
     ConfigState state;
-    addWidthFromHeight(state);
+    if (on)
+        addWidthFromHeight(state);
     if (!state.entries().isEmpty())
         Q_EMIT stateChanged(state);
 }

@@ -4,6 +4,8 @@
 
 #include "ui_VideoFormatPage.h"
 
+#include <optional>
+
 /// Picture size and shape, frame rate, interlacing, chroma format and bit depths.
 class VideoFormatPage : public SettingsPage
 {
@@ -38,19 +40,20 @@ public Q_SLOTS:
     void slotChangeAspectRatioCheck(bool on);
 
 private:
-    enum class AspectChoice { Custom, Ratio, Unknown };
-    /// What `aspectRatioList` shows, and the ratio of width to height when it is one.
-    AspectChoice currentAspect(double* ratio) const;
+    bool isCustomAspect() const;
+    /// The ratio of width to height that `aspectRatioList` shows, when it shows one.
+    std::optional<double> chosenRatio() const;
     void addWidthFromHeight(ConfigState& state) const;
     void addHeightFromWidth(ConfigState& state) const;
 
-    Ui::IVideoFormatPage ui;
-    bool m_extraFrameRateAdded = false;
-    /// The list's texts as the aspect ratio arithmetic compares them.
     struct Aspect {
         QString text;
         double ratio;
     };
-    QString m_customAspect;
-    QVector<Aspect> m_aspects;
+
+    Ui::IVideoFormatPage ui;
+    bool m_extraFrameRateAdded = false;
+    /// The list's texts as the aspect ratio arithmetic compares them.
+    const QString m_customAspect;
+    const QVector<Aspect> m_aspects;
 };

@@ -3,8 +3,11 @@
 #include "model/KeyNames.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QSignalBlocker>
 
+#include <initializer_list>
+#include <iterator>
 #include <limits>
 
 namespace
@@ -36,6 +39,12 @@ constexpr UnitRow unitRows[] = {
      QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (90 kHz)"),
      QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (90 kHz)"), unlimited, 8192, 1},
 };
+
+void showAll(const QVector<QWidget*>& widgets, bool visible)
+{
+    for (QWidget* widget : widgets)
+        widget->setVisible(visible);
+}
 
 } // namespace
 
@@ -85,6 +94,7 @@ void ViewPage::bindControls()
         {"minQuantSpin", keys::minQuantizer, &ViewPage::slotChangeQuantMin},
     };
 
+    findRows();
     m_modeList = control<QComboBox>("bitrateModeList");
     m_targetRate = control<QSpinBox>("targetRateSpin");
     m_maxRate = control<QSpinBox>("maxRateSpin");
@@ -116,6 +126,27 @@ void ViewPage::bindControls()
     connect(m_oneSecond, &QCheckBox::toggled, this, &ViewPage::slotChangeOneSec);
 }
 
+void ViewPage::findRows()
+{
+    const auto widgets = [this](std::initializer_list<const char*> names) {
+        QVector<QWidget*> found;
+        for (const char* name : names)
+            found.append(control<QWidget>(name));
+        return found;
+    };
+    m_targetRateRow = widgets({"targetRateLabel", "targetRateSpin"});
+    m_maxRateRow = widgets({"maxRateLabel", "maxRateSpin"});
+    m_bufferRows = widgets({"groupBoxBuffers", "bitrateBufferSpin"});
+    m_quantizerRows =
+        widgets({"quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel",
+                 "quantBSpin", "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"});
+    m_sizeRows = widgets({"iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel",
+                          "bSizeSpin", "brSizeLabel", "brSizeSpin"});
+    m_bufferLabel = control<QLabel>("bitrateBufferLabel");
+    m_vbvInitialLabel = control<QLabel>("vbvInitialLabel");
+    m_vbvTargetLabel = control<QLabel>("vbvTargetLabel");
+}
+
 void ViewPage::fillBitrateModes()
 {
     m_modeList->clear();
@@ -129,6 +160,7 @@ void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate)
     const bool inBytes = m_unitGroup->checkedId() == BytesAndPercent;
     state.insert(keyOf(m_buffer), inBytes ? rate / 8 : rate);
     setSpinFromState(m_buffer, state);
+    m_buffer->setEnabled(false);
 }
 
 void ViewPage::setGroupFromState(QButtonGroup* group, const ConfigState& state)
@@ -194,12 +226,6 @@ void ViewPage::receiveState(const ConfigState& state)
     m_buffer->setEnabled(!m_oneSecond->isChecked());
 }
 
-void ViewPage::setShown(std::initializer_list<const char*> names, bool visible)
-{
-    for (const char* name : names)
-        control<QWidget>(name)->setVisible(visible);
-}
-
 void ViewPage::showFor(const QString& mode, bool hrd)
 {
     const bool variable = mode == m_variableBitrate;
@@ -207,26 +233,21 @@ void ViewPage::showFor(const QString& mode, bool hrd)
     const bool constantQuantizer = mode == m_constantQuantizer;
     const bool byQuantizer = constantQuantizer || mode == m_averageQuantizer;
 
-    setShown({"targetRateLabel", "targetRateSpin"}, byRate);
-    setShown({"maxRateLabel", "maxRateSpin"}, variable && hrd);
-    setShown({"groupBoxBuffers", "bitrateBufferSpin"}, byRate && hrd);
-    setShown({"quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel", "quantBSpin",
-              "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"},
-             byQuantizer);
-    setShown({"iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel", "bSizeSpin",
-              "brSizeLabel", "brSizeSpin"},
-             !constantQuantizer);
+    showAll(m_targetRateRow, byRate);
+    showAll(m_maxRateRow, variable && hrd);
+    showAll(m_bufferRows, byRate && hrd);
+    showAll(m_quantizerRows, byQuantizer);
+    showAll(m_sizeRows, !constantQuantizer);
 }
 
 void ViewPage::setUnits(int units)
 {
-    if (units < BytesAndPercent || units > BitsAndClock)
+    if (units < 0 || units >= int(std::size(unitRows)))
         return;
     const UnitRow& row = unitRows[units];
-    control<QLabel>("bitrateBufferLabel")->setText(tr(row.bufferLabel));
-    control<QLabel>("vbvInitialLabel")->setText(tr(row.initialLabel));
-    control<QLabel>("vbvTargetLabel")->setText(tr(row.targetLabel));
-    m_buffer->setMaximum(unlimited);
+    m_bufferLabel->setText(tr(row.bufferLabel));
+    m_vbvInitialLabel->setText(tr(row.initialLabel));
+    m_vbvTargetLabel->setText(tr(row.targetLabel));
     m_buffer->setSingleStep(row.bufferStep);
     // With signals on: a fullness beyond 100 % is clamped, and the clamp is reported like an edit.
     for (QSpinBox* fullness : {m_vbvInitial, m_vbvTarget}) {

@@ -3,9 +3,8 @@
 #include "SettingsPage.h"
 
 #include <QButtonGroup>
-#include <QLabel>
 
-class QAbstractButton;
+class QLabel;
 
 /// Rate control of one view: what View0Page to View3Page have in common, which is everything but
 /// the context of their texts. Each of them builds its layout and then binds the controls.
@@ -52,13 +51,14 @@ private:
     /// Keeps the buffer as large as one second at `rate` (bit/s) while the box for it is checked.
     void applyOneSecondBuffer(ConfigState& state, int rate);
     void setGroupFromState(QButtonGroup* group, const ConfigState& state);
+    /// Finds what a mode or a choice of units changes; once, when the layout has been built.
+    void findRows();
     void showFor(const QString& mode, bool hrd);
     void setUnits(int units);
 
     QString key(QLatin1String base) const;
     template <class Control>
     Control* control(const char* name) const;
-    void setShown(std::initializer_list<const char*> names, bool visible);
 
     const int m_view;
     QButtonGroup* m_unitGroup;
@@ -69,6 +69,14 @@ private:
     QSpinBox* m_vbvInitial = nullptr;
     QSpinBox* m_vbvTarget = nullptr;
     QCheckBox* m_oneSecond = nullptr;
+    QLabel* m_bufferLabel = nullptr;
+    QLabel* m_vbvInitialLabel = nullptr;
+    QLabel* m_vbvTargetLabel = nullptr;
+    QVector<QWidget*> m_targetRateRow;
+    QVector<QWidget*> m_maxRateRow;
+    QVector<QWidget*> m_bufferRows;
+    QVector<QWidget*> m_quantizerRows;
+    QVector<QWidget*> m_sizeRows;
 
     /// The mode texts as states carry them.
     const QString m_constantBitrate;

@@ -6,6 +6,8 @@
 #include "View3Page.h"
 #include "model/KeyNames.h"
 
+#include <iterator>
+
 ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
 {
     ui.setupUi(this);
@@ -16,7 +18,7 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
                                new View3Page(this)};
     const QString titles[] = {tr("Base View"), tr("View 1"), tr("View 2"), tr("View 3")};
     makeToolBox(ui.collectionFrame);
-    for (int i = 0; i < 4; ++i) {
+    for (std::size_t i = 0; i < std::size(views); ++i) {
         views[i]->fillBitrateModes();
         addPage(views[i], titles[i]);
     }
