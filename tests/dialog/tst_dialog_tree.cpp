@@ -210,14 +210,15 @@ void TestDialogTree::orderInRows()
 
 void TestDialogTree::buttonsAreSquareAndFixed_data()
 {
+    QTest::addColumn<QString>("name");
     for (const char* name :
          {"presetButton", "buttonLoad", "buttonSave", "buttonCancel", "buttonOk"})
-        QTest::newRow(name);
+        QTest::newRow(name) << QString::fromLatin1(name);
 }
 
 void TestDialogTree::buttonsAreSquareAndFixed()
 {
-    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    QFETCH(QString, name);
     BareLayout bare;
     const auto* button = bare.findChild<QPushButton*>(name);
     QCOMPARE(button->minimumSize(), QSize(24, 24));

@@ -52,6 +52,8 @@ Sandbox::Result Sandbox::run(const QStringList& steps,
     QFile::remove(log);
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     variables.insert(QStringLiteral("KV_STUB_LOG"), log);
+    // Without one the toolkit warns.
+    variables.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path());
     for (auto at = environment.begin(); at != environment.end(); ++at)
         variables.insert(at.key(), at.value());
 

@@ -80,7 +80,8 @@ Result TestCHost::play(const QStringList& arguments, const QByteArray& script) c
         return {-1, {}, QStringLiteral("cannot write the script")};
     file.close();
     return run(m_program, arguments,
-               {{QStringLiteral("QT_PLUGIN_PATH"), qEnvironmentVariable("KV_PLUGINS")},
+               {{QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path()},
+                {QStringLiteral("QT_PLUGIN_PATH"), qEnvironmentVariable("KV_PLUGINS")},
                 {QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
                  QLatin1String("kvautopilot:") + file.fileName()}});
 }
