@@ -174,6 +174,8 @@ void ViewPage::setGroupFromState(QButtonGroup* group, const ConfigState& state)
     for (QAbstractButton* button : buttons) {
         button->setChecked(button == chosen);
         button->setEnabled(entry.enabled);
+        // The Tab key goes to the chosen button, the arrow keys from there to the others.
+        button->setFocusPolicy(!chosen || button == chosen ? Qt::StrongFocus : Qt::ClickFocus);
     }
     group->setExclusive(true);
 }
