@@ -1,0 +1,378 @@
+#include "AllPages.h"
+#include "Controls.h"
+#include "ToolkitWarnings.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTest>
+
+/// Where the controls stand: cells of the grids, order in the rows, and the pages' titles.
+class PageLayoutsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void pageHasTitle_data();
+    void pageHasTitle();
+    void widgetStandsInCell_data();
+    void widgetStandsInCell();
+    void layoutHoldsInOrder_data();
+    void layoutHoldsInOrder();
+    void groupBoxWithoutTitle_data();
+    void groupBoxWithoutTitle();
+    void labelIsBold_data();
+    void labelIsBold();
+    void viewPageEndsWithASpacerInRow16();
+};
+
+namespace
+{
+
+QLayout* findLayout(const QWidget* window, const QString& pageClass, const QString& name)
+{
+    QLayout* found = nullptr;
+    for (QLayout* layout : window->findChildren<QLayout*>(name)) {
+        const QWidget* const parent = layout->parentWidget();
+        const auto* page = qobject_cast<const SettingsPage*>(parent);
+        if (!page)
+            page = pageOf(parent);
+        if (!page || pageClass != QLatin1String(page->metaObject()->className()))
+            continue;
+        if (found)
+            return nullptr;
+        found = layout;
+    }
+    return found;
+}
+
+/// An item of a layout by its name; spacers have none.
+QString nameOf(QLayoutItem* item)
+{
+    if (item->widget())
+        return item->widget()->objectName();
+    if (item->layout())
+        return item->layout()->objectName();
+    return item->expandingDirections() & Qt::Vertical ? QStringLiteral("(vertical spacer)")
+                                                      : QStringLiteral("(horizontal spacer)");
+}
+
+QStringList itemsOf(const QLayout* layout)
+{
+    QStringList names;
+    for (int i = 0; i < layout->count(); ++i)
+        names += nameOf(layout->itemAt(i));
+    return names;
+}
+
+struct Cell {
+    const char* page;
+    const char* grid;
+    const char* widget;
+    int row;
+    int column;
+    int columns = 1;
+};
+
+const char* const video = "VideoFormatPage";
+const char* const motion = "MotionEstimationPage";
+const char* const gop = "GOPStructurePage";
+const char* const misc = "MiscPage";
+const char* const views = "ViewsPage";
+
+const Cell cells[] = {
+    {"BasicPage", "gridLayout", "deviceGroup", 0, 0},
+    {"BasicPage", "gridLayout", "collectionFrame", 1, 0},
+
+    {video, "gridLayout", "resolutionLabel", 0, 0},
+    {video, "gridLayout", "widthSpin", 0, 1},
+    {video, "gridLayout", "labelX", 0, 2},
+    {video, "gridLayout", "heightSpin", 0, 3},
+    {video, "gridLayout", "aspectRatioCheck", 1, 0},
+    {video, "gridLayout", "aspectRatioList", 1, 1, 3},
+    {video, "gridLayout", "fpsLabel", 2, 0},
+    {video, "gridLayout", "framerateList", 2, 1, 3},
+    {video, "gridLayout", "pixelLabel", 3, 0},
+    {video, "gridLayout", "pixelXSpin", 3, 1},
+    {video, "gridLayout", "pixelLabel2", 3, 2},
+    {video, "gridLayout", "pixelYSpin", 3, 3},
+    {video, "gridLayout", "frame_4", 4, 0, 4},
+    {video, "gridLayout", "interlaceLabel", 5, 0},
+    {video, "gridLayout", "interlaceList", 5, 1, 3},
+    {video, "gridLayout", "fieldOrderLabel", 6, 0},
+    {video, "gridLayout", "fieldOrderList", 6, 1, 3},
+    {video, "gridLayout", "pulldownLabel", 7, 0},
+    {video, "gridLayout", "pulldownList", 7, 1, 3},
+    {video, "gridLayout", "frame_5", 8, 0, 4},
+    {video, "gridLayout", "label", 9, 0},
+    {video, "gridLayout", "chromaList", 9, 1, 3},
+    {video, "gridLayout", "label_2", 10, 0},
+    {video, "gridLayout", "bitdepthLList", 10, 1, 3},
+    {video, "gridLayout", "label_3", 11, 0},
+    {video, "gridLayout", "bitdepthCList", 11, 1, 3},
+
+    {motion, "gridLayout", "macroSearchLabel", 0, 0},
+    {motion, "gridLayout", "macroSearchList", 0, 1},
+    {motion, "gridLayout", "label_2", 1, 0},
+    {motion, "gridLayout", "subSearchList", 1, 1},
+    {motion, "gridLayout", "label_3", 2, 0},
+    {motion, "gridLayout", "refFramesSpin", 2, 1},
+    {motion, "gridLayout", "searchRangeLabel", 3, 0},
+    {motion, "gridLayout", "searchRangeSpin", 3, 1},
+    {motion, "gridLayout", "weightedPCheck", 4, 0, 2},
+    {motion, "gridLayout", "fastRefCheck", 5, 0, 2},
+    {motion, "gridLayout", "fastSubCheck", 6, 0, 2},
+
+    {gop, "gridLayout", "sceneDetectCheck", 0, 0},
+    {gop, "gridLayout", "groupBox", 1, 0},
+    {gop, "gridLayout", "groupBox_2", 2, 0},
+    {gop, "gridLayout1", "pDistanceLabel", 0, 0},
+    {gop, "gridLayout1", "iFrameIntervalSpin", 0, 1},
+    {gop, "gridLayout1", "pDistanceLabel_2", 1, 0},
+    {gop, "gridLayout1", "iFrameForceSpin", 1, 1},
+    {gop, "gridLayout1", "hboxLayout", 2, 0, 2},
+    {gop, "gridLayout1", "fixedICheck", 3, 0, 2},
+    {gop, "gridLayout2", "adaptiveBCheck", 0, 0, 2},
+    {gop, "gridLayout2", "piramydBCheck", 1, 0, 2},
+    {gop, "gridLayout2", "pDistanceLabel_3", 2, 0},
+    {gop, "gridLayout2", "bBetweenIPSpin", 2, 1},
+    {gop, "gridLayout2", "bAsReferenceCheck", 3, 0, 2},
+
+    {misc, "gridLayout", "deblockingCheck", 0, 0, 2},
+    {misc, "gridLayout", "label", 1, 0},
+    {misc, "gridLayout", "entropyList", 1, 1},
+    {misc, "gridLayout", "label_2", 2, 0},
+    {misc, "gridLayout", "threadsSpin", 2, 1},
+    {misc, "gridLayout", "label_3", 3, 0},
+    {misc, "gridLayout", "slicesSpin", 3, 1},
+
+    {views, "gridLayout_2", "groupBox", 0, 0},
+    {views, "gridLayout_2", "collectionFrame", 1, 0},
+    {views, "gridLayout", "profileLabel", 0, 0, 2},
+    {views, "gridLayout", "numViewsSpin", 0, 4},
+    {views, "gridLayout", "splitCheck", 1, 0, 2},
+};
+
+} // namespace
+
+void PageLayoutsTest::pageHasTitle_data()
+{
+    QTest::addColumn<QString>("title");
+    const auto row = [](const char* page, const char* title) {
+        QTest::newRow(page) << QString(QLatin1String(title));
+    };
+    row("BasicPage", "Basic Page");
+    row("VideoFormatPage", "Video Format Page");
+    row("AdvancedPage", "Advanced Page");
+    row("GOPStructurePage", "GOP Structure Page");
+    row("MotionEstimationPage", "Motion Estimation Page");
+    row("RateDistortionPage", "Rate Distortion Page");
+    row("MiscPage", "Miscallaneous Page");
+    row("ViewsPage", "Views Page");
+    row("View0Page", "View1 Page");
+    row("View1Page", "View1 Page");
+    row("View2Page", "View2 Page");
+    row("View3Page", "View3 Page");
+}
+
+void PageLayoutsTest::pageHasTitle()
+{
+    AllPages pages;
+    int found = 0;
+    for (const QFrame* page : pages.window()->findChildren<QFrame*>()) {
+        if (!page->inherits(QTest::currentDataTag()))
+            continue;
+        ++found;
+        const QString title = page->windowTitle();
+        QTEST(title, "title");
+    }
+    QCOMPARE(found, 1);
+}
+
+void PageLayoutsTest::widgetStandsInCell_data()
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const Cell& cell : cells)
+        QTest::newRow(qPrintable(
+            QStringLiteral("%1.%2").arg(QLatin1String(cell.page), QLatin1String(cell.widget))))
+            << index++;
+}
+
+void PageLayoutsTest::widgetStandsInCell()
+{
+    QFETCH(int, index);
+    const Cell& cell = cells[index];
+    AllPages pages;
+    const auto* const grid = qobject_cast<QGridLayout*>(
+        findLayout(pages.window(), QLatin1String(cell.page), QLatin1String(cell.grid)));
+    QVERIFY(grid);
+    const int place = int(itemsOf(grid).indexOf(QLatin1String(cell.widget)));
+    QVERIFY(place >= 0);
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(place, &row, &column, &rows, &columns);
+    QCOMPARE(row, cell.row);
+    QCOMPARE(column, cell.column);
+    QCOMPARE(rows, 1);
+    QCOMPARE(columns, cell.columns);
+}
+
+void PageLayoutsTest::layoutHoldsInOrder_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QStringList>("items");
+    const auto row = [](const char* page, const char* layout, const QStringList& items) {
+        QTest::newRow(
+            qPrintable(QStringLiteral("%1.%2").arg(QLatin1String(page), QLatin1String(layout))))
+            << QString(QLatin1String(page)) << QString(QLatin1String(layout)) << items;
+    };
+    const char* const below = "(vertical spacer)";
+    const char* const between = "(horizontal spacer)";
+    row("BasicPage", "hboxLayout", lines({"hboxLayout1"}));
+    row("BasicPage", "hboxLayout1", lines({"deviceLabel", "deviceList"}));
+    row(video, "vboxLayout", lines({"gridLayout", below}));
+    row("AdvancedPage", "vboxLayout", lines({"groupBox", "collectionFrame"}));
+    row("AdvancedPage", "vboxLayout1", lines({"hboxLayout", "hboxLayout1"}));
+    row("AdvancedPage", "hboxLayout", lines({"profileLabel", between, "profileList"}));
+    row("AdvancedPage", "hboxLayout1", lines({"levelLabel", between, "levelList"}));
+    row(motion, "vboxLayout", lines({"gridLayout", below}));
+    row(gop, "vboxLayout", lines({"gridLayout", below}));
+    row(gop, "hboxLayout", lines({"label", "idrSpin", "label_2", between}));
+    row(misc, "vboxLayout", lines({"gridLayout", below}));
+
+    const char* const distortion = "RateDistortionPage";
+    row(distortion, "vboxLayout",
+        lines({"fastIntraCheck", "fastInterCheck", "simpleRDCheck", "hadamardCheck", "line",
+               "adaptiveGroup", below}));
+    row(distortion, "vboxLayout1", lines({"vboxLayout2", "vboxLayout4", "vboxLayout6"}));
+    row(distortion, "vboxLayout2", lines({"label", "hboxLayout"}));
+    row(distortion, "hboxLayout", lines({"vboxLayout3", "hboxLayout1"}));
+    row(distortion, "vboxLayout3", lines({"brightnessSlider"}));
+    row(distortion, "hboxLayout1", lines({"brightnessLabel"}));
+    row(distortion, "vboxLayout4", lines({"label_2", "hboxLayout2"}));
+    row(distortion, "hboxLayout2", lines({"vboxLayout5", "hboxLayout3"}));
+    row(distortion, "vboxLayout5", lines({"contrastSlider"}));
+    row(distortion, "hboxLayout3", lines({"contrastLabel"}));
+    row(distortion, "vboxLayout6", lines({"label_3", "hboxLayout4"}));
+    row(distortion, "hboxLayout4", lines({"vboxLayout7", "hboxLayout5"}));
+    row(distortion, "vboxLayout7", lines({"complexitySlider"}));
+    row(distortion, "hboxLayout5", lines({"complexityLabel"}));
+
+    for (const char* view : {"View0Page", "View1Page", "View2Page", "View3Page"})
+        row(view, "gridLayout_2",
+            lines({"brModeLabel",
+                   "bitrateModeList",
+                   "targetRateLabel",
+                   "targetRateSpin",
+                   "maxRateLabel",
+                   "maxRateSpin",
+                   "groupBoxBuffers",
+                   "hrdCheck",
+                   "line_2",
+                   "iSizeLabel",
+                   "iSizeSpin",
+                   "pSizeLabel",
+                   "pSizeSpin",
+                   "bSizeLabel",
+                   "bSizeSpin",
+                   "brSizeLabel",
+                   "brSizeSpin",
+                   "line_3",
+                   "quantILabel",
+                   "quantISpin",
+                   "quantPLabel",
+                   "quantPSpin",
+                   "quantBLabel",
+                   "quantBSpin",
+                   "maxQuantLabel",
+                   "maxQuantSpin",
+                   "minQuantLabel",
+                   "minQuantSpin",
+                   below}));
+}
+
+void PageLayoutsTest::layoutHoldsInOrder()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, layout);
+    AllPages pages;
+    const QLayout* const found = findLayout(pages.window(), page, layout);
+    QVERIFY(found);
+    const QStringList items = itemsOf(found);
+    QTEST(items, "items");
+}
+
+void PageLayoutsTest::groupBoxWithoutTitle_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("BasicPage") << QStringLiteral("deviceGroup");
+    QTest::newRow("AdvancedPage") << QStringLiteral("groupBox");
+    QTest::newRow("ViewsPage") << QStringLiteral("groupBox");
+}
+
+void PageLayoutsTest::groupBoxWithoutTitle()
+{
+    QFETCH(QString, name);
+    AllPages pages;
+    const auto* const box = qobject_cast<QGroupBox*>(
+        findOnPage(pages.window(), QLatin1String(QTest::currentDataTag()), name));
+    QVERIFY(box);
+    QCOMPARE(box->title(), QString());
+}
+
+void PageLayoutsTest::labelIsBold_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char* page, const char* name) {
+        QTest::newRow(name) << QString(QLatin1String(page)) << QString(QLatin1String(name));
+    };
+    row("BasicPage", "deviceLabel");
+    row("AdvancedPage", "profileLabel");
+    row("AdvancedPage", "levelLabel");
+}
+
+void PageLayoutsTest::labelIsBold()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, name);
+    AllPages pages;
+    const auto* const label = qobject_cast<QLabel*>(findOnPage(pages.window(), page, name));
+    QVERIFY(label);
+    QVERIFY(label->font().weight() == QFont::Bold);
+    QCOMPARE(label->frameShape(), QFrame::NoFrame);
+    QCOMPARE(label->frameShadow(), QFrame::Plain);
+    QVERIFY(!label->wordWrap());
+}
+
+void PageLayoutsTest::viewPageEndsWithASpacerInRow16()
+{
+    AllPages pages;
+    for (int view = 0; view < 4; ++view) {
+        const auto* const grid = qobject_cast<QGridLayout*>(
+            findLayout(pages.window(), QStringLiteral("View%1Page").arg(view),
+                       QStringLiteral("gridLayout_2")));
+        QVERIFY(grid);
+        int lastRow = -1;
+        for (int i = 0; i < grid->count(); ++i) {
+            int row = 0;
+            int column = 0;
+            int rows = 0;
+            int columns = 0;
+            grid->getItemPosition(i, &row, &column, &rows, &columns);
+            QVERIFY2(row >= lastRow, qPrintable(nameOf(grid->itemAt(i))));
+            lastRow = row;
+        }
+        QCOMPARE(lastRow, 16);
+        QCOMPARE(grid->rowCount(), 17);
+    }
+}
+
+QTEST_MAIN(PageLayoutsTest)
+#include "tst_page_layouts.moc"

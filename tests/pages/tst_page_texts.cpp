@@ -1,0 +1,238 @@
+#include "AllPages.h"
+#include "Controls.h"
+#include "ToolkitWarnings.h"
+
+#include "model/Vocabulary.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+#include <QTranslator>
+
+#include <algorithm>
+#include <memory>
+
+/// Texts in another language: each is asked for in its context, and what a state carries is found
+/// in the lists.
+class PageTextsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void textIsAskedForInItsContext_data();
+    void textIsAskedForInItsContext();
+    void windowTitleIsAskedForInTheLayoutsContext_data();
+    void windowTitleIsAskedForInTheLayoutsContext();
+    void sectionTitleIsAskedForInThePagesContext_data();
+    void sectionTitleIsAskedForInThePagesContext();
+    void everyListTextIsFound_data();
+    void everyListTextIsFound();
+    void visibilityFollowsTheTranslatedMode();
+};
+
+namespace
+{
+
+/// Puts the context before each text, or the same mark before all.
+class Translator : public QTranslator
+{
+public:
+    explicit Translator(bool withContext) : m_withContext(withContext)
+    {
+        QCoreApplication::installTranslator(this);
+    }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override
+    {
+        return QString::fromUtf8(m_withContext ? context : "ü") + QLatin1Char('|') +
+               QLatin1String(source);
+    }
+
+private:
+    bool m_withContext;
+};
+
+QString textOf(const QWidget* widget)
+{
+    if (const auto* list = qobject_cast<const QComboBox*>(widget))
+        return list->itemText(0);
+    return widget->property("text").toString();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(ListName)
+
+void PageTextsTest::textIsAskedForInItsContext_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* page, const char* name, const char* text) {
+        QTest::newRow(text) << QString(QLatin1String(page)) << QString(QLatin1String(name))
+                            << QString(QLatin1String(text));
+    };
+    row("BasicPage", "deviceLabel", "IBasicPage|CUDA Devices:");
+    row("VideoFormatPage", "resolutionLabel", "IVideoFormatPage|Resolution");
+    row("VideoFormatPage", "aspectRatioCheck", "IVideoFormatPage|Keep aspect ratio");
+    row("VideoFormatPage", "aspectRatioList", "VideoFormatPage|Custom");
+    row("VideoFormatPage", "framerateList", "VideoFormatPage|7.60");
+    row("VideoFormatPage", "interlaceList", "VideoFormatPage|Progressive");
+    row("VideoFormatPage", "fieldOrderList", "VideoFormatPage|Top Field First");
+    row("VideoFormatPage", "pulldownList", "VideoFormatPage|Off");
+    row("VideoFormatPage", "chromaList", "VideoFormatPage|4:0:0");
+    row("VideoFormatPage", "bitdepthLList", "VideoFormatPage|8 bits");
+    row("AdvancedPage", "profileLabel", "IAdvancedPage|Profile:");
+    row("GOPStructurePage", "sceneDetectCheck", "IGOPStructurePage|Enable scene detection");
+    row("MotionEstimationPage", "label_3", "IMotionEstimationPage|Reference frames");
+    row("MotionEstimationPage", "macroSearchList", "MotionEstimationPage|16 x 16");
+    row("MotionEstimationPage", "subSearchList", "MotionEstimationPage|Full");
+    row("RateDistortionPage", "fastIntraCheck", "IRateDistortionPage|Fast intra decisions");
+    row("MiscPage", "deblockingCheck", "IMiscPage|Deblocking filter");
+    row("MiscPage", "entropyList", "MiscPage|CAVLC");
+    row("ViewsPage", "splitCheck", "IViewsPage|Split views");
+    row("View0Page", "hrdCheck", "IView0Page|HRD conformance");
+    row("View1Page", "hrdCheck", "IView1Page|HRD conformance");
+    row("View2Page", "hrdCheck", "IView2Page|HRD conformance");
+    row("View3Page", "hrdCheck", "IView3Page|HRD conformance");
+    row("View0Page", "bitrateModeList", "View0Page|Constant Bitrate");
+    row("View1Page", "bitrateModeList", "View1Page|Constant Bitrate");
+    row("View2Page", "bitrateModeList", "View2Page|Constant Bitrate");
+    row("View3Page", "bitrateModeList", "View3Page|Constant Bitrate");
+}
+
+void PageTextsTest::textIsAskedForInItsContext()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, name);
+    const Translator translator(true);
+    AllPages pages;
+    const QWidget* const widget = findOnPage(pages.window(), page, name);
+    QVERIFY(widget);
+    const QString text = textOf(widget);
+    QTEST(text, "text");
+}
+
+void PageTextsTest::windowTitleIsAskedForInTheLayoutsContext_data()
+{
+    QTest::addColumn<QString>("title");
+    const auto row = [](const char* page, const char* title) {
+        QTest::newRow(page) << QString(QLatin1String(title));
+    };
+    row("BasicPage", "IBasicPage|Basic Page");
+    row("MiscPage", "IMiscPage|Miscallaneous Page");
+    row("View0Page", "IView0Page|View1 Page");
+    row("View1Page", "IView1Page|View1 Page");
+    row("View2Page", "IView2Page|View2 Page");
+    row("View3Page", "IView3Page|View3 Page");
+}
+
+void PageTextsTest::windowTitleIsAskedForInTheLayoutsContext()
+{
+    const Translator translator(true);
+    AllPages pages;
+    QStringList titles;
+    for (const QFrame* page : pages.window()->findChildren<QFrame*>())
+        if (page->inherits(QTest::currentDataTag()))
+            titles += page->windowTitle();
+    QCOMPARE(titles.size(), 1);
+    QTEST(titles.first(), "title");
+}
+
+void PageTextsTest::sectionTitleIsAskedForInThePagesContext_data()
+{
+    QTest::addColumn<QString>("title");
+    for (const char* title :
+         {"BasicPage|Video Format", "AdvancedPage|GOP Structure", "AdvancedPage|Motion Estimation",
+          "AdvancedPage|Rate Distortion", "AdvancedPage|Miscellaneous", "ViewsPage|Base View",
+          "ViewsPage|View 1", "ViewsPage|View 2", "ViewsPage|View 3"})
+        QTest::newRow(title) << QString(QLatin1String(title));
+}
+
+void PageTextsTest::sectionTitleIsAskedForInThePagesContext()
+{
+    QFETCH(QString, title);
+    const Translator translator(true);
+    AllPages pages;
+    int found = 0;
+    for (const QLabel* label : pages.window()->findChildren<QLabel*>())
+        if (label->text() == title)
+            ++found;
+    QCOMPARE(found, 1);
+}
+
+void PageTextsTest::everyListTextIsFound_data()
+{
+    QTest::addColumn<bool>("translated");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<ListName>("list");
+    for (const bool translated : {false, true}) {
+        const auto row = [translated](const char* key, ListName list) {
+            QTest::newRow(qPrintable(QStringLiteral("%1, %2").arg(
+                QLatin1String(key), QLatin1String(translated ? "translated" : "English"))))
+                << translated << QString(QLatin1String(key)) << list;
+        };
+        row("Interlace", ListName::InterlaceModes);
+        row("Field Order", ListName::FieldOrders);
+        row("Pulldown", ListName::PulldownModes);
+        row("Chroma Format", ListName::ChromaFormats);
+        row("Bit-depth Luma", ListName::BitDepths);
+        row("Bit-depth Chroma", ListName::BitDepths);
+        row("Macroblock Search", ListName::MacroblockPartitions);
+        row("Subpixel Search", ListName::SubpixelPrecisions);
+        row("Entropy", ListName::EntropyCoders);
+        row("Profile", ListName::Profiles);
+        row("Level", ListName::Levels);
+        for (const char* key :
+             {"Bitrate Mode V0", "Bitrate Mode V1", "Bitrate Mode V2", "Bitrate Mode V3"})
+            row(key, ListName::BitrateModes);
+    }
+}
+
+void PageTextsTest::everyListTextIsFound()
+{
+    QFETCH(bool, translated);
+    QFETCH(QString, key);
+    QFETCH(ListName, list);
+    std::unique_ptr<Translator> translator;
+    if (translated)
+        translator = std::make_unique<Translator>(false);
+    const Vocabulary vocabulary;
+    AllPages pages;
+    pages.advanced->setProfileLevelLists(vocabulary.profiles(), vocabulary.levels());
+
+    const auto control = std::find_if(controls().begin(), controls().end(),
+                                      [&key](const Control& each) { return each.key == key; });
+    QVERIFY(control != controls().end());
+    for (const ItemList::Item& item : vocabulary.list(list).items()) {
+        ConfigState state;
+        state.insert(key, item.text);
+        pages.receive(state);
+        // The unnamed chroma format is the one that shows no item.
+        QCOMPARE(shown(pages.window(), *control), QVariant(item.text));
+    }
+    QVERIFY(vocabulary.list(list).items().size() > 1);
+}
+
+void PageTextsTest::visibilityFollowsTheTranslatedMode()
+{
+    const Translator translator(false);
+    AllPages pages;
+    QVERIFY(pages.show());
+    pages.window()->setCurrentWidget(pages.views);
+    ConfigState state;
+    state.insert(QStringLiteral("Bitrate Mode V0"), QStringLiteral("ü|Variable Bitrate"));
+    state.insert(QStringLiteral("HRD V0"), 1);
+    pages.receive(state);
+    const QString page = QStringLiteral("View0Page");
+    QVERIFY(findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"))->isVisible());
+    QVERIFY(!findOnPage(pages.window(), page, QStringLiteral("quantISpin"))->isVisible());
+    state.insert(QStringLiteral("Bitrate Mode V0"), QStringLiteral("Variable Bitrate"));
+    pages.receive(state);
+    QVERIFY(!findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"))->isVisible());
+}
+
+QTEST_MAIN(PageTextsTest)
+#include "tst_page_texts.moc"
