@@ -1,0 +1,135 @@
+#include "AllPages.h"
+#include "Controls.h"
+#include "Sections.h"
+#include "ToolkitWarnings.h"
+#include "UserInput.h"
+
+#include "pages/ToolBox.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPointer>
+#include <QTest>
+
+#include <memory>
+
+/// The "Basic Settings" tab: one section, and a device selector that nobody sees.
+class BasicPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void deviceSelectorIsNeverVisible();
+    void videoFormatIsTheOnlySection();
+    void collapsingTheOnlySectionLeavesItsRow();
+    void titlesAreBoldAndThePageNormal();
+    void editOfTheChildIsForwardedUnchanged();
+    void stateReachesTheChild();
+    void frameRateItemReachesTheChild();
+    void childBelongsToThePage();
+};
+
+namespace
+{
+
+const QString videoFormat = QStringLiteral("VideoFormatPage");
+
+} // namespace
+
+void BasicPageTest::deviceSelectorIsNeverVisible()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    ConfigState devices;
+    devices.insert(QString(), 1);
+    devices.insert(QStringLiteral("CUDA Devices"), QStringLiteral("0"));
+    for (const ConfigState& state : {stateOf(&Control::a), ConfigState(), devices}) {
+        pages.receive(state);
+        for (const char* name : {"deviceGroup", "deviceLabel", "deviceList"}) {
+            const QWidget* const widget =
+                findOnPage(pages.window(), QStringLiteral("BasicPage"), QLatin1String(name));
+            QVERIFY2(widget, name);
+            QVERIFY2(!widget->isVisible(), name);
+            QVERIFY2(widget->isHidden(), name);
+        }
+    }
+}
+
+void BasicPageTest::videoFormatIsTheOnlySection()
+{
+    AllPages pages;
+    QCOMPARE(sectionTitles(pages.basic), lines({"Video Format"}));
+}
+
+void BasicPageTest::collapsingTheOnlySectionLeavesItsRow()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    auto* const button = sectionButton(pages.basic, QStringLiteral("Video Format"));
+    QVERIFY(button);
+    user::click(button);
+    QStringList visible;
+    for (const QWidget* widget : pages.basic->findChildren<QWidget*>())
+        if (widget->isVisible() &&
+            (widget->inherits("QLabel") || widget->inherits("QComboBox") ||
+             widget->inherits("QAbstractSpinBox") || widget->inherits("QAbstractButton")))
+            visible +=
+                widget == button ? QStringLiteral("button") : widget->property("text").toString();
+    visible.sort();
+    QCOMPARE(visible, lines({"Video Format", "button"}));
+}
+
+void BasicPageTest::titlesAreBoldAndThePageNormal()
+{
+    AllPages pages;
+    QVERIFY(pages.basic->findChild<ToolBox*>()->font().weight() == QFont::Bold);
+    const auto* const label = qobject_cast<QLabel*>(
+        findOnPage(pages.window(), videoFormat, QStringLiteral("resolutionLabel")));
+    QVERIFY(label->font().weight() == QFont::Normal);
+    QVERIFY(pageOf(label)->font().weight() == QFont::Normal);
+}
+
+void BasicPageTest::editOfTheChildIsForwardedUnchanged()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    auto* const list = qobject_cast<QComboBox*>(
+        findOnPage(pages.window(), videoFormat, QStringLiteral("interlaceList")));
+    StateSpy child(pageOf(list));
+    QVERIFY(user::choose(list, QStringLiteral("MBAFF")));
+    QCOMPARE(child.take(), lines({"Interlace='MBAFF'"}));
+    QCOMPARE(pages.spy.take(), lines({"Interlace='MBAFF'"}));
+}
+
+void BasicPageTest::stateReachesTheChild()
+{
+    BasicPage page;
+    ConfigState state;
+    state.insert(QStringLiteral("Interlace"), QStringLiteral("MBAFF"));
+    page.receiveState(state);
+    QCOMPARE(page.findChild<QComboBox*>(QStringLiteral("interlaceList"))->currentText(),
+             QStringLiteral("MBAFF"));
+}
+
+void BasicPageTest::frameRateItemReachesTheChild()
+{
+    BasicPage page;
+    const auto* const list = page.findChild<QComboBox*>(QStringLiteral("framerateList"));
+    page.addFramerateItem(QStringLiteral("48"));
+    QCOMPARE(list->count(), 15);
+    QCOMPARE(list->itemText(14), QStringLiteral("48"));
+}
+
+void BasicPageTest::childBelongsToThePage()
+{
+    auto page = std::make_unique<BasicPage>();
+    QPointer<QWidget> child = page->findChild<SettingsPage*>();
+    QVERIFY(child);
+    page.reset();
+    QVERIFY(!child);
+}
+
+QTEST_MAIN(BasicPageTest)
+#include "tst_basic_page.moc"

@@ -1,0 +1,262 @@
+#include "ToolkitWarnings.h"
+
+#include "pages/ToolBox.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+/// The scrollable column of collapsible sections.
+class ToolBoxTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void boxIsBuiltOfItsParts();
+    void windowFlagsArePassedOn();
+    void sectionsStandInPairsOfRows();
+    void sectionStartsExpanded();
+    void clickCollapsesAndExpandsItsSectionAlone();
+    void anyNumberOfSectionsMayBeOpen();
+    void arrowShowsTheState();
+    void iconFilesAreTheCallers();
+    void titleIsBoldWhilePagesLabelsAreNormal();
+    void gridClosesUpOverACollapsedPage();
+    void areaScrollsWhenSectionsAreTallerThanTheBox();
+    void buttonIsNamedAfterItsSection();
+};
+
+namespace
+{
+
+const QString down = QStringLiteral(":/res_mvc/icons/down.png");
+const QString right = QStringLiteral(":/res_mvc/icons/right.png");
+
+/// A box of three sections, each page with a label of 100 pixels height.
+class ThreeSections
+{
+public:
+    ThreeSections()
+    {
+        for (int i = 0; i < 3; ++i) {
+            auto* const page = new QFrame;
+            auto* const label = new QLabel(QStringLiteral("label %1").arg(i));
+            label->setMinimumHeight(100);
+            auto* const layout = new QVBoxLayout(page);
+            layout->addWidget(label);
+            box.addSection(page, QStringLiteral("Section %1").arg(i), down, right);
+            pages += page;
+            labels += label;
+        }
+        for (auto* const button : box.findChildren<QToolButton*>())
+            buttons += button;
+        area = box.findChild<QScrollArea*>();
+    }
+
+    bool show(int height)
+    {
+        box.resize(300, height);
+        box.show();
+        return QTest::qWaitForWindowExposed(&box);
+    }
+
+    QLabel* title(int section) const
+    {
+        for (auto* const label : box.findChildren<QLabel*>())
+            if (label->text() == QStringLiteral("Section %1").arg(section))
+                return label;
+        return nullptr;
+    }
+
+    QList<bool> visible() const { return {isVisible(0), isVisible(1), isVisible(2)}; }
+
+    ToolBox box;
+    QVector<QFrame*> pages;
+    QVector<QLabel*> labels;
+    QVector<QToolButton*> buttons;
+    QScrollArea* area = nullptr;
+
+private:
+    bool isVisible(int section) const { return pages[section]->isVisible(); }
+};
+
+void click(QToolButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+} // namespace
+
+void ToolBoxTest::boxIsBuiltOfItsParts()
+{
+    ToolBox box;
+    QVERIFY(box.inherits("QFrame"));
+    auto* const outer = qobject_cast<QVBoxLayout*>(box.layout());
+    QVERIFY(outer);
+    QCOMPARE(outer->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(outer->count(), 1);
+    auto* const area = qobject_cast<QScrollArea*>(outer->itemAt(0)->widget());
+    QVERIFY(area);
+    QCOMPARE(outer->stretch(0), 0);
+    QCOMPARE(int(outer->itemAt(0)->alignment()), 0);
+    QCOMPARE(area->sizePolicy().horizontalPolicy(), QSizePolicy::MinimumExpanding);
+    QCOMPARE(area->sizePolicy().verticalPolicy(), QSizePolicy::MinimumExpanding);
+    QCOMPARE(area->sizePolicy().hasHeightForWidth(),
+             QScrollArea().sizePolicy().hasHeightForWidth());
+    QVERIFY(area->widgetResizable());
+    auto* const content = qobject_cast<QFrame*>(area->widget());
+    QVERIFY(content);
+    auto* const grid = qobject_cast<QGridLayout*>(content->layout());
+    QVERIFY(grid);
+    QCOMPARE(int(grid->alignment()), int(Qt::AlignTop));
+}
+
+void ToolBoxTest::windowFlagsArePassedOn()
+{
+    QWidget parent;
+    const ToolBox box(&parent, Qt::Tool);
+    QCOMPARE(box.parentWidget(), &parent);
+    QCOMPARE(box.windowType(), Qt::Tool);
+}
+
+void ToolBoxTest::sectionsStandInPairsOfRows()
+{
+    ThreeSections sections;
+    QCOMPARE(sections.buttons.size(), 3);
+    auto* const grid = qobject_cast<QGridLayout*>(sections.area->widget()->layout());
+    QCOMPARE(grid->columnCount(), 2);
+    QCOMPARE(grid->count(), 9);
+    // An empty grid counts one row, so the first section stands in row 1.
+    for (int i = 0; i < 3; ++i) {
+        const QVector<QWidget*> widgets = {sections.buttons[i], sections.title(i),
+                                           sections.pages[i]};
+        const int places[3][4] = {{1 + 2 * i, 0, 1, 1}, {1 + 2 * i, 1, 1, 1}, {2 + 2 * i, 0, 1, 2}};
+        for (int j = 0; j < 3; ++j) {
+            QCOMPARE(widgets[j]->parentWidget(), sections.area->widget());
+            int place[4] = {};
+            grid->getItemPosition(grid->indexOf(widgets[j]), &place[0], &place[1], &place[2],
+                                  &place[3]);
+            for (int k = 0; k < 4; ++k)
+                QCOMPARE(place[k], places[j][k]);
+        }
+    }
+}
+
+void ToolBoxTest::sectionStartsExpanded()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    for (const QToolButton* button : sections.buttons) {
+        QVERIFY(button->isCheckable());
+        QVERIFY(button->isChecked());
+    }
+    QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
+}
+
+void ToolBoxTest::clickCollapsesAndExpandsItsSectionAlone()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    click(sections.buttons[1]);
+    QCOMPARE(sections.visible(), (QList<bool>{true, false, true}));
+    QVERIFY(sections.buttons[0]->isChecked());
+    QVERIFY(!sections.buttons[1]->isChecked());
+    QVERIFY(sections.buttons[2]->isChecked());
+    QVERIFY(sections.title(1)->isVisible());
+    click(sections.buttons[1]);
+    QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
+}
+
+void ToolBoxTest::anyNumberOfSectionsMayBeOpen()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    for (QToolButton* button : sections.buttons)
+        click(button);
+    QCOMPARE(sections.visible(), (QList<bool>{false, false, false}));
+    click(sections.buttons[2]);
+    QCOMPARE(sections.visible(), (QList<bool>{false, false, true}));
+    click(sections.buttons[0]);
+    QCOMPARE(sections.visible(), (QList<bool>{true, false, true}));
+}
+
+void ToolBoxTest::arrowShowsTheState()
+{
+    ThreeSections sections;
+    const QIcon icon = sections.buttons[0]->icon();
+    const QSize size = QPixmap(down).size();
+    QVERIFY(!size.isEmpty());
+    const QImage on = icon.pixmap(size, QIcon::Normal, QIcon::On).toImage();
+    const QImage off = icon.pixmap(size, QIcon::Normal, QIcon::Off).toImage();
+    const auto comparable = [](const QImage& image) {
+        return image.convertToFormat(QImage::Format_ARGB32);
+    };
+    QCOMPARE(comparable(on), comparable(QPixmap(down).toImage()));
+    QCOMPARE(comparable(off), comparable(QPixmap(right).toImage()));
+    QVERIFY(comparable(on) != comparable(off));
+}
+
+void ToolBoxTest::iconFilesAreTheCallers()
+{
+    ToolBox box;
+    box.addSection(new QFrame, QStringLiteral("Swapped"), right, down);
+    const auto* const button = box.findChild<QToolButton*>();
+    const QSize size = QPixmap(down).size();
+    QCOMPARE(button->icon()
+                 .pixmap(size, QIcon::Normal, QIcon::On)
+                 .toImage()
+                 .convertToFormat(QImage::Format_ARGB32),
+             QPixmap(right).toImage().convertToFormat(QImage::Format_ARGB32));
+}
+
+void ToolBoxTest::titleIsBoldWhilePagesLabelsAreNormal()
+{
+    ThreeSections sections;
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(sections.title(i)->font().weight() == QFont::Bold);
+        QVERIFY(sections.labels[i]->font().weight() == QFont::Normal);
+    }
+}
+
+void ToolBoxTest::gridClosesUpOverACollapsedPage()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    const int before = sections.title(1)->y();
+    QVERIFY(before > 100);
+    click(sections.buttons[0]);
+    QTRY_VERIFY(sections.title(1)->y() < 100);
+    click(sections.buttons[0]);
+    QTRY_COMPARE(sections.title(1)->y(), before);
+}
+
+void ToolBoxTest::areaScrollsWhenSectionsAreTallerThanTheBox()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(200));
+    const QScrollBar* const bar = sections.area->verticalScrollBar();
+    QVERIFY(bar->isVisible());
+    QVERIFY(bar->maximum() > 100);
+    for (QToolButton* button : sections.buttons)
+        click(button);
+    QTRY_VERIFY(!bar->isVisible());
+}
+
+void ToolBoxTest::buttonIsNamedAfterItsSection()
+{
+    ThreeSections sections;
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(sections.buttons[i]->accessibleName(), QStringLiteral("Section %1").arg(i));
+        QVERIFY(!sections.buttons[i]->toolTip().isEmpty());
+        QCOMPARE(sections.title(i)->buddy(), sections.buttons[i]);
+    }
+}
+
+QTEST_MAIN(ToolBoxTest)
+#include "tst_tool_box.moc"

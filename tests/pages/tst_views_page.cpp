@@ -1,0 +1,199 @@
+#include "AllPages.h"
+#include "Controls.h"
+#include "Sections.h"
+#include "ToolkitWarnings.h"
+#include "UserInput.h"
+
+#include "pages/ToolBox.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QSpinBox>
+#include <QTest>
+
+#include <climits>
+
+/// The "Views" tab: how many views there are decides which of them can be edited.
+class ViewsPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void sectionsComeInOrder();
+    void numberOfViewsEnablesPages_data();
+    void numberOfViewsEnablesPages();
+    void numberOutOfRangeIsComparedUnsigned_data();
+    void numberOutOfRangeIsComparedUnsigned();
+    void absentNumberEnablesTheBaseViewOnly();
+    void changingTheNumberReportsItAloneAndEnablesNothingYet();
+    void splitIsReported();
+    void editOfAnyViewIsForwardedUnchanged_data();
+    void editOfAnyViewIsForwardedUnchanged();
+    void disabledViewKeepsItsValuesAndItsSectionOpens();
+    void titlesAreBoldAndThePagesNormal();
+};
+
+namespace
+{
+
+QStringList enabledPages(AllPages& pages)
+{
+    QStringList names;
+    for (int view = 0; view < 4; ++view) {
+        const QString page = QStringLiteral("View%1Page").arg(view);
+        const auto* const control = findOnPage(pages.window(), page, QStringLiteral("hrdCheck"));
+        if (pageOf(control)->isEnabled())
+            names += page;
+    }
+    return names;
+}
+
+ConfigState withNumber(int number)
+{
+    ConfigState state = stateOf(&Control::a);
+    state.insert(QStringLiteral("Number of views"), number);
+    return state;
+}
+
+} // namespace
+
+void ViewsPageTest::sectionsComeInOrder()
+{
+    AllPages pages;
+    QCOMPARE(sectionTitles(pages.views), lines({"Base View", "View 1", "View 2", "View 3"}));
+}
+
+void ViewsPageTest::numberOfViewsEnablesPages_data()
+{
+    QTest::addColumn<QStringList>("enabled");
+    QTest::newRow("0") << lines({"View0Page"});
+    QTest::newRow("1") << lines({"View0Page", "View1Page"});
+    QTest::newRow("2") << lines({"View0Page", "View1Page", "View2Page"});
+    QTest::newRow("3") << lines({"View0Page", "View1Page", "View2Page", "View3Page"});
+}
+
+void ViewsPageTest::numberOfViewsEnablesPages()
+{
+    QFETCH(QStringList, enabled);
+    const int number = QByteArray(QTest::currentDataTag()).toInt();
+    AllPages pages;
+    // From all to this number, and from none.
+    pages.receive(withNumber(3));
+    pages.receive(withNumber(number));
+    QCOMPARE(enabledPages(pages), enabled);
+    pages.receive(withNumber(0));
+    pages.receive(withNumber(number));
+    QCOMPARE(enabledPages(pages), enabled);
+}
+
+void ViewsPageTest::numberOutOfRangeIsComparedUnsigned_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("shownNumber");
+    QTest::newRow("5") << 5 << 3;
+    QTest::newRow("-1") << -1 << 0;
+    QTest::newRow("INT_MAX") << INT_MAX << 3;
+    QTest::newRow("INT_MIN") << INT_MIN << 0;
+}
+
+void ViewsPageTest::numberOutOfRangeIsComparedUnsigned()
+{
+    QFETCH(int, number);
+    QFETCH(int, shownNumber);
+    AllPages pages;
+    pages.receive(withNumber(0));
+    pages.receive(withNumber(number));
+    QCOMPARE(enabledPages(pages), lines({"View0Page", "View1Page", "View2Page", "View3Page"}));
+    QCOMPARE(pages.views->findChild<QSpinBox*>(QStringLiteral("numViewsSpin"))->value(),
+             shownNumber);
+    QCOMPARE(pages.spy.take(), QStringList());
+}
+
+void ViewsPageTest::absentNumberEnablesTheBaseViewOnly()
+{
+    AllPages pages;
+    pages.receive(withNumber(3));
+    pages.receive({});
+    QCOMPARE(enabledPages(pages), lines({"View0Page"}));
+}
+
+void ViewsPageTest::changingTheNumberReportsItAloneAndEnablesNothingYet()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    pages.receive(withNumber(0));
+    user::type(pages.views->findChild<QSpinBox*>(QStringLiteral("numViewsSpin")),
+               QStringLiteral("2"));
+    QCOMPARE(pages.spy.take(), lines({"Number of views=2"}));
+    QCOMPARE(enabledPages(pages), lines({"View0Page"}));
+    pages.receive(withNumber(2));
+    QCOMPARE(enabledPages(pages), lines({"View0Page", "View1Page", "View2Page"}));
+}
+
+void ViewsPageTest::splitIsReported()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    user::click(pages.views->findChild<QAbstractButton*>(QStringLiteral("splitCheck")));
+    QCOMPARE(pages.spy.take(), lines({"Split=true"}));
+}
+
+void ViewsPageTest::editOfAnyViewIsForwardedUnchanged_data()
+{
+    QTest::addColumn<int>("view");
+    for (int view = 0; view < 4; ++view)
+        QTest::newRow(qPrintable(QString::number(view))) << view;
+}
+
+void ViewsPageTest::editOfAnyViewIsForwardedUnchanged()
+{
+    QFETCH(int, view);
+    AllPages pages;
+    QVERIFY(pages.show());
+    pages.receive(withNumber(3));
+    auto* const box = qobject_cast<QAbstractButton*>(findOnPage(
+        pages.window(), QStringLiteral("View%1Page").arg(view), QStringLiteral("hrdCheck")));
+    StateSpy child(pageOf(box));
+    user::click(box);
+    const QStringList expected(QStringLiteral("HRD V%1=false").arg(view));
+    QCOMPARE(child.take(), expected);
+    QCOMPARE(pages.spy.take(), expected);
+}
+
+void ViewsPageTest::disabledViewKeepsItsValuesAndItsSectionOpens()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    pages.receive(withNumber(0));
+    auto* const field = qobject_cast<QSpinBox*>(
+        findOnPage(pages.window(), QStringLiteral("View2Page"), QStringLiteral("targetRateSpin")));
+    user::reveal(field);
+    QVERIFY(!field->isEnabled());
+    QVERIFY(field->isVisible());
+    QCOMPARE(field->value(), 4000000);
+    auto* const button = sectionButton(pages.views, QStringLiteral("View 2"));
+    QVERIFY(button->isEnabled());
+    user::click(button);
+    QVERIFY(!field->isVisible());
+    user::click(button);
+    QVERIFY(field->isVisible());
+    QCOMPARE(pages.spy.take(), QStringList());
+}
+
+void ViewsPageTest::titlesAreBoldAndThePagesNormal()
+{
+    AllPages pages;
+    QVERIFY(pages.views->findChild<ToolBox*>()->font().weight() == QFont::Bold);
+    const auto* const label = pages.views->findChild<QLabel*>(QStringLiteral("profileLabel"));
+    QVERIFY(label->font().weight() == QFont::Bold);
+    for (int view = 0; view < 4; ++view) {
+        const auto* const name = findOnPage(pages.window(), QStringLiteral("View%1Page").arg(view),
+                                            QStringLiteral("brModeLabel"));
+        QVERIFY(name->font().weight() == QFont::Normal);
+    }
+}
+
+QTEST_MAIN(ViewsPageTest)
+#include "tst_views_page.moc"
