@@ -1,0 +1,200 @@
+/**
+ * @file win32_host.c
+ * A host of the settings dialog with a window of its own: plain Win32 in C, no toolkit.
+ *
+ * The window's menu has "Settings...", which opens the dialog on the settings that this program
+ * keeps. The window hands itself over as the dialog's parent: it takes no input while the dialog is
+ * open, and has the focus back afterwards.
+ *
+ *     win32-host [PRESET]
+ *
+ * The module and its companion libraries lie beside the program, or where Windows looks for DLLs.
+ * PRESET is a KvMvcVideoType; without one it is KV_MVC_STEREO_HIGH.
+ */
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/config_gui.h>
+
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+enum { MENU_SETTINGS = 100, MENU_EXIT, CONTROL_NAME, CONTROL_RESULT };
+
+static const wchar_t window_class[] = L"KvWin32Host";
+
+/** What the window works on. */
+typedef struct Host {
+    KvMvcSettings settings;
+    KvShowMvcEncoderPages show_pages;
+} Host;
+
+/** Says what went wrong, with the system's own words for it. */
+static void complain(HWND window, const wchar_t* what)
+{
+    wchar_t reason[512] = L"";
+    wchar_t text[1024];
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, NULL, GetLastError(),
+                   0, reason, ARRAYSIZE(reason), NULL);
+    _snwprintf(text, ARRAYSIZE(text) - 1, L"%ls\n\n%ls", what, reason);
+    text[ARRAYSIZE(text) - 1] = L'\0';
+    MessageBoxW(window, text, L"Encoder", MB_OK | MB_ICONERROR);
+}
+
+/** A function of a library, copied to `function`, a pointer to a function pointer. */
+static BOOL find_function(HMODULE library, const char* name, void* function)
+{
+    const FARPROC address = library ? GetProcAddress(library, name) : NULL;
+    memcpy(function, &address, sizeof address);
+    return address != NULL;
+}
+
+/** Fills the record with the encoder's defaults of a preset. @return Whether that worked. */
+static BOOL fill_with_defaults(int32_t preset, KvMvcSettings* settings)
+{
+    KvMvcDefaults defaults = NULL;
+    BOOL filled = FALSE;
+    const HMODULE encoder = LoadLibraryW(L"kv_mvcenc.dll");
+    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults))
+        filled = defaults(settings, 0, preset, 0) == 0;
+    if (encoder)
+        FreeLibrary(encoder);
+    return filled;
+}
+
+static void show_result(HWND window, const KvMvcSettings* settings, const wchar_t* what)
+{
+    wchar_t text[160];
+    const KvMvcViewSettings* const view = &settings->views[0];
+    _snwprintf(text, ARRAYSIZE(text) - 1, L"%ls: %d x %d, %.3f frames/s, %d bit/s", what,
+               (int)view->width, (int)view->height, view->frame_rate, (int)view->bitrate);
+    text[ARRAYSIZE(text) - 1] = L'\0';
+    SetDlgItemTextW(window, CONTROL_RESULT, text);
+}
+
+static void edit_settings(HWND window, Host* host)
+{
+    KvMvcHosting hosting = {0};
+    int32_t result;
+
+    hosting.parent = window;
+    hosting.title = "Encoder settings of a Win32 program";
+    /* The call returns when the user has closed the dialog; until then it handles the messages of
+       this thread, those of this window among them. */
+    result =
+        host->show_pages(&host->settings,
+                         KV_MVC_GUI_BASIC_TAB | KV_MVC_GUI_ADVANCED_TAB | KV_MVC_GUI_FILE_BUTTONS |
+                             KV_MVC_GUI_LOG_COLOURS | KV_MVC_GUI_HOSTING_RECORD,
+                         &hosting);
+    if (result == KV_MVC_GUI_ERROR)
+        complain(window, L"The settings dialog could not be shown.");
+    else
+        show_result(window, &host->settings,
+                    result == KV_MVC_GUI_ACCEPTED ? L"Accepted" : L"Cancelled");
+}
+
+static void create_controls(HWND window)
+{
+    const HINSTANCE instance = GetModuleHandleW(NULL);
+    const HFONT font = (HFONT)GetStockObject(DEFAULT_GUI_FONT);
+    HWND control;
+    control = CreateWindowW(L"EDIT", L"Untitled encode",
+                            WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, 16, 16,
+                            400, 24, window, (HMENU)(INT_PTR)CONTROL_NAME, instance, NULL);
+    SendMessageW(control, WM_SETFONT, (WPARAM)font, FALSE);
+    control = CreateWindowW(L"STATIC", L"", WS_CHILD | WS_VISIBLE, 16, 56, 600, 24, window,
+                            (HMENU)(INT_PTR)CONTROL_RESULT, instance, NULL);
+    SendMessageW(control, WM_SETFONT, (WPARAM)font, FALSE);
+}
+
+static LRESULT CALLBACK handle_message(HWND window, UINT message, WPARAM wide, LPARAM large)
+{
+    Host* const host = (Host*)GetWindowLongPtrW(window, GWLP_USERDATA);
+    switch (message) {
+    case WM_CREATE:
+        SetWindowLongPtrW(window, GWLP_USERDATA,
+                          (LONG_PTR)((const CREATESTRUCTW*)large)->lpCreateParams);
+        create_controls(window);
+        return 0;
+    case WM_SETFOCUS:
+        SetFocus(GetDlgItem(window, CONTROL_NAME));
+        return 0;
+    case WM_COMMAND:
+        if (LOWORD(wide) == MENU_SETTINGS)
+            edit_settings(window, host);
+        else if (LOWORD(wide) == MENU_EXIT)
+            DestroyWindow(window);
+        return 0;
+    case WM_CLOSE:
+        /* A request from elsewhere (the taskbar, another program) must not take the parent away
+           from under the dialog. */
+        if (IsWindowEnabled(window))
+            DestroyWindow(window);
+        return 0;
+    case WM_DESTROY:
+        PostQuitMessage(0);
+        return 0;
+    default:
+        return DefWindowProcW(window, message, wide, large);
+    }
+}
+
+static HWND create_window(Host* host)
+{
+    WNDCLASSW description = {0};
+    const HMENU menu = CreateMenu();
+    const HMENU encoder = CreatePopupMenu();
+    AppendMenuW(encoder, MF_STRING, MENU_SETTINGS, L"&Settings...");
+    AppendMenuW(encoder, MF_STRING, MENU_EXIT, L"E&xit");
+    AppendMenuW(menu, MF_POPUP, (UINT_PTR)encoder, L"&Encoder");
+
+    description.lpfnWndProc = handle_message;
+    description.hInstance = GetModuleHandleW(NULL);
+    description.hCursor = LoadCursor(NULL, IDC_ARROW);
+    description.hbrBackground = (HBRUSH)(COLOR_BTNFACE + 1);
+    description.lpszClassName = window_class;
+    if (!RegisterClassW(&description))
+        return NULL;
+    return CreateWindowW(window_class, L"Encoder", WS_OVERLAPPEDWINDOW, 200, 80, 840, 560, NULL,
+                         menu, description.hInstance, host);
+}
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, int show)
+{
+    static Host host;
+    MSG message;
+    HWND window;
+    HMODULE module;
+    (void)instance;
+    (void)previous;
+    (void)command_line;
+
+    if (!fill_with_defaults(__argc > 1 ? (int32_t)atoi(__argv[1]) : KV_MVC_STEREO_HIGH,
+                            &host.settings)) {
+        complain(NULL, L"The encoder library kv_mvcenc.dll could not be used.");
+        return 2;
+    }
+    module = LoadLibraryW(L"kv_config_gui_mvc.dll");
+    if (!find_function(module, "showMVCEncoderPages", &host.show_pages)) {
+        complain(NULL, L"The settings dialog's library kv_config_gui_mvc.dll could not be used.");
+        return 2;
+    }
+
+    window = create_window(&host);
+    if (!window) {
+        complain(NULL, L"The window could not be made.");
+        return 2;
+    }
+    show_result(window, &host.settings, L"Settings");
+    ShowWindow(window, show);
+    while (GetMessageW(&message, NULL, 0, 0) > 0) {
+        if (!IsDialogMessageW(window, &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    FreeLibrary(module);
+    return 0;
+}
