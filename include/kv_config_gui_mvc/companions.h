@@ -5,15 +5,16 @@
  * Companion libraries are found by file name: base name plus ".so" on Linux
  * and ".dll" on Windows, without a "lib" prefix. Their functions have C
  * linkage and the platform's default calling convention, and are called on the
- * thread that runs the dialog.
+ * thread that runs the dialog. No exception may leave them.
  *
- * | library (base name)                         | functions                                     |
- * required |
- * |---------------------------------------------|-----------------------------------------------|----------|
- * | "kv_mvcenc_b", then "kv_mvcenc"             | mvcOutVideoDefaults, mvcOutVideoChkSettings    |
- * yes      | | "kv_mvc_settings_io"                        | MVCConfigGetAPIExt | yes      | |
- * "kv_media_probe_x", then "kv_media_probe"   | mpegInInfoInit, mpegInGetInfo                 | no
- * | | "mvc_gui_texts", beside the translation file | localizeSetLanguage, localizeConvertStr | no |
+ * - Encoder library, "kv_mvcenc_b", else "kv_mvcenc"; required:
+ *   mvcOutVideoDefaults, mvcOutVideoChkSettings.
+ * - Settings file library, "kv_mvc_settings_io"; required:
+ *   MVCConfigGetAPIExt.
+ * - Stream information library, "kv_media_probe_x", else "kv_media_probe":
+ *   mpegInInfoInit, mpegInGetInfo.
+ * - Localization library, "mvc_gui_texts" beside the translation file:
+ *   localizeSetLanguage, localizeConvertStr.
  */
 #ifndef KV_CONFIG_GUI_MVC_COMPANIONS_H
 #define KV_CONFIG_GUI_MVC_COMPANIONS_H
@@ -87,14 +88,17 @@ typedef KvMvcFunction (*KvMvcSettingsIoGetApi)(int32_t code);
 
 /**
  * Fills the record from a file.
- * @param path Zero-terminated UTF-8.
+ * @param path Zero-terminated UTF-8. The name that a user chooses in the
+ *             dialog's file boxes comes double-converted: its UTF-8 bytes were
+ *             read as Latin-1 and encoded once more. A dropped file's name
+ *             comes as it is. For names in ASCII the two are the same.
  * @return 0 for success; otherwise the record's content is not to be used.
  */
 typedef int32_t (*KvMvcReadSettings)(KvMvcSettings* settings, const char* path);
 
 /**
  * Writes the record to a file.
- * @param path Zero-terminated UTF-8.
+ * @param path As in KvMvcReadSettings.
  * @return 0 for success; the dialog does not look at it.
  */
 typedef int32_t (*KvMvcWriteSettings)(KvMvcSettings* settings, const char* path);

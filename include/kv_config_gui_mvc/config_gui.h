@@ -24,11 +24,11 @@ extern "C" {
 
 /** Flags of showMVCEncoderPages(); bits not listed are ignored. */
 enum KvMvcGuiFlags {
-    KV_MVC_GUI_BASIC_TAB = 0x00000001,    /**< show the "Basic Settings" tab */
-    KV_MVC_GUI_ADVANCED_TAB = 0x00000002, /**< show the "Advanced Settings" tab */
-    KV_MVC_GUI_FILE_BUTTONS = 0x00000010, /**< show the load and save buttons */
-    KV_MVC_GUI_NO_INITIAL_CHECK =
-        0x00000020, /**< with file buttons: no check when the dialog opens */
+    KV_MVC_GUI_BASIC_TAB = 0x00000001,        /**< show the "Basic Settings" tab */
+    KV_MVC_GUI_ADVANCED_TAB = 0x00000002,     /**< show the "Advanced Settings" tab */
+    KV_MVC_GUI_FILE_BUTTONS = 0x00000010,     /**< show the load and save buttons */
+    KV_MVC_GUI_NO_INITIAL_CHECK = 0x00000020, /**< with file buttons: no check when the dialog
+                                                 opens; without them there is none */
     /**
      * Distinct log colours for errors, warnings and notes. A dialog opened
      * without it makes the three equal for the rest of the process.
@@ -54,7 +54,7 @@ enum KvMvcGuiResult {
     KV_MVC_GUI_ERROR = 1        /**< see showMVCEncoderPages(): the record is unchanged */
 };
 
-/** How the dialog is hosted. Owned by the caller; read only during the call. */
+/** How the dialog is hosted. Owned by the caller; read during the call only, `flags` written. */
 typedef struct KvMvcHosting {
     int32_t flags; /**< overwritten with the `flags` argument */
     /**
@@ -72,20 +72,24 @@ typedef struct KvMvcHosting {
  * Call it on the thread that owns the GUI application object, or that shall
  * own the one that this call makes. One call at a time in a process.
  *
- * The companion libraries are loaded anew in each call and released before it
- * returns. They are looked for in the host program's directory, then by the
- * system loader's rules, which include the directory of this module.
+ * The companion libraries are loaded anew in each call, and released before it
+ * returns; those that a call with the result KV_MVC_GUI_ERROR may have left, by
+ * the next call. They are looked for in the host program's directory, then by
+ * the system loader's rules; on Linux these include the directory of this
+ * module.
  *
  * @param settings The record to edit; written only when the user accepts.
  * @param flags    Combination of KvMvcGuiFlags.
  * @param ext      With KV_MVC_GUI_HOSTING_RECORD a KvMvcHosting; otherwise the
  *                 value that KvMvcHosting::parent would have.
- * @return KvMvcGuiResult. KV_MVC_GUI_ERROR when `settings` is null, when a
- *         required companion library or function is missing, when
- *         KV_MVC_GUI_HOST_APPLICATION is given without an application object
- *         (or is missing though the process has one already), or when the
- *         dialog could not be built. No message is shown for any of these.
- *         No exception leaves the function.
+ * @return KvMvcGuiResult. KV_MVC_GUI_ERROR when `settings` is null; when a
+ *         required companion library or function is missing; when
+ *         KV_MVC_GUI_HOSTING_RECORD is given without a record; when
+ *         KV_MVC_GUI_HOST_APPLICATION is given without a QApplication, or is
+ *         missing though the process has an application object; on Linux, when
+ *         there is no display to connect to; when a dialog is open already; or
+ *         when an exception ended the dialog. No message is shown for any of
+ *         these, and no exception leaves the function.
  */
 KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags,
                                                   void* ext);

@@ -14,9 +14,11 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QSignalBlocker>
+
+#include <initializer_list>
 
 namespace
 {
@@ -67,7 +69,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
     connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);
     connect(this, &AVCVideoEncoderDlg::stateChanged, this, &AVCVideoEncoderDlg::slotReceiveState);
-    buildPages(m_flags);
+    buildPages();
 
     if (!(m_flags & KV_MVC_GUI_FILE_BUTTONS)) {
         ui.buttonLoad->hide();
@@ -88,7 +90,14 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     installEventFilter(this);
 }
 
-AVCVideoEncoderDlg::~AVCVideoEncoderDlg() = default;
+AVCVideoEncoderDlg::~AVCVideoEncoderDlg()
+{
+    // A field that loses the focus while the dialog is deleted still reports what was typed.
+    for (SettingsPage* page :
+         std::initializer_list<SettingsPage*>{m_basicPage, m_advancedPage, m_viewsPage})
+        if (page)
+            page->disconnect(this);
+}
 
 void AVCVideoEncoderDlg::buildPresetRow()
 {
@@ -99,14 +108,19 @@ void AVCVideoEncoderDlg::buildPresetRow()
     WheelGuard::protect(ui.presetList);
 }
 
-void AVCVideoEncoderDlg::buildPages(qint32 flags)
+void AVCVideoEncoderDlg::buildPages()
 {
+    // The layout's own pages stand for the real ones at design time only.
     ui.tabWidget->clear();
-    if (flags & KV_MVC_GUI_BASIC_TAB) {
+    QWidget* const designTimePages[] = {ui.basicPage, ui.advancedPage, ui.miscPage};
+    for (QWidget* page : designTimePages)
+        delete page;
+
+    if (m_flags & KV_MVC_GUI_BASIC_TAB) {
         m_basicPage = new BasicPage(this);
         addPage(m_basicPage, tr("Basic Settings"));
     }
-    if (flags & KV_MVC_GUI_ADVANCED_TAB) {
+    if (m_flags & KV_MVC_GUI_ADVANCED_TAB) {
         m_advancedPage = new AdvancedPage(this);
         m_advancedPage->setProfileLevelLists(m_vocabulary.profiles(), m_vocabulary.levels());
         addPage(m_advancedPage, tr("Advanced Settings"));
@@ -120,6 +134,8 @@ void AVCVideoEncoderDlg::buildPages(qint32 flags)
         last = last->previousInFocusChain();
     setTabOrder(last, ui.buttonCancel);
     setTabOrder(ui.buttonCancel, ui.buttonOk);
+    // Not on the preset list, where the first turn of the wheel would replace every setting.
+    ui.tabWidget->setFocus();
 }
 
 void AVCVideoEncoderDlg::addPage(SettingsPage* page, const QString& title)
@@ -134,6 +150,7 @@ void AVCVideoEncoderDlg::limitHeight()
     if (!screen)
         return;
     const int limit = int(screen->availableGeometry().height() * 0.95);
+    // The layout's minimum is too much for a small screen, whose user needs the buttons at the end.
     setMinimumHeight(qMin(minimumHeight(), limit));
     setMaximumHeight(limit);
 }
@@ -225,12 +242,18 @@ void AVCVideoEncoderDlg::takeSettings(const KvMvcSettings& settings)
 
 bool AVCVideoEncoderDlg::check()
 {
-    if (m_updating)
+    if (m_updating || !m_caller)
         return false;
     messageLog().clearMessages();
+    // On a copy: the check may show a message box, and meanwhile the host may delete the dialog.
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    alignas(8) KvMvcSettings settings = m_record.settings;
     const auto encoderCheck = companionFunctions().check;
     const bool accepted =
-        encoderCheck && encoderCheck(&lookUpCheckFunction, &m_record.settings, checkStage, 0) == 0;
+        encoderCheck && encoderCheck(&lookUpCheckFunction, &settings, checkStage, 0) == 0;
+    if (!self)
+        return false;
+    m_record.settings = settings;
     followSecondView(m_record);
 
     // A page may clamp what it is told and report that; the verdict is on the record as checked.

@@ -54,7 +54,7 @@ public Q_SLOTS:
 
 private:
     void buildPresetRow();
-    void buildPages(qint32 flags);
+    void buildPages();
     void addPage(SettingsPage* page, const QString& title);
     void limitHeight();
     void applySkin(const QString& name);

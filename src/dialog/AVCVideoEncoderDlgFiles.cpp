@@ -4,6 +4,7 @@
 
 #include "SettingsFiles.h"
 
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
@@ -11,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QUrl>
 
 namespace
@@ -22,6 +24,28 @@ QString firstLocalFile(const QMimeData* data)
     return urls.isEmpty() ? QString() : urls.first().toLocalFile();
 }
 
+/// The file that the user chooses; empty when none.
+QString chooseFile(QFileDialog& dialog)
+{
+    // It has no parent, and a hidden one has the settings dialog: closing it is not the end.
+    dialog.setAttribute(Qt::WA_QuitOnClose, false);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
+
+bool mayOverwrite()
+{
+    QMessageBox question(
+        QMessageBox::Question,
+        QCoreApplication::translate("AVCVideoEncoderDlg", "Korvane MVC Video Encoder"),
+        QCoreApplication::translate("AVCVideoEncoderDlg",
+                                    "File already exists.\nDo you want to overwrite it?"),
+        QMessageBox::Yes | QMessageBox::No);
+    question.setAttribute(Qt::WA_QuitOnClose, false);
+    return question.exec() == QMessageBox::Yes;
+}
+
 QString absoluteDirectory(const QString& file)
 {
     return QFileInfo(file).absolutePath();
@@ -31,47 +55,60 @@ QString absoluteDirectory(const QString& file)
 
 void AVCVideoEncoderDlg::loadFromFile(const QString& path)
 {
-    const auto settings = settings_files::read(path);
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    const auto settings = m_caller ? settings_files::read(path) : std::nullopt;
     if (!settings)
         return;
     takeSettings(*settings);
     check();
-    settingsToState();
+    if (self)
+        settingsToState();
 }
 
 void AVCVideoEncoderDlg::saveToFile(const QString& path)
 {
+    const QPointer<AVCVideoEncoderDlg> self(this);
     check();
+    if (!self || !m_caller)
+        return;
     settings_files::write(m_record.settings, path);
 }
 
+// The host may delete its window, and this dialog with it, while the user chooses a file.
+
 void AVCVideoEncoderDlg::slotLoadSettings()
 {
-    const QString name = QFileDialog::getOpenFileName(
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    QFileDialog dialog(
         nullptr, tr("Load Config File..."), m_lastLoadDirectory,
         tr("Config Files (*.cfg *.ini);;MPEG Files (*.m2p *.m2t *.m2p*.m4p *.mp2 *.mp4 *.mpeg "
            "*.mpg *.mpv *.mxf *.trp *.ts *.vob *.ifo)"));
-    if (name.isEmpty())
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    const QString name = chooseFile(dialog);
+    if (name.isEmpty() || !self)
         return;
     loadFromFile(settings_files::asPassedOn(name));
-    m_lastLoadDirectory = absoluteDirectory(name);
+    if (self)
+        m_lastLoadDirectory = absoluteDirectory(name);
 }
 
 void AVCVideoEncoderDlg::slotSaveSettings()
 {
-    QString name = QFileDialog::getSaveFileName(
-        nullptr, tr("Save Config File..."), m_lastSaveDirectory, tr("Config Files (*.cfg *.ini)"),
-        nullptr, QFileDialog::DontConfirmOverwrite);
-    if (name.isEmpty())
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    QFileDialog dialog(nullptr, tr("Save Config File..."), m_lastSaveDirectory,
+                       tr("Config Files (*.cfg *.ini)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    const QString chosen = chooseFile(dialog);
+    if (chosen.isEmpty())
         return;
-    name = settings_files::withSuffix(name);
-    if (QFile::exists(name) &&
-        QMessageBox::question(nullptr, tr("Korvane MVC Video Encoder"),
-                              tr("File already exists.\nDo you want to overwrite it?"),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+    const QString name = settings_files::withSuffix(chosen);
+    if ((QFile::exists(name) && !mayOverwrite()) || !self)
         return;
     saveToFile(settings_files::asPassedOn(name));
-    m_lastSaveDirectory = absoluteDirectory(name);
+    if (self)
+        m_lastSaveDirectory = absoluteDirectory(name);
 }
 
 bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)

@@ -9,7 +9,6 @@ struct CompanionFunctions {
     KvMvcCheck check = nullptr;
     KvMvcSettingsIoGetApi settingsIoGetApi = nullptr;
     KvMvcLocalizeConvert localizeConvert = nullptr;
-    KvMvcLocalizeSetLanguage localizeSetLanguage = nullptr;
 };
 
 /// The process's one set of functions, filled while a call of the module lasts.

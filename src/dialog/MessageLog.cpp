@@ -32,13 +32,16 @@ QByteArray formatted(const char* format, va_list arguments)
 
 void showBox(QMessageBox::Icon icon, const QString& message)
 {
-    QMessageBox box(icon,
-                    QCoreApplication::translate("AVCVideoEncoderDlg", "Korvane MVC Video Encoder"),
-                    message, QMessageBox::Ok, messageLog().widget->parentWidget());
+    // On the heap and watched: its parent may go while the box is open.
+    const QPointer<QMessageBox> box = new QMessageBox(
+        icon, QCoreApplication::translate("AVCVideoEncoderDlg", "Korvane MVC Video Encoder"),
+        message, QMessageBox::Ok, messageLog().widget->parentWidget());
+    box->setTextFormat(Qt::PlainText);
     // The skins size every push button for an icon.
-    box.setStyleSheet(QStringLiteral("QPushButton { min-width: 5em; max-width: 20em;"
-                                     " min-height: 1.5em; max-height: 3em; }"));
-    box.exec();
+    box->setStyleSheet(QStringLiteral("QPushButton { min-width: 5em; max-width: 20em;"
+                                      " min-height: 1.5em; max-height: 3em; }"));
+    box->exec();
+    delete box;
 }
 
 void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list arguments)

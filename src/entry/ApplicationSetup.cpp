@@ -42,28 +42,37 @@ struct LanguageRow {
 constexpr LanguageRow languageRows[] = {{KV_MVC_LANGUAGE_GERMAN, "de"},
                                         {KV_MVC_LANGUAGE_JAPANESE, "jp"}};
 
+/// One for the process, never destroyed: an application may outlive this module's own objects.
+QTranslator& processTranslator()
+{
+    static auto* const translator = new QTranslator;
+    return *translator;
+}
+
 } // namespace
 
 void setUpApplication(QCoreApplication& application)
 {
-    // Never destroyed: the host's application may go on using it.
-    static auto* const translator = new QTranslator;
-
     const std::int32_t language = primaryUserLanguage();
     for (const LanguageRow& row : languageRows) {
         if (row.language != language)
             continue;
-        // A host's application still has it from an earlier call.
-        application.removeTranslator(translator);
         const QString file = QLatin1String("gui_mvc_") + QLatin1String(row.code);
         // No delimiters: "gui_mvc.qm" is no translation into this language.
         const QString noDelimiters(QLatin1String(""));
         for (const QString& directory : application.libraryPaths()) {
-            if (!translator->load(file, directory, noDelimiters))
+            if (!processTranslator().load(file, directory, noDelimiters))
                 continue;
-            application.installTranslator(translator);
+            application.installTranslator(&processTranslator());
             bindings::loadLocalization(directory, language);
             break;
         }
     }
+}
+
+void restoreApplication(QCoreApplication& application)
+{
+    application.removeTranslator(&processTranslator());
+    // Lets go of the file.
+    (void)processTranslator().load(QString());
 }

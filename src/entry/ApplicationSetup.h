@@ -6,3 +6,6 @@ class QCoreApplication;
 /// by the application's library paths, and loads the localization library beside it. Whatever is
 /// missing is silently left out; other languages see English.
 void setUpApplication(QCoreApplication& application);
+
+/// Takes the translation back from an application that goes on.
+void restoreApplication(QCoreApplication& application);

@@ -3,6 +3,8 @@
 #include "LibraryLoader.h"
 #include "dialog/Companions.h"
 
+#include <QDir>
+
 #include <initializer_list>
 #include <memory>
 
@@ -21,6 +23,7 @@ struct Slots {
     std::unique_ptr<LibraryLoader> probe;
     std::unique_ptr<LibraryLoader> localization;
     ProbeFunctions probeFunctions;
+    KvMvcLocalizeSetLanguage localizeSetLanguage = nullptr;
 };
 
 Slots& processSlots()
@@ -102,20 +105,21 @@ void loadLocalization(const QString& directory, std::int32_t language)
     if (loader)
         return;
     loader = std::make_unique<LibraryLoader>();
-    if (!loader->load((directory + QLatin1String("/mvc_gui_texts")).toStdWString()))
+    if (!loader->load(
+            QDir::toNativeSeparators(directory + QLatin1String("/mvc_gui_texts")).toStdWString()))
         return;
     CompanionFunctions& functions = companionFunctions();
     functions.localizeConvert = loader->resolve<KvMvcLocalizeConvert>(KV_MVC_LOCALIZE_CONVERT);
-    functions.localizeSetLanguage =
+    processSlots().localizeSetLanguage =
         loader->resolve<KvMvcLocalizeSetLanguage>(KV_MVC_LOCALIZE_SET_LANGUAGE);
-    if (functions.localizeSetLanguage)
-        functions.localizeSetLanguage(language);
+    if (processSlots().localizeSetLanguage)
+        processSlots().localizeSetLanguage(language);
 }
 
 void releaseLocalization()
 {
     companionFunctions().localizeConvert = nullptr;
-    companionFunctions().localizeSetLanguage = nullptr;
+    processSlots().localizeSetLanguage = nullptr;
     processSlots().localization.reset();
 }
 

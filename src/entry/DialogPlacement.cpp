@@ -1,5 +1,7 @@
 #include "DialogPlacement.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -10,6 +12,25 @@ int clamped(int position, int hostStart, int hostLength, int length)
 }
 
 } // namespace
+
+WindowEdges toToolkitPixels(const WindowEdges& window, const QVector<ScaledScreen>& screens)
+{
+    if (screens.isEmpty())
+        return window;
+    const QPoint middle((window.left + window.right) / 2, (window.top + window.bottom) / 2);
+    const auto holdsMiddle = [middle](const ScaledScreen& screen) {
+        const QRect& rect = screen.geometry;
+        return QRect(rect.topLeft(), rect.size() * screen.scale).contains(middle);
+    };
+    const auto found = std::find_if(screens.begin(), screens.end(), holdsMiddle);
+    const ScaledScreen& screen = found == screens.end() ? screens.first() : *found;
+    const auto scaled = [&screen](int position, int origin) {
+        return origin + int((position - origin) / screen.scale);
+    };
+    const QPoint origin = screen.geometry.topLeft();
+    return {scaled(window.left, origin.x()), scaled(window.top, origin.y()),
+            scaled(window.right, origin.x()), scaled(window.bottom, origin.y())};
+}
 
 QPoint centredOver(const WindowEdges& parent, QSize dialog, const QRect& host)
 {

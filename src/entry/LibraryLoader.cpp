@@ -5,6 +5,8 @@ namespace
 
 constexpr std::size_t maximumFileName = 2048;
 constexpr std::size_t maximumErrorText = 2048;
+/// The system's code for a function that a library does not have.
+constexpr std::uint32_t functionNotFound = 127;
 
 #ifdef _WIN32
 constexpr const wchar_t* platformExtension = L"dll";
@@ -37,7 +39,10 @@ bool LibraryLoader::load(const std::wstring& baseName, const wchar_t* extension)
 
 LibraryLoader::Address LibraryLoader::resolveAddress(const char* name)
 {
-    return m_loaded ? findSystemFunction(name) : nullptr;
+    if (m_loaded)
+        return findSystemFunction(name);
+    setLastError(functionNotFound, "No library is loaded.");
+    return nullptr;
 }
 
 void LibraryLoader::unload()

@@ -17,6 +17,10 @@ using NativeWindowHandle = void*;
 namespace native_window
 {
 
+/// Whether the platform can show a window at all. To be asked before there is an application
+/// object, whose constructor would end the process where it cannot.
+bool canShowWindows();
+
 /// The window's outer rectangle, decoration included, on the desktop, in the window system's
 /// pixels. No value where there is no such window.
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window);
@@ -30,8 +34,8 @@ void embed(QWidget* widget, NativeWindowHandle window);
 void setTransientFor(QWidget* dialog, NativeWindowHandle window);
 
 /// Whether the window takes mouse and keyboard input. X11, which has no such state: an invisible
-/// window on top takes the mouse and the keys away until the window is enabled again; one window
-/// at a time.
+/// window on top takes the mouse, and the keys while the pointer is over it, until the window is
+/// enabled again; one window at a time.
 void setEnabled(NativeWindowHandle window, bool enabled);
 
 /// The host's window with the keyboard focus; null when that is none of this thread's (X11: not

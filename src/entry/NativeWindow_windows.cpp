@@ -25,6 +25,11 @@ bool isNativePlatform()
 namespace native_window
 {
 
+bool canShowWindows()
+{
+    return true;
+}
+
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
 {
     RECT rectangle;

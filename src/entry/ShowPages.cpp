@@ -4,12 +4,16 @@
 #include "Bindings.h"
 #include "DialogPlacement.h"
 #include "NativeWindow.h"
+#include "ProcessLocale.h"
 #include "QWinWidget.h"
 #include "dialog/AVCVideoEncoderDlg.h"
 
 #include <QApplication>
 #include <QPointer>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QVector>
 
 #include <kv_config_gui_mvc/config_gui.h>
 
@@ -18,39 +22,59 @@
 namespace
 {
 
-/// Runs the dialog modally and deletes it. @return Whether the user accepted.
-bool runModally(AVCVideoEncoderDlg* shown, QApplication& application)
+/// Owns the dialog, which the host may delete first, with the window that is its parent.
+class OwnedDialog
 {
-    // By names: a connection to a function would leave a piece of this module in the host's object,
-    // and the module may be unloaded before the host's object goes.
-    QObject::connect(&application, SIGNAL(lastWindowClosed()), &application, SLOT(quit()),
-                     Qt::UniqueConnection);
-    // The host may delete its window, and the dialog with it, while the dialog is open.
-    const QPointer<AVCVideoEncoderDlg> dialog(shown);
-    const int result = dialog->exec();
-    delete dialog;
-    return result == QDialog::Accepted;
-}
+public:
+    OwnedDialog(KvMvcSettings* settings, const KvMvcHosting& hosting, QWidget* parent)
+        : m_dialog(new AVCVideoEncoderDlg(settings, &hosting, parent))
+    {
+    }
+    OwnedDialog(const OwnedDialog&) = delete;
+    OwnedDialog& operator=(const OwnedDialog&) = delete;
+    ~OwnedDialog() { delete m_dialog; }
 
-bool runInHostApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
+    AVCVideoEncoderDlg* get() const { return m_dialog; }
+
+    /// @return Whether the user accepted.
+    bool runModally(QApplication& application)
+    {
+        // By names: a connection to a function would leave a piece of this module in the host's
+        // object, and the module may be unloaded before the host's object goes.
+        QObject::connect(&application, SIGNAL(lastWindowClosed()), &application, SLOT(quit()),
+                         Qt::UniqueConnection);
+        return m_dialog->exec() == QDialog::Accepted;
+    }
+
+private:
+    const QPointer<AVCVideoEncoderDlg> m_dialog;
+};
+
+bool runInHostApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
+                          QApplication& application)
 {
-    auto& application = *static_cast<QApplication*>(hosting.parent);
     setUpApplication(application);
+    const auto restore = qScopeGuard([&application] { restoreApplication(application); });
     QWidget* const active = QApplication::activeWindow();
-    auto* const dialog = new AVCVideoEncoderDlg(settings, &hosting, active);
+    OwnedDialog dialog(settings, hosting, active);
     if (!active)
-        QApplication::setActiveWindow(dialog);
-    return runModally(dialog, application);
+        QApplication::setActiveWindow(dialog.get());
+    return dialog.runModally(application);
 }
 
 /// Places the dialog over the host's window; on the desktop's middle where that cannot be found.
 void placeOverNativeParent(QWidget* dialog, const QWinWidget& host)
 {
     const QRect desktop = host.geometry();
-    const WindowEdges edges =
-        native_window::outerRectangle(host.parentWindow())
-            .value_or(WindowEdges{desktop.left(), desktop.top(), desktop.left() + desktop.width(),
-                                  desktop.top() + desktop.height()});
+    WindowEdges edges{desktop.left(), desktop.top(), desktop.left() + desktop.width(),
+                      desktop.top() + desktop.height()};
+    if (const auto found = native_window::outerRectangle(host.parentWindow())) {
+        QVector<ScaledScreen> screens;
+        const auto all = QGuiApplication::screens();
+        for (const QScreen* screen : all)
+            screens.append({screen->geometry(), screen->devicePixelRatio()});
+        edges = toToolkitPixels(*found, screens);
+    }
     dialog->move(centredOver(edges, dialog->geometry().size(), desktop));
     native_window::setTransientFor(dialog, host.parentWindow());
 }
@@ -61,7 +85,12 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     static int argumentCount = 0;
     static char* arguments[] = {nullptr};
     constexpr int versionCode = 0x40702;
+    const ProcessLocale hostLocale;
+    // Without arguments there is no name that a window manager could show.
+    if (QCoreApplication::applicationName().isEmpty())
+        QCoreApplication::setApplicationName(QStringLiteral("kv_config_gui_mvc"));
     QApplication application(argumentCount, arguments, versionCode);
+    ProcessLocale::useCNumbers();
     setUpApplication(application);
 
     std::unique_ptr<QWinWidget> host;
@@ -70,11 +99,11 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
         if (const QScreen* screen = QGuiApplication::primaryScreen())
             host->setGeometry(screen->virtualGeometry());
     }
-    auto* const dialog = new AVCVideoEncoderDlg(settings, &hosting, host.get());
+    OwnedDialog dialog(settings, hosting, host.get());
     if (host)
-        placeOverNativeParent(dialog, *host);
-    QApplication::setActiveWindow(dialog);
-    return runModally(dialog, application);
+        placeOverNativeParent(dialog.get(), *host);
+    QApplication::setActiveWindow(dialog.get());
+    return dialog.runModally(application);
 }
 
 int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
@@ -90,12 +119,18 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
         return KV_MVC_GUI_ERROR;
     hosting->flags = flags;
 
-    const bool inHost = flags & KV_MVC_GUI_HOST_APPLICATION;
-    // A process has one application object at most.
-    if (inHost ? !hosting->parent : QCoreApplication::instance() != nullptr)
-        return KV_MVC_GUI_ERROR;
-    const bool accepted =
-        inHost ? runInHostApplication(settings, *hosting) : runInOwnApplication(settings, *hosting);
+    bool accepted = false;
+    if (flags & KV_MVC_GUI_HOST_APPLICATION) {
+        auto* const application = qobject_cast<QApplication*>(QCoreApplication::instance());
+        if (!hosting->parent || !application)
+            return KV_MVC_GUI_ERROR;
+        accepted = runInHostApplication(settings, *hosting, *application);
+    } else {
+        // A process has one application object at most.
+        if (QCoreApplication::instance() || !native_window::canShowWindows())
+            return KV_MVC_GUI_ERROR;
+        accepted = runInOwnApplication(settings, *hosting);
+    }
     bindings::releaseLocalization();
     bindings::releaseCompanions();
     return accepted ? KV_MVC_GUI_ACCEPTED : KV_MVC_GUI_REJECTED;
@@ -105,8 +140,11 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
 
 int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags, void* ext)
 {
-    if (!settings)
+    // The slots are the process's: a call out of an open dialog's event loop would empty them.
+    static bool isOpen = false;
+    if (!settings || isOpen)
         return KV_MVC_GUI_ERROR;
+    const QScopedValueRollback<bool> open(isOpen, true);
     try {
         return showPages(settings, flags, ext);
     } catch (...) {
