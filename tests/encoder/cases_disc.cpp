@@ -18,6 +18,14 @@ constexpr RuleCase rows[] = {
     {"disc.level", "4", 3, [](Record& r) { setBoth(r, &V::level, 40); }, true},
     {"disc.level", "4.2", 3, [](Record& r) { setBoth(r, &V::level, 42); }, true},
     {"disc.level", "Auto", 3, [](Record& r) { setBoth(r, &V::level, 100); }, false},
+    {"disc.level", "Auto of rates that a lower level takes", 3,
+     [](Record& r) {
+         setBoth(r, &V::level, 100);
+         setBoth(r, &V::bitrate, 4000000);
+         setBoth(r, &V::max_bitrate, 8000000);
+         setBoth(r, &V::bitrate_buffer, 1000000);
+     },
+     false},
     {"disc.format", "1920 x 1080 at 24", 3, [](Record& r) { setFrameRate(r, 24); }, false},
     {"disc.format", "1920 x 1080 at 25", 3, [](Record& r) { setFrameRate(r, 25); }, true},
     {"disc.format", "1920 x 1080 at 25 interlaced", 3,

@@ -133,6 +133,20 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::interlace_mode, 2);
      },
      true},
+    {"slices.rows", "as many as rows of a field of 720 lines", 0,
+     [](Record& r) {
+         setBoth(r, &V::height, 720);
+         setBoth(r, &V::interlace_mode, 1);
+         setBoth(r, &V::num_slices, 23);
+     },
+     false},
+    {"slices.rows", "one more than rows of a field of 720 lines", 0,
+     [](Record& r) {
+         setBoth(r, &V::height, 720);
+         setBoth(r, &V::interlace_mode, 1);
+         setBoth(r, &V::num_slices, 24);
+     },
+     true},
     {"slices.flag", "off for 4", 0, [](Record& r) { setBoth(r, &V::multi_slice, 0); }, true},
     {"slices.flag", "on for 1", 0, [](Record& r) { setBoth(r, &V::num_slices, 1); }, true},
     {"slices.flag", "off for 1", 0,
