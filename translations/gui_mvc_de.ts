@@ -1853,6 +1853,18 @@ Soll die Datei trotzdem gelöscht werden?</translation>
         <source>Unknown</source>
         <translation>Unbekannt</translation>
     </message>
+    <message>
+        <source>Alt+Left</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Alt+Right</source>
+        <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -2377,6 +2389,10 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <message>
         <source>PgDown</source>
         <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>

@@ -1853,6 +1853,18 @@ Do you want to delete it anyway?</source>
         <source>Unknown</source>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>Alt+Left</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Alt+Right</source>
+        <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -2377,6 +2389,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>PgDown</source>
         <translation>PgDown</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>

@@ -47,6 +47,9 @@ const char* const QFileDialog_texts[] = {
     QT_TRANSLATE_NOOP("QFileDialog", "Look in:"),
     QT_TRANSLATE_NOOP("QFileDialog", "Back"),
     QT_TRANSLATE_NOOP("QFileDialog", "Go back"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Alt+Left"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Alt+Right"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Alt+Up"),
     QT_TRANSLATE_NOOP("QFileDialog", "Forward"),
     QT_TRANSLATE_NOOP("QFileDialog", "Go forward"),
     QT_TRANSLATE_NOOP("QFileDialog", "Parent Directory"),
@@ -188,6 +191,7 @@ const char* const QUnicodeControlCharacterMenu_texts[] = {
 
 // Keys, as menus and tool tips name them
 const char* const QShortcut_texts[] = {
+    QT_TRANSLATE_NOOP("QShortcut", "+"),
     QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
     QT_TRANSLATE_NOOP("QShortcut", "Shift"),
     QT_TRANSLATE_NOOP("QShortcut", "Alt"),

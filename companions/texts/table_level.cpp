@@ -1,0 +1,96 @@
+// Limits of levels, and references.
+
+#include "tables.h"
+
+namespace kv::texts
+{
+
+// clang-format off
+static const Text texts[] = {
+    {"Level %.1f is reserved, so nothing limits it: choose another level, or Auto.",
+     "Level %.1f ist reserviert und hat keine Grenzen: anderes Level oder „Auto“ wählen.",
+     "レベル %.1f は予約済みで、制限値がありません。別のレベルか自動を選んでください。"},
+    {"No level from 1 to 5.2 fits these settings.",
+     "Kein Level von 1 bis 5.2 passt zu diesen Einstellungen.",
+     "この設定に合うレベルは 1 ～ 5.2 にありません。"},
+    {"Level Auto comes to level %s, the lowest that fits.",
+     "Level „Auto“ ergibt Level %s, das niedrigste, das ausreicht.",
+     "自動レベルは、条件を満たす最小のレベル %s になります。"},
+    {"Level %s is the lowest that fits.",
+     "Level %s ist das niedrigste, das ausreicht.",
+     "レベル %s が、条件を満たす最小のレベルです。"},
+    {"Level %s has at most %d macroblocks in a picture, not %.0f: choose a higher level.",
+     "Level %s hat höchstens %d Makroblöcke je Bild, nicht %.0f: höheres Level wählen.",
+     "レベル %s のピクチャは最大 %d マクロブロックで、%.0f ではありません。上のレベルを選んでください。"},
+    {"Level %s has at most %d macroblocks in a row or column, not %.0f x %.0f.",
+     "Level %s hat höchstens %d Makroblöcke je Zeile oder Spalte, nicht %.0f x %.0f.",
+     "レベル %s の行と列は最大 %d マクロブロックで、%.0f x %.0f ではありません。"},
+    {"Level %s has at most %d macroblocks/s, not %.0f: choose a higher level.",
+     "Level %s hat höchstens %d Makroblöcke/s, nicht %.0f: höheres Level wählen.",
+     "レベル %s は最大 %d マクロブロック/秒で、%.0f ではありません。上のレベルを選んでください。"},
+    {"Level %s has at most %d macroblocks/s for %d views, not %.0f: choose a higher level.",
+     "Level %s hat höchstens %d Makroblöcke/s für %d Ansichten, nicht %.0f: höheres Level wählen.",
+     "レベル %s は最大 %d マクロブロック/秒 (%d ビュー) で、%.0f ではありません。上のレベルを選んでください。"},
+    {"Level %s has progressive pictures only: choose Progressive, or a level from 2.1 to 4.1.",
+     "Level %s hat nur progressive Bilder: „Progressiv“ oder ein Level von 2.1 bis 4.1 wählen.",
+     "レベル %s はプログレッシブ専用です。プログレッシブか、2.1 ～ 4.1 のレベルを選んでください。"},
+    {"Level %s has at most %.0f bit/s, not %.0f: lower the rate, or choose a higher level.",
+     "Level %s hat höchstens %.0f bit/s, nicht %.0f: Rate senken oder höheres Level wählen.",
+     "レベル %s は最大 %.0f bit/s で、%.0f ではありません。レートを下げるか、上のレベルを選んでください。"},
+    {"Level %s has at most %.0f bit/s for %d views together, not %.0f.",
+     "Level %s hat höchstens %.0f bit/s für %d Ansichten zusammen, nicht %.0f.",
+     "レベル %s は最大 %.0f bit/s (%d ビュー合計) で、%.0f ではありません。"},
+    {"Level %s has a buffer of at most %.0f bits, not %.0f: make the buffer smaller.",
+     "Level %s hat einen Puffer von höchstens %.0f bit, nicht %.0f: Puffer verkleinern.",
+     "レベル %s のバッファは最大 %.0f ビットで、%.0f ではありません。バッファを小さくしてください。"},
+    {"Level %s has buffers of at most %.0f bits for %d views together, not %.0f.",
+     "Level %s hat Puffer von höchstens %.0f bit für %d Ansichten zusammen, nicht %.0f.",
+     "レベル %s のバッファは最大 %.0f ビット (%d ビュー合計) で、%.0f ではありません。"},
+    {"Level %s holds %d frames of this size, not %d: use fewer reference frames.",
+     "Level %s hält %d Bilder dieser Größe, nicht %d: weniger Referenzbilder verwenden.",
+     "レベル %s が保持するこのサイズのフレームは %d 枚で、%d 枚ではありません。参照フレームを減らしてください。"},
+    {"Level %s holds %d frames of this size for %d views, not %d: use fewer reference frames.",
+     "Level %s hält %d Bilder dieser Größe für %d Ansichten, nicht %d: weniger Referenzbilder verwenden.",
+     "レベル %s が保持するこのサイズのフレームは %d 枚 (%d ビュー) で、%d 枚ではありません。参照フレームを減らしてください。"},
+    {"Level %s allows a view half its buffer, %d frames, not %d: use fewer reference frames.",
+     "Level %s erlaubt einer Ansicht den halben Puffer, %d Bilder, nicht %d: weniger Referenzbilder verwenden.",
+     "レベル %s で 1 つのビューが使えるのはバッファの半分、%d 枚で、%d 枚ではありません。参照フレームを減らしてください。"},
+    {"Level %s has at most %d slices per picture here, not %d.",
+     "Level %s hat hier höchstens %d Slices je Bild, nicht %d.",
+     "レベル %s のスライスは、ここではピクチャあたり最大 %d で、%d ではありません。"},
+    {"Level %s needs at least %d slices per picture here, not %d.",
+     "Level %s braucht hier mindestens %d Slices je Bild, nicht %d.",
+     "レベル %s のスライスは、ここではピクチャあたり %d 以上が必要で、%d では足りません。"},
+    {"Level %s ends vertical vectors at %d samples: the search range %d holds horizontally.",
+     "Level %s begrenzt senkrechte Vektoren auf %d Zeilen: Der Suchbereich %d gilt waagerecht.",
+     "レベル %s の垂直ベクトルは %d サンプルまでです。探索範囲 %d は水平方向に有効です。"},
+    {"View %d: a P-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+     "Ansicht %d: Ein P-Bild von %d Byte ist zu groß für Level %s, das %.0f Byte erlaubt.",
+     "ビュー %d: %d バイトの P フレームはレベル %s の上限 %.0f バイトを超えています。"},
+    {"View %d: a B-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+     "Ansicht %d: Ein B-Bild von %d Byte ist zu groß für Level %s, das %.0f Byte erlaubt.",
+     "ビュー %d: %d バイトの B フレームはレベル %s の上限 %.0f バイトを超えています。"},
+    {"View %d: a Br-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+     "Ansicht %d: Ein Br-Bild von %d Byte ist zu groß für Level %s, das %.0f Byte erlaubt.",
+     "ビュー %d: %d バイトの Br フレームはレベル %s の上限 %.0f バイトを超えています。"},
+    {"View %d: an I-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+     "Ansicht %d: Ein I-Bild von %d Byte ist zu groß für Level %s, das %.0f Byte erlaubt.",
+     "ビュー %d: %d バイトの I フレームはレベル %s の上限 %.0f バイトを超えています。"},
+    {"View %d: %d reference frames with those of other views; %d views allow %d.",
+     "Ansicht %d: %d Referenzbilder mit denen anderer Ansichten; %d Ansichten erlauben %d.",
+     "ビュー %d: ほかのビューを含めた参照フレームは %d 枚です。%d ビューでは %d 枚までです。"},
+    {"%.0f bit/s fit level %s, but slices alone may use only %.0f of them.",
+     "%.0f bit/s passen zu Level %s, aber Slices allein dürfen nur %.0f davon nutzen.",
+     "%.0f bit/s はレベル %s に収まりますが、スライスだけで使えるのは %.0f までです。"},
+    {"Buffers of %.0f bits fit level %s, but slices alone may use only %.0f of them.",
+     "Puffer von %.0f bit passen zu Level %s, aber Slices allein dürfen nur %.0f davon nutzen.",
+     "%.0f ビットのバッファはレベル %s に収まりますが、スライスだけで使えるのは %.0f までです。"},
+};
+// clang-format on
+
+Table levelTable()
+{
+    return texts;
+}
+
+} // namespace kv::texts

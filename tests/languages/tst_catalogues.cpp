@@ -1,0 +1,160 @@
+// The translation files hold every text of the sources, and nothing else; and no translation loses
+// what its text is filled with.
+
+#include "ToolkitWarnings.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+namespace
+{
+
+struct Message {
+    QString context;
+    QString source;
+    QString translation;
+    /// "unfinished", "vanished", "obsolete", or empty.
+    QString state;
+};
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QVector<Message> messagesOf(const QByteArray& catalogue)
+{
+    QVector<Message> messages;
+    QXmlStreamReader reader(catalogue);
+    QString context;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == QLatin1String("name"))
+            context = reader.readElementText();
+        else if (reader.name() == QLatin1String("message"))
+            messages.append({context, {}, {}, {}});
+        else if (reader.name() == QLatin1String("source"))
+            messages.last().source = reader.readElementText();
+        else if (reader.name() == QLatin1String("translation")) {
+            messages.last().state = reader.attributes().value(QLatin1String("type")).toString();
+            messages.last().translation = reader.readElementText();
+        }
+    }
+    return messages;
+}
+
+QStringList placesIn(const QString& text)
+{
+    static const QRegularExpression place(QStringLiteral("%\\d"));
+    QStringList places;
+    for (auto match = place.globalMatch(text); match.hasNext();)
+        places += match.next().captured();
+    places.sort();
+    return places;
+}
+
+/// The file patterns of a filter, by which the toolkit chooses files.
+QStringList patternsIn(const QString& text)
+{
+    static const QRegularExpression group(QStringLiteral("\\(\\*[^)]*\\)"));
+    QStringList patterns;
+    for (auto match = group.globalMatch(text); match.hasNext();)
+        patterns += match.next().captured();
+    return patterns;
+}
+
+} // namespace
+
+class TestCatalogues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void holdsEveryText_data() { rows(); }
+    void holdsEveryText();
+    void isFinished_data() { rows(); }
+    void isFinished();
+    void keepsPlacesAndPatterns_data() { rows(); }
+    void keepsPlacesAndPatterns();
+
+private:
+    static void rows();
+    static QString pathOf(const QString& language);
+};
+
+void TestCatalogues::rows()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"de", "jp"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+QString TestCatalogues::pathOf(const QString& language)
+{
+    return QStringLiteral(KV_TRANSLATIONS "/gui_mvc_%1.ts").arg(language);
+}
+
+void TestCatalogues::holdsEveryText()
+{
+    QFETCH(QString, language);
+
+    QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("copy.ts"));
+    QVERIFY(QFile::copy(pathOf(language), copy));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(KV_LUPDATE),
+                  {QStringLiteral("-locations"), QStringLiteral("none"),
+                   QStringLiteral("-no-obsolete"), QStringLiteral("-silent"),
+                   QStringLiteral("@" KV_TEXTS_LIST), QStringLiteral("-ts"), copy});
+    QVERIFY(lupdate.waitForFinished());
+    QCOMPARE(lupdate.exitCode(), 0);
+
+    const auto sources = [](const QByteArray& catalogue) {
+        QStringList texts;
+        for (const Message& message : messagesOf(catalogue))
+            texts += message.context + QLatin1String(": ") + message.source;
+        texts.sort();
+        return texts;
+    };
+    const QStringList held = sources(contentOf(pathOf(language)));
+    QVERIFY(held.size() > 600);
+    QCOMPARE(held, sources(contentOf(copy)));
+}
+
+void TestCatalogues::isFinished()
+{
+    QFETCH(QString, language);
+
+    QStringList unfinished;
+    for (const Message& message : messagesOf(contentOf(pathOf(language))))
+        if (!message.state.isEmpty() || message.translation.isEmpty())
+            unfinished += message.context + QLatin1String(": ") + message.source;
+    QCOMPARE(unfinished, QStringList());
+}
+
+void TestCatalogues::keepsPlacesAndPatterns()
+{
+    QFETCH(QString, language);
+
+    int withPlaces = 0;
+    int withPatterns = 0;
+    for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
+        QCOMPARE(placesIn(message.translation), placesIn(message.source));
+        QCOMPARE(patternsIn(message.translation), patternsIn(message.source));
+        withPlaces += !placesIn(message.source).isEmpty();
+        withPatterns += !patternsIn(message.source).isEmpty();
+    }
+    QVERIFY(withPlaces > 0);
+    QVERIFY(withPatterns > 0);
+}
+
+QTEST_GUILESS_MAIN(TestCatalogues)
+#include "tst_catalogues.moc"
