@@ -53,7 +53,7 @@ RecordingCompanions::RecordingCompanions()
 {
     Q_ASSERT(!current);
     current = this;
-    companionFunctions() = {&defaults, &check, &getApi, nullptr, nullptr};
+    companionFunctions() = {&defaults, &check, &getApi, nullptr};
 }
 
 RecordingCompanions::~RecordingCompanions()
