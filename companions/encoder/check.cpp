@@ -29,8 +29,9 @@ bool checkSettings(KvMvcSettings& record, Report& report)
 std::span<const RuleGroup> ruleGroups()
 {
     static const RuleGroup groups[] = {
-        fieldRules(), viewRules(), pictureRules(), profileRules(), levelRules(),
-        gopRules(),   rateRules(), discRules(),    summaryRules(),
+        fieldRules(),   rateFieldRules(), viewRules(),         pictureRules(),
+        profileRules(), levelRules(),     levelPictureRules(), gopRules(),
+        rateRules(),    discRules(),      summaryRules(),
     };
     return groups;
 }

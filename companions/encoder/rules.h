@@ -38,14 +38,18 @@ void judgeGop(const Stream& stream, Report& report);
 void judgeRates(const Stream& stream, Report& report);
 /** @return The chosen level, or what "Auto" comes to; null when there is none. */
 const Level* judgeLevel(const Stream& stream, Report& report);
+/** The part of it for a picture whose size the level takes. */
+void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
 void judgeDisc(const Stream& stream, const Level* level, Report& report);
 void tellSummary(const Stream& stream, const Level* level, Report& report);
 
 RuleGroup fieldRules();
+RuleGroup rateFieldRules();
 RuleGroup viewRules();
 RuleGroup pictureRules();
 RuleGroup profileRules();
 RuleGroup levelRules();
+RuleGroup levelPictureRules();
 RuleGroup gopRules();
 RuleGroup rateRules();
 RuleGroup discRules();

@@ -1,10 +1,8 @@
-// Each field in its own range. A row holds field, range and message.
+// The general fields in their ranges. A row holds field, range and message.
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <limits>
 
+#include "field_rows.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -12,52 +10,6 @@ namespace kv::encoder
 
 namespace
 {
-
-using Field = std::int32_t KvMvcViewSettings::*;
-
-constexpr const char* encoderRange = "range of the encoder";
-constexpr const char* switchRange =
-    "range of the encoder: a switch is 0 or 1, any other value is on";
-constexpr const char* codeRange = "codes of the encoder";
-
-constexpr int noLimit = std::numeric_limits<std::int32_t>::max();
-
-// The three kinds of rows; View is int where the message begins with the view's number.
-
-/** A whole number: old value, new value, range. */
-template <class... View>
-struct Range {
-    Field field;
-    int low;
-    int high;
-    Rule<View..., int, int, int, int> rule;
-    int shownOffset = 0; ///< what the user sees is the field plus this
-};
-
-/** A switch: any value but 0 is on. */
-template <class... View>
-struct Switch {
-    Field field;
-    Rule<View..., int> rule;
-};
-
-/** An enumerated field: codes that are not in the mask become the fallback. */
-template <class... View>
-struct Code {
-    Field field;
-    unsigned allowed;
-    int fallback;
-    Rule<View..., int> rule;
-};
-
-template <class... Codes>
-constexpr unsigned codes(Codes... code)
-{
-    return (... | (1u << code));
-}
-
-using V = KvMvcViewSettings;
-constexpr Severity corrected = Severity::Warning;
 
 constexpr Range<> ranges[] = {
     {&V::i_interval,
@@ -119,89 +71,6 @@ constexpr Range<> ranges[] = {
       "The complexity based quantization was %d; it is now %d (%d to %d).", encoderRange}},
 };
 
-constexpr Range<int> viewRanges[] = {
-    {&V::bitrate,
-     0,
-     noLimit,
-     {"field.target-rate", corrected, "View %d: target bitrate was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::max_bitrate,
-     0,
-     noLimit,
-     {"field.max-rate", corrected, "View %d: max bitrate was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::bitrate_buffer,
-     0,
-     noLimit,
-     {"field.buffer", corrected, "View %d: bitrate buffer was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::frame_size_i,
-     0,
-     noLimit,
-     {"field.size-i", corrected, "View %d: maximum I-frame size was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::frame_size_p,
-     0,
-     noLimit,
-     {"field.size-p", corrected, "View %d: maximum P-frame size was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::frame_size_b,
-     0,
-     noLimit,
-     {"field.size-b", corrected, "View %d: maximum B-frame size was %d; it is now %d (%d to %d).",
-      encoderRange}},
-    {&V::frame_size_bref,
-     0,
-     noLimit,
-     {"field.size-br", corrected, "View %d: maximum Br-frame size was %d; it is now %d (%d to %d).",
-      encoderRange}},
-};
-
-// The lower end falls by 6 a bit beyond 8 (quantizerLow below).
-constexpr const char* quantizerClause = "7.4.2.2: -6 * (bit depth - 8) to 51";
-constexpr Range<int> quantizers[] = {
-    {&V::quant_i,
-     0,
-     51,
-     {"field.quantizer-i", corrected, "View %d: I quantizer was %d; it is now %d (%d to %d).",
-      quantizerClause}},
-    {&V::quant_p,
-     0,
-     51,
-     {"field.quantizer-p", corrected, "View %d: P quantizer was %d; it is now %d (%d to %d).",
-      quantizerClause}},
-    {&V::quant_b,
-     0,
-     51,
-     {"field.quantizer-b", corrected, "View %d: B quantizer was %d; it is now %d (%d to %d).",
-      quantizerClause}},
-    {&V::quant_max,
-     0,
-     51,
-     {"field.quantizer-max", corrected,
-      "View %d: maximum quantizer was %d; it is now %d (%d to %d).", quantizerClause}},
-    {&V::quant_min,
-     0,
-     51,
-     {"field.quantizer-min", corrected,
-      "View %d: minimum quantizer was %d; it is now %d (%d to %d).", quantizerClause}},
-};
-
-// The unit of the fullness decides the upper end (fullnessHigh below).
-constexpr Range<int> fullnesses[] = {
-    {&V::vbv_initial,
-     0,
-     noLimit,
-     {"field.vbv-initial", corrected,
-      "View %d: VBV buffer initial was %d; it is now %d (%d to %d).",
-      "range of the unit: percent end at 100"}},
-    {&V::vbv_target,
-     0,
-     noLimit,
-     {"field.vbv-target", corrected, "View %d: VBV buffer target was %d; it is now %d (%d to %d).",
-      "range of the unit: percent end at 100"}},
-};
-
 constexpr Switch<> switches[] = {
     {&V::scene_detection,
      {"switch.scene-detection", corrected, "Scene detection was %d; it is now on (1).",
@@ -246,11 +115,6 @@ constexpr Switch<> switches[] = {
       switchRange}},
 };
 
-constexpr Switch<int> viewSwitches[] = {
-    {&V::hrd_mode,
-     {"switch.hrd", corrected, "View %d: HRD conformance was %d; it is now on (1).", switchRange}},
-};
-
 constexpr Code<> codeRows[] = {
     {&V::video_type,
      codes(0, 1, 2, 3),
@@ -289,19 +153,6 @@ constexpr Code<> codeRows[] = {
       codeRange}},
 };
 
-constexpr Code<int> viewCodes[] = {
-    {&V::bitrate_mode,
-     codes(0, 1, 2, 3),
-     KV_MVC_VARIABLE_BITRATE,
-     {"code.bitrate-mode", corrected,
-      "View %d: bitrate mode code %d is not assigned; it is now variable bitrate.", codeRange}},
-    {&V::bitrate_units,
-     codes(0, 1, 2),
-     KV_MVC_UNITS_BYTES_PERCENT,
-     {"code.units", corrected,
-      "View %d: unit code %d is not assigned; units are now bytes and percent.", codeRange}},
-};
-
 constexpr Rule<int, int> lumaDepth = {"field.depth-luma", corrected,
                                       "The bit-depth of luma was %d; it is now %d (8 or 10).",
                                       encoderRange};
@@ -316,54 +167,6 @@ constexpr Rule<int, int, int, int> viewCount = {
     "range of the encoder; H.7.4.2.1.4 allows 1024"};
 constexpr Rule<int> splitViews = {"switch.split", corrected,
                                   "Split views was %d; it is now on (1).", switchRange};
-
-int offsetValue(int value, int offset)
-{
-    return static_cast<int>(std::max<std::int64_t>(std::int64_t{value} + offset,
-                                                   std::numeric_limits<std::int32_t>::min()));
-}
-
-// Each of these corrects one field of one view, and tells whether it did.
-
-template <class... View>
-bool correctRange(const Range<View...>& row, int low, int high, KvMvcViewSettings& view,
-                  Report& report, View... index)
-{
-    const int old = view.*row.field;
-    const int now = std::clamp(old, low, high);
-    if (now == old) {
-        return false;
-    }
-    view.*row.field = now;
-    const int shift = row.shownOffset;
-    report.say(row.rule, index..., offsetValue(old, shift), now + shift, low + shift, high + shift);
-    return true;
-}
-
-template <class... View>
-bool correctSwitch(const Switch<View...>& row, KvMvcViewSettings& view, Report& report,
-                   View... index)
-{
-    const int old = view.*row.field;
-    if (old == 0 || old == 1) {
-        return false;
-    }
-    view.*row.field = 1;
-    report.say(row.rule, index..., old);
-    return true;
-}
-
-template <class... View>
-bool correctCode(const Code<View...>& row, KvMvcViewSettings& view, Report& report, View... index)
-{
-    const int old = view.*row.field;
-    if (old >= 0 && old < 32 && (row.allowed >> old & 1u) != 0) {
-        return false;
-    }
-    view.*row.field = row.fallback;
-    report.say(row.rule, index..., old);
-    return true;
-}
 
 bool correctDepth(Field field, const Rule<int, int>& rule, KvMvcViewSettings& view, Report& report)
 {
@@ -389,16 +192,6 @@ bool correctFrameRate(KvMvcViewSettings& view, Report& report)
     return true;
 }
 
-int quantizerLow(const KvMvcViewSettings& view)
-{
-    return view.bit_depth_luma > 8 ? -6 * (view.bit_depth_luma - 8) : 0;
-}
-
-int fullnessHigh(const KvMvcViewSettings& view)
-{
-    return view.bitrate_units == KV_MVC_UNITS_BYTES_PERCENT ? 100 : noLimit;
-}
-
 void correctRecord(KvMvcSettings& record, Report& report)
 {
     const int views = countViews(record);
@@ -412,16 +205,9 @@ void correctRecord(KvMvcSettings& record, Report& report)
     }
 }
 
-std::span<KvMvcViewSettings> viewsInUse(KvMvcSettings& record)
-{
-    return {record.views, static_cast<std::size_t>(countSubRecords(record))};
-}
-
 constexpr const RuleInfo* singles[] = {&viewCount, &splitViews, &frameRateValue, &lumaDepth,
                                        &chromaDepth};
-constexpr auto rules =
-    joinRules(singles, rulesOf(codeRows), rulesOf(switches), rulesOf(ranges), rulesOf(viewCodes),
-              rulesOf(viewSwitches), rulesOf(viewRanges), rulesOf(quantizers), rulesOf(fullnesses));
+constexpr auto rules = joinRules(singles, rulesOf(codeRows), rulesOf(switches), rulesOf(ranges));
 
 } // namespace
 
@@ -455,29 +241,6 @@ void correctFields(KvMvcSettings& record, Report& report)
         return correctDepth(&V::bit_depth_chroma, chromaDepth, view, to);
     });
     once(correctFrameRate);
-}
-
-void correctRateFields(KvMvcSettings& record, Report& report)
-{
-    int index = 0;
-    for (KvMvcViewSettings& view : viewsInUse(record)) {
-        for (const auto& row : viewCodes) {
-            correctCode(row, view, report, index);
-        }
-        for (const auto& row : viewSwitches) {
-            correctSwitch(row, view, report, index);
-        }
-        for (const auto& row : viewRanges) {
-            correctRange(row, row.low, row.high, view, report, index);
-        }
-        for (const auto& row : quantizers) {
-            correctRange(row, quantizerLow(view), row.high, view, report, index);
-        }
-        for (const auto& row : fullnesses) {
-            correctRange(row, row.low, fullnessHigh(view), view, report, index);
-        }
-        ++index;
-    }
 }
 
 RuleGroup fieldRules()

@@ -1,0 +1,197 @@
+// What a level allows each picture: reference frames, slices, bytes and vectors.
+
+#include <algorithm>
+#include <limits>
+
+#include "rules.h"
+
+namespace kv::encoder
+{
+
+namespace
+{
+
+constexpr Rule<const char*, int, int> dpb = {
+    "level.dpb", Severity::Error,
+    "Level %s holds %d frames of this size, not %d: use fewer reference frames.",
+    "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)"};
+constexpr Rule<const char*, int, int, int> dpbViews = {
+    "level.dpb-views", Severity::Error,
+    "Level %s holds %d frames of this size for %d views, not %d: use fewer reference frames.",
+    "H.10.2.1 f, C.4: min(2 * MaxDpbMbs / frame size, 16 * max(1, ceil(log2 views)))"};
+constexpr Rule<const char*, int, int> dpbHalf = {
+    "level.dpb-half", Severity::Error,
+    "Level %s allows a view half its buffer, %d frames, not %d: use fewer reference frames.",
+    "H.10.2.1 x: max_num_ref_frames of a view; the base view then also fits by itself"};
+constexpr Rule<const char*, int, int> slicesMost = {
+    "level.slices-most", Severity::Error,
+    "Level %s has at most %d slices per picture here, not %d.",
+    "A.3.3 a, b: SliceRate; of each view, H.10.2.1 k to n"};
+constexpr Rule<const char*, int, int> slicesLeast = {
+    "level.slices-least", Severity::Error,
+    "Level %s needs at least %d slices per picture here, not %d.",
+    "H.10.2.1 w, A.3.3 k: no slice of more than MaxFS / 4 macroblocks, whole rows"};
+constexpr Rule<const char*, int, int> vectors = {
+    "level.vectors", Severity::Note,
+    "Level %s ends vertical vectors at %d samples: the search range %d holds horizontally.",
+    "A.3.1 k, A.3.2 g, H.10.2.1 g, Table A-1: MaxVmvR"};
+
+// Largest coded pictures, one row a frame size limit.
+constexpr const char* pictureBytesClause =
+    "A.3.1 c, d, A.3.3 i, j, H.10.2.1 t, v: MinCR; of each view component";
+struct PictureBytes {
+    std::int32_t KvMvcViewSettings::*field;
+    bool first; ///< the first picture of a stream is one of these
+    Rule<int, int, const char*, double> rule;
+};
+constexpr PictureBytes pictureBytes[] = {
+    {&KvMvcViewSettings::frame_size_i,
+     true,
+     {"level.size-i", Severity::Error,
+      "View %d: an I-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+      pictureBytesClause}},
+    {&KvMvcViewSettings::frame_size_p,
+     false,
+     {"level.size-p", Severity::Error,
+      "View %d: a P-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+      pictureBytesClause}},
+    {&KvMvcViewSettings::frame_size_b,
+     false,
+     {"level.size-b", Severity::Error,
+      "View %d: a B-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+      pictureBytesClause}},
+    {&KvMvcViewSettings::frame_size_bref,
+     false,
+     {"level.size-br", Severity::Error,
+      "View %d: a Br-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
+      pictureBytesClause}},
+};
+
+void judgeReferences(const Stream& stream, const Level& level, Report& report)
+{
+    const int frames = static_cast<int>(dpbFrames(stream, level));
+    const int total = stream.totalReferences();
+    if (!stream.multiview) {
+        if (total > frames) {
+            report.say(dpb, level.name, frames, total);
+        }
+        return;
+    }
+    if (total > frames) {
+        report.say(dpbViews, level.name, frames, stream.views, total);
+        return;
+    }
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const int references = stream.record.views[v].num_ref_frames;
+        if (references > frames / 2) {
+            report.say(dpbHalf, level.name, frames / 2, references);
+            return;
+        }
+    }
+}
+
+/** Pictures that a frame is coded as: field pictures have half the size and half the time. */
+int picturesAFrame(const Stream& stream)
+{
+    return stream.base.interlace_mode == KV_MVC_INTERLACED ? 2 : 1;
+}
+
+/** Macroblocks that the time before the first picture is worth, at least one picture. */
+double firstPictureMbs(const Stream& stream, const Level& level)
+{
+    return std::max(static_cast<double>(stream.pictureMbs),
+                    static_cast<double>(level.mbRate) / (maxFrameRate * picturesAFrame(stream)));
+}
+
+/** Macroblocks that the time from one picture to the next is worth; no limit without a rate. */
+double laterPictureMbs(const Stream& stream, const Level& level)
+{
+    if (stream.frameRate == 0) {
+        return std::numeric_limits<double>::infinity();
+    }
+    return static_cast<double>(level.mbRate) / (stream.frameRate * picturesAFrame(stream));
+}
+
+/** @return No less than 1; a huge number where nothing limits the slices. */
+int mostSlices(const Stream& stream, const Level& level)
+{
+    constexpr double unlimited = std::numeric_limits<std::int32_t>::max();
+    if (level.sliceRate == 0 || !stream.streamProfile()->limitsSliceCount) {
+        return static_cast<int>(unlimited);
+    }
+    double most = firstPictureMbs(stream, level) / level.sliceRate;
+    most = std::min(most, laterPictureMbs(stream, level) / level.sliceRate);
+    return static_cast<int>(std::clamp(most, 1.0, unlimited));
+}
+
+int leastSlices(const Stream& stream, const Level& level)
+{
+    if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs) {
+        return 1;
+    }
+    const bool pairs = stream.base.interlace_mode == KV_MVC_MBAFF;
+    const std::int64_t rowMbs = stream.widthMbs * (pairs ? 2 : 1);
+    const std::int64_t rowsASlice = std::max<std::int64_t>(level.frameMbs / 4 / rowMbs, 1);
+    return static_cast<int>((sliceRows(stream.base) + rowsASlice - 1) / rowsASlice);
+}
+
+void judgeSlices(const Stream& stream, const Level& level, Report& report)
+{
+    const int most = mostSlices(stream, level);
+    const int least = leastSlices(stream, level);
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const int slices = stream.record.views[v].num_slices;
+        if (slices > most) {
+            report.say(slicesMost, level.name, most, slices);
+            return;
+        }
+        if (slices < least) {
+            report.say(slicesLeast, level.name, least, slices);
+            return;
+        }
+    }
+}
+
+void judgePictureBytes(const Stream& stream, const Level& level, Report& report)
+{
+    if (!stream.streamProfile()->limitsPictureBytes) {
+        return;
+    }
+    const double first = 384 * firstPictureMbs(stream, level) / level.minCompression;
+    const double later = 384 * laterPictureMbs(stream, level) / level.minCompression;
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const KvMvcViewSettings& view = stream.record.views[v];
+        if (view.bitrate_mode == KV_MVC_CONSTANT_QUANTIZER) {
+            continue; // no picture is held to a size
+        }
+        for (const PictureBytes& row : pictureBytes) {
+            const double limit = row.first ? std::min(first, later) : later;
+            if (view.*row.field > limit) {
+                report.say(row.rule, v, view.*row.field, level.name, limit);
+            }
+        }
+    }
+}
+
+constexpr const RuleInfo* singles[] = {&dpb,        &dpbViews,    &dpbHalf,
+                                       &slicesMost, &slicesLeast, &vectors};
+constexpr auto rules = joinRules(singles, rulesOf(pictureBytes));
+
+} // namespace
+
+void judgeLevelPictures(const Stream& stream, const Level& level, Report& report)
+{
+    judgeReferences(stream, level, report);
+    judgeSlices(stream, level, report);
+    judgePictureBytes(stream, level, report);
+    if (stream.predicts && stream.base.motion_search > level.verticalVector) {
+        report.say(vectors, level.name, level.verticalVector, stream.base.motion_search);
+    }
+}
+
+RuleGroup levelPictureRules()
+{
+    return {"Pictures of a level", rules};
+}
+
+} // namespace kv::encoder
