@@ -219,7 +219,7 @@ void ValueListsTest::frameRates()
     const Vocabulary vocabulary;
     QCOMPARE(vocabulary.frameRates().size(), expected.size());
     for (int i = 0; i < expected.size(); ++i) {
-        QCOMPARE(vocabulary.frameRates()[i].text, QLatin1String(expected[i].first));
+        QCOMPARE(vocabulary.frameRates()[i].text, QString::fromLatin1(expected[i].first));
         // Exactly, which QCOMPARE does not do with doubles.
         QVERIFY2(vocabulary.frameRates()[i].rate == expected[i].second, expected[i].first);
     }

@@ -1,5 +1,6 @@
 #include "Noise.h"
 
+#include "model/FurtherViews.h"
 #include "model/SettingsToState.h"
 
 #include <QTest>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void countFromOutsideIsKept();
     void recordCopiedInAndOutWithoutEditIsUnchanged();
     void furtherSlotsAreNoPartOfTheRecord();
+    void resetFurtherViewsAreLikeTheSecond();
+    void followingViewsKeepTheirRateControlOnly();
     void twoViewsShowOneAdditionalView();
     void frameRateOfZeroShows0();
 };
@@ -132,6 +135,34 @@ void WorkingRecordTest::furtherSlotsAreNoPartOfTheRecord()
     apply(oneEntry("Target Bitrate V2", 1), record);
     apply(oneEntry("Bitrate Mode V3", QStringLiteral("Constant Bitrate")), record);
     QVERIFY(std::memcmp(&before, &record.settings, sizeof before) == 0);
+}
+
+void WorkingRecordTest::resetFurtherViewsAreLikeTheSecond()
+{
+    WorkingRecord record = noisyRecord(2);
+    const QByteArray before = bytesOf(record);
+    resetFurtherViews(record);
+    const QByteArray after = bytesOf(record);
+    QVERIFY(after.left(16888) == before.left(16888));
+    QVERIFY(after.mid(16888, 8316) == before.mid(8572, 8316));
+    QVERIFY(after.mid(25204, 8316) == before.mid(8572, 8316));
+}
+
+void WorkingRecordTest::followingViewsKeepTheirRateControlOnly()
+{
+    WorkingRecord record = noisyRecord(2);
+    const QByteArray before = bytesOf(record);
+    QByteArray expected = before.left(16888);
+    for (const int view : {2, 3}) {
+        QByteArray bytes = before.mid(8572, 8316);
+        for (const int offset :
+             {60, 64, 68, 72, 76, 80, 84, 124, 128, 132, 160, 164, 168, 172, 176, 2916, 2920})
+            bytes.replace(offset, 4, before.mid(256 + view * 8316 + offset, 4));
+        expected += bytes;
+    }
+    followSecondView(record);
+    QCOMPARE(differences(expected, bytesOf(record)), QStringList());
+    QVERIFY(!differences(before, expected).isEmpty());
 }
 
 void WorkingRecordTest::twoViewsShowOneAdditionalView()

@@ -336,7 +336,7 @@ void PageControlsTest::controlIsBuiltAs()
     AllPages pages;
     const QWidget* const widget = findOnPage(pages.window(), page, name);
     QVERIFY(widget);
-    QCOMPARE(QLatin1String(widget->metaObject()->className()), kind);
+    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), kind);
     for (const auto& property : properties) {
         const QVariant value = propertyOf(widget, property.first);
         QVERIFY2(value.isValid(), property.first.constData());
