@@ -1,6 +1,7 @@
 #include "AVCVideoEncoderDlg.h"
 
 #include "Companions.h"
+#include "FocusMark.h"
 #include "ForeignText.h"
 #include "MessageLog.h"
 #include "model/FurtherViews.h"
@@ -58,6 +59,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     for (const auto& row : icons)
         row.button->setIcon(
             QIcon(QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon))));
+    new FocusMark(ui.buttonOk);
     if (!settings)
         return;
 

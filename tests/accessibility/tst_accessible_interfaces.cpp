@@ -1,0 +1,320 @@
+// What assistive technology is told of each control: name, role and value; and that each has a tip,
+// and each label its buddy.
+
+#include "DialogTest.h"
+#include "ToolkitWarnings.h"
+#include "UserInput.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTest>
+#include <QToolButton>
+
+namespace
+{
+
+/// The controls that a user can work with, apart from those inside others.
+QList<QWidget*> controlsOf(const QWidget* window)
+{
+    QList<QWidget*> controls;
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+        const bool control =
+            qobject_cast<QAbstractButton*>(widget) || qobject_cast<QAbstractSpinBox*>(widget) ||
+            qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
+            qobject_cast<QTextEdit*>(widget) || qobject_cast<QTabWidget*>(widget);
+        const bool inner = qobject_cast<QScrollBar*>(widget) ||
+                           qobject_cast<QTabBar*>(widget->parentWidget()) ||
+                           widget->objectName() == QLatin1String("deviceList");
+        if (control && !inner)
+            controls += widget;
+    }
+    return controls;
+}
+
+QString nameOf(const QWidget* widget)
+{
+    QString place;
+    for (const QWidget* parent = widget; parent; parent = parent->parentWidget())
+        if (parent->objectName().startsWith(QLatin1String("I"))) {
+            place = parent->objectName() + QLatin1Char('/');
+            break;
+        }
+    return place + widget->objectName();
+}
+
+QAccessibleInterface* accessible(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
+
+QString textOf(QWidget* widget, QAccessible::Text kind)
+{
+    return accessible(widget)->text(kind);
+}
+
+/// What a screen reader announces a control by. The toolkit's lists bear their item as a name where
+/// the platform tells labels by relation, as Linux does; the one whose label is a check box is told
+/// by its description.
+QString announced(QWidget* widget)
+{
+    if (!qobject_cast<QComboBox*>(widget))
+        return textOf(widget, QAccessible::Name);
+    QAccessibleInterface* const list = accessible(widget);
+    for (const auto& relation : list->relations(QAccessible::Label))
+        return relation.first->text(QAccessible::Name);
+    return widget->accessibleName().isEmpty() ? QString() : list->text(QAccessible::Description);
+}
+
+} // namespace
+
+class TestAccessibleInterfaces : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void control_data();
+    void control();
+    void everyControlHasNameRoleAndTip();
+    void namesTellControlsOfAPageApart();
+    void valuesFollowTheRecord();
+    void labelsHaveBuddies();
+    void sectionButtonsTellTheirState();
+    void tabsAreNamed();
+};
+
+void TestAccessibleInterfaces::control_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("role");
+    const auto row = [](const char* page, const char* control, const char* name, int role) {
+        QTest::addRow("%s/%s", page, control)
+            << QString::fromLatin1(page) << QString::fromLatin1(control)
+            << QString::fromLatin1(name) << role;
+    };
+    const int list = QAccessible::ComboBox;
+    const int number = QAccessible::SpinBox;
+    const int box = QAccessible::CheckBox;
+    const int button = QAccessible::Button;
+    const int slider = QAccessible::Slider;
+
+    row("AVCVideoEncoderDlg", "presetList", "Preset:", list);
+    row("AVCVideoEncoderDlg", "presetButton", "Restore preset", button);
+    row("AVCVideoEncoderDlg", "buttonLoad", "Load settings", button);
+    row("AVCVideoEncoderDlg", "buttonSave", "Save settings", button);
+    row("AVCVideoEncoderDlg", "buttonCancel", "Cancel", button);
+    row("AVCVideoEncoderDlg", "buttonOk", "OK", button);
+    row("AVCVideoEncoderDlg", "errorLog", "Message log", QAccessible::EditableText);
+
+    row("VideoFormatPage", "widthSpin", "Picture width", number);
+    row("VideoFormatPage", "heightSpin", "Picture height", number);
+    row("VideoFormatPage", "aspectRatioCheck", "Keep aspect ratio", box);
+    row("VideoFormatPage", "aspectRatioList",
+        "Display aspect ratio; \"Custom\" leaves it to the pixel aspect ratio.", list);
+    row("VideoFormatPage", "framerateList", "Frame rate", list);
+    row("VideoFormatPage", "pixelXSpin", "Pixel aspect ratio, horizontal part", number);
+    row("VideoFormatPage", "pixelYSpin", "Pixel aspect ratio, vertical part", number);
+    row("VideoFormatPage", "interlaceList", "Picture structure", list);
+    row("VideoFormatPage", "fieldOrderList", "Field order", list);
+    row("VideoFormatPage", "pulldownList", "Pulldown", list);
+    row("VideoFormatPage", "chromaList", "Chroma format", list);
+    row("VideoFormatPage", "bitdepthLList", "Bit-depth luma", list);
+    row("VideoFormatPage", "bitdepthCList", "Bit-depth chroma", list);
+
+    row("AdvancedPage", "profileList", "Profile:", list);
+    row("AdvancedPage", "levelList", "Level:", list);
+    row("AdvancedPage", "toggleIGOPStructurePage", "GOP Structure", box);
+    row("AdvancedPage", "toggleIMotionEstimationPage", "Motion Estimation", box);
+    row("AdvancedPage", "toggleIRateDistortionPage", "Rate Distortion", box);
+    row("AdvancedPage", "toggleIMiscPage", "Miscellaneous", box);
+
+    row("GOPStructurePage", "sceneDetectCheck", "Enable scene detection", box);
+    row("GOPStructurePage", "iFrameIntervalSpin", "I-frame interval", number);
+    row("GOPStructurePage", "iFrameForceSpin", "Min. I-frame distance", number);
+    row("GOPStructurePage", "idrSpin", "Mark every so many I-frames as IDR", number);
+    row("GOPStructurePage", "fixedICheck", "Fixed I-frames distance", box);
+    row("GOPStructurePage", "adaptiveBCheck", "Adaptive B-frame placement", box);
+    row("GOPStructurePage", "piramydBCheck", "Pyramidal structure for B-frames", box);
+    row("GOPStructurePage", "bBetweenIPSpin", "Number of B-frames", number);
+    row("GOPStructurePage", "bAsReferenceCheck", "B-frames as reference frames", box);
+
+    row("MotionEstimationPage", "macroSearchList", "Macroblock search block size", list);
+    row("MotionEstimationPage", "subSearchList", "Subpixel search depth", list);
+    row("MotionEstimationPage", "refFramesSpin", "Reference frames", number);
+    row("MotionEstimationPage", "searchRangeSpin", "Motion vector search range", number);
+    row("MotionEstimationPage", "weightedPCheck", "Weighted prediction for P-frames", box);
+
+    row("RateDistortionPage", "hadamardCheck", " Hadamard transformation", box);
+    row("RateDistortionPage", "brightnessSlider", "Brightness based", slider);
+    row("RateDistortionPage", "contrastSlider", "Contrast based", slider);
+    row("RateDistortionPage", "complexitySlider", "Complexity based", slider);
+
+    row("MiscPage", "deblockingCheck", "Deblocking filter", box);
+    row("MiscPage", "entropyList", "Entropy coding mode", list);
+    row("MiscPage", "threadsSpin", "Threads", number);
+    row("MiscPage", "slicesSpin", "Slices per picture", number);
+
+    row("ViewsPage", "numViewsSpin", "Number of additional views:", number);
+    row("ViewsPage", "splitCheck", "Split views", box);
+    row("View1Page", "bitrateModeList", "Bitrate mode", list);
+    row("View1Page", "targetRateSpin", "Target bitrate (bps)", number);
+    row("View1Page", "units1Radio", "Bitrate buffer (bytes), VBV buffers (%)",
+        QAccessible::RadioButton);
+    row("View1Page", "bitrateBufferSpin", "Bitrate buffer (bytes)", number);
+    row("View1Page", "vbvInitialSpin", "VBV buffer initial (%)", number);
+    row("View1Page", "onesecCheck", "Force bitrate buffer length to 1 second", box);
+    row("View1Page", "minQuantSpin", "Minimum quantizer", number);
+}
+
+void TestAccessibleInterfaces::control()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, control);
+    QFETCH(QString, name);
+    QFETCH(int, role);
+    OpenDialog dialog;
+    for (KvMvcViewSettings& view : dialog.probe().record().settings.views)
+        view.bitrate_units = KV_MVC_UNITS_BYTES_PERCENT;
+    dialog.probe().settingsToState();
+    auto* widget = findControl<QWidget>(dialog.get(), page.toLatin1().constData(),
+                                        control.toLatin1().constData());
+    QVERIFY(widget);
+    QCOMPARE(announced(widget), name);
+    QCOMPARE(int(accessible(widget)->role()), role);
+}
+
+void TestAccessibleInterfaces::everyControlHasNameRoleAndTip()
+{
+    OpenDialog dialog;
+    const QList<QWidget*> controls = controlsOf(dialog.get());
+    QVERIFY(controls.size() > 120);
+    QStringList faults;
+    for (QWidget* widget : controls) {
+        if (announced(widget).trimmed().isEmpty())
+            faults += nameOf(widget) + QLatin1String(" has no name");
+        if (accessible(widget)->role() == QAccessible::NoRole)
+            faults += nameOf(widget) + QLatin1String(" has no role");
+        const bool hasTip = !widget->toolTip().isEmpty();
+        if (!hasTip && !qobject_cast<QTabWidget*>(widget))
+            faults += nameOf(widget) + QLatin1String(" has no tip");
+        if (hasTip && !widget->toolTip().endsWith(QLatin1Char('.')))
+            faults += nameOf(widget) + QLatin1String(": the tip is no sentence");
+        // A control that reads as its class is not named at all.
+        if (announced(widget).startsWith(QLatin1Char('Q')) &&
+            !announced(widget).startsWith(QLatin1String("Quantizer")))
+            faults += nameOf(widget) + QLatin1String(" reads as its class");
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestAccessibleInterfaces::namesTellControlsOfAPageApart()
+{
+    OpenDialog dialog;
+    QSet<QString> seen;
+    QStringList twice;
+    for (QWidget* widget : controlsOf(dialog.get())) {
+        const QWidget* page = widget;
+        while (page && !page->objectName().startsWith(QLatin1Char('I')))
+            page = page->parentWidget();
+        const QString key =
+            (page ? page->objectName() : QString()) + QLatin1String(": ") + announced(widget);
+        if (seen.contains(key))
+            twice += key;
+        seen += key;
+    }
+    QCOMPARE(twice, QStringList());
+}
+
+void TestAccessibleInterfaces::valuesFollowTheRecord()
+{
+    OpenDialog dialog;
+    KvMvcViewSettings& view = dialog.probe().record().settings.views[0];
+    view.width = 1280;
+    view.interlace_mode = KV_MVC_MBAFF;
+    view.deblocking = 1;
+    view.contrast = -40;
+    view.num_threads = 0;
+    view.bitrate_units = KV_MVC_UNITS_BITS;
+    dialog.probe().settingsToState();
+
+    const auto value = [&](const char* page, const char* control) {
+        return textOf(findControl<QWidget>(dialog.get(), page, control), QAccessible::Value);
+    };
+    const auto state = [&](const char* page, const char* control) {
+        return accessible(findControl<QWidget>(dialog.get(), page, control))->state();
+    };
+    QCOMPARE(value("VideoFormatPage", "widthSpin"), QStringLiteral("1280"));
+    QCOMPARE(value("VideoFormatPage", "interlaceList"), QStringLiteral("MBAFF"));
+    QCOMPARE(value("RateDistortionPage", "contrastSlider"), QStringLiteral("-40"));
+    QCOMPARE(value("MiscPage", "threadsSpin"), QStringLiteral("Auto"));
+    QVERIFY(state("MiscPage", "deblockingCheck").checked);
+    QVERIFY(state("View0Page", "units2Radio").checked);
+    QVERIFY(!state("View0Page", "units1Radio").checked);
+    QVERIFY(state("VideoFormatPage", "pixelXSpin").disabled ==
+            !findControl<QWidget>(dialog.get(), "VideoFormatPage", "pixelXSpin")->isEnabled());
+
+    dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
+        print(lookUp, "wrn_printf", "a warning");
+        return 0;
+    };
+    dialog.probe().check();
+    QVERIFY(textOf(dialog.log(), QAccessible::Value).contains(QLatin1String("a warning")));
+}
+
+void TestAccessibleInterfaces::labelsHaveBuddies()
+{
+    // Texts that stand for themselves: read-outs, and the second half of a sentence.
+    const QStringList loose = {QStringLiteral("bannerFrame"), QStringLiteral("brightnessLabel"),
+                               QStringLiteral("contrastLabel"), QStringLiteral("complexityLabel"),
+                               QStringLiteral("IGOPStructurePage/label_2")};
+    OpenDialog dialog;
+    QStringList faults;
+    for (const QLabel* label : dialog->findChildren<QLabel*>()) {
+        const bool stands = loose.contains(label->objectName()) || loose.contains(nameOf(label));
+        if (!stands && !label->buddy())
+            faults += nameOf(label) + QLatin1String(": ") + label->text();
+    }
+    QCOMPARE(faults, QStringList());
+}
+
+void TestAccessibleInterfaces::sectionButtonsTellTheirState()
+{
+    OpenDialog dialog;
+    auto* button = findControl<QToolButton>(dialog.get(), "ViewsPage", "toggleIView0Page");
+    QVERIFY(accessible(button)->state().checkable);
+    QVERIFY(accessible(button)->state().checked);
+    user::click(button);
+    QVERIFY(!accessible(button)->state().checked);
+}
+
+void TestAccessibleInterfaces::tabsAreNamed()
+{
+    OpenDialog dialog;
+    auto* bar = dialog->findChild<QTabBar*>();
+    QAccessibleInterface* tabs = accessible(bar);
+    QCOMPARE(int(tabs->role()), int(QAccessible::PageTabList));
+    QStringList names;
+    for (int i = 0; i < tabs->childCount(); ++i)
+        if (tabs->child(i)->role() == QAccessible::PageTab)
+            names += tabs->child(i)->text(QAccessible::Name);
+    QCOMPARE(names, QStringList({QStringLiteral("Basic Settings"),
+                                 QStringLiteral("Advanced Settings"), QStringLiteral("Views")}));
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>())
+        if (group->objectName() != QLatin1String("deviceGroup"))
+            QVERIFY2(!textOf(const_cast<QGroupBox*>(group), QAccessible::Name).isEmpty(),
+                     qPrintable(nameOf(group)));
+}
+
+QTEST_MAIN(TestAccessibleInterfaces)
+#include "tst_accessible_interfaces.moc"
