@@ -138,7 +138,7 @@ const QVector<RateCase> rates = {
     {"0", 0},
 };
 
-const int counts[] = {INT_MIN, -1, 0, 1, 2, 3, 4, 5, INT_MAX};
+const int counts[] = {-1, 0, 1, 2, 4, 5};
 
 /// What a whole number of the state stores, before the key's own offset.
 struct Shown {
