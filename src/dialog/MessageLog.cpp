@@ -89,6 +89,16 @@ int printProgress(const char*, ...)
     return 0;
 }
 
+/// Past the empty paragraphs before it.
+void scrollToFirstMessage(QTextEdit* log)
+{
+    QTextBlock first = log->document()->begin();
+    while (first.next().isValid() && first.text().isEmpty())
+        first = first.next();
+    log->moveCursor(QTextCursor::End);
+    log->setTextCursor(QTextCursor(first));
+}
+
 } // namespace
 
 MessageLog& messageLog()
@@ -130,12 +140,11 @@ void MessageLog::rewriteWidget() const
     }
     cursor.endEditBlock();
 
-    // Starts reading at the first message, not at the empty paragraphs before it.
-    QTextBlock first = widget->document()->begin();
-    while (first.next().isValid() && first.text().isEmpty())
-        first = first.next();
-    widget->moveCursor(QTextCursor::End);
-    widget->setTextCursor(QTextCursor(first));
+    scrollToFirstMessage(widget);
+    // Before it is shown the log does not know yet how much of the text it has room for.
+    if (!widget->isVisible())
+        QMetaObject::invokeMethod(
+            widget, [log = widget.data()] { scrollToFirstMessage(log); }, Qt::QueuedConnection);
 }
 
 KvMvcFunction lookUpCheckFunction(const char* name)

@@ -2,13 +2,15 @@
 // in every state that shows other texts.
 
 #include "DialogTest.h"
+#include "Language.h"
 #include "TextRoom.h"
 #include "ToolkitWarnings.h"
+#include "UserInput.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QTest>
-#include <QTranslator>
 
 class TestFit : public QObject
 {
@@ -19,8 +21,13 @@ private Q_SLOTS:
     void init() { failOnToolkitWarnings(); }
 
     void narrowLabelIsFound();
-    void textsFit_data();
+    void textsFit_data() { rows(); }
     void textsFit();
+    void openListsFit_data() { rows(); }
+    void openListsFit();
+
+private:
+    static void rows();
 };
 
 void TestFit::initTestCase()
@@ -43,7 +50,7 @@ void TestFit::narrowLabelIsFound()
     QVERIFY(collisions(dialog.get()).join(QLatin1Char(' ')).contains(QLatin1String("overlaps")));
 }
 
-void TestFit::textsFit_data()
+void TestFit::rows()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("skinKey");
@@ -62,12 +69,8 @@ void TestFit::textsFit()
     QFETCH(QString, language);
     QFETCH(int, skinKey);
 
-    QTranslator translator;
-    if (language != QLatin1String("en")) {
-        QVERIFY(translator.load(QStringLiteral("gui_mvc_") + language,
-                                qEnvironmentVariable("KV_BIN_DIR"), QString()));
-        QCoreApplication::installTranslator(&translator);
-    }
+    const Language installed(language);
+    QVERIFY(installed.isReady());
     OpenDialog dialog;
     dialog.probe().record().settings.num_views = KV_MVC_MAX_VIEWS;
     QTest::keyClick(dialog.get(), Qt::Key(skinKey));
@@ -99,6 +102,43 @@ void TestFit::textsFit()
         }
 
     faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestFit::openListsFit()
+{
+    QFETCH(QString, language);
+    QFETCH(int, skinKey);
+    const Language installed(language);
+    QVERIFY(installed.isReady());
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key(skinKey));
+
+    QStringList faults;
+    int opened = 0;
+    for (int tab = 0; tab < dialog.tabs()->count(); ++tab) {
+        dialog.tabs()->setCurrentIndex(tab);
+        QCoreApplication::processEvents();
+        for (QComboBox* list : dialog->findChildren<QComboBox*>()) {
+            if (!list->isVisible() || !list->isEnabled())
+                continue;
+            user::reveal(list);
+            list->showPopup();
+            QCoreApplication::processEvents();
+            const QAbstractItemView* const items = list->view();
+            QVERIFY(items->isVisible());
+            ++opened;
+            // An item asks for the width of the closed list at least, frame or not.
+            const int room = qMax(items->viewport()->width(), list->width());
+            if (room < items->sizeHintForColumn(0))
+                faults += QStringLiteral("%1: %2 for %3")
+                              .arg(list->objectName())
+                              .arg(room)
+                              .arg(items->sizeHintForColumn(0));
+            list->hidePopup();
+        }
+    }
+    QVERIFY(opened > 15);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 
