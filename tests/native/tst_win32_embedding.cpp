@@ -4,8 +4,10 @@
 #include "entry/QWinWidget.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <windows.h>
@@ -88,6 +90,8 @@ private Q_SLOTS:
     void shiftTabEntersAtTheLastField();
     void tabLeavesBehindTheLastField();
     void shiftTabLeavesBeforeTheFirstField();
+    void dialogStartsInItsFirstField_data();
+    void dialogStartsInItsFirstField();
 };
 
 void TestWin32Embedding::nativeWindow()
@@ -149,6 +153,34 @@ void TestWin32Embedding::shiftTabLeavesBeforeTheFirstField()
     press(VK_TAB);
     QTRY_COMPARE(GetFocus(), host.window());
     key(VK_SHIFT, false);
+}
+
+void TestWin32Embedding::dialogStartsInItsFirstField_data()
+{
+    QTest::addColumn<bool>("activatedBefore");
+    QTest::newRow("as the toolkit does it") << false;
+    QTest::newRow("made the active window before it is shown") << true;
+}
+
+void TestWin32Embedding::dialogStartsInItsFirstField()
+{
+    QFETCH(bool, activatedBefore);
+    const HostWindow host;
+    QWinWidget widget(host.window());
+    QDialog dialog(&widget);
+    auto* const layout = new QVBoxLayout(&dialog);
+    auto* const first = new QLineEdit;
+    layout->addWidget(first);
+    layout->addWidget(new QLineEdit);
+    if (activatedBefore)
+        QApplication::setActiveWindow(&dialog);
+    QWidget* focused = nullptr;
+    QTimer::singleShot(500, &dialog, [&] {
+        focused = QApplication::focusWidget();
+        dialog.reject();
+    });
+    dialog.exec();
+    QCOMPARE(focused, first);
 }
 
 QTEST_MAIN(TestWin32Embedding)
