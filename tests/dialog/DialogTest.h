@@ -41,8 +41,10 @@ public:
     AVCVideoEncoderDlg* operator->() const { return m_dialog.get(); }
     AVCVideoEncoderDlg* get() const { return m_dialog.get(); }
     DialogProbe probe() const { return DialogProbe(*m_dialog); }
-    /// Bytes of the working record.
-    QByteArray bytes() const { return bytesOf(probe().record()); }
+    /// Bytes of the working copy of the record.
+    QByteArray bytes() const { return bytesOf(probe().record().settings); }
+    /// The same with the slots of views 2 and 3 behind it.
+    QByteArray bytesOfAllViews() const { return bytesOf(probe().record()); }
 
     QPushButton* button(const char* name) const;
     QComboBox* presetList() const;

@@ -1,11 +1,13 @@
 // When the encoder's check runs: once an edit, whatever the edit sets off.
 
 #include "DialogTest.h"
+#include "ModalWatch.h"
 #include "ToolkitWarnings.h"
 #include "UserInput.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPointer>
 #include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -30,6 +32,7 @@ private Q_SLOTS:
     void clampInsideADescriptionIsReportedLikeAnEdit();
     void insistingCheckNeitherRecursesNorHangs_data();
     void insistingCheckNeitherRecursesNorHangs();
+    void hostDeletesTheDialogWhileAMessageIsShown();
 };
 
 using Edit = std::function<void(OpenDialog&)>;
@@ -265,6 +268,25 @@ void TestDialogChecks::insistingCheckNeitherRecursesNorHangs()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(int(dialog.caller.views[0].height), 480);
     QCOMPARE(int(dialog.caller.views[0].vbv_initial), 5000);
+}
+
+void TestDialogChecks::hostDeletesTheDialogWhileAMessageIsShown()
+{
+    RecordingCompanions companions;
+    KvMvcSettings settings = exampleSettings();
+    QPointer<AVCVideoEncoderDlg> dialog = new AVCVideoEncoderDlg(&settings, nullptr, nullptr);
+    dialog->show();
+    dialog->findChild<QTextEdit*>(QStringLiteral("errorLog"))->hide();
+    companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings& checked) {
+        print(lookUp, "err_printf", "too wide");
+        checked.views[0].width = 16;
+        return 0;
+    };
+    ModalWatch watch([&dialog](QWidget*) { delete dialog; });
+    dialog->slotAccept();
+    QCOMPARE(watch.seen(), 1);
+    QVERIFY(!dialog);
+    QCOMPARE(int(settings.views[0].width), 720);
 }
 
 QTEST_MAIN(TestDialogChecks)

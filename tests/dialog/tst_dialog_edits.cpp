@@ -38,6 +38,7 @@ private Q_SLOTS:
     void customFrameRateIsStored();
     void onlyOneCustomFrameRateIsListed();
     void viewsBeyondTheRecordStayOutOfIt();
+    void viewsBeyondTheRecordAreLikeTheSecond();
 
 private:
     static void turn(const QWidget* dialog, const QString& page, const QString& name, Turn how,
@@ -315,16 +316,13 @@ void TestDialogEdits::rateControl()
     KvMvcSettings settings = exampleSettings();
     settings.num_views = 4;
     OpenDialog dialog(usualFlags, settings);
-    // The slots behind the record begin empty; here like the base view.
-    WorkingRecord& record = dialog.probe().record();
-    record.furtherViews[0] = record.furtherViews[1] = settings.views[0];
     dialog.put(given);
-    const QByteArray before = dialog.bytes();
+    const QByteArray before = dialog.bytesOfAllViews();
 
     turn(dialog.get(), QStringLiteral("View%1Page").arg(view), name, how, what);
     if (QTest::currentTestFailed())
         return;
-    QCOMPARE(differences(before, dialog.bytes()), expectedDifferences(before, changes));
+    QCOMPARE(differences(before, dialog.bytesOfAllViews()), expectedDifferences(before, changes));
 }
 
 void TestDialogEdits::turn(const QWidget* dialog, const QString& page, const QString& name,
@@ -409,8 +407,34 @@ void TestDialogEdits::viewsBeyondTheRecordStayOutOfIt()
     OpenDialog dialog(usualFlags, settings);
     user::type(findControl<QSpinBox>(dialog.get(), "View3Page", "iSizeSpin"), QStringLiteral("77"));
     QCOMPARE(int(dialog.probe().record().view(3).frame_size_i), 77);
+    QCOMPARE(int(dialog.probe().record().view(2).frame_size_i), 90000);
     user::click(dialog.button("buttonOk"));
     QVERIFY(bytesOf(dialog.caller) == dialog.given);
+}
+
+void TestDialogEdits::viewsBeyondTheRecordAreLikeTheSecond()
+{
+    OpenDialog dialog;
+    const auto rateOf = [&dialog](int view) {
+        const QByteArray page = QByteArray("View") + QByteArray::number(view) + "Page";
+        return findControl<QSpinBox>(dialog.get(), page.constData(), "targetRateSpin");
+    };
+    KvMvcSettings settings = exampleSettings();
+    put(settings, {{Cell::Record, 0, 4}, {0, 80, 1000}, {1, 80, 2000}});
+    dialog.dropSettings(settings);
+    for (const int view : {2, 3})
+        QCOMPARE(rateOf(view)->value(), 2000);
+    // Their rate control is their own, until other settings come from outside.
+    user::type(rateOf(3), QStringLiteral("3000"));
+    user::type(rateOf(1), QStringLiteral("2500"));
+    QCOMPARE(rateOf(2)->value(), 2000);
+    QCOMPARE(rateOf(3)->value(), 3000);
+    dialog.companions.onDefaults = [](KvMvcSettings& defaults, int) {
+        defaults = exampleSettings();
+    };
+    QVERIFY(user::choose(dialog.presetList(), QStringLiteral("Stereo High")));
+    for (const int view : {0, 1, 2, 3})
+        QCOMPARE(rateOf(view)->value(), 4000000);
 }
 
 QTEST_MAIN(TestDialogEdits)

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -73,6 +74,8 @@ private Q_SLOTS:
     void overwriteIsAskedFor();
     void overwriteQuestionIsAboutTheNameWithItsSuffix();
     void lastDirectoriesAreKeptApart();
+    void hostDeletesTheDialogWhileAFileIsChosen_data();
+    void hostDeletesTheDialogWhileAFileIsChosen();
 
 private:
     QString path(const char* name) const { return m_directory->filePath(QString::fromUtf8(name)); }
@@ -453,6 +456,33 @@ void TestDialogFiles::lastDirectoriesAreKeptApart()
         user::click(dialog.button(button));
         QCOMPARE(watch.seen(), 1);
     }
+}
+
+void TestDialogFiles::hostDeletesTheDialogWhileAFileIsChosen_data()
+{
+    cancelledFileDialogDoesNothing_data();
+}
+
+void TestDialogFiles::hostDeletesTheDialogWhileAFileIsChosen()
+{
+    QFETCH(QByteArray, button);
+    create("stereo.cfg");
+    RecordingCompanions companions;
+    companions.onRead = readExample;
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {usualFlags, nullptr, nullptr, nullptr};
+    QPointer<AVCVideoEncoderDlg> dialog = new AVCVideoEncoderDlg(&settings, &hosting, nullptr);
+    dialog->show();
+    ModalWatch watch([&](QWidget* window) {
+        delete dialog;
+        enterName(window, button == "buttonLoad" ? path("stereo.cfg") : path("new.cfg"));
+    });
+    const bool load = button == "buttonLoad";
+    QMetaObject::invokeMethod(dialog, load ? "slotLoadSettings" : "slotSaveSettings");
+    QCOMPARE(watch.seen(), 1);
+    QVERIFY(!watch.forced());
+    QVERIFY(!dialog);
+    QVERIFY(companions.calls.isEmpty());
 }
 
 QTEST_MAIN(TestDialogFiles)

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void everyCheckClearsTheSuppression();
     void countsOfViewsFromOutside_data();
     void countsOfViewsFromOutside();
+    void deletedWhileANumberIsTyped();
 };
 
 void TestDialogLifecycle::okWithoutEditsGivesTheRecordBackByteForByte()
@@ -135,7 +136,7 @@ void TestDialogLifecycle::leavingAnyOtherWayKeepsTheRecord()
     dialog.companions.onDefaults = [](KvMvcSettings& settings, int) { settings.num_views = 1; };
     user::type(widthOf(dialog), QStringLiteral("1280"));
     user::choose(dialog.presetList(), QStringLiteral("Stereo High"));
-    QVERIFY(dialog.bytes().left(dialog.given.size()) != dialog.given);
+    QVERIFY(dialog.bytes() != dialog.given);
     const int checks = dialog.companions.count(QStringLiteral("check"));
 
     QSignalSpy finished(dialog.get(), &QDialog::finished);
@@ -164,7 +165,8 @@ void TestDialogLifecycle::callerIsNotTouchedBeforeOk()
     user::type(widthOf(dialog), QStringLiteral("1280"));
     QVERIFY(bytesOf(dialog.caller) == dialog.given);
     QVERIFY(dialog.companions.checkedAt != &dialog.caller);
-    QVERIFY(dialog.companions.checkedAt == &dialog.probe().record());
+    // Aligned like a record of naturally aligned fields, which a library may take it for.
+    QCOMPARE(quintptr(dialog.companions.checkedAt) % 8, quintptr(0));
 }
 
 void TestDialogLifecycle::suppressedOkDoesNothingElse()
@@ -205,9 +207,10 @@ void TestDialogLifecycle::countsOfViewsFromOutside_data()
     QTest::newRow("negative") << -7 << 0;
     QTest::newRow("one") << 1 << 1;
     QTest::newRow("two") << 2 << 2;
-    QTest::newRow("four") << 4 << 4;
-    QTest::newRow("five") << 5 << 4;
-    QTest::newRow("largest") << 2147483647 << 4;
+    // Views beyond the record's two are none of the host's.
+    QTest::newRow("four") << 4 << 2;
+    QTest::newRow("five") << 5 << 2;
+    QTest::newRow("largest") << 2147483647 << 2;
     QTest::newRow("smallest") << int(-2147483647 - 1) << 0;
 }
 
@@ -221,16 +224,27 @@ void TestDialogLifecycle::countsOfViewsFromOutside()
     const QByteArray before = dialog.bytes();
     user::type(widthOf(dialog), QStringLiteral("1280"));
 
-    // Slices are put in order in every view that an edit visits, also in those behind the record.
     Cells expected;
-    for (int view = 0; view < edited; ++view) {
+    for (int view = 0; view < edited; ++view)
         expected += Cell(view, 24, 1280);
-        if (view >= 2)
-            expected += {Cell(view, 2844, 0), Cell(view, 2848, 1)};
-    }
     QCOMPARE(differences(before, dialog.bytes()), expectedDifferences(before, expected));
     user::click(dialog.button("buttonOk"));
     QCOMPARE(int(dialog.caller.num_views), count);
+}
+
+void TestDialogLifecycle::deletedWhileANumberIsTyped()
+{
+    RecordingCompanions companions;
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {usualFlags, nullptr, nullptr, nullptr};
+    auto dialog = std::make_unique<AVCVideoEncoderDlg>(&settings, &hosting, nullptr);
+    dialog->show();
+    auto* width = findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin");
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClicks(width, QStringLiteral("1280"));
+    dialog.reset();
+    QCOMPARE(companions.calls, QStringList());
 }
 
 QTEST_MAIN(TestDialogLifecycle)

@@ -386,7 +386,7 @@ void TestDialogLog::buttonOfTheBoxIsNotSqueezed()
 
 void TestDialogLog::logOfADialogNotYetShownIsNotHidden()
 {
-    ModalWatch watch([](QWidget* window) { window->close(); });
+    ModalWatch watch([](QWidget* window) { window->close(); }, 10);
     const auto printing = [](RecordingCompanions& companions) { companions.onCheck = oneOfEach; };
     OpenDialog dialog(KV_MVC_GUI_FILE_BUTTONS, exampleSettings(), printing);
     QCOMPARE(watch.seen(), 0);

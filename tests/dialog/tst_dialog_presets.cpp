@@ -104,7 +104,7 @@ void TestDialogPresets::defaultsReplaceEveryEdit()
     put(preset, {{Cell::Record, 100, 5}, {0, 1804, 2}, {1, 1804, 2}, {1, 24, 1920}, {0, 24, 1920}});
     dialog.companions.onDefaults = [&preset](KvMvcSettings& settings, int) { settings = preset; };
     QVERIFY(user::choose(dialog.presetList(), QStringLiteral("Stereo High")));
-    QVERIFY(dialog.bytes().left(int(sizeof preset)) == bytesOf(preset));
+    QVERIFY(dialog.bytes() == bytesOf(preset));
     QCOMPARE(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin")->value(), 1920);
 }
 

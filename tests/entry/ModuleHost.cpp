@@ -9,7 +9,8 @@
 // | ext=KIND        | null, application, window=ID; with "record:" before it, in a record  |
 // |                 | of the host (bit 29); "record" is a null record                      |
 // | title=, banner= | of the record                                                        |
-// | press=WHAT      | ok, cancel, close: what is done in the dialog                         |
+// | press=WHAT      | ok, cancel, close: what is done in the dialog; "again": the module    |
+// |                 | is called once more, while the dialog is open, which is then left     |
 // | call            | calls the module: "result", "changed", "record flags"                |
 // | call-null       | calls it without settings                                            |
 // | mapped          | names what of the host's and the module's folders is mapped          |
@@ -17,7 +18,11 @@
 // | instance        | says whether there is an application object                          |
 // | window, unwindow| shows a window of the host's application; closes it                  |
 // | run             | runs the application's event loop until the last window is closed    |
+// | stay            | has the application outlive its last window, if nothing else ends it   |
+// | locale          | says which the process has                                           |
+// | translate       | says what "Views" is called in the application                        |
 // | unload          | unloads the module                                                   |
+// | remove=FILE     | removes a file beside the module                                     |
 // | replace=FILE    | puts "replacement.so" in the place of a file beside the module       |
 
 #include <QApplication>
@@ -33,6 +38,7 @@
 
 #include <kv_config_gui_mvc/config_gui.h>
 
+#include <clocale>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
@@ -50,6 +56,7 @@ void say(const QString& line)
 }
 
 QString what = QStringLiteral("cancel");
+KvShowMvcEncoderPages showAgain = nullptr;
 
 QString yesNo(bool yes)
 {
@@ -79,6 +86,11 @@ void describe(QDialog* dialog)
 void press(QDialog* dialog)
 {
     const char* const button = what == QLatin1String("ok") ? "buttonOk" : "buttonCancel";
+    if (what == QLatin1String("again")) {
+        KvMvcSettings other = {};
+        say(QStringLiteral("result again %1")
+                .arg(showAgain(&other, KV_MVC_GUI_HOST_APPLICATION, QCoreApplication::instance())));
+    }
     if (what == QLatin1String("close"))
         dialog->close();
     else
@@ -137,6 +149,7 @@ bool Host::load()
         return false;
     }
     show = reinterpret_cast<KvShowMvcEncoderPages>(dlsym(module, "showMVCEncoderPages"));
+    showAgain = show;
     return show != nullptr;
 }
 
@@ -229,7 +242,17 @@ bool Host::step(const std::string& text)
     } else if (name == "run") {
         const QPointer<QWidget> closed = window.get();
         QTimer::singleShot(0, closed, [closed] { closed->close(); });
+        QTimer::singleShot(2000, application.get(), [] { QCoreApplication::exit(7); });
         say(QStringLiteral("loop %1").arg(QApplication::exec()));
+    } else if (name == "stay") {
+        QApplication::setQuitOnLastWindowClosed(false);
+    } else if (name == "locale") {
+        say(QStringLiteral("locale ") + QString::fromLatin1(std::setlocale(LC_ALL, nullptr)));
+    } else if (name == "translate") {
+        say(QStringLiteral("translated ") +
+            QCoreApplication::translate("AVCVideoEncoderDlg", "Views"));
+    } else if (name == "remove") {
+        return std::remove((modulePath.substr(0, modulePath.rfind('/') + 1) + value).c_str()) == 0;
     } else if (name == "unload") {
         dlclose(module);
         module = nullptr;

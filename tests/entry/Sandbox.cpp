@@ -54,8 +54,12 @@ Sandbox::Result Sandbox::run(const QStringList& steps,
     variables.insert(QStringLiteral("KV_STUB_LOG"), log);
     // Without one the toolkit warns.
     variables.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path());
-    for (auto at = environment.begin(); at != environment.end(); ++at)
-        variables.insert(at.key(), at.value());
+    for (auto at = environment.begin(); at != environment.end(); ++at) {
+        if (at->isEmpty())
+            variables.remove(at.key());
+        else
+            variables.insert(at.key(), at.value());
+    }
 
     QProcess process;
     process.setProcessEnvironment(variables);

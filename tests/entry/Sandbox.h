@@ -32,7 +32,7 @@ public:
         /// The rest of every line that begins so.
         QStringList values(const char* beginning) const;
     };
-    /// Runs the steps of the host program.
+    /// Runs the steps of the host program. @param environment Changes; an empty value removes.
     Result run(const QStringList& steps, const QMap<QString, QString>& environment = {}) const;
 
 private:

@@ -3,7 +3,11 @@
 
 #include <kv_config_gui_mvc/companions.h>
 
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <dlfcn.h>
+#endif
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,14 +29,30 @@ void writeDown(const std::string& line)
     }
 }
 
+std::string ownPath()
+{
+#ifdef _WIN32
+    HMODULE self = nullptr;
+    GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<const char*>(&ownPath), &self);
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(self, path, MAX_PATH);
+    return path;
+#else
+    Dl_info info = {};
+    dladdr(reinterpret_cast<void*>(&ownPath), &info);
+    return info.dli_fname;
+#endif
+}
+
 /// "host/kv_mvcenc.so": the library's own file with its folder.
 std::string ownName()
 {
-    Dl_info info = {};
-    dladdr(reinterpret_cast<void*>(&ownName), &info);
-    const std::string path = info.dli_fname;
-    const auto file = path.rfind('/');
-    const auto folder = file == std::string::npos ? file : path.rfind('/', file - 1);
+    const std::string path = ownPath();
+    constexpr const char* separators = "/\\";
+    const auto file = path.find_last_of(separators);
+    const auto folder = file == std::string::npos ? file : path.find_last_of(separators, file - 1);
     return folder == std::string::npos ? path : path.substr(folder + 1);
 }
 

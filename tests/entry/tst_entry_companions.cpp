@@ -32,7 +32,10 @@ private Q_SLOTS:
     void oneOfEachPlace();
     void brokenFileCountsAsMissing();
     void failedCallsLibrariesAreReleasedByTheNextCall();
+    void probeOfAFailedCallIsReleasedByTheNextCall();
     void missingFunctionIsNotFoundInAnEarlierCallsLibrary();
+    void missingLibraryIsNotFoundInAnEarlierCall_data();
+    void missingLibraryIsNotFoundInAnEarlierCall();
 };
 
 void TestEntryCompanions::loaded_data()
@@ -192,6 +195,41 @@ void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()
                                   QStringLiteral("unload host/kv_mvcenc_b.so"),
                                   QStringLiteral("load host/kv_mvcenc_b.so")};
     QCOMPARE(run.log.mid(0, 6), expected);
+}
+
+void TestEntryCompanions::probeOfAFailedCallIsReleasedByTheNextCall()
+{
+    // The first call fails for want of an application object, with all libraries loaded; the second
+    // for want of an encoder.
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    sandbox.add("stub_entry_probe", "kv_media_probe");
+    const auto run = sandbox.run({QStringLiteral("flags=0x10000000"), QStringLiteral("call"),
+                                  QStringLiteral("mapped"), QStringLiteral("remove=kv_mvcenc.so"),
+                                  QStringLiteral("call"), QStringLiteral("mapped")});
+    QCOMPARE(run.values("result"), QStringList({QStringLiteral("1"), QStringLiteral("1")}));
+    QCOMPARE(run.values("mapped"),
+             QStringList({QStringLiteral("kv_config_gui_mvc.so kv_media_probe.so "
+                                         "kv_mvc_settings_io.so kv_mvcenc.so"),
+                          QStringLiteral("kv_config_gui_mvc.so kv_mvc_settings_io.so")}));
+}
+
+void TestEntryCompanions::missingLibraryIsNotFoundInAnEarlierCall_data()
+{
+    QTest::addColumn<QString>("removed");
+    QTest::newRow("encoder") << QStringLiteral("kv_mvcenc.so");
+    QTest::newRow("settings files") << QStringLiteral("kv_mvc_settings_io.so");
+}
+
+void TestEntryCompanions::missingLibraryIsNotFoundInAnEarlierCall()
+{
+    QFETCH(QString, removed);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(
+        {QStringLiteral("call"), QLatin1String("remove=") + removed, QStringLiteral("call")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.values("result"), QStringList({QStringLiteral("1001"), QStringLiteral("1")}));
 }
 
 void TestEntryCompanions::missingFunctionIsNotFoundInAnEarlierCallsLibrary()

@@ -28,7 +28,11 @@ private Q_SLOTS:
     void titleAndBannerOfTheRecord();
     void activeWindowOfTheHostIsTheParent();
     void withoutActiveWindowTheDialogBecomesIt();
+    void lastWindowEndsTheHostsApplication();
     void applicationObjectsStayWithTheirOwners();
+    void callOutOfAnOpenDialogIsAnError();
+    void localeStaysTheHosts();
+    void withoutADisplayThereIsAnErrorAndNoEnd();
     void severalCallsInOneProcess_data();
     void severalCallsInOneProcess();
 };
@@ -174,6 +178,55 @@ void TestEntryHosting::applicationObjectsStayWithTheirOwners()
     QCOMPARE(refused.value("instance"), QStringLiteral("yes"));
     QCOMPARE(refused.value("loop"), QStringLiteral("0"));
     QCOMPARE(refused.value("end"), QString(QLatin1String("")));
+}
+
+void TestEntryHosting::lastWindowEndsTheHostsApplication()
+{
+    // Though it is told to stay: the module connects the one with the other.
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto never = sandbox.run(words("application stay window run"));
+    QCOMPARE(never.value("loop"), QStringLiteral("7"));
+    const auto called =
+        sandbox.run(words("application stay window ext=application flags=0x10000000 call run"));
+    QCOMPARE(called.value("result"), QStringLiteral("1001"));
+    QCOMPARE(called.value("loop"), QStringLiteral("0"));
+}
+
+void TestEntryHosting::callOutOfAnOpenDialogIsAnError()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    for (const char* mode : {"flags=0x13", "application ext=application flags=0x10000013"}) {
+        const auto run = sandbox.run(words(mode) + words("press=again call press=ok call"));
+        QCOMPARE(run.exitCode, 0);
+        // The open dialog keeps its libraries, and later calls work.
+        QCOMPARE(run.values("result"),
+                 QStringList(
+                     {QStringLiteral("again 1"), QStringLiteral("1001"), QStringLiteral("1000")}));
+    }
+}
+
+void TestEntryHosting::localeStaysTheHosts()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(words("locale flags=0x13 call locale"));
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QCOMPARE(run.values("locale"), words("C C"));
+}
+
+void TestEntryHosting::withoutADisplayThereIsAnErrorAndNoEnd()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(words("flags=0x13 call instance"),
+                                 {{QStringLiteral("QT_QPA_PLATFORM"), QString()},
+                                  {QStringLiteral("WAYLAND_DISPLAY"), QString()},
+                                  {QStringLiteral("DISPLAY"), QString()}});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.value("result"), QStringLiteral("1"));
+    QCOMPARE(run.value("instance"), QStringLiteral("no"));
 }
 
 void TestEntryHosting::severalCallsInOneProcess_data()

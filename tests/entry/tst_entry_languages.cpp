@@ -199,17 +199,19 @@ void TestEntryLanguages::secondCallInTheHostsApplication()
     translate(sandbox, QStringLiteral("second"), QStringLiteral("gui_mvc_de"), "de_DE",
               "Ansichten?");
     sandbox.add("stub_entry_texts", "mvc_gui_texts", "second");
-    const auto run =
-        sandbox.run({QStringLiteral("application"), QStringLiteral("ext=application"),
-                     QStringLiteral("flags=0x10000010"), QStringLiteral("call"),
-                     QStringLiteral("call"), QStringLiteral("mapped"), QStringLiteral("delete")},
-                    environment(sandbox, "de_DE.UTF-8"));
+    const auto run = sandbox.run({QStringLiteral("application"), QStringLiteral("ext=application"),
+                                  QStringLiteral("flags=0x10000010"), QStringLiteral("call"),
+                                  QStringLiteral("call"), QStringLiteral("mapped"),
+                                  QStringLiteral("translate"), QStringLiteral("delete")},
+                                 environment(sandbox, "de_DE.UTF-8"));
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.values("last tab"),
              QStringList({QStringLiteral("Ansichten?"), QStringLiteral("Ansichten?")}));
     QCOMPARE(run.values("log"),
              QStringList({QStringLiteral("Breite 5"), QStringLiteral("Breite 5")}));
     QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc.so"));
+    // The host's own texts are not the module's to translate.
+    QCOMPARE(run.value("translated"), QStringLiteral("Views"));
 }
 
 QTEST_MAIN(TestEntryLanguages)

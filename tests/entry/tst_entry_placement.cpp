@@ -4,9 +4,8 @@
 
 #include <QTest>
 
-#include <climits>
-
 Q_DECLARE_METATYPE(WindowEdges)
+Q_DECLARE_METATYPE(QVector<ScaledScreen>)
 
 class TestEntryPlacement : public QObject
 {
@@ -15,6 +14,8 @@ class TestEntryPlacement : public QObject
 private Q_SLOTS:
     void centred_data();
     void centred();
+    void scaled_data();
+    void scaled();
 };
 
 void TestEntryPlacement::centred_data()
@@ -67,6 +68,49 @@ void TestEntryPlacement::centred()
     QFETCH(QRect, desktop);
     QFETCH(QPoint, place);
     QCOMPARE(centredOver(parent, dialog, desktop), place);
+}
+
+void TestEntryPlacement::scaled_data()
+{
+    QTest::addColumn<WindowEdges>("window");
+    QTest::addColumn<QVector<ScaledScreen>>("screens");
+    QTest::addColumn<WindowEdges>("inToolkitPixels");
+
+    const WindowEdges window{1000, 400, 1800, 1000};
+    const ScaledScreen plain{QRect(0, 0, 1920, 1080), 1};
+    const ScaledScreen dense{QRect(0, 0, 1920, 1080), 2};
+    // Right of a plain screen: its corner stays in the window system's pixels.
+    const ScaledScreen denseBeside{QRect(1920, 0, 1920, 1080), 2};
+    QTest::newRow("no screens") << window << QVector<ScaledScreen>() << window;
+    QTest::newRow("plain") << window << QVector<ScaledScreen>{plain} << window;
+    QTest::newRow("twice as dense")
+        << window << QVector<ScaledScreen>{dense} << WindowEdges{500, 200, 900, 500};
+    QTest::newRow("half as dense again")
+        << window << QVector<ScaledScreen>{{QRect(0, 0, 1280, 720), 1.5}}
+        << WindowEdges{666, 266, 1200, 666};
+    QTest::newRow("on the plain one of two")
+        << window << QVector<ScaledScreen>{plain, denseBeside} << window;
+    QTest::newRow("on the dense one of two")
+        << WindowEdges{2120, 400, 2920, 1000} << QVector<ScaledScreen>{plain, denseBeside}
+        << WindowEdges{2020, 200, 2420, 500};
+    QTest::newRow("the middle decides")
+        << WindowEdges{1800, 0, 2200, 200} << QVector<ScaledScreen>{plain, denseBeside}
+        << WindowEdges{1860, 0, 2060, 100};
+    QTest::newRow("on none: the first")
+        << WindowEdges{-800, -800, -400, -400} << QVector<ScaledScreen>{dense, denseBeside}
+        << WindowEdges{-400, -400, -200, -200};
+}
+
+void TestEntryPlacement::scaled()
+{
+    QFETCH(WindowEdges, window);
+    QFETCH(QVector<ScaledScreen>, screens);
+    QFETCH(WindowEdges, inToolkitPixels);
+    const WindowEdges edges = toToolkitPixels(window, screens);
+    QCOMPARE(edges.left, inToolkitPixels.left);
+    QCOMPARE(edges.top, inToolkitPixels.top);
+    QCOMPARE(edges.right, inToolkitPixels.right);
+    QCOMPARE(edges.bottom, inToolkitPixels.bottom);
 }
 
 QTEST_APPLESS_MAIN(TestEntryPlacement)

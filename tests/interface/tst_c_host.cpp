@@ -65,7 +65,7 @@ void TestCHost::initTestCase()
             {QStringLiteral("-S"), QStringLiteral(KV_C_HOST_SOURCE), QStringLiteral("-B"),
              path("build"), QStringLiteral("-G"), QStringLiteral(KV_GENERATOR),
              QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
-             QStringLiteral("-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror"),
+             QStringLiteral("-DCMAKE_C_FLAGS=" KV_C_FLAGS),
              QStringLiteral("-DKV_INCLUDE_DIR=" KV_INCLUDE)});
     QVERIFY2(configured.exitCode == 0, qPrintable(configured.output + configured.error));
     const Result built = run(QStringLiteral(KV_CMAKE), {QStringLiteral("--build"), path("build")});
