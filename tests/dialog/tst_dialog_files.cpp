@@ -53,10 +53,10 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void openDialogAsSpecified_data();
-    void openDialogAsSpecified();
-    void saveDialogAsSpecified_data();
-    void saveDialogAsSpecified();
+    void openDialogOptions_data();
+    void openDialogOptions();
+    void saveDialogOptions_data();
+    void saveDialogOptions();
     void loadedRecordIsCheckedAndShown();
     void recordForTheReaderIsZeroed();
     void failedLoadChangesNothing_data();
@@ -118,14 +118,14 @@ void TestDialogFiles::useFileDialog(const OpenDialog& dialog, const char* button
     QVERIFY(!watch.forced());
 }
 
-void TestDialogFiles::openDialogAsSpecified_data()
+void TestDialogFiles::openDialogOptions_data()
 {
     QTest::addColumn<bool>("byKey");
     QTest::newRow("clicked") << false;
     QTest::newRow("Alt+L") << true;
 }
 
-void TestDialogFiles::openDialogAsSpecified()
+void TestDialogFiles::openDialogOptions()
 {
     QFETCH(bool, byKey);
     OpenDialog dialog;
@@ -152,14 +152,14 @@ void TestDialogFiles::openDialogAsSpecified()
     QVERIFY(!watch.forced());
 }
 
-void TestDialogFiles::saveDialogAsSpecified_data()
+void TestDialogFiles::saveDialogOptions_data()
 {
     QTest::addColumn<bool>("byKey");
     QTest::newRow("clicked") << false;
     QTest::newRow("Alt+S") << true;
 }
 
-void TestDialogFiles::saveDialogAsSpecified()
+void TestDialogFiles::saveDialogOptions()
 {
     QFETCH(bool, byKey);
     OpenDialog dialog;
