@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
@@ -209,20 +210,33 @@ Plan planOf(const Invocation& call)
     return plan;
 }
 
+/// An empty file for what would be lost, closed again, since Windows replaces no open file. Empty
+/// where none can be made.
+QString newRescueFile()
+{
+    QTemporaryFile file(QDir::temp().filePath(QStringLiteral("kv-mvc-settings-XXXXXX.ini")));
+    file.setAutoRemove(false);
+    return file.open() ? file.fileName() : QString();
+}
+
 /// Saves what was edited. What cannot be saved is not lost: it goes to a temporary file.
 void save(const SettingsFiles& files, const KvMvcSettings& settings, const QString& target)
 {
     try {
         files.write(settings, target);
     } catch (const Failure& failure) {
-        QTemporaryFile rescue(QDir::temp().filePath(QStringLiteral("kv-mvc-settings-XXXXXX.ini")));
-        if (!rescue.open()) {
+        const QString rescue = newRescueFile();
+        if (rescue.isEmpty()) {
             throw;
         }
-        files.write(settings, rescue.fileName());
-        rescue.setAutoRemove(false);
-        throw Failure(QStringLiteral("%1; the edited settings are in '%2'")
-                          .arg(failure.text(), rescue.fileName()));
+        try {
+            files.write(settings, rescue);
+        } catch (const Failure&) {
+            QFile::remove(rescue);
+            throw;
+        }
+        throw Failure(
+            QStringLiteral("%1; the edited settings are in '%2'").arg(failure.text(), rescue));
     }
 }
 

@@ -54,7 +54,11 @@ QByteArray outputOf(const QStringList& arguments)
 {
     QProcess process;
     process.start(QStringLiteral(KV_RULES_DOC), arguments);
-    return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+    QByteArray output = process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+#ifdef Q_OS_WIN
+    output.replace("\r\n", "\n");
+#endif
+    return output;
 }
 
 } // namespace

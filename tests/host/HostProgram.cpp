@@ -28,6 +28,15 @@ void copy(const QString& from, const QString& to)
     }
 }
 
+/// What the program wrote, with the line ends of Unix.
+QString textOf(QByteArray written)
+{
+#ifdef Q_OS_WIN
+    written.replace("\r\n", "\n");
+#endif
+    return QString::fromUtf8(written);
+}
+
 } // namespace
 
 HostProgram::HostProgram()
@@ -89,12 +98,11 @@ HostProgram::Result HostProgram::run(const QStringList& arguments,
     process.setWorkingDirectory(path(QString()));
     process.start(program(), arguments, QIODevice::ReadOnly);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
-        return {-1, QString::fromUtf8(process.readAllStandardOutput()),
-                process.errorString() + QLatin1Char('\n') +
-                    QString::fromUtf8(process.readAllStandardError())};
+        return {-1, textOf(process.readAllStandardOutput()),
+                process.errorString() + QLatin1Char('\n') + textOf(process.readAllStandardError())};
     }
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return {process.exitCode(), textOf(process.readAllStandardOutput()),
+            textOf(process.readAllStandardError())};
 }
 
 QString HostProgram::program() const

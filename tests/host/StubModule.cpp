@@ -63,7 +63,7 @@ extern "C" KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* sett
                                                              void* ext)
 {
     if (const char* name = std::getenv("KV_STUB_LOG")) {
-        if (std::FILE* log = std::fopen(name, "w")) {
+        if (std::FILE* log = std::fopen(name, "wb")) {
             writeDown(log, *settings, flags, ext);
             std::fclose(log);
         }

@@ -365,6 +365,9 @@ void HostEditTest::editsThatCannotBeSavedAreNotLost()
 
 void HostEditTest::noDisplayIsTrouble()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows always has a desktop");
+#endif
     const EditProgram program;
     const QByteArray before = program.content(a);
     const HostProgram::Result result =
