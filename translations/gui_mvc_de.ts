@@ -384,8 +384,8 @@ Soll sie überschrieben werden?</translation>
         <translation>Anzahl B-Bilder</translation>
     </message>
     <message>
-        <source>Number of B-frames between two reference frames.</source>
-        <translation>Anzahl der B-Bilder zwischen zwei Referenzbildern.</translation>
+        <source>Number of consecutive B-frames between I- or P-frames.</source>
+        <translation>Anzahl der aufeinanderfolgenden B-Bilder zwischen I- oder P-Bildern.</translation>
     </message>
     <message>
         <source>B-frames as reference frames</source>
@@ -723,8 +723,8 @@ Soll sie überschrieben werden?</translation>
         <translation>Max. Bitrate (bit/s)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>Bitrate, die nie überschritten wird, in Bit pro Sekunde.</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -898,8 +898,8 @@ Soll sie überschrieben werden?</translation>
         <translation>Max. Bitrate (bit/s)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>Bitrate, die nie überschritten wird, in Bit pro Sekunde.</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1073,8 +1073,8 @@ Soll sie überschrieben werden?</translation>
         <translation>Max. Bitrate (bit/s)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>Bitrate, die nie überschritten wird, in Bit pro Sekunde.</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1248,8 +1248,8 @@ Soll sie überschrieben werden?</translation>
         <translation>Max. Bitrate (bit/s)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>Bitrate, die nie überschritten wird, in Bit pro Sekunde.</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
     </message>
     <message>
         <source>Buffers</source>

@@ -384,8 +384,8 @@ Do you want to overwrite it?</source>
         <translation>B フレーム数</translation>
     </message>
     <message>
-        <source>Number of B-frames between two reference frames.</source>
-        <translation>2 つの参照フレームの間にある B フレームの数。</translation>
+        <source>Number of consecutive B-frames between I- or P-frames.</source>
+        <translation>I フレームまたは P フレームの間に連続する B フレームの数。</translation>
     </message>
     <message>
         <source>B-frames as reference frames</source>
@@ -723,8 +723,8 @@ Do you want to overwrite it?</source>
         <translation>最大ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>超えることのないビットレート (ビット/秒)。</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -898,8 +898,8 @@ Do you want to overwrite it?</source>
         <translation>最大ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>超えることのないビットレート (ビット/秒)。</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1073,8 +1073,8 @@ Do you want to overwrite it?</source>
         <translation>最大ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>超えることのないビットレート (ビット/秒)。</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1248,8 +1248,8 @@ Do you want to overwrite it?</source>
         <translation>最大ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate that is never exceeded, in bits per second.</source>
-        <translation>超えることのないビットレート (ビット/秒)。</translation>
+        <source>Highest rate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
