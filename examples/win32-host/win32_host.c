@@ -2,7 +2,7 @@
  * @file win32_host.c
  * A host of the settings dialog with a window of its own: plain Win32 in C, no toolkit.
  *
- * The window's menu has "Settings...", which opens the dialog on the settings that this program
+ * The window's menu has "Settings…", which opens the dialog on the settings that this program
  * keeps. The window hands itself over as the dialog's parent: it takes no input while the dialog is
  * open, and has the focus back afterwards.
  *
@@ -146,7 +146,7 @@ static HWND create_window(Host* host)
     WNDCLASSW description = {0};
     const HMENU menu = CreateMenu();
     const HMENU encoder = CreatePopupMenu();
-    AppendMenuW(encoder, MF_STRING, MENU_SETTINGS, L"&Settings...");
+    AppendMenuW(encoder, MF_STRING, MENU_SETTINGS, L"&Settings\x2026");
     AppendMenuW(encoder, MF_STRING, MENU_EXIT, L"E&xit");
     AppendMenuW(menu, MF_POPUP, (UINT_PTR)encoder, L"&Encoder");
 

@@ -1,4 +1,5 @@
-// The C example, built as a project of its own and used as its readers would.
+// The installed module, as other projects build on it: the C example, built as a project of its own
+// and used as its readers would, and a host that links the module.
 
 #include <QFile>
 #include <QProcess>
@@ -47,30 +48,51 @@ private Q_SLOTS:
     void presetOfTheCommandLine();
     void errors_data();
     void errors();
+    void hostThatLinksTheModule();
 
 private:
+    /// Builds a project against the installed module. @return Its program; empty when that failed.
+    QString build(const char* project, const char* directory) const;
     /// Runs the example while a script is played on its dialog.
     Result play(const QStringList& arguments, const QByteArray& script) const;
     QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
 
     QTemporaryDir m_directory;
     QString m_program;
-    const QString m_folder = qEnvironmentVariable("KV_BIN_DIR");
+    QString m_folder;
 };
 
 void TestCHost::initTestCase()
 {
-    const Result configured =
-        run(QStringLiteral(KV_CMAKE),
-            {QStringLiteral("-S"), QStringLiteral(KV_C_HOST_SOURCE), QStringLiteral("-B"),
-             path("build"), QStringLiteral("-G"), QStringLiteral(KV_GENERATOR),
-             QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
-             QStringLiteral("-DCMAKE_C_FLAGS=" KV_C_FLAGS),
-             QStringLiteral("-DKV_INCLUDE_DIR=" KV_INCLUDE)});
-    QVERIFY2(configured.exitCode == 0, qPrintable(configured.output + configured.error));
-    const Result built = run(QStringLiteral(KV_CMAKE), {QStringLiteral("--build"), path("build")});
-    QVERIFY2(built.exitCode == 0, qPrintable(built.output + built.error));
-    m_program = path("build/kv-c-host");
+    const Result installed =
+        run(QStringLiteral(KV_CMAKE), {QStringLiteral("--install"), QStringLiteral(KV_BUILD),
+                                       QStringLiteral("--prefix"), path("installed")});
+    QVERIFY2(installed.exitCode == 0, qPrintable(installed.output + installed.error));
+    m_folder = path("installed/bin");
+    m_program = build(KV_C_HOST_SOURCE, "build");
+    QVERIFY(!m_program.isEmpty());
+}
+
+QString TestCHost::build(const char* project, const char* directory) const
+{
+    const QStringList configure = {QStringLiteral("-S"),
+                                   QLatin1String(project),
+                                   QStringLiteral("-B"),
+                                   path(directory),
+                                   QStringLiteral("-G"),
+                                   QStringLiteral(KV_GENERATOR),
+                                   QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
+                                   QStringLiteral("-DCMAKE_C_FLAGS=" KV_C_FLAGS),
+                                   QStringLiteral("-DCMAKE_PREFIX_PATH=") + path("installed")};
+    for (const QStringList& arguments :
+         {configure, QStringList{QStringLiteral("--build"), path(directory)}}) {
+        const Result result = run(QStringLiteral(KV_CMAKE), arguments);
+        if (result.exitCode != 0) {
+            qWarning("%s", qPrintable(result.output + result.error));
+            return {};
+        }
+    }
+    return path(directory) + QStringLiteral("/kv-c-host");
 }
 
 Result TestCHost::play(const QStringList& arguments, const QByteArray& script) const
@@ -144,6 +166,16 @@ void TestCHost::errors()
     QCOMPARE(result.exitCode, 2);
     QVERIFY2(result.error.startsWith(error), qPrintable(result.error));
     QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+}
+
+void TestCHost::hostThatLinksTheModule()
+{
+    const QString program = build(KV_LINKED_HOST_SOURCE, "linked");
+    QVERIFY(!program.isEmpty());
+    const Result result = run(program, {});
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.output, QStringLiteral("1\n"));
+    QCOMPARE(result.exitCode, 0);
 }
 
 QTEST_MAIN(TestCHost)
