@@ -58,12 +58,15 @@ enum KvMvcGuiResult {
 typedef struct KvMvcHosting {
     int32_t flags; /**< overwritten with the `flags` argument */
     /**
-     * The host's QApplication with KV_MVC_GUI_HOST_APPLICATION; otherwise a
-     * native window (HWND on Windows, X11 window id on Linux) or null.
+     * The host's QApplication with KV_MVC_GUI_HOST_APPLICATION, of the major
+     * version of Qt that this module is built with; otherwise a native window
+     * (HWND on Windows, X11 window id on Linux) or null.
      */
     void* parent;
-    const char* title;  /**< window title; null: the default title */
-    const char* banner; /**< path of an image for the banner; null: the built-in one */
+    /** Window title: UTF-8, or Latin-1 where it is no valid UTF-8; null: the default title. */
+    const char* title;
+    /** Path of an image for the banner, encoded like the title; null: the built-in one. */
+    const char* banner;
 } KvMvcHosting;
 
 /**
@@ -76,7 +79,8 @@ typedef struct KvMvcHosting {
  * returns; those that a call with the result KV_MVC_GUI_ERROR may have left, by
  * the next call. They are looked for in the host program's directory, then by
  * the system loader's rules; on Linux these include the directory of this
- * module.
+ * module. On Windows they include the current directory, unless the host has
+ * called SetDllDirectoryW(L""), as one should that works in folders of others.
  *
  * @param settings The record to edit; written only when the user accepts.
  * @param flags    Combination of KvMvcGuiFlags.
@@ -86,10 +90,11 @@ typedef struct KvMvcHosting {
  *         required companion library or function is missing; when
  *         KV_MVC_GUI_HOSTING_RECORD is given without a record; when
  *         KV_MVC_GUI_HOST_APPLICATION is given without a QApplication, or is
- *         missing though the process has an application object; on Linux, when
- *         there is no display to connect to; when a dialog is open already; or
- *         when an exception ended the dialog. No message is shown for any of
- *         these, and no exception leaves the function.
+ *         missing though the process has an application object; when there is
+ *         no platform plug-in of Qt, or no display that it could connect to;
+ *         when a dialog is open already; or when an exception ended the dialog.
+ *         No message is shown for any of these, and no exception leaves the
+ *         function.
  */
 KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags,
                                                   void* ext);

@@ -73,6 +73,5 @@ void setUpApplication(QCoreApplication& application)
 void restoreApplication(QCoreApplication& application)
 {
     application.removeTranslator(&processTranslator());
-    // Lets go of the file.
     (void)processTranslator().load(QString());
 }

@@ -7,5 +7,5 @@ class QCoreApplication;
 /// missing is silently left out; other languages see English.
 void setUpApplication(QCoreApplication& application);
 
-/// Takes the translation back from an application that goes on.
+/// Takes the translation back and lets go of its file.
 void restoreApplication(QCoreApplication& application);

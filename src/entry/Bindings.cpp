@@ -26,10 +26,17 @@ struct Slots {
     KvMvcLocalizeSetLanguage localizeSetLanguage = nullptr;
 };
 
+/// After a failed call the slots still hold libraries. Where the module is unloaded then, they go
+/// with it, but not on Windows, which forbids to free libraries meanwhile.
 Slots& processSlots()
 {
+#ifdef Q_OS_WIN
+    static auto* const slots = new Slots;
+    return *slots;
+#else
     static Slots slots;
     return slots;
+#endif
 }
 
 /// Loads the first library of the names; later names are not tried once one has loaded.

@@ -18,7 +18,7 @@ bool loadSettingsIo();
 bool loadEncoder();
 
 /// The localization library in `directory`; tells it the language (KvMvcLanguage). It may be
-/// missing. Does nothing while one is loaded.
+/// missing. Tried once in a call.
 void loadLocalization(const QString& directory, std::int32_t language);
 
 void releaseLocalization();

@@ -5,6 +5,19 @@
 namespace
 {
 
+/// Keeps Windows from showing a box of its own about a library that it cannot load.
+class NoErrorBoxes
+{
+public:
+    NoErrorBoxes() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &m_former); }
+    NoErrorBoxes(const NoErrorBoxes&) = delete;
+    NoErrorBoxes& operator=(const NoErrorBoxes&) = delete;
+    ~NoErrorBoxes() { SetThreadErrorMode(m_former, nullptr); }
+
+private:
+    DWORD m_former = 0;
+};
+
 std::string systemMessage(DWORD code)
 {
     char text[2048] = "";
@@ -18,6 +31,7 @@ std::string systemMessage(DWORD code)
 
 void* LibraryLoader::openSystemLibrary(const std::wstring& fileName)
 {
+    const NoErrorBoxes quiet;
     const HMODULE handle = LoadLibraryW(fileName.c_str());
     if (!handle) {
         const DWORD code = GetLastError();

@@ -17,10 +17,6 @@ using NativeWindowHandle = void*;
 namespace native_window
 {
 
-/// Whether the platform can show a window at all. To be asked before there is an application
-/// object, whose constructor would end the process where it cannot.
-bool canShowWindows();
-
 /// The window's outer rectangle, decoration included, on the desktop, in the window system's
 /// pixels. No value where there is no such window.
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window);

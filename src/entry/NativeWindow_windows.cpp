@@ -25,11 +25,6 @@ bool isNativePlatform()
 namespace native_window
 {
 
-bool canShowWindows()
-{
-    return true;
-}
-
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
 {
     RECT rectangle;

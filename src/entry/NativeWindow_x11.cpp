@@ -150,14 +150,6 @@ std::unique_ptr<Shield>& currentShield()
 namespace native_window
 {
 
-bool canShowWindows()
-{
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
-        qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
-        return true;
-    return Connection().isUsable();
-}
-
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
 {
     if (!isX11())

@@ -4,6 +4,7 @@
 #include "Bindings.h"
 #include "DialogPlacement.h"
 #include "NativeWindow.h"
+#include "PlatformPlugins.h"
 #include "ProcessLocale.h"
 #include "QWinWidget.h"
 #include "dialog/AVCVideoEncoderDlg.h"
@@ -50,11 +51,33 @@ private:
     const QPointer<AVCVideoEncoderDlg> m_dialog;
 };
 
+/// A name that a window manager can show, as there are no arguments to take it from. The toolkit
+/// would keep it beyond the application object, for one that the host makes later.
+class ApplicationName
+{
+public:
+    ApplicationName() : m_isOurs(QCoreApplication::applicationName().isEmpty())
+    {
+        if (m_isOurs)
+            QCoreApplication::setApplicationName(QStringLiteral("kv_config_gui_mvc"));
+    }
+    ApplicationName(const ApplicationName&) = delete;
+    ApplicationName& operator=(const ApplicationName&) = delete;
+    ~ApplicationName()
+    {
+        if (m_isOurs)
+            QCoreApplication::setApplicationName(QString());
+    }
+
+private:
+    const bool m_isOurs;
+};
+
 bool runInHostApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
                           QApplication& application)
 {
-    setUpApplication(application);
     const auto restore = qScopeGuard([&application] { restoreApplication(application); });
+    setUpApplication(application);
     QWidget* const active = QApplication::activeWindow();
     OwnedDialog dialog(settings, hosting, active);
     if (!active)
@@ -86,11 +109,10 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     static char* arguments[] = {nullptr};
     constexpr int versionCode = 0x40702;
     const ProcessLocale hostLocale;
-    // Without arguments there is no name that a window manager could show.
-    if (QCoreApplication::applicationName().isEmpty())
-        QCoreApplication::setApplicationName(QStringLiteral("kv_config_gui_mvc"));
+    const ApplicationName name;
     QApplication application(argumentCount, arguments, versionCode);
     ProcessLocale::useCNumbers();
+    const auto restore = qScopeGuard([&application] { restoreApplication(application); });
     setUpApplication(application);
 
     std::unique_ptr<QWinWidget> host;
@@ -127,7 +149,7 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
         accepted = runInHostApplication(settings, *hosting, *application);
     } else {
         // A process has one application object at most.
-        if (QCoreApplication::instance() || !native_window::canShowWindows())
+        if (QCoreApplication::instance() || !canMakeApplication())
             return KV_MVC_GUI_ERROR;
         accepted = runInOwnApplication(settings, *hosting);
     }
