@@ -62,8 +62,11 @@ static int fill_with_defaults(const char* folder, int32_t preset, KvMvcSettings*
     void* encoder = open_library(folder, "kv_mvcenc");
     if (encoder == NULL)
         return 0;
-    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults))
+    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults)) {
         filled = defaults(settings, 0, preset, 0) == 0;
+        if (!filled)
+            fprintf(stderr, "kv-c-host: the encoder has no defaults for preset %d\n", (int)preset);
+    }
     dlclose(encoder);
     return filled;
 }

@@ -31,36 +31,57 @@ typedef struct Host {
     KvShowMvcEncoderPages show_pages;
 } Host;
 
-/** Says what went wrong, with the system's own words for it. */
 static void complain(HWND window, const wchar_t* what)
+{
+    MessageBoxW(window, what, L"Encoder", MB_OK | MB_ICONERROR);
+}
+
+/** Says what went wrong, with the system's own words for `error`, its last error code then. */
+static void complain_of(HWND window, const wchar_t* what, DWORD error)
 {
     wchar_t reason[512] = L"";
     wchar_t text[1024];
-    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, NULL, GetLastError(),
-                   0, reason, ARRAYSIZE(reason), NULL);
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, NULL, error, 0,
+                   reason, ARRAYSIZE(reason), NULL);
     _snwprintf(text, ARRAYSIZE(text) - 1, L"%ls\n\n%ls", what, reason);
     text[ARRAYSIZE(text) - 1] = L'\0';
-    MessageBoxW(window, text, L"Encoder", MB_OK | MB_ICONERROR);
+    complain(window, text);
 }
 
-/** A function of a library, copied to `function`, a pointer to a function pointer. */
-static BOOL find_function(HMODULE library, const char* name, void* function)
+/**
+ * A function of a library, copied to `function`, a pointer to a function pointer.
+ * @return The library, which is the caller's to free; null after a message that says why.
+ */
+static HMODULE load_function(const wchar_t* file, const char* name, void* function)
 {
+    const HMODULE library = LoadLibraryW(file);
     const FARPROC address = library ? GetProcAddress(library, name) : NULL;
+    if (!address) {
+        const DWORD error = GetLastError();
+        wchar_t what[128];
+        _snwprintf(what, ARRAYSIZE(what) - 1, L"The library %ls could not be used.", file);
+        what[ARRAYSIZE(what) - 1] = L'\0';
+        complain_of(NULL, what, error);
+        if (library)
+            FreeLibrary(library);
+        return NULL;
+    }
     memcpy(function, &address, sizeof address);
-    return address != NULL;
+    return library;
 }
 
 /** Fills the record with the encoder's defaults of a preset. @return Whether that worked. */
 static BOOL fill_with_defaults(int32_t preset, KvMvcSettings* settings)
 {
     KvMvcDefaults defaults = NULL;
-    BOOL filled = FALSE;
-    const HMODULE encoder = LoadLibraryW(L"kv_mvcenc.dll");
-    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults))
-        filled = defaults(settings, 0, preset, 0) == 0;
-    if (encoder)
-        FreeLibrary(encoder);
+    BOOL filled;
+    const HMODULE encoder = load_function(L"kv_mvcenc.dll", KV_MVC_ENCODER_DEFAULTS, &defaults);
+    if (!encoder)
+        return FALSE;
+    filled = defaults(settings, 0, preset, 0) == 0;
+    FreeLibrary(encoder);
+    if (!filled)
+        complain(NULL, L"The encoder has no defaults for this preset.");
     return filled;
 }
 
@@ -171,20 +192,18 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, i
     (void)previous;
     (void)command_line;
 
+    /* Without the current directory, which may be anybody's, among the places to look for DLLs. */
+    SetDllDirectoryW(L"");
     if (!fill_with_defaults(__argc > 1 ? (int32_t)atoi(__argv[1]) : KV_MVC_STEREO_HIGH,
-                            &host.settings)) {
-        complain(NULL, L"The encoder library kv_mvcenc.dll could not be used.");
+                            &host.settings))
         return 2;
-    }
-    module = LoadLibraryW(L"kv_config_gui_mvc.dll");
-    if (!find_function(module, "showMVCEncoderPages", &host.show_pages)) {
-        complain(NULL, L"The settings dialog's library kv_config_gui_mvc.dll could not be used.");
+    module = load_function(L"kv_config_gui_mvc.dll", "showMVCEncoderPages", &host.show_pages);
+    if (!module)
         return 2;
-    }
 
     window = create_window(&host);
     if (!window) {
-        complain(NULL, L"The window could not be made.");
+        complain_of(NULL, L"The window could not be made.", GetLastError());
         return 2;
     }
     show_result(window, &host.settings, L"Settings");

@@ -59,20 +59,29 @@ static void* open_library(const char* folder, const char* name)
 static int find_function(void* library, const char* name, void* function)
 {
     /* ISO C has no conversion from object to function pointers; POSIX makes their bytes alike. */
-    void* address = library ? dlsym(library, name) : NULL;
+    void* address = dlsym(library, name);
+    if (address == NULL) {
+        fprintf(stderr, "xcb-host: %s\n", dlerror());
+        return 0;
+    }
     memcpy(function, &address, sizeof address);
-    return address != NULL;
+    return 1;
 }
 
 /** Fills the record with the encoder's defaults of a preset. @return Whether that worked. */
 static int fill_with_defaults(const char* folder, int32_t preset, KvMvcSettings* settings)
 {
     KvMvcDefaults defaults = NULL;
+    int filled = 0;
     void* encoder = open_library(folder, "kv_mvcenc");
-    const int filled = find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults) &&
-                       defaults(settings, 0, preset, 0) == 0;
-    if (encoder)
-        dlclose(encoder);
+    if (encoder == NULL)
+        return 0;
+    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults)) {
+        filled = defaults(settings, 0, preset, 0) == 0;
+        if (!filled)
+            fprintf(stderr, "xcb-host: the encoder has no defaults for preset %d\n", (int)preset);
+    }
+    dlclose(encoder);
     return filled;
 }
 
@@ -231,6 +240,7 @@ static int run(Host* host)
     host->server = xcb_connect(NULL, &screen_number);
     if (xcb_connection_has_error(host->server)) {
         fprintf(stderr, "xcb-host: no X display\n");
+        xcb_disconnect(host->server);
         return 2;
     }
     screens = xcb_setup_roots_iterator(xcb_get_setup(host->server));
@@ -263,9 +273,10 @@ int main(int argc, char** argv)
                             &host.settings))
         return 2;
     module = open_library(argv[1], "kv_config_gui_mvc");
+    if (module == NULL)
+        return 2;
     if (find_function(module, "showMVCEncoderPages", &host.show_pages))
         status = run(&host);
-    if (module)
-        dlclose(module);
+    dlclose(module);
     return status;
 }

@@ -49,10 +49,11 @@ private Q_SLOTS:
     void errors_data();
     void errors();
     void hostThatLinksTheModule();
+    void exampleForX11IsBuilt();
 
 private:
-    /// Builds a project against the installed module. @return Its program; empty when that failed.
-    QString build(const char* project, const char* directory) const;
+    /// Builds a project against the installed module, in a directory of the test's.
+    bool build(const char* project, const char* directory) const;
     /// Runs the example while a script is played on its dialog.
     Result play(const QStringList& arguments, const QByteArray& script) const;
     QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
@@ -69,11 +70,11 @@ void TestCHost::initTestCase()
                                        QStringLiteral("--prefix"), path("installed")});
     QVERIFY2(installed.exitCode == 0, qPrintable(installed.output + installed.error));
     m_folder = path("installed/bin");
-    m_program = build(KV_C_HOST_SOURCE, "build");
-    QVERIFY(!m_program.isEmpty());
+    QVERIFY(build(KV_EXAMPLES "/c-host", "build"));
+    m_program = path("build/kv-c-host");
 }
 
-QString TestCHost::build(const char* project, const char* directory) const
+bool TestCHost::build(const char* project, const char* directory) const
 {
     const QStringList configure = {QStringLiteral("-S"),
                                    QLatin1String(project),
@@ -89,10 +90,10 @@ QString TestCHost::build(const char* project, const char* directory) const
         const Result result = run(QStringLiteral(KV_CMAKE), arguments);
         if (result.exitCode != 0) {
             qWarning("%s", qPrintable(result.output + result.error));
-            return {};
+            return false;
         }
     }
-    return path(directory) + QStringLiteral("/kv-c-host");
+    return true;
 }
 
 Result TestCHost::play(const QStringList& arguments, const QByteArray& script) const
@@ -170,12 +171,19 @@ void TestCHost::errors()
 
 void TestCHost::hostThatLinksTheModule()
 {
-    const QString program = build(KV_LINKED_HOST_SOURCE, "linked");
-    QVERIFY(!program.isEmpty());
-    const Result result = run(program, {});
+    QVERIFY(build(KV_LINKED_HOST_SOURCE, "linked"));
+    const Result result = run(path("linked/kv-linked-host"), {});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.output, QStringLiteral("1\n"));
     QCOMPARE(result.exitCode, 0);
+}
+
+void TestCHost::exampleForX11IsBuilt()
+{
+    QVERIFY(build(KV_EXAMPLES "/xcb-host", "xcb"));
+    const Result result = run(path("xcb/xcb-host"), {});
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(result.error.startsWith(QLatin1String("usage: ")), qPrintable(result.error));
 }
 
 QTEST_MAIN(TestCHost)
