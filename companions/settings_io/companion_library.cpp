@@ -3,9 +3,9 @@
 #include <filesystem>
 
 #if defined(_WIN32)
-#include <system_error>
+#include "system_windows.h"
+
 #include <vector>
-#include <windows.h>
 #else
 #include <dlfcn.h>
 #endif
@@ -32,12 +32,14 @@ std::filesystem::path ownFolder()
 
 void* loadFile(const std::filesystem::path& file)
 {
-    return reinterpret_cast<void*>(LoadLibraryW(file.c_str()));
+    // What a library beside this one needs is looked for beside it, too.
+    const DWORD flags = file.is_absolute() ? LOAD_WITH_ALTERED_SEARCH_PATH : 0;
+    return reinterpret_cast<void*>(LoadLibraryExW(file.c_str(), nullptr, flags));
 }
 
 std::string loadReason()
 {
-    return std::system_category().message(static_cast<int>(GetLastError()));
+    return systemReason();
 }
 
 #else

@@ -1,6 +1,9 @@
 #include "file_store.h"
 #include "utf8.h"
 
+#include <stdexcept>
+#include <type_traits>
+
 namespace kv
 {
 namespace
@@ -8,28 +11,24 @@ namespace
 
 std::filesystem::path nativePath(std::string_view utf8)
 {
+    // Where names are not just bytes, others cannot be converted.
+    constexpr bool kAreBytes = std::is_same_v<std::filesystem::path::value_type, char>;
+    if (!kAreBytes && !isUtf8(utf8))
+        throw std::invalid_argument("the name is not valid UTF-8");
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
-/** A link that leads nowhere counts too: it can be written through. */
-bool isThere(const std::filesystem::path& file)
-{
-    std::error_code error;
-    return std::filesystem::exists(std::filesystem::symlink_status(file, error));
 }
 
 bool hasFolder(const std::filesystem::path& file)
 {
-    std::error_code error;
     const std::filesystem::path folder = file.parent_path();
-    return folder.empty() || std::filesystem::is_directory(folder, error);
+    return folder.empty() || isFolder(folder);
 }
 
 } // namespace
 
 std::filesystem::path meantFile(std::string_view name)
 {
-    const std::filesystem::path plain = nativePath(name);
+    std::filesystem::path plain = nativePath(name);
     const auto undone = undoLatin1(name);
     if (!undone)
         return plain;

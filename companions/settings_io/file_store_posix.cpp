@@ -184,6 +184,18 @@ std::string writeStream(const std::filesystem::path& file, std::string_view cont
 
 } // namespace
 
+bool isThere(const std::filesystem::path& file)
+{
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+}
+
+bool isFolder(const std::filesystem::path& file)
+{
+    std::error_code error;
+    return std::filesystem::is_directory(file, error);
+}
+
 std::string readFile(const std::filesystem::path& file, std::size_t largest, std::string& content)
 {
     const Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));

@@ -13,7 +13,13 @@
 #include <cstring>
 #include <functional>
 
-#include <unistd.h>
+#include <unistd.h> // MinGW has it, too
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <QFile>
+#endif
 
 namespace kvtest
 {
@@ -35,16 +41,29 @@ inline QByteArray standardErrorOf(const std::function<void()>& work)
     return file.readAll();
 }
 
+/** Whether the process has a library of this base name loaded. */
+inline bool isInProcess(const char* library)
+{
+#ifdef Q_OS_WIN
+    return GetModuleHandleA((QByteArray(library) + ".dll").constData()) != nullptr;
+#else
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return !maps.open(QIODevice::ReadOnly) || maps.readAll().contains(library);
+#endif
+}
+
 class SettingsLibrary
 {
 public:
+    /** The toolkit appends the system's suffix of libraries. */
     explicit SettingsLibrary(const QString& folder = qEnvironmentVariable("KV_BIN_DIR"))
-        : m_library(folder + QStringLiteral("/kv_mvc_settings_io.so"))
+        : m_library(folder + QStringLiteral("/kv_mvc_settings_io"))
     {
         const auto getApi =
             reinterpret_cast<KvMvcSettingsIoGetApi>(m_library.resolve(KV_MVC_SETTINGS_IO_GET_API));
         if (!getApi)
             return;
+        m_getApi = getApi;
         m_read = reinterpret_cast<KvMvcReadSettings>(getApi(KV_MVC_SETTINGS_IO_READER));
         m_write = reinterpret_cast<KvMvcWriteSettings>(getApi(KV_MVC_SETTINGS_IO_WRITER));
     }
@@ -54,6 +73,8 @@ public:
 
     bool isLoaded() const { return m_read && m_write; }
     QString loadError() const { return m_library.errorString(); }
+    /** The exported function itself. */
+    KvMvcSettingsIoGetApi getApi() const { return m_getApi; }
 
     /** The result; what is printed goes to `messages`. */
     int read(KvMvcSettings& settings, const QByteArray& path)
@@ -73,6 +94,7 @@ public:
 
 private:
     QLibrary m_library;
+    KvMvcSettingsIoGetApi m_getApi = nullptr;
     KvMvcReadSettings m_read = nullptr;
     KvMvcWriteSettings m_write = nullptr;
 };
