@@ -1,4 +1,5 @@
 // Settings files as text: every record comes back byte for byte, every error names its line.
+#include "RecordFields.h"
 #include "SettingsLibrary.h"
 
 #include <settings_text.h>
@@ -21,150 +22,80 @@ QByteArray inViewZero(const QByteArray& lines)
     return "[record]\n[view 0]\n" + lines;
 }
 
-struct Numbered {
-    const char* key;
-    int offset;
-};
-
-/** Whole-number fields of a view, by offset. */
-constexpr Numbered kViewNumbers[] = {
-    {"profile", 0},
-    {"level", 4},
-    {"i_interval", 8},
-    {"ref_distance", 12},
-    {"interlace_mode", 20},
-    {"width", 24},
-    {"height", 28},
-    {"num_ref_frames", 40},
-    {"motion_search", 44},
-    {"quant_i", 60},
-    {"quant_p", 64},
-    {"quant_b", 68},
-    {"bitrate_mode", 72},
-    {"bitrate_buffer", 76},
-    {"bitrate", 80},
-    {"max_bitrate", 84},
-    {"min_partition", 88},
-    {"entropy_mode", 92},
-    {"hadamard", 96},
-    {"pixel_aspect_x", 100},
-    {"pixel_aspect_y", 104},
-    {"vbv_initial", 124},
-    {"vbv_target", 128},
-    {"bitrate_units", 132},
-    {"frame_size_i", 160},
-    {"frame_size_p", 164},
-    {"frame_size_b", 168},
-    {"frame_size_bref", 172},
-    {"hrd_mode", 176},
-    {"deblocking", 256},
-    {"video_type", 1804},
-    {"pulldown", 1808},
-    {"bit_depth_luma", 2244},
-    {"bit_depth_chroma", 2248},
-    {"chroma_format", 2252},
-    {"scene_detection", 2836},
-    {"multi_slice", 2844},
-    {"num_slices", 2848},
-    {"reference_b", 2852},
-    {"pyramid_b", 2856},
-    {"subpixel_mode", 2868},
-    {"weighted_p", 2872},
-    {"fast_intra", 2880},
-    {"fast_inter", 2884},
-    {"display_aspect_x", 2888},
-    {"display_aspect_y", 2892},
-    {"num_threads", 2904},
-    {"quant_min", 2916},
-    {"quant_max", 2920},
-    {"force_i", 4100},
-    {"adaptive_b", 4104},
-    {"idr_marker", 4108},
-    {"field_order", 4112},
-    {"fixed_i_position", 4116},
-    {"fast_reference", 4316},
-    {"fast_subblock", 4320},
-    {"simple_rd", 5116},
-    {"brightness", 5492},
-    {"contrast", 5496},
-    {"complexity", 5500},
-};
-
 struct Named {
     const char* key;
-    int offset;
     const char* name;
     int value;
 };
 
 constexpr Named kNames[] = {
-    {"profile", 0, "baseline", 0},
-    {"profile", 0, "main", 1},
-    {"profile", 0, "high", 3},
-    {"profile", 0, "high 10", 4},
-    {"profile", 0, "high 4:2:2", 5},
-    {"level", 4, "1.0", 10},
-    {"level", 4, "1.1", 11},
-    {"level", 4, "1.2", 12},
-    {"level", 4, "1.3", 13},
-    {"level", 4, "1.6", 16},
-    {"level", 4, "2.0", 20},
-    {"level", 4, "2.1", 21},
-    {"level", 4, "2.2", 22},
-    {"level", 4, "3.0", 30},
-    {"level", 4, "3.1", 31},
-    {"level", 4, "3.2", 32},
-    {"level", 4, "4.0", 40},
-    {"level", 4, "4.1", 41},
-    {"level", 4, "4.2", 42},
-    {"level", 4, "5.0", 50},
-    {"level", 4, "5.1", 51},
-    {"level", 4, "5.2", 52},
-    {"level", 4, "auto", 100},
-    {"interlace_mode", 20, "progressive", 0},
-    {"interlace_mode", 20, "interlaced", 1},
-    {"interlace_mode", 20, "mbaff", 2},
-    {"field_order", 4112, "top field first", 0},
-    {"field_order", 4112, "bottom field first", 1},
-    {"bitrate_mode", 72, "constant bitrate", 0},
-    {"bitrate_mode", 72, "constant quantizer", 1},
-    {"bitrate_mode", 72, "variable bitrate", 2},
-    {"bitrate_mode", 72, "average quantizer", 3},
-    {"bitrate_units", 132, "bytes and percent", 0},
-    {"bitrate_units", 132, "bits", 1},
-    {"bitrate_units", 132, "bits and 90 kHz", 2},
-    {"min_partition", 88, "16x16", 0},
-    {"min_partition", 88, "8x8", 1},
-    {"subpixel_mode", 2868, "full", 0},
-    {"subpixel_mode", 2868, "half", 1},
-    {"subpixel_mode", 2868, "quarter", 2},
-    {"entropy_mode", 92, "cavlc", 0},
-    {"entropy_mode", 92, "cabac", 1},
-    {"video_type", 1804, "none", 0},
-    {"video_type", 1804, "multiview high", 1},
-    {"video_type", 1804, "stereo high", 2},
-    {"video_type", 1804, "blu-ray 3d", 3},
-    {"pulldown", 1808, "off", 0},
-    {"pulldown", 1808, "2:3", 1},
-    {"pulldown", 1808, "3:2", 2},
-    {"pulldown", 1808, "2:3 progressive", 4},
-    {"pulldown", 1808, "3:2 progressive", 5},
-    {"pulldown", 1808, "auto", 6},
-    {"pulldown", 1808, "2:2", 7},
-    {"pulldown", 1808, "3:3", 8},
-    {"chroma_format", 2252, "4:0:0", 1},
-    {"chroma_format", 2252, "4:2:0", 2},
-    {"chroma_format", 2252, "4:2:2", 3},
-    {"pixel_aspect_x", 100, "from display", -1},
-    {"pixel_aspect_y", 104, "from display", -1},
-    {"display_aspect_x", 2888, "custom", -1},
-    {"display_aspect_y", 2892, "custom", -1},
-    {"hrd_mode", 176, "off", 0},
-    {"hrd_mode", 176, "on", 1},
-    {"deblocking", 256, "on", 1},
-    {"scene_detection", 2836, "on", 1},
-    {"multi_slice", 2844, "on", 1},
-    {"hadamard", 96, "on", 1},
+    {"profile", "baseline", 0},
+    {"profile", "main", 1},
+    {"profile", "high", 3},
+    {"profile", "high 10", 4},
+    {"profile", "high 4:2:2", 5},
+    {"level", "1.0", 10},
+    {"level", "1.1", 11},
+    {"level", "1.2", 12},
+    {"level", "1.3", 13},
+    {"level", "1.6", 16},
+    {"level", "2.0", 20},
+    {"level", "2.1", 21},
+    {"level", "2.2", 22},
+    {"level", "3.0", 30},
+    {"level", "3.1", 31},
+    {"level", "3.2", 32},
+    {"level", "4.0", 40},
+    {"level", "4.1", 41},
+    {"level", "4.2", 42},
+    {"level", "5.0", 50},
+    {"level", "5.1", 51},
+    {"level", "5.2", 52},
+    {"level", "auto", 100},
+    {"interlace_mode", "progressive", 0},
+    {"interlace_mode", "interlaced", 1},
+    {"interlace_mode", "mbaff", 2},
+    {"field_order", "top field first", 0},
+    {"field_order", "bottom field first", 1},
+    {"bitrate_mode", "constant bitrate", 0},
+    {"bitrate_mode", "constant quantizer", 1},
+    {"bitrate_mode", "variable bitrate", 2},
+    {"bitrate_mode", "average quantizer", 3},
+    {"bitrate_units", "bytes and percent", 0},
+    {"bitrate_units", "bits", 1},
+    {"bitrate_units", "bits and 90 kHz", 2},
+    {"min_partition", "16x16", 0},
+    {"min_partition", "8x8", 1},
+    {"subpixel_mode", "full", 0},
+    {"subpixel_mode", "half", 1},
+    {"subpixel_mode", "quarter", 2},
+    {"entropy_mode", "cavlc", 0},
+    {"entropy_mode", "cabac", 1},
+    {"video_type", "none", 0},
+    {"video_type", "multiview high", 1},
+    {"video_type", "stereo high", 2},
+    {"video_type", "blu-ray 3d", 3},
+    {"pulldown", "off", 0},
+    {"pulldown", "2:3", 1},
+    {"pulldown", "3:2", 2},
+    {"pulldown", "2:3 progressive", 4},
+    {"pulldown", "3:2 progressive", 5},
+    {"pulldown", "auto", 6},
+    {"pulldown", "2:2", 7},
+    {"pulldown", "3:3", 8},
+    {"chroma_format", "4:0:0", 1},
+    {"chroma_format", "4:2:0", 2},
+    {"chroma_format", "4:2:2", 3},
+    {"pixel_aspect_x", "from display", -1},
+    {"pixel_aspect_y", "from display", -1},
+    {"display_aspect_x", "custom", -1},
+    {"display_aspect_y", "custom", -1},
+    {"hrd_mode", "off", 0},
+    {"hrd_mode", "on", 1},
+    {"deblocking", "on", 1},
+    {"scene_detection", "on", 1},
+    {"multi_slice", "on", 1},
+    {"hadamard", "on", 1},
 };
 
 int32_t numberAt(const KvMvcSettings& settings, std::size_t offset)
@@ -251,8 +182,8 @@ void TestSettingsText::numbersGoToTheirOffset_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<int>("offset");
-    for (const Numbered& row : kViewNumbers)
-        QTest::newRow(row.key) << QByteArray(row.key) << row.offset;
+    for (const RecordField& field : viewFields)
+        QTest::newRow(field.name) << QByteArray(field.name) << static_cast<int>(field.offset);
 }
 
 void TestSettingsText::numbersGoToTheirOffset()
@@ -284,22 +215,20 @@ void TestSettingsText::viewsAndRecordAreApart()
 void TestSettingsText::namesStandForTheirCodes_data()
 {
     QTest::addColumn<QByteArray>("key");
-    QTest::addColumn<int>("offset");
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("value");
     for (const Named& row : kNames)
         QTest::addRow("%s = %s", row.key, row.name)
-            << QByteArray(row.key) << row.offset << QByteArray(row.name) << row.value;
+            << QByteArray(row.key) << QByteArray(row.name) << row.value;
 }
 
 void TestSettingsText::namesStandForTheirCodes()
 {
     QFETCH(QByteArray, key);
-    QFETCH(int, offset);
     QFETCH(QByteArray, name);
     QFETCH(int, value);
     KvMvcSettings expected{};
-    std::memcpy(reinterpret_cast<char*>(&expected) + 256 + offset, &value, sizeof value);
+    setField(expected, 0, fieldOffset(QString::fromLatin1(key)), value);
     QVERIFY(same(readLine(key + " = " + name), expected));
     QVERIFY(same(readLine(key + "=" + name.toUpper()), expected));
     QVERIFY(same(readLine(key + " = " + QByteArray::number(value)), expected));
