@@ -22,7 +22,7 @@ struct Control {
     QVariant absent;
 };
 
-/// Every control that has a key, written down from the dialog's description.
+/// Every control that has a key, written down here a second time, independently of the pages.
 const QVector<Control>& controls();
 
 /// "VideoFormatPage.widthSpin"

@@ -73,6 +73,17 @@ Properties check(const char* text)
     return {{"text", QString::fromLatin1(text)}, {"checked", false}, {"enabled", true}};
 }
 
+Properties policy(QSizePolicy::Policy horizontally, QSizePolicy::Policy vertically)
+{
+    return {{"horizontalPolicy", int(horizontally)}, {"verticalPolicy", int(vertically)}};
+}
+
+const Properties fixed = policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+// The frames that the tool boxes stand in.
+const Properties collection = policy(QSizePolicy::Expanding, QSizePolicy::Expanding) +
+                              Properties{{"frameShape", int(QFrame::NoFrame)}};
+const Properties raised = {{"frameShadow", int(QFrame::Raised)}};
+
 const char* const spinBox = "QSpinBox";
 const char* const comboBox = "QComboBox";
 const char* const checkBox = "QCheckBox";
@@ -142,7 +153,8 @@ QVector<Built> advancedPages()
         Properties{{"text", QStringLiteral("TextLabel")}} + aligned(Qt::AlignRight);
     return {
         {advanced, "profileList", comboBox, width(120, 2000000, 2000000)},
-        {advanced, "levelList", comboBox, width(120, 200000, 200000)},
+        {advanced, "levelList", comboBox, width(120, 200000, 200000) + fixed},
+        {advanced, "collectionFrame", "QFrame", collection + raised},
 
         {gop, "sceneDetectCheck", checkBox, check("Enable scene detection")},
         {gop, "iFrameIntervalSpin", spinBox,
@@ -200,6 +212,8 @@ QVector<Built> viewsPages()
         {views, "splitCheck", checkBox, check("Split views")},
         {"BasicPage", "deviceList", comboBox,
          width(250, 2000000, 2000000) + Properties{{"count", 0}}},
+        {"BasicPage", "collectionFrame", "QFrame", collection + raised},
+        {views, "collectionFrame", "QFrame", collection},
     };
     const Properties spin = tracking(false) + aligned(Qt::AlignRight) + width(140, 140);
     const Properties rate = range(0, largest, 10000, 6000) + spin + noButtons;
@@ -247,6 +261,10 @@ QVariant propertyOf(const QWidget* widget, const QByteArray& name)
     if (name == "horizontalAlignment")
         return widget->property("alignment").toInt() & int(Qt::AlignHorizontal_Mask) &
                ~int(Qt::AlignAbsolute);
+    if (name == "horizontalPolicy")
+        return int(widget->sizePolicy().horizontalPolicy());
+    if (name == "verticalPolicy")
+        return int(widget->sizePolicy().verticalPolicy());
     return widget->property(name.constData());
 }
 

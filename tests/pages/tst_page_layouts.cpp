@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QTest>
 
+#include <iterator>
+
 /// Where the controls stand: cells of the grids, order in the rows, and the pages' titles.
 class PageLayoutsTest : public QObject
 {
@@ -19,6 +21,8 @@ private Q_SLOTS:
     void pageHasTitle();
     void widgetStandsInCell_data();
     void widgetStandsInCell();
+    void spacerHasSize_data();
+    void spacerHasSize();
     void layoutHoldsInOrder_data();
     void layoutHoldsInOrder();
     void groupBoxWithoutTitle_data();
@@ -155,7 +159,95 @@ const Cell cells[] = {
     {views, "gridLayout", "splitCheck", 1, 0, 2},
 };
 
+// On each of the four view pages.
+const Cell viewCells[] = {
+    {"", "gridLayout_2", "brModeLabel", 0, 0},
+    {"", "gridLayout_2", "bitrateModeList", 0, 1, 2},
+    {"", "gridLayout_2", "targetRateLabel", 1, 0, 2},
+    {"", "gridLayout_2", "targetRateSpin", 1, 2},
+    {"", "gridLayout_2", "maxRateLabel", 2, 0, 2},
+    {"", "gridLayout_2", "maxRateSpin", 2, 2},
+    {"", "gridLayout_2", "groupBoxBuffers", 3, 0, 3},
+    {"", "gridLayout_2", "hrdCheck", 4, 0, 3},
+    {"", "gridLayout_2", "line_2", 5, 0, 3},
+    {"", "gridLayout_2", "iSizeLabel", 6, 0, 2},
+    {"", "gridLayout_2", "iSizeSpin", 6, 2},
+    {"", "gridLayout_2", "pSizeLabel", 7, 0, 2},
+    {"", "gridLayout_2", "pSizeSpin", 7, 2},
+    {"", "gridLayout_2", "bSizeLabel", 8, 0, 2},
+    {"", "gridLayout_2", "bSizeSpin", 8, 2},
+    {"", "gridLayout_2", "brSizeLabel", 9, 0, 2},
+    {"", "gridLayout_2", "brSizeSpin", 9, 2},
+    {"", "gridLayout_2", "line_3", 10, 0, 3},
+    {"", "gridLayout_2", "quantILabel", 11, 0, 2},
+    {"", "gridLayout_2", "quantISpin", 11, 2},
+    {"", "gridLayout_2", "quantPLabel", 12, 0, 2},
+    {"", "gridLayout_2", "quantPSpin", 12, 2},
+    {"", "gridLayout_2", "quantBLabel", 13, 0, 2},
+    {"", "gridLayout_2", "quantBSpin", 13, 2},
+    {"", "gridLayout_2", "maxQuantLabel", 14, 0, 2},
+    {"", "gridLayout_2", "maxQuantSpin", 14, 2},
+    {"", "gridLayout_2", "minQuantLabel", 15, 0, 2},
+    {"", "gridLayout_2", "minQuantSpin", 15, 2},
+    {"", "gridLayout_2", "(vertical spacer)", 16, 1},
+
+    {"", "gridLayout", "groupBox", 0, 0, 2},
+    {"", "gridLayout", "bitrateBufferLabel", 1, 0},
+    {"", "gridLayout", "bitrateBufferSpin", 1, 1},
+    {"", "gridLayout", "vbvInitialLabel", 2, 0},
+    {"", "gridLayout", "vbvInitialSpin", 2, 1},
+    {"", "gridLayout", "vbvTargetLabel", 3, 0},
+    {"", "gridLayout", "vbvTargetSpin", 3, 1},
+    {"", "gridLayout", "onesecCheck", 4, 0, 2},
+};
+
+const char* const viewPages[] = {"View0Page", "View1Page", "View2Page", "View3Page"};
+
+QVector<Cell> allCells()
+{
+    QVector<Cell> all(std::begin(cells), std::end(cells));
+    for (const char* page : viewPages) {
+        for (Cell cell : viewCells) {
+            cell.page = page;
+            all.append(cell);
+        }
+    }
+    return all;
+}
+
+/// A spacer in a cell of a grid, or at the end of a row or column of items.
+struct Spacer {
+    const char* page;
+    const char* layout;
+    int row;
+    int column;
+    Qt::Orientation direction;
+    int width;
+    int height;
+};
+
+constexpr int end = -1;
+
+const Spacer spacers[] = {
+    {gop, "vboxLayout", end, end, Qt::Vertical, 20, 40},
+    {gop, "hboxLayout", end, end, Qt::Horizontal, 40, 20},
+    {"RateDistortionPage", "vboxLayout", end, end, Qt::Vertical, 20, 40},
+    {misc, "vboxLayout", end, end, Qt::Vertical, 20, 40},
+    {views, "gridLayout", 0, 2, Qt::Horizontal, 153, 20},
+    {views, "gridLayout", 1, 2, Qt::Horizontal, 40, 20},
+};
+
+QLayoutItem* itemAt(QLayout* layout, int row, int column)
+{
+    if (auto* const grid = qobject_cast<QGridLayout*>(layout))
+        return grid->itemAtPosition(row, column);
+    return layout->itemAt(layout->count() - 1);
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Cell)
+Q_DECLARE_METATYPE(Spacer)
 
 void PageLayoutsTest::pageHasTitle_data()
 {
@@ -193,18 +285,17 @@ void PageLayoutsTest::pageHasTitle()
 
 void PageLayoutsTest::widgetStandsInCell_data()
 {
-    QTest::addColumn<int>("index");
-    int index = 0;
-    for (const Cell& cell : cells)
+    QTest::addColumn<Cell>("cell");
+    const QVector<Cell> all = allCells();
+    for (const Cell& cell : all)
         QTest::newRow(qPrintable(
             QStringLiteral("%1.%2").arg(QLatin1String(cell.page), QLatin1String(cell.widget))))
-            << index++;
+            << cell;
 }
 
 void PageLayoutsTest::widgetStandsInCell()
 {
-    QFETCH(int, index);
-    const Cell& cell = cells[index];
+    QFETCH(Cell, cell);
     AllPages pages;
     const auto* const grid = qobject_cast<QGridLayout*>(
         findLayout(pages.window(), QLatin1String(cell.page), QLatin1String(cell.grid)));
@@ -220,6 +311,27 @@ void PageLayoutsTest::widgetStandsInCell()
     QCOMPARE(column, cell.column);
     QCOMPARE(rows, 1);
     QCOMPARE(columns, cell.columns);
+}
+
+void PageLayoutsTest::spacerHasSize_data()
+{
+    QTest::addColumn<Spacer>("spacer");
+    for (const Spacer& spacer : spacers)
+        QTest::addRow("%s.%s %dx%d", spacer.page, spacer.layout, spacer.width, spacer.height)
+            << spacer;
+}
+
+void PageLayoutsTest::spacerHasSize()
+{
+    QFETCH(Spacer, spacer);
+    AllPages pages;
+    QLayout* const layout =
+        findLayout(pages.window(), QLatin1String(spacer.page), QLatin1String(spacer.layout));
+    QVERIFY(layout);
+    QLayoutItem* const item = itemAt(layout, spacer.row, spacer.column);
+    QVERIFY(item && item->spacerItem());
+    QCOMPARE(item->sizeHint(), QSize(spacer.width, spacer.height));
+    QCOMPARE(item->expandingDirections(), Qt::Orientations(spacer.direction));
 }
 
 void PageLayoutsTest::layoutHoldsInOrder_data()
@@ -264,7 +376,7 @@ void PageLayoutsTest::layoutHoldsInOrder_data()
     row(distortion, "vboxLayout7", lines({"complexitySlider"}));
     row(distortion, "hboxLayout5", lines({"complexityLabel"}));
 
-    for (const char* view : {"View0Page", "View1Page", "View2Page", "View3Page"})
+    for (const char* view : viewPages) {
         row(view, "gridLayout_2",
             lines({"brModeLabel",
                    "bitrateModeList",
@@ -295,6 +407,11 @@ void PageLayoutsTest::layoutHoldsInOrder_data()
                    "minQuantLabel",
                    "minQuantSpin",
                    below}));
+        row(view, "gridLayout",
+            lines({"groupBox", "bitrateBufferLabel", "bitrateBufferSpin", "vbvInitialLabel",
+                   "vbvInitialSpin", "vbvTargetLabel", "vbvTargetSpin", "onesecCheck"}));
+        row(view, "vboxLayout", lines({"units1Radio", "units2Radio", "units3Radio"}));
+    }
 }
 
 void PageLayoutsTest::layoutHoldsInOrder()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void anyNumberOfSectionsMayBeOpen();
     void arrowShowsTheState();
     void iconFilesAreTheCallers();
+    void sectionPointsDownWhenOpenAndRightWhenClosed();
     void titleIsBoldWhilePagesLabelsAreNormal();
     void gridClosesUpOverACollapsedPage();
     void areaScrollsWhenSectionsAreTallerThanTheBox();
@@ -89,6 +90,23 @@ private:
 void click(QToolButton* button)
 {
     QTest::mouseClick(button, Qt::LeftButton);
+}
+
+QImage comparable(const QPixmap& pixmap)
+{
+    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage picture(const QString& path)
+{
+    return comparable(QPixmap(path));
+}
+
+/// What the button's icon shows in the button's state.
+QImage arrow(const QToolButton* button)
+{
+    return comparable(button->icon().pixmap(QPixmap(down).size(), QIcon::Normal,
+                                            button->isChecked() ? QIcon::On : QIcon::Off));
 }
 
 } // namespace
@@ -189,30 +207,35 @@ void ToolBoxTest::anyNumberOfSectionsMayBeOpen()
 void ToolBoxTest::arrowShowsTheState()
 {
     ThreeSections sections;
-    const QIcon icon = sections.buttons[0]->icon();
-    const QSize size = QPixmap(down).size();
-    QVERIFY(!size.isEmpty());
-    const QImage on = icon.pixmap(size, QIcon::Normal, QIcon::On).toImage();
-    const QImage off = icon.pixmap(size, QIcon::Normal, QIcon::Off).toImage();
-    const auto comparable = [](const QImage& image) {
-        return image.convertToFormat(QImage::Format_ARGB32);
-    };
-    QCOMPARE(comparable(on), comparable(QPixmap(down).toImage()));
-    QCOMPARE(comparable(off), comparable(QPixmap(right).toImage()));
-    QVERIFY(comparable(on) != comparable(off));
+    QVERIFY(!picture(down).isNull());
+    QVERIFY(picture(down) != picture(right));
+    QVERIFY(sections.show(600));
+    QCOMPARE(arrow(sections.buttons[0]), picture(down));
+    click(sections.buttons[0]);
+    QCOMPARE(arrow(sections.buttons[0]), picture(right));
+    QCOMPARE(arrow(sections.buttons[1]), picture(down));
 }
 
 void ToolBoxTest::iconFilesAreTheCallers()
 {
     ToolBox box;
     box.addSection(new QFrame, QStringLiteral("Swapped"), right, down);
-    const auto* const button = box.findChild<QToolButton*>();
-    const QSize size = QPixmap(down).size();
-    QCOMPARE(button->icon()
-                 .pixmap(size, QIcon::Normal, QIcon::On)
-                 .toImage()
-                 .convertToFormat(QImage::Format_ARGB32),
-             QPixmap(right).toImage().convertToFormat(QImage::Format_ARGB32));
+    QCOMPARE(arrow(box.findChild<QToolButton*>()), picture(right));
+}
+
+void ToolBoxTest::sectionPointsDownWhenOpenAndRightWhenClosed()
+{
+    ToolBox box;
+    auto* const page = new QFrame;
+    box.addSection(page, QStringLiteral("With the dialog's arrows"));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    auto* const button = box.findChild<QToolButton*>();
+    QVERIFY(page->isVisible());
+    QCOMPARE(arrow(button), picture(down));
+    click(button);
+    QVERIFY(!page->isVisible());
+    QCOMPARE(arrow(button), picture(right));
 }
 
 void ToolBoxTest::titleIsBoldWhilePagesLabelsAreNormal()

@@ -272,12 +272,14 @@ void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize_data()
     QTest::addColumn<bool>("width");
     QTest::addColumn<bool>("height");
     QTest::addColumn<bool>("ratio");
+    QTest::addColumn<bool>("page");
     QTest::addColumn<bool>("enabled");
-    QTest::newRow("both sizes free") << true << true << true << true;
-    QTest::newRow("both sizes free, ratio locked") << true << true << false << true;
-    QTest::newRow("width locked") << false << true << true << false;
-    QTest::newRow("height locked") << true << false << true << false;
-    QTest::newRow("both locked") << false << false << true << false;
+    QTest::newRow("both sizes free") << true << true << true << true << true;
+    QTest::newRow("both sizes free, ratio locked") << true << true << false << true << true;
+    QTest::newRow("both sizes free, page locked") << true << true << true << false << true;
+    QTest::newRow("width locked") << false << true << true << true << false;
+    QTest::newRow("height locked") << true << false << true << true << false;
+    QTest::newRow("both locked") << false << false << true << true << false;
 }
 
 void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize()
@@ -285,15 +287,19 @@ void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize()
     QFETCH(bool, width);
     QFETCH(bool, height);
     QFETCH(bool, ratio);
+    QFETCH(bool, page);
     QFETCH(bool, enabled);
-    OpenPage page("4:3", false);
+    OpenPage open("4:3", false);
     ConfigState state;
     state.insert(QStringLiteral("Horizontal Size"), 720, width);
     state.insert(QStringLiteral("Vertical Size"), 576, height);
     state.insert(QStringLiteral("Picture Aspect Ratio"), QStringLiteral("4:3"), ratio);
-    page.page.receiveState(state);
-    QCOMPARE(page.keepRatio()->isEnabled(), enabled);
-    QCOMPARE(page.ratio()->isEnabled(), enabled);
+    open.page.setEnabled(page);
+    open.page.receiveState(state);
+    // A lock of the whole page is none of the sizes'.
+    open.page.setEnabled(true);
+    QCOMPARE(open.keepRatio()->isEnabled(), enabled);
+    QCOMPARE(open.ratio()->isEnabled(), enabled);
 }
 
 void VideoFormatPageTest::listsAreEmptyUntilFilled()

@@ -7,7 +7,6 @@
 #include "pages/View2Page.h"
 #include "pages/View3Page.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -15,6 +14,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /// Rate control of one view. Every test runs on each of the four pages, which differ in the suffix
@@ -23,11 +23,9 @@ class ViewPageTest : public QObject
 {
     Q_OBJECT
 
-public:
-    explicit ViewPageTest(int view) : m_view(view) {}
-
 private Q_SLOTS:
-    void init() { failOnToolkitWarnings(); }
+    void initTestCase_data();
+    void init();
 
     void targetAboveMaximumRaisesIt();
     void targetUpToMaximumLeavesIt();
@@ -38,6 +36,8 @@ private Q_SLOTS:
     void oneSecondBoxSetsTheBuffer_data();
     void oneSecondBoxSetsTheBuffer();
     void oneSecondBoxDisablesTheBuffer();
+    void bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data();
+    void bufferStaysDisabledWhileTheOneSecondBoxSetsIt();
     void targetWithOneSecondBoxSetsTheBuffer();
     void maximumBelowTargetWithOneSecondBoxSetsTheBuffer();
     void maximumAboveTargetWithOneSecondBoxLeavesTheBuffer();
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
 private:
     QStringList keyed(std::initializer_list<const char*> states) const;
-    const int m_view;
+    int m_view = 0;
 };
 
 namespace
@@ -153,7 +153,29 @@ private:
     const int m_view;
 };
 
+/// What a user does on the page.
+using Edit = std::function<void(const OpenPage&)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Edit)
+
+// The rows of every test.
+void ViewPageTest::initTestCase_data()
+{
+    QTest::addColumn<int>("view");
+    QTest::newRow("View0Page") << 0;
+    QTest::newRow("View1Page") << 1;
+    QTest::newRow("View2Page") << 2;
+    QTest::newRow("View3Page") << 3;
+}
+
+void ViewPageTest::init()
+{
+    failOnToolkitWarnings();
+    QFETCH_GLOBAL(int, view);
+    m_view = view;
+}
 
 /// Puts the suffix behind the keys: "HRD=1" to "HRD V2=1". The empty key has none.
 QStringList ViewPageTest::keyed(std::initializer_list<const char*> states) const
@@ -252,7 +274,8 @@ void ViewPageTest::oneSecondBoxDisablesTheBuffer()
     OpenPage page(m_view);
     QVERIFY(page.spin("bitrateBufferSpin")->isEnabled());
     user::click(page.oneSecond());
-    // The state comes back, as from the dialog.
+    // At once, and when the state comes back as from the dialog.
+    QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
     page.receive();
     QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
     page.spy.take();
@@ -260,6 +283,30 @@ void ViewPageTest::oneSecondBoxDisablesTheBuffer()
     QVERIFY(page.spin("bitrateBufferSpin")->isEnabled());
     // The rate travels under the empty key, which no setting has.
     QCOMPARE(page.spy.take(), lines({"=4000"}));
+}
+
+void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data()
+{
+    QTest::addColumn<Edit>("edit");
+    const auto row = [](const char* name, const Edit& edit) { QTest::newRow(name) << edit; };
+    row("target", [](const OpenPage& page) {
+        user::type(page.spin("targetRateSpin"), QStringLiteral("4500"));
+    });
+    row("maximum below target",
+        [](const OpenPage& page) { user::type(page.spin("maxRateSpin"), QStringLiteral("3000")); });
+    row("units", [](const OpenPage& page) { user::click(page.units(Bytes)); });
+}
+
+// Each of these edits writes the buffer before any state returns.
+void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt()
+{
+    QFETCH(Edit, edit);
+    OpenPage page(m_view);
+    user::click(page.oneSecond());
+    const int before = page.spin("bitrateBufferSpin")->value();
+    edit(page);
+    QVERIFY(page.spin("bitrateBufferSpin")->value() != before);
+    QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
 }
 
 void ViewPageTest::targetWithOneSecondBoxSetsTheBuffer()
@@ -624,14 +671,5 @@ void ViewPageTest::fillingTheModesTwiceKeepsTheItemsOnce()
     QCOMPARE(page->findChild<QComboBox*>()->count(), 4);
 }
 
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    int failures = 0;
-    for (int view = 0; view < 4; ++view) {
-        ViewPageTest test(view);
-        failures += QTest::qExec(&test, argc, argv);
-    }
-    return failures;
-}
+QTEST_MAIN(ViewPageTest)
 #include "tst_view_page.moc"
