@@ -15,7 +15,8 @@
 namespace
 {
 
-/// A window of the host with a field of its own, active and with the focus in that field.
+/// A window of the host with a field of its own, active and with the focus in that field, from
+/// which Tab and Shift+Tab go to the next window, as in hosts that look after their own controls.
 class HostWindow
 {
 public:
@@ -25,6 +26,8 @@ public:
                                  500, 400, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
         m_field = CreateWindowW(L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, 10, 300, 24,
                                 m_window, nullptr, GetModuleHandleW(nullptr), nullptr);
+        s_fieldProcedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+            m_field, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&HostWindow::fieldProcedure)));
         SetForegroundWindow(m_window);
         SetFocus(m_field);
     }
@@ -34,8 +37,22 @@ public:
 
     HWND window() const { return m_window; }
     HWND field() const { return m_field; }
+    void setNextWindow(HWND next) const
+    {
+        SetWindowLongPtrW(m_field, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(next));
+    }
 
 private:
+    static LRESULT CALLBACK fieldProcedure(HWND field, UINT message, WPARAM wide, LPARAM large)
+    {
+        if (message == WM_KEYDOWN && wide == VK_TAB) {
+            SetFocus(reinterpret_cast<HWND>(GetWindowLongPtrW(field, GWLP_USERDATA)));
+            return 0;
+        }
+        return CallWindowProcW(s_fieldProcedure, field, message, wide, large);
+    }
+
+    inline static WNDPROC s_fieldProcedure = nullptr;
     HWND m_window;
     HWND m_field;
 };
@@ -50,6 +67,7 @@ struct Embedded {
             layout->addWidget(field);
         widget.setGeometry(10, 50, 300, 200);
         widget.show();
+        host.setNextWindow(window());
         QCoreApplication::processEvents();
     }
     HWND window() const { return reinterpret_cast<HWND>(widget.winId()); }
@@ -68,8 +86,8 @@ void key(WORD code, bool down)
     input.ki.wVk = code;
     input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
     SendInput(1, &input, sizeof input);
-    // Until this thread has it, so that the key's state is known here, too.
-    QTest::qWait(50);
+    // Until this thread has dealt with it.
+    (void)QTest::qWaitFor([code, down] { return (GetKeyState(code) < 0) == down; });
 }
 
 void press(WORD code)
@@ -85,6 +103,7 @@ class TestWin32Embedding : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void nativeWindow();
     void tabEntersAtTheFirstField();
     void shiftTabEntersAtTheLastField();
@@ -93,6 +112,12 @@ private Q_SLOTS:
     void dialogStartsInItsFirstField_data();
     void dialogStartsInItsFirstField();
 };
+
+void TestWin32Embedding::cleanup()
+{
+    // Also when a test ended before it did so.
+    key(VK_SHIFT, false);
+}
 
 void TestWin32Embedding::nativeWindow()
 {
@@ -108,7 +133,8 @@ void TestWin32Embedding::tabEntersAtTheFirstField()
 {
     const HostWindow host;
     const Embedded embedded(host);
-    SetFocus(embedded.window());
+    QCOMPARE(GetFocus(), host.field());
+    press(VK_TAB);
     QTRY_COMPARE(QApplication::focusWidget(), embedded.first);
     press('A');
     QTRY_COMPARE(embedded.first->text(), QStringLiteral("a"));
@@ -118,10 +144,10 @@ void TestWin32Embedding::shiftTabEntersAtTheLastField()
 {
     const HostWindow host;
     const Embedded embedded(host);
+    QCOMPARE(GetFocus(), host.field());
     key(VK_SHIFT, true);
-    SetFocus(embedded.window());
+    press(VK_TAB);
     QTRY_COMPARE(QApplication::focusWidget(), embedded.third);
-    key(VK_SHIFT, false);
 }
 
 void TestWin32Embedding::tabLeavesBehindTheLastField()
@@ -152,7 +178,6 @@ void TestWin32Embedding::shiftTabLeavesBeforeTheFirstField()
     QTRY_COMPARE(QApplication::focusWidget(), embedded.first);
     press(VK_TAB);
     QTRY_COMPARE(GetFocus(), host.window());
-    key(VK_SHIFT, false);
 }
 
 void TestWin32Embedding::dialogStartsInItsFirstField_data()
@@ -174,13 +199,13 @@ void TestWin32Embedding::dialogStartsInItsFirstField()
     layout->addWidget(new QLineEdit);
     if (activatedBefore)
         QApplication::setActiveWindow(&dialog);
-    QWidget* focused = nullptr;
-    QTimer::singleShot(500, &dialog, [&] {
-        focused = QApplication::focusWidget();
+    bool focused = false;
+    QTimer::singleShot(0, &dialog, [&] {
+        focused = QTest::qWaitFor([&] { return QApplication::focusWidget() == first; });
         dialog.reject();
     });
     dialog.exec();
-    QCOMPARE(focused, first);
+    QVERIFY(focused);
 }
 
 QTEST_MAIN(TestWin32Embedding)
