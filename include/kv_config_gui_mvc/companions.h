@@ -48,7 +48,11 @@ extern "C" {
 typedef int32_t (*KvMvcDefaults)(KvMvcSettings* settings, int32_t reserved1, int32_t preset,
                                  int32_t reserved2);
 
-/** A message sink: printf's arguments, one message a call, no line feed at its end. */
+/**
+ * A message sink: printf's arguments, one message a call, no line feed at its end. The text is
+ * UTF-8, or Latin-1 where it is no valid UTF-8. A call may show a message box, and so handle
+ * events of the thread, before it returns.
+ */
 typedef int (*KvMvcPrintf)(const char* format, ...);
 
 /** What a lookup yields, to be cast to the function's own type. */
@@ -62,10 +66,13 @@ typedef void (*KvMvcFunction)(void);
  */
 typedef KvMvcFunction (*KvMvcLookup)(const char* name);
 
+/** The stage of a check that a user's settings go through as a whole. */
+enum { KV_MVC_CHECK_STAGE = 3 };
+
 /**
  * Checks the record, may correct it in place, and reports errors, warnings and
  * notes through the sinks of `lookup`.
- * @param stage    The dialog passes 3.
+ * @param stage    The dialog passes KV_MVC_CHECK_STAGE.
  * @param reserved The dialog passes 0.
  * @return 0 when the settings are acceptable.
  */
@@ -87,7 +94,7 @@ enum KvMvcSettingsIoCode {
 typedef KvMvcFunction (*KvMvcSettingsIoGetApi)(int32_t code);
 
 /**
- * Fills the record from a file.
+ * Fills the record from a file. The dialog passes a record of zeros.
  * @param path Zero-terminated UTF-8. The name that a user chooses in the
  *             dialog's file boxes comes double-converted: its UTF-8 bytes were
  *             read as Latin-1 and encoded once more. A dropped file's name

@@ -31,7 +31,7 @@ enum {
     KV_MVC_MAX_VIEWS = 4     /**< views that the dialog describes; see KvMvcSettings::num_views */
 };
 
-/** KvMvcViewSettings::profile: profile of the base view (H.264 A.2). */
+/** KvMvcViewSettings::profile: profile of the base view (H.264 A.2); 2 is not assigned. */
 enum KvMvcProfile {
     KV_MVC_PROFILE_BASELINE = 0, /**< profile_idc 66 */
     KV_MVC_PROFILE_MAIN = 1,     /**< profile_idc 77 */
@@ -40,7 +40,7 @@ enum KvMvcProfile {
     KV_MVC_PROFILE_HIGH_422 = 5  /**< profile_idc 122 */
 };
 
-/** KvMvcViewSettings::level: ten times the level number (H.264 A.3), or automatic. */
+/** KvMvcViewSettings::level: ten times the level number (H.264 A.3), or automatic; none for 1b. */
 enum KvMvcLevel { KV_MVC_LEVEL_AUTO = 100 };
 
 /** KvMvcViewSettings::interlace_mode. */
@@ -120,19 +120,19 @@ enum { KV_MVC_ASPECT_UNSET = -1 };
 typedef struct KvMvcViewSettings {
     int32_t profile;      /**< KvMvcProfile */
     int32_t level;        /**< KvMvcLevel, or ten times the level number: 10 to 52 */
-    int32_t i_interval;   /**< distance between I pictures in frames; 0: only the first */
-    int32_t ref_distance; /**< distance of I and P pictures: B pictures in a row plus one */
+    int32_t i_interval;   /**< distance between I pictures in frames, 0 to 300; 0: only the first */
+    int32_t ref_distance; /**< distance of I and P pictures, 1 to 4: B pictures in a row plus one */
     uint8_t reserved_16[4];
     int32_t interlace_mode; /**< KvMvcInterlaceMode */
-    int32_t width;          /**< picture width in luma samples */
-    int32_t height;         /**< picture height in luma samples */
+    int32_t width;          /**< picture width in luma samples, at least 16 */
+    int32_t height;         /**< picture height in luma samples, at least 16 */
     double frame_rate;      /**< frames per second; 0: not set. By value only: may be misaligned */
     int32_t num_ref_frames; /**< reference frames per view, 0 to 16 */
     int32_t motion_search;  /**< motion vector search range in luma samples, 0 to 99 */
     uint8_t reserved_48[12];
-    int32_t quant_i;        /**< quantizer of I pictures, 0 to 51 at 8 bits per sample */
-    int32_t quant_p;        /**< quantizer of P pictures, 0 to 51 at 8 bits per sample */
-    int32_t quant_b;        /**< quantizer of B pictures, 0 to 51 at 8 bits per sample */
+    int32_t quant_i;        /**< quantizer of I pictures: 0 to 51, from -12 at 10 bits per sample */
+    int32_t quant_p;        /**< quantizer of P pictures: 0 to 51, from -12 at 10 bits per sample */
+    int32_t quant_b;        /**< quantizer of B pictures: 0 to 51, from -12 at 10 bits per sample */
     int32_t bitrate_mode;   /**< KvMvcBitrateMode */
     int32_t bitrate_buffer; /**< coded picture buffer, in the unit of bitrate_units */
     int32_t bitrate;        /**< target bit rate in bit/s, 0 or more */
@@ -165,7 +165,7 @@ typedef struct KvMvcViewSettings {
     int32_t scene_detection; /**< switch: I pictures at scene changes */
     uint8_t reserved_2840[4];
     int32_t multi_slice; /**< 1 when num_slices is 2 or more, else 0 */
-    int32_t num_slices;  /**< slices per picture, at least 1 */
+    int32_t num_slices;  /**< slices per picture, 1 to the macroblock rows */
     int32_t reference_b; /**< switch: B pictures may be references */
     int32_t pyramid_b;   /**< switch: pyramid of B pictures */
     uint8_t reserved_2860[8];
@@ -179,12 +179,13 @@ typedef struct KvMvcViewSettings {
     uint8_t reserved_2896[8];
     int32_t num_threads; /**< worker threads, 1 to 16; 0: the encoder's choice */
     uint8_t reserved_2908[8];
-    int32_t quant_min; /**< smallest quantizer, 0 to 51 at 8 bits per sample */
-    int32_t quant_max; /**< largest quantizer, 0 to 51 at 8 bits per sample */
+    int32_t quant_min; /**< smallest quantizer: 0 to 51, from -12 at 10 bits per sample */
+    int32_t quant_max; /**< largest quantizer: 0 to 51, from -12 at 10 bits per sample */
     uint8_t reserved_2924[1176];
-    int32_t force_i;     /**< smallest distance between I pictures in frames */
+    int32_t force_i;     /**< smallest distance between I pictures in frames, 0 to 999 */
     int32_t adaptive_b;  /**< switch: adaptive placement of B pictures */
-    int32_t idr_marker;  /**< every how many I pictures one is an IDR picture; 0: only the first */
+    int32_t idr_marker;  /**< every how many I pictures one is an IDR picture, 0 to 99; 0: only the
+                            first */
     int32_t field_order; /**< KvMvcFieldOrder */
     int32_t fixed_i_position; /**< switch: I pictures keep their distance after a scene change */
     uint8_t reserved_4120[196];

@@ -25,8 +25,6 @@ namespace
 {
 
 constexpr QSize builtInBannerSize(380, 74);
-/// KvMvcCheck's stage as a dialog passes it.
-constexpr int32_t checkStage = 3;
 
 } // namespace
 
@@ -252,7 +250,7 @@ bool AVCVideoEncoderDlg::check()
     alignas(8) KvMvcSettings settings = m_record.settings;
     const auto encoderCheck = companionFunctions().check;
     const bool accepted =
-        encoderCheck && encoderCheck(&lookUpCheckFunction, &settings, checkStage, 0) == 0;
+        encoderCheck && encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0) == 0;
     if (!self)
         return false;
     m_record.settings = settings;
