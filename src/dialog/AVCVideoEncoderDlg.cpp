@@ -13,6 +13,7 @@
 #include "pages/ViewsPage.h"
 #include "pages/WheelGuard.h"
 
+#include <QAbstractSpinBox>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
@@ -272,7 +273,11 @@ void AVCVideoEncoderDlg::slotAccept()
         m_suppressNextAccept = false;
         return;
     }
-    if (!check())
+    // A number that is still being typed counts, also when nothing takes the focus from its field.
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget()))
+        field->interpretText();
+    if (!self || !check())
         return;
     *m_caller = m_record.settings;
     accept();

@@ -101,7 +101,7 @@ void AVCVideoEncoderDlg::slotSaveSettings()
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     const QString chosen = chooseFile(dialog);
-    if (chosen.isEmpty())
+    if (chosen.isEmpty() || !self)
         return;
     const QString name = settings_files::withSuffix(chosen);
     if ((QFile::exists(name) && !mayOverwrite()) || !self)
@@ -113,6 +113,7 @@ void AVCVideoEncoderDlg::slotSaveSettings()
 
 bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
 {
+    const QPointer<AVCVideoEncoderDlg> self(this);
     // Every event goes on to its target.
     if (watched == this && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -125,7 +126,8 @@ bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
     } else if (watched == ui.tabWidget && event->type() == QEvent::Drop) {
         dropOnTabs(static_cast<QDropEvent*>(event));
     }
-    return QDialog::eventFilter(watched, event);
+    // What was dropped was checked; the host may have deleted this dialog while it showed a message.
+    return !self || QDialog::eventFilter(watched, event);
 }
 
 void AVCVideoEncoderDlg::dragEntersTabs(QDragEnterEvent* event)

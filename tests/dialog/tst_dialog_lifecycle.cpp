@@ -27,6 +27,7 @@ private Q_SLOTS:
 
     void okWithoutEditsGivesTheRecordBackByteForByte();
     void okCopiesEditsToTheCaller();
+    void okTakesANumberThatIsStillTyped();
     void okCopiesWhatTheCheckCorrected();
     void okIsRefusedWhileTheCheckFails();
     void okIsRefusedWithoutACheck();
@@ -61,6 +62,26 @@ void TestDialogLifecycle::okCopiesEditsToTheCaller()
     QCOMPARE(differences(dialog.given, bytesOf(dialog.caller)),
              QStringList(
                  {QStringLiteral("view 0 +24: 00050000"), QStringLiteral("view 1 +24: 00050000")}));
+}
+
+void TestDialogLifecycle::okTakesANumberThatIsStillTyped()
+{
+    // As a screen reader presses the button: the focus stays in the field.
+    OpenDialog dialog;
+    QSpinBox* const width = widthOf(dialog);
+    user::reveal(width);
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClicks(width, QStringLiteral("1280"));
+    dialog.companions.calls.clear();
+    dialog.button("buttonOk")->click();
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(differences(dialog.given, bytesOf(dialog.caller)),
+             QStringList(
+                 {QStringLiteral("view 0 +24: 00050000"), QStringLiteral("view 1 +24: 00050000")}));
+    // Of the edit, and of OK; none after it.
+    QCOMPARE(dialog.companions.calls,
+             QStringList({QStringLiteral("check 3 0"), QStringLiteral("check 3 0")}));
 }
 
 void TestDialogLifecycle::okCopiesWhatTheCheckCorrected()
