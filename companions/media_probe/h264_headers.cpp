@@ -110,6 +110,7 @@ bool readSize(BitReader& reader, SequenceParameters& sequence)
 struct BufferModel {
     uint64_t bitRate = 0;
     uint64_t bufferSize = 0;
+    bool constant = false;
 };
 
 /** The presence flag and hrd_parameters (E.1.2); the last of several buffers has the highest rate.
@@ -127,7 +128,7 @@ std::optional<BufferModel> readBufferModel(BitReader& reader)
     for (uint32_t set = 0; set <= last && !reader.overrun(); ++set) {
         model.bitRate = (uint64_t(reader.unsignedGolomb()) + 1) << rateShift;
         model.bufferSize = (uint64_t(reader.unsignedGolomb()) + 1) << sizeShift;
-        reader.bits(1);
+        model.constant = reader.flag();
     }
     reader.bits(20); // four lengths
     return model;
@@ -173,6 +174,7 @@ void readVui(BitReader& reader, SequenceParameters& sequence)
     if (nal || vcl) {
         sequence.hrdBitRate = (nal ? nal : vcl)->bitRate;
         sequence.hrdBufferSize = (nal ? nal : vcl)->bufferSize;
+        sequence.hrdConstant = (nal ? nal : vcl)->constant;
         reader.bits(1); // low_delay_hrd_flag
     }
     reader.bits(1);      // pic_struct_present_flag

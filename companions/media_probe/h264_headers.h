@@ -46,6 +46,7 @@ struct SequenceParameters {
     uint32_t aspectY = 0;
     uint64_t hrdBitRate = 0; // 0: not signalled
     uint64_t hrdBufferSize = 0;
+    bool hrdConstant = false;
     uint32_t views = 1; // of a subset parameter set
 };
 

@@ -147,6 +147,7 @@ void describeH264(KvMediaInfo& info, const H264Scan& scan)
         static_cast<int32_t>(base->chromaFormat == 0 ? base->bitDepthLuma : base->bitDepthChroma);
     info.hrd_bit_rate = static_cast<int64_t>(base->hrdBitRate);
     info.hrd_buffer_size = static_cast<int64_t>(base->hrdBufferSize);
+    info.hrd_constant = base->hrdConstant ? 1 : 0;
     if (base->framesOnly)
         info.scan = KV_MEDIA_PROGRESSIVE;
     else if (base->mbaff)

@@ -59,13 +59,19 @@ typedef struct KvMediaInfo {
     int32_t level_idc;        /**< H.264: of the base view (A.3); otherwise 0 */
     int32_t num_ref_frames;   /**< H.264: max_num_ref_frames of the base view; -1: not known */
     int32_t num_views; /**< coded views: 1, or what a subset parameter set says (H.7.3.2.1.4) */
-    int32_t mvc_profile_idc;    /**< profile_idc of that subset parameter set; 0: none */
-    int32_t mvc_level_idc;      /**< level_idc of that subset parameter set; 0: none */
-    int64_t bit_rate;           /**< average of all views in bit/s; 0: not known */
+    int32_t mvc_profile_idc; /**< profile_idc of that subset parameter set; 0: none */
+    int32_t mvc_level_idc;   /**< level_idc of that subset parameter set; 0: none */
+    /**
+     * Average of all views in bit/s: what container or header say, else that of the beginning,
+     * which is the first 250 pictures or 16 MiB of video, whatever ends first; 0: not known. A
+     * beginning may exceed the signalled rate by the buffer's fill.
+     */
+    int64_t bit_rate;
     int64_t dependent_bit_rate; /**< what the views other than the base view have of it */
     int64_t hrd_bit_rate;       /**< signalled maximum of the base view in bit/s; 0: none */
     int64_t hrd_buffer_size;    /**< signalled coded picture buffer in bits; 0: none */
     char reason[256];           /**< UTF-8: why there is no answer; empty for success */
+    int32_t hrd_constant;       /**< H.264: cbr_flag of that signalled rate (E.2.2): 0 or 1 */
 } KvMediaInfo;
 
 /**

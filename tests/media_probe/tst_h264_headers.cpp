@@ -119,6 +119,8 @@ private Q_SLOTS:
     void aspectRatioCodes();
     void bufferModels();
     void onlyTheVclBufferModel();
+    void constantRatesAreTold_data();
+    void constantRatesAreTold();
     void cutSetsAreRefused();
     void impossibleSetsAreRefused_data();
     void impossibleSetsAreRefused();
@@ -217,6 +219,40 @@ void TestH264Headers::onlyTheVclBufferModel()
     QVERIFY(read);
     QCOMPARE(read->hrdBitRate, uint64_t(640));
     QCOMPARE(read->hrdBufferSize, uint64_t(320));
+}
+
+void TestH264Headers::constantRatesAreTold_data()
+{
+    QTest::addColumn<bool>("nal");
+    QTest::addColumn<QList<bool>>("flags");
+    QTest::addColumn<bool>("constant");
+    using Flags = QList<bool>;
+    QTest::newRow("NAL, intermittent") << true << Flags{false} << false;
+    QTest::newRow("NAL, constant") << true << Flags{true} << true;
+    QTest::newRow("VCL, constant") << false << Flags{true} << true;
+    QTest::newRow("only the slower set is") << true << Flags{true, false} << false;
+    QTest::newRow("only the faster set is") << true << Flags{false, true} << true;
+}
+
+void TestH264Headers::constantRatesAreTold()
+{
+    QFETCH(bool, nal);
+    QFETCH(QList<bool>, flags);
+    QFETCH(bool, constant);
+    BitWriter writer = setData(kSets[1]);
+    writer.bits(1, 1).bits(0, 5); // VUI up to the buffer models
+    if (!nal)
+        writer.bits(0, 1);
+    writer.bits(1, 1).ue(static_cast<uint32_t>(flags.size()) - 1).bits(0, 8);
+    for (int set = 0; set < flags.size(); ++set)
+        writer.ue(static_cast<uint32_t>(99 + set)).ue(199).bits(flags[set], 1);
+    writer.bits(0, 20);
+    if (nal)
+        writer.bits(0, 1);
+    writer.bits(0, 3);
+    const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
+    QVERIFY(read);
+    QCOMPARE(read->hrdConstant, constant);
 }
 
 void TestH264Headers::cutSetsAreRefused()
