@@ -2,7 +2,11 @@
 
 #include "companion_library.h"
 #include "file_store.h"
+#include "media_fit.h"
 #include "media_settings.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace kv
 {
@@ -23,16 +27,6 @@ std::string probe(const std::filesystem::path& file, KvMediaInfo& info)
     return info.reason[0] != '\0' ? info.reason : "not readable as media";
 }
 
-std::string presetDefaults(int32_t preset, KvMvcSettings& settings)
-{
-    const CompanionLibrary library({"kv_mvcenc_b", "kv_mvcenc"});
-    const auto defaults = library.find<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
-    if (!defaults)
-        return "media files cannot be read without the library kv_mvcenc: " + library.reason();
-    defaults(&settings, 0, preset, 0);
-    return {};
-}
-
 } // namespace
 
 std::string importMedia(const std::filesystem::path& file, KvMvcSettings& settings,
@@ -42,11 +36,15 @@ std::string importMedia(const std::filesystem::path& file, KvMvcSettings& settin
     std::string reason = probe(file, info);
     if (!reason.empty())
         return reason;
+    const CompanionLibrary encoder({"kv_mvcenc_b", "kv_mvcenc"});
+    const auto defaults = encoder.find<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
+    if (!defaults)
+        return "media files cannot be read without the library kv_mvcenc: " + encoder.reason();
     KvMvcSettings imported{};
-    reason = presetDefaults(fittingPreset(info.num_views), imported);
-    if (!reason.empty())
-        return reason;
+    defaults(&imported, 0, fittingPreset(info.num_views), 0);
     notes = applyMedia(info, imported);
+    if (const auto check = encoder.find<KvMvcCheck>(KV_MVC_ENCODER_CHECK))
+        std::ranges::move(fitToEncoder(check, info, imported), std::back_inserter(notes));
     settings = imported;
     return {};
 }

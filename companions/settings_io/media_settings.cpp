@@ -56,6 +56,22 @@ int32_t toField(double value)
     return static_cast<int32_t>(std::llround(std::clamp(value, 0.0, kMost)));
 }
 
+/** Of a rate or a buffer, which a stream cannot be without. */
+int32_t toRate(double value)
+{
+    return std::max(toField(value), 1);
+}
+
+/** The same share of the buffer, be it counted in bits or in the time that it takes. */
+void scaleFullness(double rateFactor, double sizeFactor, KvMvcViewSettings& view)
+{
+    const double factor = view.bitrate_units == KV_MVC_UNITS_BITS         ? sizeFactor
+                          : view.bitrate_units == KV_MVC_UNITS_BITS_90KHZ ? sizeFactor / rateFactor
+                                                                          : 1;
+    view.vbv_initial = toField(view.vbv_initial * factor);
+    view.vbv_target = toField(view.vbv_target * factor);
+}
+
 double standardRate(double rate)
 {
     const auto standard = std::ranges::find_if(kStandardRates, [&](double known) {
@@ -132,8 +148,12 @@ void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     const auto* level =
         h264 ? find(kLevels, std::max(info.level_idc, info.mvc_level_idc)) : nullptr;
     view.level = level ? level->setting : int32_t(KV_MVC_LEVEL_AUTO);
+    if (h264 && !level)
+        notes.push_back("its level is not among the settings, Auto is taken");
     if (info.num_ref_frames >= 0)
         view.num_ref_frames = std::max(info.num_ref_frames, 1);
+    if (info.num_ref_frames == 0)
+        view.i_interval = view.force_i = 1; // nothing but I pictures
 }
 
 /** The other rates and the buffer keep the proportion that they have in the defaults. */
@@ -141,49 +161,62 @@ void applyBitRate(double rate, KvMvcViewSettings& view)
 {
     if (rate <= 0 || view.bitrate <= 0)
         return;
-    const double factor = rate / view.bitrate;
-    const bool fullnessInBits = view.bitrate_units == KV_MVC_UNITS_BITS;
-    view.bitrate = toField(rate);
-    view.max_bitrate = toField(view.max_bitrate * factor);
-    view.bitrate_buffer = toField(view.bitrate_buffer * factor);
-    if (fullnessInBits) {
-        view.vbv_initial = toField(view.vbv_initial * factor);
-        view.vbv_target = toField(view.vbv_target * factor);
-    }
+    scaleRates(rate / view.bitrate, view);
 }
 
+/**
+ * What is signalled is exact. The measured rate is that of the beginning, which may exceed it by
+ * what the buffer holds.
+ */
 void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
 {
-    if (info.hrd_bit_rate < view.bitrate || info.hrd_buffer_size <= 0 || view.bitrate_buffer <= 0)
-        return;
+    const bool constant = info.hrd_constant != 0;
     const double unit = view.bitrate_units == KV_MVC_UNITS_BYTES_PERCENT ? 8 : 1;
-    const double rateFactor =
-        view.max_bitrate > 0 ? static_cast<double>(info.hrd_bit_rate) / view.max_bitrate : 1;
-    const double size = static_cast<double>(info.hrd_buffer_size) / unit;
-    const double sizeFactor = size / view.bitrate_buffer;
-    // The same share of the buffer, be it counted in bits or in the time that it takes.
-    const double factor = view.bitrate_units == KV_MVC_UNITS_BITS         ? sizeFactor
-                          : view.bitrate_units == KV_MVC_UNITS_BITS_90KHZ ? sizeFactor / rateFactor
-                                                                          : 1;
-    view.max_bitrate = toField(static_cast<double>(info.hrd_bit_rate));
-    view.bitrate_buffer = toField(size);
-    view.vbv_initial = toField(view.vbv_initial * factor);
-    view.vbv_target = toField(view.vbv_target * factor);
+    const KvMvcViewSettings former = view;
+    view.hrd_mode = 1;
+    view.bitrate_mode = constant ? KV_MVC_CONSTANT_BITRATE : KV_MVC_VARIABLE_BITRATE;
+    view.max_bitrate = toRate(static_cast<double>(info.hrd_bit_rate));
+    view.bitrate = constant ? view.max_bitrate : std::min(view.bitrate, view.max_bitrate);
+    view.bitrate_buffer = toRate(static_cast<double>(info.hrd_buffer_size) / unit);
+    if (former.max_bitrate > 0 && former.bitrate_buffer > 0)
+        scaleFullness(static_cast<double>(view.max_bitrate) / former.max_bitrate,
+                      static_cast<double>(view.bitrate_buffer) / former.bitrate_buffer, view);
 }
 
 void applyRates(const KvMediaInfo& info, KvMvcSettings& settings)
 {
     const double others = std::max(info.num_views - 1, 1);
     const auto dependent = static_cast<double>(info.dependent_bit_rate);
-    applyBitRate(static_cast<double>(info.bit_rate) - dependent, settings.views[0]);
-    if (info.num_views > 1)
-        applyBitRate(dependent / others, settings.views[1]);
-    else
-        applyBitRate(static_cast<double>(info.bit_rate), settings.views[1]);
+    const double base = static_cast<double>(info.bit_rate) - dependent;
+    const bool single = info.num_views < 2;
+    applyBitRate(base, settings.views[0]);
+    applyBitRate(single ? base : dependent / others, settings.views[1]);
+    if (!hasSignalledBuffer(info))
+        return;
     applySignalledBuffer(info, settings.views[0]);
+    if (single)
+        applySignalledBuffer(info, settings.views[1]);
 }
 
 } // namespace
+
+bool hasSignalledBuffer(const KvMediaInfo& info)
+{
+    return info.hrd_bit_rate > 0 && info.hrd_buffer_size > 0;
+}
+
+void scaleLimits(double factor, KvMvcViewSettings& view)
+{
+    view.max_bitrate = toRate(view.max_bitrate * factor);
+    view.bitrate_buffer = toRate(view.bitrate_buffer * factor);
+    scaleFullness(factor, factor, view);
+}
+
+void scaleRates(double factor, KvMvcViewSettings& view)
+{
+    view.bitrate = toRate(view.bitrate * factor);
+    scaleLimits(factor, view);
+}
 
 int32_t fittingPreset(int32_t views)
 {

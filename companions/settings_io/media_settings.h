@@ -21,6 +21,15 @@ int32_t fittingPreset(int32_t views);
  */
 std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& settings);
 
+/** Whether rate and buffer of the base view are the stream's own; without, they are made up. */
+bool hasSignalledBuffer(const KvMediaInfo& info);
+
+/** Multiplies maximum rate and buffer; the buffer's fullness stays the same share of it. */
+void scaleLimits(double factor, KvMvcViewSettings& view);
+
+/** The same, and the average. */
+void scaleRates(double factor, KvMvcViewSettings& view);
+
 } // namespace kv
 
 #endif

@@ -1,0 +1,280 @@
+// Settings from media files are settings that the encoder takes: what is changed for it, and what
+// is told of that.
+#include "EncoderLibrary.h"
+#include "SettingsLibrary.h"
+
+#include "../media_probe/MediaCorpus.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using kvtest::EncoderLibrary;
+using kvtest::makeMedia;
+using kvtest::picture;
+using kvtest::SettingsLibrary;
+
+namespace
+{
+
+constexpr int kAuto = 100;
+
+/** What a file is made of, what its settings come to, and what is told of it. */
+struct Fitted {
+    const char* name;
+    const char* file;
+    const char* size;
+    const char* rate;
+    const char* arguments;
+    int width, height;
+    double frameRate;
+    int level, references, distance, slices;
+    const char* note; // its beginning; empty: nothing is told
+};
+
+constexpr char kLevelNote[] = "its level is not kept, Auto is taken (";
+constexpr char kSizeNote[] = "its picture is cut to a size that can be coded (";
+
+// clang-format off
+constexpr Fitted kFitted[] = {
+    // name                                file        size         rate   arguments of ffmpeg                                               w     h    rate level  refs dist slices note
+    {"one reference, no B-frames",        "one.mp4",  "640x360",   "25",  "-c:v libx264 -pix_fmt yuv420p -refs 1 -bf 0 -level 3",             640, 360, 25,  30,    1,   1,   4,  ""},
+    {"nothing but I-frames",              "intra.ts", "640x360",   "25",  "-c:v libx264 -pix_fmt yuv420p -g 1 -level 3",                      640, 360, 25,  30,    1,   3,   4,  ""},
+    {"High 10 at 3.1: five slices",       "ten.ts",   "1280x720",  "25",  "-c:v libx264 -pix_fmt yuv420p10le -x264-params b-pyramid=none:ref=3 -preset fast -level 3.1", 1280, 720, 25, 31,   3,   3,   5,  ""},
+    {"High 4:2:2 at 3.1: five slices",    "two.ts",   "1280x720",  "25",  "-c:v libx264 -pix_fmt yuv422p -x264-params b-pyramid=none:ref=3 -preset fast -level 3.1",     1280, 720, 25, 31,   3,   3,   5,  ""},
+    {"level 1, just its rate",            "small.ts", "176x144",   "15",  "-vf noise=alls=9:allf=t -c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -b:v 60k -maxrate 60k -bufsize 20k -level 1", 176, 144, 15, 10, 2, 3, 4, ""},
+    {"level 1, more than its rate",       "over.ts",  "176x144",   "15",  "-vf noise=alls=50:allf=t -c:v libx264 -qp 20 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1", 176, 144, 15, kAuto, 2, 3, 4, kLevelNote},
+    {"level 1, more than its size",       "large.ts", "352x288",   "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1",                   352, 288, 25,  kAuto, 2,   3,   4,  kLevelNote},
+    {"level 3, more references",          "refs.ts",  "720x576",   "25",  "-c:v libx264 -pix_fmt yuv420p -refs 12 -bf 0 -level 3",            720, 576, 25,  kAuto, 12,  3,   4,  kLevelNote},
+    {"a level beyond the table",          "beyond.ts", "640x360",  "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=3 -level 6.2",                 640, 360, 25,  kAuto, 3,   3,   4,  "its level is not among the settings, Auto is taken"},
+    {"486 lines in two fields",           "ntsc.m2v", "720x486",   "30000/1001", "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0", 720, 484, 30000 / 1001.0, kAuto, 4, 3, 4, kSizeNote},
+    {"odd columns, 4:4:4",                "odd.ts",   "319x241",   "25",  "-c:v libx264 -pix_fmt yuv444p -x264-params b-pyramid=none:ref=2 -level 3",                   318, 241, 25,  30,    2,   3,   4,  "its profile is not among the settings"},
+    {"few rows have few slices",          "low.ts",   "320x32",    "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 3",                   320, 32,  25,  30,    2,   3,   2,  "the encoder corrects the settings: "},
+    {"slow motion",                       "slow.mp4", "320x240",   "240", "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 5.2",                 320, 240, 120, 52,    2,   3,   4,  "a part of its frame rate is taken ("},
+};
+// clang-format on
+
+class TestMediaAccepted : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyMediumOfTheTests_data();
+    void everyMediumOfTheTests();
+    void whatIsChanged_data();
+    void whatIsChanged();
+    void maximumsThatAreMadeUpGiveWayToTheLevel();
+    void referencesOfFurtherViewsGiveWay();
+    void whatCannotBeHelpedIsTold();
+    void signalledBuffersStay_data();
+    void signalledBuffersStay();
+    void theRateOfAStreamWithoutABufferIsTheMeasuredOne();
+
+private:
+    QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_folder;
+    SettingsLibrary m_library;
+    EncoderLibrary m_encoder;
+};
+
+void TestMediaAccepted::initTestCase()
+{
+    QVERIFY(m_library.isLoaded());
+    QCOMPARE(m_encoder.complaintsOf(m_encoder.defaults(0)), QByteArray());
+    if (!kvtest::hasFfmpeg())
+        QSKIP("the ffmpeg program makes the media of this test");
+}
+
+void TestMediaAccepted::everyMediumOfTheTests_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(kvtest::kMedia)); ++row)
+        QTest::newRow(kvtest::kMedia[row].file) << row;
+}
+
+void TestMediaAccepted::everyMediumOfTheTests()
+{
+    QFETCH(int, row);
+    const kvtest::Medium& medium = kvtest::kMedia[row];
+    const QString name = file(medium.file);
+    const QByteArray error = makeMedia(medium, name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
+    QCOMPARE(settings.views[0].width, medium.width);
+    QCOMPARE(settings.views[0].height, medium.height);
+    QCOMPARE(settings.views[0].level, medium.level != 0 ? medium.level : kAuto);
+    if (medium.references > 0)
+        QCOMPARE(settings.views[0].num_ref_frames, medium.references);
+}
+
+void TestMediaAccepted::whatIsChanged_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(kFitted)); ++row)
+        QTest::newRow(kFitted[row].name) << row;
+}
+
+void TestMediaAccepted::whatIsChanged()
+{
+    QFETCH(int, row);
+    const Fitted& expected = kFitted[row];
+    const QString name = file(expected.file);
+    const QByteArray error =
+        makeMedia(picture(expected.size, expected.rate) + QLatin1String(expected.arguments), name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
+    const KvMvcViewSettings& view = settings.views[0];
+    QCOMPARE(view.width, expected.width);
+    QCOMPARE(view.height, expected.height);
+    const double rate = view.frame_rate;
+    QCOMPARE(rate, expected.frameRate);
+    QCOMPARE(view.level, expected.level);
+    QCOMPARE(view.num_ref_frames, expected.references);
+    QCOMPARE(view.ref_distance, expected.distance);
+    QCOMPARE(view.num_slices, expected.slices);
+    if (expected.note[0] == '\0')
+        QCOMPARE(m_library.messages, QByteArray());
+    else
+        QVERIFY2(m_library.messages.contains(name.toUtf8() + ": note: " + expected.note),
+                 m_library.messages.constData());
+}
+
+/** Half as much again as the average is the default's proportion; level 1 ends at 96,000 bit/s. */
+void TestMediaAccepted::maximumsThatAreMadeUpGiveWayToTheLevel()
+{
+    const QString name = file("narrow.ts");
+    const QByteArray error =
+        makeMedia(picture("176x144", "15", 3) +
+                      QStringLiteral("-vf noise=alls=60:allf=t -c:v libx264 -pix_fmt yuv420p "
+                                     "-x264-params b-pyramid=none:ref=2 -b:v 80k -maxrate 80k "
+                                     "-bufsize 40k -level 1"),
+                  name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(m_library.messages, QByteArray());
+    const KvMvcViewSettings& view = settings.views[0];
+    QCOMPARE(view.level, 10);
+    QVERIFY2(view.bitrate > 65000 && view.bitrate < 90000, QByteArray::number(view.bitrate));
+    QVERIFY(view.max_bitrate >= view.bitrate);
+    QVERIFY(view.max_bitrate <= 96000);
+    // One second of it, in bytes, as in the defaults.
+    QVERIFY(std::abs(view.bitrate_buffer * 8 - view.max_bitrate) <= 8);
+}
+
+void TestMediaAccepted::referencesOfFurtherViewsGiveWay()
+{
+    const QString base = file("base.h264");
+    QByteArray error =
+        makeMedia(picture("176x144", "25") +
+                      QStringLiteral("-c:v libx264 -pix_fmt yuv420p -bf 0 -refs 8 -level 3"),
+                  base);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QFile in(base);
+    QFile out(file("pair.h264"));
+    QVERIFY(in.open(QIODevice::ReadOnly) && out.open(QIODevice::WriteOnly));
+    out.write(kvtest::withViews(in.readAll(), 128, 30, 2, 0.5));
+    out.close();
+    const QString name = file("pair.ts");
+    error = makeMedia(QStringLiteral("-f h264 -r 25 -i ") + out.fileName() +
+                          QStringLiteral(" -c copy -bsf:v setts=ts=N*3600"),
+                      name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(m_library.messages, QByteArray());
+    QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
+    QCOMPARE(settings.num_views, 2);
+    QCOMPARE(settings.views[0].num_ref_frames, 8);
+    QCOMPARE(settings.views[1].num_ref_frames, 7); // a list of eight has the base view, too
+}
+
+void TestMediaAccepted::whatCannotBeHelpedIsTold()
+{
+    const QString name = file("tiny.mp4");
+    const QByteArray error =
+        makeMedia(picture("8x8", "25") + QStringLiteral("-c:v mpeg4 -pix_fmt yuv420p"), name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(settings.views[0].width, 8);
+    QCOMPARE(settings.views[0].height, 8);
+    QCOMPARE(m_library.messages.count(": note: the encoder refuses the settings: "), 2);
+}
+
+void TestMediaAccepted::signalledBuffersStay_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("rate"); // 0: below the maximum
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("buffer"); // bytes
+    // The beginning of either of the first two exceeds its rate by what the buffer holds.
+    QTest::newRow("constant") << "-b:v 1M -maxrate 1M -bufsize 1M -x264-params nal-hrd=cbr"
+                              << int(KV_MVC_CONSTANT_BITRATE) << 1000000 << 1000000 << 125000;
+    QTest::newRow("variable, at its maximum")
+        << "-b:v 1M -maxrate 1M -bufsize 1M -x264-params nal-hrd=vbr"
+        << int(KV_MVC_VARIABLE_BITRATE) << 1000000 << 1000000 << 125000;
+    QTest::newRow("variable, below it") << "-b:v 300k -maxrate 8M -bufsize 4M -x264-params "
+                                           "nal-hrd=vbr"
+                                        << int(KV_MVC_VARIABLE_BITRATE) << 0 << 8000000 << 500000;
+}
+
+void TestMediaAccepted::signalledBuffersStay()
+{
+    QFETCH(QString, arguments);
+    QFETCH(int, mode);
+    QFETCH(int, rate);
+    QFETCH(int, maximum);
+    QFETCH(int, buffer);
+    const QString name = file("signalled.ts");
+    const QByteArray error =
+        makeMedia(picture("640x480", "25") +
+                      QStringLiteral("-vf noise=alls=40:allf=t -c:v libx264 -preset ultrafast "
+                                     "-pix_fmt yuv420p -level 3 ") +
+                      arguments,
+                  name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(m_library.messages, QByteArray());
+    QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
+    for (const KvMvcViewSettings& view : settings.views) {
+        QCOMPARE(view.bitrate_mode, mode);
+        QCOMPARE(view.max_bitrate, maximum);
+        QCOMPARE(view.bitrate_buffer, buffer);
+        QCOMPARE(view.hrd_mode, 1);
+        if (rate != 0)
+            QCOMPARE(view.bitrate, rate);
+        else
+            QVERIFY(view.bitrate < maximum);
+    }
+}
+
+void TestMediaAccepted::theRateOfAStreamWithoutABufferIsTheMeasuredOne()
+{
+    const QString name = file("plain.ts");
+    const QByteArray error =
+        makeMedia(picture("640x480", "25") +
+                      QStringLiteral("-vf noise=alls=40:allf=t -c:v libx264 -preset ultrafast "
+                                     "-pix_fmt yuv420p -level 3 -b:v 1M -maxrate 1M -bufsize 1M"),
+                  name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    const KvMvcViewSettings& view = settings.views[0];
+    QVERIFY2(view.bitrate > 1200000,
+             QByteArray::number(view.bitrate)); // or the rows above are idle
+    QCOMPARE(view.bitrate_mode, int(KV_MVC_VARIABLE_BITRATE));
+    QVERIFY(std::abs(view.max_bitrate - view.bitrate * 1.5) <= 2);
+}
+
+} // namespace
+
+QTEST_GUILESS_MAIN(TestMediaAccepted)
+#include "tst_media_accepted.moc"
