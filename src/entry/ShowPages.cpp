@@ -170,8 +170,9 @@ int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags, void* ext)
     try {
         return showPages(settings, flags, ext);
     } catch (...) {
-        bindings::releaseLocalization();
-        bindings::releaseCompanions();
-        return KV_MVC_GUI_ERROR;
+        // The exception may be of a companion's own code, which must outlast it.
     }
+    bindings::releaseLocalization();
+    bindings::releaseCompanions();
+    return KV_MVC_GUI_ERROR;
 }
