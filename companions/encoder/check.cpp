@@ -7,8 +7,10 @@ namespace kv::encoder
 
 bool checkSettings(KvMvcSettings& record, Report& report)
 {
-    correctFields(record, report);
+    // First what the views share, so that what is said of a field holds for all of them.
+    correctCounts(record, report);
     alignViews(record, report);
+    correctFields(record, report);
     correctRateFields(record, report);
     correctSlices(record, report);
     correctAspect(record, report);

@@ -120,7 +120,7 @@ void setDefaults(KvMvcSettings& record, int number)
     for (KvMvcViewSettings& view : record.views) {
         view.video_type = preset.number;
         view.profile = KV_MVC_PROFILE_HIGH; // of the base view; every 2D player has it
-        view.level = 41;                    // lowest for these rates; the disc's level
+        view.level = 41; // lowest for the rates of two views, so that one can be added; the disc's
         view.num_ref_frames = preset.references;
         setPicture(view);
         setGop(view);

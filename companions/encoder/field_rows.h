@@ -23,35 +23,43 @@ inline constexpr const char* switchRange =
     "range of the encoder: a switch is 0 or 1, any other value is on";
 inline constexpr const char* codeRange = "codes of the encoder";
 
-inline constexpr int noLimit = std::numeric_limits<std::int32_t>::max();
-
-// The three kinds of rows; View is int where the message begins with the view's number.
+// The kinds of rows. The rule is a Rule where all views have the same value of the field, and a
+// ViewRule where each has its own.
 
 /** A whole number: old value, new value, range. */
-template <class... View>
+template <class RangeRule>
 struct Range {
     Field field;
     int low;
     int high;
-    Rule<View..., int, int, int, int> rule;
+    RangeRule rule;
     int shownOffset = 0; ///< what the user sees is the field plus this
 };
 
+/** A number of which only the lower end means anything: below 0 it is 0. */
+struct NotNegative {
+    Field field;
+    ViewRule<int> rule;
+};
+
 /** A switch: any value but 0 is on. */
-template <class... View>
+template <class SwitchRule>
 struct Switch {
     Field field;
-    Rule<View..., int> rule;
+    SwitchRule rule;
 };
 
 /** An enumerated field: codes that are not in the mask become the fallback. */
-template <class... View>
+template <class CodeRule>
 struct Code {
     Field field;
     unsigned allowed;
     int fallback;
-    Rule<View..., int> rule;
+    CodeRule rule;
 };
+
+/// What is said of a switch, by its name in the dialog.
+#define KV_SWITCH(name) "The switch \"" name "\" was %d; it is now on (1)."
 
 template <class... Codes>
 constexpr unsigned codes(Codes... code)
@@ -68,51 +76,88 @@ inline int offsetValue(int value, int offset)
                                                    std::numeric_limits<std::int32_t>::min()));
 }
 
-// Each of these corrects one field of one view, and tells whether it did.
+/** Speaks of one view of the record. */
+struct Speaker {
+    Report& report;
+    int view;
 
-template <class... View>
-bool correctRange(const Range<View...>& row, int low, int high, KvMvcViewSettings& view,
-                  Report& report, View... index)
+    template <class... Args>
+    void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args) const
+    {
+        report.say(rule, args...);
+    }
+    template <class... Args>
+    void say(const ViewRule<Args...>& rule, std::type_identity_t<Args>... args) const
+    {
+        report.sayOf(view, rule, args...);
+    }
+};
+
+// Each of these corrects one field of one view.
+
+template <class RangeRule>
+void correctRange(const Range<RangeRule>& row, int low, int high, KvMvcViewSettings& view,
+                  const Speaker& speaker)
 {
     const int old = view.*row.field;
     const int now = std::clamp(old, low, high);
     if (now == old) {
-        return false;
+        return;
     }
     view.*row.field = now;
     const int shift = row.shownOffset;
-    report.say(row.rule, index..., offsetValue(old, shift), now + shift, low + shift, high + shift);
-    return true;
+    speaker.say(row.rule, offsetValue(old, shift), now + shift, low + shift, high + shift);
 }
 
-template <class... View>
-bool correctSwitch(const Switch<View...>& row, KvMvcViewSettings& view, Report& report,
-                   View... index)
+inline void correctNegative(const NotNegative& row, KvMvcViewSettings& view, const Speaker& speaker)
 {
     const int old = view.*row.field;
-    if (old == 0 || old == 1) {
-        return false;
+    if (old < 0) {
+        view.*row.field = 0;
+        speaker.say(row.rule, old);
     }
-    view.*row.field = 1;
-    report.say(row.rule, index..., old);
-    return true;
 }
 
-template <class... View>
-bool correctCode(const Code<View...>& row, KvMvcViewSettings& view, Report& report, View... index)
+template <class SwitchRule>
+void correctSwitch(const Switch<SwitchRule>& row, KvMvcViewSettings& view, const Speaker& speaker)
 {
     const int old = view.*row.field;
-    if (old >= 0 && old < 32 && (row.allowed >> old & 1u) != 0) {
-        return false;
+    if (old != 0 && old != 1) {
+        view.*row.field = 1;
+        speaker.say(row.rule, old);
     }
-    view.*row.field = row.fallback;
-    report.say(row.rule, index..., old);
-    return true;
+}
+
+template <class CodeRule>
+void correctCode(const Code<CodeRule>& row, KvMvcViewSettings& view, const Speaker& speaker)
+{
+    const int old = view.*row.field;
+    if (old < 0 || old >= 32 || (row.allowed >> old & 1u) == 0) {
+        view.*row.field = row.fallback;
+        speaker.say(row.rule, old);
+    }
 }
 
 inline std::span<KvMvcViewSettings> viewsInUse(KvMvcSettings& record)
 {
     return {record.views, static_cast<std::size_t>(countSubRecords(record))};
+}
+
+/**
+ * Corrects a field of all views in use. The dialog writes such a setting into all of them: one
+ * message is enough for those that had the base view's value.
+ */
+template <class Correct>
+void correctAllViews(KvMvcSettings& record, Field field, Report& report, Correct correct)
+{
+    Report silent;
+    const int ofBase = record.views[0].*field;
+    int index = 0;
+    for (KvMvcViewSettings& view : viewsInUse(record)) {
+        const bool said = view.*field == ofBase && record.views[0].*field != ofBase;
+        correct(view, Speaker{said ? silent : report, index});
+        ++index;
+    }
 }
 
 } // namespace kv::encoder

@@ -13,7 +13,7 @@ namespace kv::encoder
 
 /** A row of Table A-1, with the columns of Table A-4 that a setting can break. */
 struct Level {
-    const char* name;
+    const char* name;      ///< as lists of levels spell it
     int code;              ///< KvMvcViewSettings::level; 0: only the automatic level can give it
     std::int64_t mbRate;   ///< MaxMBPS, macroblocks per second
     std::int64_t frameMbs; ///< MaxFS, macroblocks
@@ -31,6 +31,9 @@ std::span<const Level> levels();
 
 /** @return The row of a level code, or null for reserved codes and the automatic level. */
 const Level* findLevel(int code);
+
+/** Level that a Blu-ray 3D stream carries, also when a lower one would do. */
+inline constexpr int discLevelCode = 41;
 
 /** Most macroblocks in a row or column: the square root of 8 MaxFS (A.3.1 f, g, A.3.2 d, e). */
 int maxSideMbs(const Level& level);

@@ -7,6 +7,7 @@
 
 #include <kv_config_gui_mvc/companions.h>
 
+#include <tuple>
 #include <type_traits>
 
 #include "rule.h"
@@ -28,17 +29,45 @@ public:
     template <class... Args>
     void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args)
     {
-        if (rule.severity == Severity::Error) {
-            ++m_errors;
-        }
-        if (const KvMvcPrintf sink = m_sinks[static_cast<int>(rule.severity)]) {
-            sink(rule.format, args...);
+        send(rule.severity, rule.format, args...);
+    }
+
+    /** Says it of a view of the record: 0 for the base view, or for all views. */
+    template <class... Args>
+    void sayOf(int view, const ViewRule<Args...>& rule, std::type_identity_t<Args>... args)
+    {
+        if (view == 0) {
+            send(rule.severity, rule.format, args...);
+        } else {
+            send(rule.severity, rule.viewFormat, view, args...);
         }
     }
 
     int errors() const { return m_errors; }
 
 private:
+    template <class Arg>
+    static auto printed(Arg value)
+    {
+        if constexpr (std::is_same_v<Arg, Decimal>) {
+            return std::tuple(value.whole, value.digits, value.fraction);
+        } else {
+            return std::tuple(value);
+        }
+    }
+
+    template <class... Args>
+    void send(Severity severity, const char* format, Args... args)
+    {
+        if (severity == Severity::Error) {
+            ++m_errors;
+        }
+        if (const KvMvcPrintf sink = m_sinks[static_cast<int>(severity)]) {
+            std::apply([&](auto... values) { sink(format, values...); },
+                       std::tuple_cat(printed(args)...));
+        }
+    }
+
     KvMvcPrintf m_sinks[3] = {};
     int m_errors = 0;
 };

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "decimal.h"
+
 namespace kv::encoder
 {
 
@@ -23,49 +25,100 @@ enum class Severity {
 struct RuleInfo {
     const char* id;
     Severity severity;
-    const char*
-        format;        ///< of printf: conversions d (int), s, f and g only, no line feed at its end
+    /// Of printf: conversions d (int), s, f and g only, no line feed at its end.
+    const char* format;
+    /// Of the same message about another view than the base view, whose number it takes first; or
+    /// null.
+    const char* viewFormat;
     const char* basis; ///< clause of H.264 (08/2021), or who else sets the limit
 };
+
+/** The conversions that an argument of a message needs; a "*" is a "d" of its own. */
+template <class Arg>
+constexpr std::string_view conversionsOf()
+{
+    static_assert(std::is_same_v<Arg, int> || std::is_same_v<Arg, double> ||
+                  std::is_same_v<Arg, const char*> || std::is_same_v<Arg, Decimal>);
+    return std::is_same_v<Arg, int>       ? "d"
+           : std::is_same_v<Arg, double>  ? "f"
+           : std::is_same_v<Arg, Decimal> ? "ddd"
+                                          : "s";
+}
 
 /** Whether the conversions of a printf format take exactly the argument types, in this order. */
 template <class... Args>
 constexpr bool formatTakes(std::string_view format)
 {
-    // The leading zero keeps the array legal for a format without arguments.
-    const char wanted[] = {'\0', (std::is_same_v<Args, int>      ? 'd'
-                                  : std::is_same_v<Args, double> ? 'f'
-                                                                 : 's')...};
+    std::array<char, 3 * sizeof...(Args) + 1> wanted{};
+    std::size_t count = 0;
+    [[maybe_unused]] const auto add = [&](std::string_view conversions) {
+        for (const char conversion : conversions) {
+            wanted[count++] = conversion;
+        }
+    };
+    (add(conversionsOf<Args>()), ...);
+
     std::size_t taken = 0;
+    const auto take = [&](char conversion) { return wanted[taken++] == conversion; };
     for (std::size_t i = 0; i < format.size(); ++i) {
         if (format[i] != '%') {
             continue;
         }
-        i = format.find_first_not_of("0123456789.", i + 1);
-        if (i == std::string_view::npos) {
+        // The zero at the end of the wanted ones stops what takes too many.
+        while (++i < format.size() &&
+               (format[i] == '*' || format[i] == '.' || (format[i] >= '0' && format[i] <= '9'))) {
+            if (format[i] == '*' && !take('d')) {
+                return false;
+            }
+        }
+        if (i == format.size()) {
             return false;
         }
-        if (format[i] == '%') {
-            continue;
-        }
-        const char kind = format[i] == 'g' ? 'f' : format[i];
-        if (++taken > sizeof...(Args) || wanted[taken] != kind) {
+        if (format[i] != '%' && !take(format[i] == 'g' ? 'f' : format[i])) {
             return false;
         }
     }
-    return taken == sizeof...(Args);
+    return taken == count;
 }
 
-/** A rule with the argument types of its message: int, double or const char*. */
+/** A rule with the argument types of its message: int, double, const char* or Decimal. */
 template <class... Args>
 struct Rule : RuleInfo {
-    static_assert(((std::is_same_v<Args, int> || std::is_same_v<Args, double> ||
-                    std::is_same_v<Args, const char*>)&&...));
-
     consteval Rule(const char* ruleId, Severity kind, const char* message, const char* restsOn)
-        : RuleInfo{ruleId, kind, message, restsOn}
+        : RuleInfo{ruleId, kind, message, nullptr, restsOn}
     {
         if (!formatTakes<Args...>(message)) {
+            throw "the conversions of the format do not match the argument types";
+        }
+    }
+};
+
+/** A message about the base view, or about all views, and the same about another view. */
+struct ViewText {
+    const char* base;
+    const char* other;
+};
+
+/// A message about a setting that each view has for itself.
+#define KV_EACH_VIEW(sentence)                                                                     \
+    kv::encoder::ViewText                                                                          \
+    {                                                                                              \
+        "Base view: " sentence, "View %d: " sentence                                               \
+    }
+/// A message about a setting that the dialog sets for all views at once, and a file for each.
+#define KV_ALL_VIEWS(sentence)                                                                     \
+    kv::encoder::ViewText                                                                          \
+    {                                                                                              \
+        sentence, "View %d: " sentence                                                             \
+    }
+
+/** A rule whose message names the view, except for what is said of the base view or of all. */
+template <class... Args>
+struct ViewRule : RuleInfo {
+    consteval ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
+        : RuleInfo{ruleId, kind, message.base, message.other, restsOn}
+    {
+        if (!formatTakes<Args...>(message.base) || !formatTakes<int, Args...>(message.other)) {
             throw "the conversions of the format do not match the argument types";
         }
     }

@@ -20,10 +20,12 @@
 namespace kv::encoder
 {
 
-/** Takes the general fields of the views in use into their ranges. */
-void correctFields(KvMvcSettings& record, Report& report);
+/** The number of views, and whether they are split. */
+void correctCounts(KvMvcSettings& record, Report& report);
 /** Gives the second view what all views have in common. */
 void alignViews(KvMvcSettings& record, Report& report);
+/** Takes the general fields of the views in use into their ranges. */
+void correctFields(KvMvcSettings& record, Report& report);
 /** The rate control's fields; quantizers need the bit depth that all views have. */
 void correctRateFields(KvMvcSettings& record, Report& report);
 /** Fits settings that follow from others: slices, aspect pairs, rates, fullness. */

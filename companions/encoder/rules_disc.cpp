@@ -12,72 +12,84 @@ namespace
 {
 
 constexpr Rule<> views = {"disc.views", Severity::Error,
-                          "Blu-ray 3D has two views: set one additional view.",
+                          "Blu-ray 3D has two views (now 1): set 1 additional view.",
                           "disc: Stereo High"};
 constexpr Rule<const char*> profile = {"disc.profile", Severity::Error,
-                                       "The base view of Blu-ray 3D is High, not %s: choose High.",
+                                       "Blu-ray 3D requires profile High (now %s): choose High.",
                                        "disc: base view High at level 4.1"};
 constexpr Rule<const char*> discLevel = {"disc.level", Severity::Error,
-                                         "Blu-ray 3D is labelled level 4.1, not %s.",
+                                         "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
                                          "disc: Stereo High at level 4.1"};
-constexpr Rule<int, int, double> format = {
-    "disc.format", Severity::Error,
-    "Blu-ray has no %d x %d pictures at %g frames/s in this picture structure.",
-    "disc: table of picture formats"};
-constexpr Rule<> unconfirmed = {
-    "disc.format-3d", Severity::Note,
-    "Blu-ray 3D is known to play 1920 x 1080 at 23.976 frames/s progressive; this may fail.",
-    "disc: no other format is confirmed"};
-constexpr Rule<> chroma = {"disc.chroma", Severity::Error, "Blu-ray 3D is 4:2:0: choose it.",
+constexpr Rule<int, int, Decimal> format = {"disc.format", Severity::Error,
+                                            "Blu-ray does not allow %d x %d at %d.%0*d frames/s in "
+                                            "this picture structure: use another format.",
+                                            "disc: table of picture formats"};
+constexpr Rule<> unconfirmed = {"disc.format-3d", Severity::Note,
+                                "Blu-ray 3D is only known to play 1920 x 1080 at 23.976 frames/s, "
+                                "progressive; others may fail.",
+                                "disc: no other format is confirmed"};
+constexpr Rule<> chroma = {"disc.chroma", Severity::Error,
+                           "Blu-ray 3D requires the chroma format 4:2:0: choose 4:2:0.",
                            "disc: 4:2:0 of 8 bits"};
-constexpr Rule<> aspect = {"disc.aspect", Severity::Error,
-                           "Blu-ray does not have this pixel aspect ratio at this picture size.",
-                           "disc: sample aspect ratio is signalled, one of the format's"};
-constexpr Rule<int> gop = {"disc.gop", Severity::Error,
-                           "Blu-ray has an I-frame at least every %d frames at this rate.",
-                           "disc: about one second"};
+constexpr const char* aspectClause = "disc: sample aspect ratio is signalled, one of the format's";
+constexpr Rule<int, int> aspect = {
+    "disc.aspect", Severity::Error,
+    "Blu-ray requires the pixel aspect ratio %d:%d at this picture size: set it.", aspectClause};
+constexpr Rule<int, int, int, int> twoAspects = {
+    "disc.aspect-two", Severity::Error,
+    "Blu-ray requires the pixel aspect ratio %d:%d (4:3) or %d:%d (16:9) at this picture size.",
+    aspectClause};
+constexpr Rule<int, int> gop = {
+    "disc.gop", Severity::Error,
+    "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
+    "disc: about one second"};
 constexpr Rule<int, int> references = {
     "disc.references", Severity::Error,
-    "Blu-ray has at most %d reference frames a view at this size, not %d.",
+    "Blu-ray allows at most %d reference frames per view at this size (now %d): use fewer.",
     "disc: 4 at 1080 lines, 6 below"};
 constexpr Rule<> spareReference = {
     "disc.references-spare", Severity::Note,
-    "More than 3 reference frames a view leave Blu-ray 3D players no spare frame.",
+    "More than 3 reference frames per view may fail on some Blu-ray 3D players.",
     "disc: a limit beyond the standard's is not confirmed"};
-constexpr Rule<> referenceB = {"disc.reference-b", Severity::Note,
-                               "Blu-ray takes one reference B-frame between others at most.",
-                               "disc: strict pyramid"};
-constexpr Rule<> weightedP = {"disc.weighted-p", Severity::Note,
-                              "Weighted prediction is known to fail in some Blu-ray players.",
-                              "practice"};
+constexpr Rule<> referenceB = {
+    "disc.reference-b", Severity::Note,
+    "Blu-ray allows one reference B-frame in a row: switch the pyramidal structure on.",
+    "disc: strict pyramid"};
+constexpr Rule<> weightedP = {
+    "disc.weighted-p", Severity::Note,
+    "Weighted prediction for P-frames is known to fail on some Blu-ray players.", "practice"};
 constexpr Rule<> pulldown = {"disc.pulldown", Severity::Note,
-                             "Blu-ray 3D shows its frame rate as it is and needs no pulldown.",
+                             "Blu-ray 3D plays its frame rate as it is, so pulldown is not needed.",
                              "practice"};
-constexpr Rule<int> slices = {"disc.slices", Severity::Error,
-                              "Blu-ray at level 4.1 has at least 4 slices per picture, not %d.",
-                              "disc"};
-constexpr Rule<int, int> rateOfView = {
+constexpr Rule<int> slices = {
+    "disc.slices", Severity::Error,
+    "Blu-ray requires at least 4 slices per picture at level 4.1 (now %d): use more.", "disc"};
+constexpr ViewRule<Decimal, Decimal> rateOfView = {
     "disc.bitrate", Severity::Error,
-    "View %d: Blu-ray 3D has at most %d bit/s in a view: lower the max bitrate.",
+    KV_EACH_VIEW("Blu-ray 3D allows at most %d.%0*d Mbit/s (now %d.%0*d): lower the bitrate."),
     "disc: 40 Mbit/s in each view"};
-constexpr Rule<int> rateOfBoth = {"disc.bitrate-both", Severity::Error,
-                                  "Blu-ray 3D has at most %d bit/s in both views: lower a rate.",
-                                  "disc: 60 Mbit/s in both views"};
-constexpr Rule<int> mode = {
+constexpr Rule<Decimal, Decimal> rateOfBoth = {
+    "disc.bitrate-both", Severity::Error,
+    "Blu-ray 3D allows both views together at most %d.%0*d Mbit/s (now %d.%0*d): lower a bitrate.",
+    "disc: 60 Mbit/s in both views"};
+constexpr ViewRule<> mode = {
     "disc.bitrate-mode", Severity::Error,
-    "View %d: Blu-ray needs a bitrate mode with a rate: choose Variable Bitrate.",
+    KV_EACH_VIEW("Blu-ray does not allow constant quality: choose Variable Bitrate."),
     "disc: a maximum rate is signalled and kept"};
 constexpr Rule<> hrd = {"disc.hrd", Severity::Error,
-                        "Blu-ray requires HRD conformance of the base view: switch it on.", "disc"};
+                        "Blu-ray requires HRD conformance in the base view: switch it on.", "disc"};
 constexpr Rule<> hrdOther = {"disc.hrd-other", Severity::Note,
-                             "Blu-ray 3D players expect HRD conformance of view 1 too.",
+                             "Blu-ray 3D players expect HRD conformance in view 1, too.",
                              "disc: stated for the base view only"};
-constexpr Rule<int> bufferBase = {"disc.buffer", Severity::Error,
-                                  "Blu-ray has a buffer of at most %d bits in the base view.",
-                                  "disc: 30 Mbit"};
-constexpr Rule<int> bufferOther = {"disc.buffer-other", Severity::Note,
-                                   "A buffer above %d bits in view 1 may fail in players.",
-                                   "disc: stated for the base view only"};
+constexpr Rule<Decimal, int> bufferBase = {
+    "disc.buffer", Severity::Error,
+    "Blu-ray allows the base view a bitrate buffer of at most %d.%0*d Mbit (%d bytes): make it "
+    "smaller.",
+    "disc: 30 Mbit"};
+constexpr Rule<Decimal, int> bufferOther = {
+    "disc.buffer-other", Severity::Note,
+    "In view 1, a bitrate buffer above %d.%0*d Mbit (%d bytes) may fail on some players.",
+    "disc: stated for the base view only"};
 
 constexpr int maxViewRate = 40'000'000;
 constexpr int maxBothRate = 60'000'000;
@@ -134,22 +146,29 @@ void judgeFormat(const Stream& stream, Report& report)
     }
     const Format* row = findFormat(stream);
     if (!row) {
-        report.say(format, base.width, base.height, stream.frameRate);
+        report.say(format, base.width, base.height, frameRateText(stream.frameRate));
         return;
     }
     if (row != formats) {
         report.say(unconfirmed);
     }
     const SampleAspect aspectNow = sampleAspect(base);
-    bool known = false;
-    for (const SampleAspect& wanted : row->aspects) {
-        known = known || (wanted.x == aspectNow.x && wanted.y == aspectNow.y);
-    }
-    if (!known) {
-        report.say(aspect);
+    const auto isNow = [&](const SampleAspect& wanted) {
+        return wanted.x == aspectNow.x && wanted.y == aspectNow.y;
+    };
+    const SampleAspect& narrow = row->aspects[0];
+    const SampleAspect& wide = row->aspects[1];
+    if (!isNow(narrow) && !isNow(wide)) {
+        const auto x = static_cast<int>(wide.x);
+        const auto y = static_cast<int>(wide.y);
+        if (wide.x == narrow.x) {
+            report.say(aspect, x, y);
+        } else {
+            report.say(twoAspects, static_cast<int>(narrow.x), static_cast<int>(narrow.y), x, y);
+        }
     }
     if (base.i_interval == 0 || base.i_interval > row->interval) {
-        report.say(gop, row->interval);
+        report.say(gop, row->interval, base.i_interval);
     }
 }
 
@@ -191,35 +210,36 @@ void judgeRate(const Stream& stream, Report& report)
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
         if (!aimsAtRate(view)) {
-            report.say(mode, v);
+            report.sayOf(v, mode);
             continue;
         }
         if (limitRate(view) > maxViewRate) {
-            report.say(rateOfView, v, maxViewRate);
+            report.sayOf(v, rateOfView, millions(maxViewRate), millions(limitRate(view)));
             each = false;
         }
         if (view.hrd_mode == 0) {
             report.say(v == 0 ? hrd : hrdOther);
         } else if (bufferBits(view) > maxBuffer) {
-            report.say(v == 0 ? bufferBase : bufferOther, maxBuffer);
+            report.say(v == 0 ? bufferBase : bufferOther, millions(maxBuffer), maxBuffer / 8);
         }
     }
     if (each && stream.totalRate() > maxBothRate) {
-        report.say(rateOfBoth, maxBothRate);
+        report.say(rateOfBoth, millions(maxBothRate), millions(stream.totalRate()));
     }
 }
 
 constexpr const RuleInfo* rules[] = {
-    &views,      &profile,    &discLevel,      &format,     &unconfirmed, &chroma,     &aspect,
-    &gop,        &references, &spareReference, &referenceB, &weightedP,   &pulldown,   &slices,
-    &rateOfView, &rateOfBoth, &mode,           &hrd,        &hrdOther,    &bufferBase, &bufferOther,
+    &views,     &profile,    &discLevel,  &format,      &unconfirmed,    &chroma,
+    &aspect,    &twoAspects, &gop,        &references,  &spareReference, &referenceB,
+    &weightedP, &pulldown,   &slices,     &rateOfView,  &rateOfBoth,     &mode,
+    &hrd,       &hrdOther,   &bufferBase, &bufferOther,
 };
 
 } // namespace
 
 void judgeDisc(const Stream& stream, const Level* level, Report& report)
 {
-    if (stream.base.video_type != KV_MVC_BLURAY_3D) {
+    if (!stream.disc) {
         return;
     }
     // More than two views are refused by Stereo High already.
@@ -229,7 +249,7 @@ void judgeDisc(const Stream& stream, const Level* level, Report& report)
     if (stream.profile && stream.profile->code != KV_MVC_PROFILE_HIGH) {
         report.say(profile, stream.profile->name);
     }
-    if (level && level->code != 41) {
+    if (level && level->code != discLevelCode) {
         report.say(discLevel, level->name);
     }
     if (stream.sized) {

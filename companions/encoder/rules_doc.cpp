@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
+#include <string_view>
 
 #include "rules.h"
 
@@ -26,9 +28,36 @@ void printFormats()
 {
     for (const RuleGroup& group : ruleGroups()) {
         for (const RuleInfo* rule : group.rules) {
-            std::printf("%s\n", rule->format);
+            for (const char* const format : {rule->format, rule->viewFormat}) {
+                if (format) {
+                    std::printf("%s\n", format);
+                }
+            }
         }
     }
+}
+
+void replaceAll(std::string& text, std::string_view from, std::string_view to)
+{
+    for (std::size_t at = text.find(from); at != std::string::npos;
+         at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+}
+
+/** A message as a reader wants it: one text for all views, and no arguments of arguments. */
+std::string messageOf(const RuleInfo& rule)
+{
+    std::string message = rule.format;
+    if (rule.viewFormat) {
+        const std::string other = rule.viewFormat;
+        const std::size_t same = other.find(' ', other.find("%d")) + 1;
+        const std::string sentence = other.substr(same);
+        message = message == sentence ? "[View %d:] " + sentence : "Base view/View %d: " + sentence;
+    }
+    replaceAll(message, "%d.%0*d", "%.2f");
+    replaceAll(message, "%%", "%");
+    return message;
 }
 
 void printDocument()
@@ -41,14 +70,16 @@ void printDocument()
         "corrected record again changes nothing and repeats no warning. A **note** tells what\n"
         "follows, or what is legal but worth knowing.\n\n"
         "What a user may be in the middle of changing is never corrected. Of more than two\n"
-        "views the record holds the first two; the others count as the second does. In the\n"
-        "messages view 0 is the base view. Clauses are those of Rec. ITU-T H.264 (08/2021).");
+        "views the record holds the first two; the others count as the second does. A message in\n"
+        "brackets begins with the view when it is about another one than the base view. `%.2f`\n"
+        "stands for a number with two decimals or as many as it needs: `--formats` prints the\n"
+        "formats as they are. Clauses are those of Rec. ITU-T H.264 (08/2021).");
     for (const RuleGroup& group : ruleGroups()) {
         std::printf("\n## %s\n\n| rule | kind | message | rests on |\n|---|---|---|---|\n",
                     group.title);
         for (const RuleInfo* rule : group.rules) {
-            std::printf("| %s | %s | %s | %s |\n", rule->id, nameOf(rule->severity), rule->format,
-                        rule->basis);
+            std::printf("| %s | %s | %s | %s |\n", rule->id, nameOf(rule->severity),
+                        messageOf(*rule).c_str(), rule->basis);
         }
     }
 }

@@ -1,7 +1,6 @@
 // Distances of I and B pictures, their options, reference frames and slices.
 
-#include <algorithm>
-
+#include "field_rows.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -12,64 +11,70 @@ namespace
 
 constexpr Rule<int, int> bFit = {
     "gop.b-fit", Severity::Error,
-    "%d B-frames do not fit between I-frames %d apart: use fewer, or a longer interval.",
+    "%d B-frames do not fit into an I-frame interval of %d: use fewer, or a longer interval.",
     "contradiction: a group ends with a reference picture"};
 constexpr Rule<int, int> forceDistance = {
     "gop.force-i", Severity::Error,
-    "I-frames cannot be at least %d and at most %d apart: lower the min. distance.",
+    "The min. I-frame distance %d exceeds the I-frame interval %d: lower the distance.",
     "contradiction of interval and minimum distance"};
 constexpr Rule<int, int> lastGroup = {
     "gop.multiple", Severity::Note,
-    "An I-frame interval of %d is no multiple of %d: its last group has fewer B-frames.",
+    "The I-frame interval %d is no multiple of %d (B-frames + 1), so its last group is shorter.",
     "legal: the pattern is not regular"};
-constexpr Rule<> allIntra = {"gop.intra", Severity::Note,
-                             "Every picture is an I-frame: B-frames and motion search rest.",
-                             "legal"};
-constexpr Rule<> noReference = {"gop.references-p", Severity::Error,
-                                "P-frames need at least 1 reference frame.",
-                                "8.2.5.3: sliding window"};
-constexpr Rule<int> fewReferences = {"gop.references-b", Severity::Error,
-                                     "B-frames need at least 2 reference frames, not %d.",
-                                     "8.2.5.3: a past and a future one are kept"};
-constexpr Rule<int> fewForReferenceB = {
+constexpr Rule<> allIntra = {
+    "gop.intra", Severity::Note,
+    "Every picture is an I-frame: B-frames and motion search are not used.", "legal"};
+constexpr ViewRule<> noReference = {
+    "gop.references-p", Severity::Error,
+    KV_ALL_VIEWS("P-frames need at least 1 reference frame (now 0)."), "8.2.5.3: sliding window"};
+constexpr ViewRule<int> fewReferences = {
+    "gop.references-b", Severity::Error,
+    KV_ALL_VIEWS("B-frames need at least 2 reference frames (now %d)."),
+    "8.2.5.3: a past and a future one are kept"};
+constexpr ViewRule<int> fewForReferenceB = {
     "gop.references-br", Severity::Error,
-    "B-frames as reference frames need at least 3 reference frames, not %d.",
+    KV_ALL_VIEWS("B-frames as reference frames need at least 3 reference frames (now %d)."),
     "8.2.5.3: a past, a future and the B picture are kept"};
-constexpr Rule<> pyramidReference = {
-    "gop.pyramid", Severity::Error,
-    "A pyramid needs B-frames as reference frames: switch that on, or the pyramid off.",
-    "8.2.5.3: the upper B pictures refer to the lower ones"};
+constexpr Rule<> pyramidReference = {"gop.pyramid", Severity::Error,
+                                     "The pyramidal structure needs B-frames as reference frames: "
+                                     "switch them on, or the structure off.",
+                                     "8.2.5.3: the upper B pictures refer to the lower ones"};
 constexpr Rule<> pyramidFlat = {"gop.pyramid-flat", Severity::Note,
-                                "A pyramid of fewer than 2 B-frames has no effect.",
+                                "The pyramidal structure has no effect on fewer than 2 B-frames.",
                                 "nothing to put in layers"};
 constexpr Rule<> bOptions = {"gop.b-options", Severity::Note,
-                             "The options of B-frames have no effect: there are none.",
+                             "The B-frame settings have no effect: there are no B-frames.",
                              "nothing to apply them to"};
-constexpr Rule<int, int> sliceCount = {
+constexpr ViewRule<int, int> sliceCount = {
     "slices.rows", Severity::Warning,
-    "The slices per picture were %d; they are now %d, one a macroblock row.",
+    KV_ALL_VIEWS("The number of slices per picture was %d; it is now %d, the most at this height."),
     "slices are whole rows: 7.3.4 allows less, the encoder does not"};
-constexpr Rule<> sliceFlag = {"slices.flag", Severity::Warning,
-                              "The switch for several slices now follows from their number.",
-                              "derived: on from 2 slices"};
+constexpr ViewRule<> sliceFlag = {
+    "slices.flag", Severity::Warning,
+    KV_ALL_VIEWS("The multi_slice switch did not match the slices per picture; now it does."),
+    "derived: on from 2 slices"};
 
 void judgeReferences(const Stream& stream, Report& report)
 {
-    int least = stream.record.views[0].num_ref_frames;
+    // The view with the fewest; the base view stands for all that have as few.
+    int view = 0;
     for (int v = 1; v < stream.subRecords; ++v) {
-        least = std::min(least, stream.record.views[v].num_ref_frames);
+        if (stream.record.views[v].num_ref_frames < stream.record.views[view].num_ref_frames) {
+            view = v;
+        }
     }
+    const int least = stream.record.views[view].num_ref_frames;
     const KvMvcViewSettings& base = stream.base;
     if (stream.bFrames && base.reference_b != 0 && base.ref_distance > 2) {
         if (least < 3) {
-            report.say(fewForReferenceB, least);
+            report.sayOf(view, fewForReferenceB, least);
         }
     } else if (stream.bFrames) {
         if (least < 2) {
-            report.say(fewReferences, least);
+            report.sayOf(view, fewReferences, least);
         }
     } else if (stream.predicts && least < 1) {
-        report.say(noReference);
+        report.sayOf(view, noReference);
     }
 }
 
@@ -104,24 +109,20 @@ constexpr const RuleInfo* rules[] = {
 
 void correctSlices(KvMvcSettings& record, Report& report)
 {
-    Report silent;
-    Report* forCount = &report;
-    Report* forFlag = &report;
-    for (int v = 0; v < countSubRecords(record); ++v) {
-        KvMvcViewSettings& view = record.views[v];
+    correctAllViews(record, &V::num_slices, report, [](auto& view, const Speaker& speaker) {
         const int rows = sliceRows(view);
         if (view.height >= 16 && view.num_slices > rows) {
-            forCount->say(sliceCount, view.num_slices, rows);
-            forCount = &silent;
+            speaker.say(sliceCount, view.num_slices, rows);
             view.num_slices = rows;
         }
+    });
+    correctAllViews(record, &V::multi_slice, report, [](auto& view, const Speaker& speaker) {
         const int several = view.num_slices > 1 ? 1 : 0;
         if (view.multi_slice != several) {
-            forFlag->say(sliceFlag);
-            forFlag = &silent;
+            speaker.say(sliceFlag);
             view.multi_slice = several;
         }
-    }
+    });
 }
 
 void judgeGop(const Stream& stream, Report& report)

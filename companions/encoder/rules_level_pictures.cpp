@@ -13,28 +13,36 @@ namespace
 
 constexpr Rule<const char*, int, int> dpb = {
     "level.dpb", Severity::Error,
-    "Level %s holds %d frames of this size, not %d: use fewer reference frames.",
+    "Level %s can store %d frames of this size (now %d): use fewer reference frames.",
     "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)"};
 constexpr Rule<const char*, int, int, int> dpbViews = {
     "level.dpb-views", Severity::Error,
-    "Level %s holds %d frames of this size for %d views, not %d: use fewer reference frames.",
+    "Level %s can store %d frames of this size for %d views (now %d): use fewer reference frames.",
     "H.10.2.1 f, C.4: min(2 * MaxDpbMbs / frame size, 16 * max(1, ceil(log2 views)))"};
-constexpr Rule<const char*, int, int> dpbHalf = {
+constexpr ViewRule<const char*, int, int> dpbHalf = {
     "level.dpb-half", Severity::Error,
-    "Level %s allows a view half its buffer, %d frames, not %d: use fewer reference frames.",
+    KV_ALL_VIEWS("Level %s allows a view %d reference frames of this size (now %d): use fewer."),
     "H.10.2.1 x: max_num_ref_frames of a view; the base view then also fits by itself"};
-constexpr Rule<const char*, int, int> slicesMost = {
+constexpr ViewRule<const char*, int, int> slicesMost = {
     "level.slices-most", Severity::Error,
-    "Level %s has at most %d slices per picture here, not %d.",
+    KV_ALL_VIEWS(
+        "Level %s allows at most %d slices per picture at this size and rate (now %d): use "
+        "fewer."),
     "A.3.3 a, b: SliceRate; of each view, H.10.2.1 k to n"};
-constexpr Rule<const char*, int, int> slicesLeast = {
+constexpr ViewRule<const char*, int, int> slicesLeast = {
     "level.slices-least", Severity::Error,
-    "Level %s needs at least %d slices per picture here, not %d.",
+    KV_ALL_VIEWS("Level %s needs at least %d slices per picture at this size (now %d): use more."),
     "H.10.2.1 w, A.3.3 k: no slice of more than MaxFS / 4 macroblocks, whole rows"};
-constexpr Rule<const char*, int, int> vectors = {
+constexpr ViewRule<int, const char*, int> vectors = {
     "level.vectors", Severity::Note,
-    "Level %s ends vertical vectors at %d samples: the search range %d holds horizontally.",
+    KV_ALL_VIEWS(
+        "The motion vector search range %d applies horizontally; vertically, level %s ends "
+        "at %d."),
     "A.3.1 k, A.3.2 g, H.10.2.1 g, Table A-1: MaxVmvR"};
+
+#define KV_PICTURE_BYTES(kind)                                                                     \
+    KV_EACH_VIEW("The maximum " kind                                                               \
+                 "-frame size of %d bytes exceeds the %.0f bytes of level %s: lower it.")
 
 // Largest coded pictures, one row a frame size limit.
 constexpr const char* pictureBytesClause =
@@ -42,29 +50,21 @@ constexpr const char* pictureBytesClause =
 struct PictureBytes {
     std::int32_t KvMvcViewSettings::*field;
     bool first; ///< the first picture of a stream is one of these
-    Rule<int, int, const char*, double> rule;
+    ViewRule<int, double, const char*> rule;
 };
 constexpr PictureBytes pictureBytes[] = {
     {&KvMvcViewSettings::frame_size_i,
      true,
-     {"level.size-i", Severity::Error,
-      "View %d: an I-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
-      pictureBytesClause}},
+     {"level.size-i", Severity::Error, KV_PICTURE_BYTES("I"), pictureBytesClause}},
     {&KvMvcViewSettings::frame_size_p,
      false,
-     {"level.size-p", Severity::Error,
-      "View %d: a P-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
-      pictureBytesClause}},
+     {"level.size-p", Severity::Error, KV_PICTURE_BYTES("P"), pictureBytesClause}},
     {&KvMvcViewSettings::frame_size_b,
      false,
-     {"level.size-b", Severity::Error,
-      "View %d: a B-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
-      pictureBytesClause}},
+     {"level.size-b", Severity::Error, KV_PICTURE_BYTES("B"), pictureBytesClause}},
     {&KvMvcViewSettings::frame_size_bref,
      false,
-     {"level.size-br", Severity::Error,
-      "View %d: a Br-frame of %d bytes exceeds level %s; it allows %.0f bytes.",
-      pictureBytesClause}},
+     {"level.size-br", Severity::Error, KV_PICTURE_BYTES("Br"), pictureBytesClause}},
 };
 
 void judgeReferences(const Stream& stream, const Level& level, Report& report)
@@ -84,7 +84,7 @@ void judgeReferences(const Stream& stream, const Level& level, Report& report)
     for (int v = 0; v < stream.subRecords; ++v) {
         const int references = stream.record.views[v].num_ref_frames;
         if (references > frames / 2) {
-            report.say(dpbHalf, level.name, frames / 2, references);
+            report.sayOf(v, dpbHalf, level.name, frames / 2, references);
             return;
         }
     }
@@ -142,11 +142,11 @@ void judgeSlices(const Stream& stream, const Level& level, Report& report)
     for (int v = 0; v < stream.subRecords; ++v) {
         const int slices = stream.record.views[v].num_slices;
         if (slices > most) {
-            report.say(slicesMost, level.name, most, slices);
+            report.sayOf(v, slicesMost, level.name, most, slices);
             return;
         }
         if (slices < least) {
-            report.say(slicesLeast, level.name, least, slices);
+            report.sayOf(v, slicesLeast, level.name, least, slices);
             return;
         }
     }
@@ -167,8 +167,19 @@ void judgePictureBytes(const Stream& stream, const Level& level, Report& report)
         for (const PictureBytes& row : pictureBytes) {
             const double limit = row.first ? std::min(first, later) : later;
             if (view.*row.field > limit) {
-                report.say(row.rule, v, view.*row.field, level.name, limit);
+                report.sayOf(v, row.rule, view.*row.field, limit, level.name);
             }
+        }
+    }
+}
+
+void judgeVectors(const Stream& stream, const Level& level, Report& report)
+{
+    for (int v = 0; stream.predicts && v < stream.subRecords; ++v) {
+        const int range = stream.record.views[v].motion_search;
+        if (range > level.verticalVector) {
+            report.sayOf(v, vectors, range, level.name, level.verticalVector);
+            return;
         }
     }
 }
@@ -184,9 +195,7 @@ void judgeLevelPictures(const Stream& stream, const Level& level, Report& report
     judgeReferences(stream, level, report);
     judgeSlices(stream, level, report);
     judgePictureBytes(stream, level, report);
-    if (stream.predicts && stream.base.motion_search > level.verticalVector) {
-        report.say(vectors, level.name, level.verticalVector, stream.base.motion_search);
-    }
+    judgeVectors(stream, level, report);
 }
 
 RuleGroup levelPictureRules()

@@ -12,39 +12,41 @@ namespace
 {
 
 constexpr Rule<int> smallWidth = {"picture.width", Severity::Error,
-                                  "The picture width %d is below 16, the least possible.",
+                                  "The picture width has to be at least 16 (now %d).",
                                   "7.4.2.1.1: pic_width_in_mbs_minus1"};
 constexpr Rule<int> smallHeight = {"picture.height", Severity::Error,
-                                   "The picture height %d is below 16, the least possible.",
+                                   "The picture height has to be at least 16 (now %d).",
                                    "7.4.2.1.1: pic_height_in_map_units_minus1"};
 constexpr Rule<int, int> widthStep = {
     "picture.width-step", Severity::Error,
-    "The picture width %d has to be a multiple of %d in this chroma format.",
+    "With this chroma format, the picture width has to be a multiple of %d (now %d).",
     "7.4.2.1.1: CropUnitX"};
 constexpr Rule<int, int> heightStep = {
     "picture.height-step", Severity::Error,
-    "The picture height %d has to be a multiple of %d in this format and structure.",
+    "With this chroma format and picture structure, the picture height has to be a multiple of %d "
+    "(now %d).",
     "7.4.2.1.1: CropUnitY"};
 constexpr Rule<> rateUnset = {"picture.frame-rate-unset", Severity::Note,
-                              "No frame rate is set: the limits per second were not checked.",
+                              "No frame rate is set, so the limits per second were not checked.",
                               "A.3.1: the limits hold for times of removal and output"};
 
-constexpr Rule<> displayPair = {"aspect.display", Severity::Warning,
-                                "Half a display aspect ratio is none; it is now Custom.",
-                                "codes of the encoder"};
-constexpr Rule<> pixelPair = {"aspect.pixel", Severity::Warning,
-                              "The pixel aspect ratio now follows from the picture aspect ratio.",
-                              "E.2.1: one ratio is written, the display's or the sample's"};
+constexpr Rule<int, int> displayPair = {
+    "aspect.display", Severity::Warning,
+    "The picture aspect ratio %d:%d is not valid; it is now Custom.", "codes of the encoder"};
+constexpr Rule<> pixelPair = {
+    "aspect.pixel", Severity::Warning,
+    "The pixel aspect ratio was set as well; it now follows from the picture aspect ratio.",
+    "E.2.1: one ratio is written, the display's or the sample's"};
 constexpr Rule<> aspectUnset = {"aspect.unspecified", Severity::Note,
-                                "The pixel aspect ratio is left unspecified.",
+                                "No pixel aspect ratio is set, so players will assume one.",
                                 "E.2.1: aspect_ratio_idc 0"};
 constexpr Rule<double, double> aspectRange = {
     "aspect.range", Severity::Error,
-    "The pixel aspect ratio %.0f:%.0f cannot be written: no part may exceed 65535.",
+    "The pixel aspect ratio %.0f:%.0f cannot be written: neither part may exceed 65535.",
     "E.2.1: sar_width and sar_height have 16 bits"};
 constexpr Rule<double, double> aspectExtended = {
     "aspect.extended", Severity::Note,
-    "The pixel aspect ratio %.0f:%.0f is no predefined one and is written in full.",
+    "The pixel aspect ratio %.0f:%.0f is not a predefined one, so it is written as two numbers.",
     "E.2.1, Table E-1: aspect_ratio_idc 255"};
 
 constexpr Rule<> unusedOrder = {
@@ -52,23 +54,24 @@ constexpr Rule<> unusedOrder = {
     "The field order has no effect on progressive pictures without pulldown.", "D.2.3"};
 constexpr Rule<> pulldownFields = {
     "pulldown.fields", Severity::Error,
-    "Interlaced pictures cannot be repeated: choose no pulldown, or Progressive.",
+    "Pulldown cannot repeat interlaced pictures: set pulldown to Off, or choose Progressive.",
     "D.2.3: pic_struct 5 to 8 need field_pic_flag 0"};
 constexpr Rule<> pulldownMbaff = {
     "pulldown.mbaff", Severity::Note,
-    "Pulldown repeats real fields of MBAFF pictures: motion stutters.", "D.2.3"};
-constexpr Rule<double> pulldown23 = {"pulldown.2-3", Severity::Note,
-                                     "Pulldown 2:3 is meant for 23.976 and 24 frames/s, not %g.",
-                                     "D.2.3; practice"};
-constexpr Rule<double> pulldown22 = {
+    "Pulldown repeats fields of MBAFF pictures, which makes motion stutter.", "D.2.3"};
+constexpr Rule<Decimal> pulldown23 = {
+    "pulldown.2-3", Severity::Note,
+    "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now %d.%0*d).", "D.2.3; practice"};
+constexpr Rule<Decimal> pulldown22 = {
     "pulldown.2-2", Severity::Note,
-    "Pulldown 2:2 at %g frames/s gives a rate that displays rarely have.", "D.2.3; practice"};
-constexpr Rule<double> pulldown33 = {"pulldown.3-3", Severity::Note,
-                                     "Pulldown 3:3 at %g frames/s exceeds 72 frames/s.",
-                                     "D.2.3; practice"};
+    "Pulldown 2:2 doubles %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
+constexpr Rule<Decimal> pulldown33 = {
+    "pulldown.3-3", Severity::Note,
+    "Pulldown 3:3 triples %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
 constexpr Rule<> pulldownAuto = {
     "pulldown.auto", Severity::Note,
-    "Automatic pulldown is the encoder's choice and cannot be checked.", "not in the standard"};
+    "With pulldown Auto, the encoder chooses; its choice cannot be checked.",
+    "not in the standard"};
 constexpr Rule<> pulldownTiming = {"pulldown.timing", Severity::Note,
                                    "Pulldown adds picture timing messages to the stream.",
                                    "D.2.3, E.2.1: pic_struct_present_flag 1"};
@@ -94,10 +97,10 @@ void judgeSize(const Stream& stream, Report& report)
     const int down =
         (base.chroma_format == KV_MVC_CHROMA_420 ? 2 : 1) * (stream.interlaced ? 2 : 1);
     if (base.width >= 16 && base.width % across != 0) {
-        report.say(widthStep, base.width, across);
+        report.say(widthStep, across, base.width);
     }
     if (base.height >= 16 && base.height % down != 0) {
-        report.say(heightStep, base.height, down);
+        report.say(heightStep, down, base.height);
     }
     if (stream.frameRate == 0) {
         report.say(rateUnset);
@@ -145,19 +148,19 @@ void judgeCadence(const Stream& stream, Report& report)
     case KV_MVC_PULLDOWN_2_3_PROGRESSIVE:
     case KV_MVC_PULLDOWN_3_2_PROGRESSIVE:
         if (!isNear(rate, 24000.0 / 1001) && !isNear(rate, 24)) {
-            report.say(pulldown23, rate);
+            report.say(pulldown23, frameRateText(rate));
         }
         break;
     case KV_MVC_PULLDOWN_2_2:
         for (const double odd : {24000.0 / 1001, 24.0, 50.0, 60000.0 / 1001, 60.0}) {
             if (isNear(rate, odd)) {
-                report.say(pulldown22, rate);
+                report.say(pulldown22, frameRateText(rate));
             }
         }
         break;
     case KV_MVC_PULLDOWN_3_3:
         if (rate > 24.001) {
-            report.say(pulldown33, rate);
+            report.say(pulldown33, frameRateText(rate));
         }
         break;
     default:
@@ -196,9 +199,9 @@ void correctAspectOf(KvMvcViewSettings& view, Report& report)
                        view.display_aspect_y == KV_MVC_ASPECT_UNSET;
     const bool set = view.display_aspect_x > 0 && view.display_aspect_y > 0;
     if (!unset && !set) {
+        report.say(displayPair, view.display_aspect_x, view.display_aspect_y);
         view.display_aspect_x = KV_MVC_ASPECT_UNSET;
         view.display_aspect_y = KV_MVC_ASPECT_UNSET;
-        report.say(displayPair);
     }
     if (set && (view.pixel_aspect_x != KV_MVC_ASPECT_UNSET ||
                 view.pixel_aspect_y != KV_MVC_ASPECT_UNSET)) {

@@ -9,40 +9,47 @@ namespace
 {
 
 constexpr Rule<int> unassigned = {"profile.code", Severity::Error,
-                                  "The profile code %d is not assigned: choose a profile.", "A.2"};
+                                  "The profile code %d is unknown: choose a profile.", "A.2"};
 constexpr Rule<const char*> bFrames = {
     "profile.b-frames", Severity::Error,
-    "%s has no B-frames: set their number to 0, or choose Main or High.", "A.2.1"};
+    "Profile %s does not allow B-frames: set their number to 0, or choose Main or High.", "A.2.1"};
 constexpr Rule<const char*> interlace = {
     "profile.interlace", Severity::Error,
-    "%s has progressive pictures only: choose Progressive, Main or High.", "A.2.1"};
-constexpr Rule<const char*> cabac = {"profile.cabac", Severity::Error,
-                                     "%s has no CABAC: choose CAVLC, or Main or High.", "A.2.1"};
+    "Profile %s allows progressive pictures only: choose Progressive, or profile Main or High.",
+    "A.2.1"};
+constexpr Rule<const char*> cabac = {
+    "profile.cabac", Severity::Error,
+    "Profile %s does not allow CABAC: choose CAVLC, or profile Main or High.", "A.2.1"};
 constexpr Rule<const char*> weighted = {
     "profile.weighted", Severity::Error,
-    "%s has no weighted prediction: switch it off, or choose Main or High.", "A.2.1"};
-constexpr Rule<const char*> monochrome = {"profile.4-0-0", Severity::Error,
-                                          "%s has no 4:0:0: choose 4:2:0, or the profile High.",
-                                          "A.2.1, A.2.2"};
+    "Profile %s does not allow weighted prediction: switch it off, or choose Main or High.",
+    "A.2.1"};
+constexpr Rule<const char*> monochrome = {
+    "profile.4-0-0", Severity::Error,
+    "Profile %s does not allow 4:0:0: choose 4:2:0, or profile High.", "A.2.1, A.2.2"};
 constexpr Rule<const char*> chroma422 = {"profile.4-2-2", Severity::Error,
-                                         "%s has no 4:2:2: choose 4:2:0.", "A.2.1 to A.2.5"};
+                                         "Profile %s does not allow 4:2:2: choose 4:2:0.",
+                                         "A.2.1 to A.2.5"};
 constexpr Rule<> unnamed = {"profile.chroma", Severity::Error,
-                            "No profile has the unnamed chroma format: choose 4:2:0.",
+                            "No profile allows the chroma format that is set: choose 4:2:0.",
                             "A.2: the profiles end at 4:2:2"};
 constexpr Rule<const char*, int> lumaDepth = {
     "profile.depth-luma", Severity::Error,
-    "%s does not code %d bits of luma: choose 8 bits, or High 10.", "A.2.1 to A.2.4"};
+    "Profile %s does not allow %d bits of luma: choose 8 bits, or profile High 10.",
+    "A.2.1 to A.2.4"};
 constexpr Rule<const char*, int> chromaDepth = {
     "profile.depth-chroma", Severity::Error,
-    "%s does not code %d bits of chroma: choose 8 bits, or High 10.", "A.2.1 to A.2.4"};
+    "Profile %s does not allow %d bits of chroma: choose 8 bits, or profile High 10.",
+    "A.2.1 to A.2.4"};
 constexpr Rule<> unusedDepth = {"profile.depth-unused", Severity::Note,
                                 "The bit-depth of chroma has no effect: 4:0:0 has no chroma.",
                                 "7.4.2.1.1"};
 constexpr Rule<const char*> cavlc = {"profile.cavlc", Severity::Note,
-                                     "%s has CABAC, which needs fewer bits than CAVLC.", "A.2.2"};
-constexpr Rule<const char*> noBFrames = {"profile.no-b-frames", Severity::Note,
-                                         "%s has B-frames, which save bits; none are set.",
-                                         "A.2.2"};
+                                     "Profile %s allows CABAC, which needs fewer bits than CAVLC.",
+                                     "A.2.2"};
+constexpr Rule<const char*> noBFrames = {
+    "profile.no-b-frames", Severity::Note,
+    "Profile %s allows B-frames, which save bits; their number is 0.", "A.2.2"};
 
 struct Tool {
     bool used;

@@ -8,83 +8,97 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<int, int> constantMaximum = {
+constexpr ViewRule<Decimal> constantMaximum = {
     "rate.constant-max", Severity::Warning,
-    "View %d: the bitrate is constant, so its maximum is now its target, %d bit/s.",
+    KV_EACH_VIEW(
+        "The bitrate is constant, so the max bitrate is now the target bitrate, %d.%0*d Mbit/s."),
     "E.2.2: cbr_flag 1"};
-constexpr Rule<int, int> targetMaximum = {
+constexpr ViewRule<Decimal> targetMaximum = {
     "rate.target-max", Severity::Warning,
-    "View %d: the target bitrate exceeded the maximum; it is now %d bit/s.",
+    KV_EACH_VIEW("The target bitrate exceeded the max bitrate; it is now %d.%0*d Mbit/s."),
     "C.1.1: bits arrive at the maximum rate at most"};
-constexpr Rule<int, int, int> targetFullness = {
+constexpr ViewRule<Decimal> raisedMaximum = {
+    "rate.max-target", Severity::Warning,
+    KV_EACH_VIEW("The max bitrate was below the target bitrate; it is now %d.%0*d Mbit/s."),
+    "C.1.1; HRD conformance is off, and the maximum not shown: it follows what is"};
+constexpr ViewRule<int, int> targetFullness = {
     "hrd.target", Severity::Warning,
-    "View %d: VBV buffer target was %d, more than the buffer holds; it is now %d.",
+    KV_EACH_VIEW("VBV buffer target was %d, more than the bitrate buffer holds; it is now %d."),
     "an aim of the encoder, not in the standard"};
 
-constexpr Rule<int> noTarget = {"rate.target", Severity::Error,
-                                "View %d needs a target bitrate above 0.", "nothing to aim at"};
-constexpr Rule<int> noMaximum = {"hrd.maximum", Severity::Error,
-                                 "View %d needs a max bitrate above 0 for HRD conformance.",
-                                 "E.2.2: bit_rate_value_minus1"};
-constexpr Rule<int> noBuffer = {"hrd.buffer", Severity::Error,
-                                "View %d needs a bitrate buffer above 0 for HRD conformance.",
-                                "E.2.2: cpb_size_value_minus1"};
-constexpr Rule<int> noFrameRate = {"hrd.frame-rate", Severity::Error,
-                                   "View %d needs a frame rate for HRD conformance.",
-                                   "C.1.2: removal times count clock ticks"};
-constexpr Rule<int> emptyStart = {"hrd.initial-empty", Severity::Error,
-                                  "View %d: VBV buffer initial has to be above 0.",
-                                  "D.2.2: initial_cpb_removal_delay is not 0"};
-constexpr Rule<int, int, int> fullStart = {
+constexpr ViewRule<> noTarget = {"rate.target", Severity::Error,
+                                 KV_EACH_VIEW("The target bitrate has to be above 0."),
+                                 "nothing to aim at"};
+constexpr ViewRule<> noMaximum = {"hrd.maximum", Severity::Error,
+                                  KV_EACH_VIEW("HRD conformance needs a max bitrate above 0."),
+                                  "E.2.2: bit_rate_value_minus1"};
+constexpr ViewRule<> noBuffer = {"hrd.buffer", Severity::Error,
+                                 KV_EACH_VIEW("HRD conformance needs a bitrate buffer above 0."),
+                                 "E.2.2: cpb_size_value_minus1"};
+constexpr ViewRule<> noFrameRate = {"hrd.frame-rate", Severity::Error,
+                                    KV_EACH_VIEW("HRD conformance needs a frame rate: choose one."),
+                                    "C.1.2: removal times count clock ticks"};
+constexpr ViewRule<> emptyStart = {"hrd.initial-empty", Severity::Error,
+                                   KV_EACH_VIEW("VBV buffer initial has to be above 0."),
+                                   "D.2.2: initial_cpb_removal_delay is not 0"};
+constexpr ViewRule<int, int> fullStart = {
     "hrd.initial-above", Severity::Error,
-    "View %d: VBV buffer initial %d is more than the buffer holds, %d.",
+    KV_EACH_VIEW(
+        "VBV buffer initial can be at most %d with this bitrate buffer (now %d): lower it."),
     "D.2.2: at most 90000 * CpbSize / BitRate"};
-constexpr Rule<int, int, double> iPicture = {
+constexpr ViewRule<double, int> iPicture = {
     "hrd.i-size", Severity::Error,
-    "View %d: an I-frame of %d bytes does not fit the buffer of %.0f bytes.",
+    KV_EACH_VIEW("The bitrate buffer of %.0f bytes is smaller than the maximum I-frame size of %d "
+                 "bytes: enlarge it."),
     "C.3: a picture is whole in the buffer when it is removed"};
-constexpr Rule<int> shortStart = {
+constexpr ViewRule<> shortStart = {
     "hrd.initial-short", Severity::Note,
-    "View %d: VBV buffer initial is less than one frame; the first may come late.",
+    KV_EACH_VIEW("VBV buffer initial is less than one frame, so the first may come late."),
     "C.3: underflow"};
-constexpr Rule<int, double> shortBuffer = {
-    "hrd.short", Severity::Note, "View %d: a buffer of %.2f s leaves little room for I-frames.",
+constexpr ViewRule<Decimal> shortBuffer = {
+    "hrd.short", Severity::Note,
+    KV_EACH_VIEW("The bitrate buffer holds %d.%0*d s, which leaves little room for I-frames."),
     "practice: 0.5 s and more"};
-constexpr Rule<int> rounded = {
+constexpr ViewRule<> rounded = {
     "hrd.rounding", Severity::Note,
-    "View %d: the stream names the rate in steps of 64 bit/s, the buffer of 16 bits.",
+    KV_EACH_VIEW("The stream names the bitrate in steps of 64 bit/s, the buffer in steps of 16 "
+                 "bits."),
     "E.2.2: bit_rate_scale and cpb_size_scale"};
-constexpr Rule<int> withQuantizer = {
+constexpr ViewRule<> withQuantizer = {
     "hrd.quantizer", Severity::Note,
-    "View %d: HRD conformance cannot be kept where quantizers set the size of pictures.",
+    KV_EACH_VIEW("HRD conformance cannot be guaranteed in a constant quality mode."),
     "C.3: underflow"};
-constexpr Rule<int> unlimited = {"rate.unlimited", Severity::Note,
-                                 "View %d has no max bitrate; its target stands for it.",
-                                 "A.3: limits hold for the maximum"};
-constexpr Rule<int, int, int> quantizerOrder = {
+constexpr ViewRule<> unlimited = {
+    "rate.unlimited", Severity::Note,
+    KV_EACH_VIEW(
+        "Without HRD conformance the bitrate has no maximum; the target bitrate was checked."),
+    "A.3: limits hold for the maximum; C.1.1: that of the buffer"};
+constexpr ViewRule<int, int> quantizerOrder = {
     "quantizer.order", Severity::Error,
-    "View %d: the minimum quantizer %d is above the maximum quantizer %d.",
+    KV_EACH_VIEW("The minimum quantizer %d is above the maximum quantizer %d: lower it, or raise "
+                 "the maximum."),
     "contradiction of the two ends"};
 
+#define KV_QUANTIZER(kind)                                                                         \
+    KV_EACH_VIEW("The quantizer of " kind                                                          \
+                 "-frames has to lie between the minimum %d and the maximum %d "                   \
+                 "(now %d).")
 constexpr const char* insideEnds = "contradiction of the quantizer and its ends";
 struct Quantizer {
     std::int32_t KvMvcViewSettings::*field;
     bool (*used)(const Stream&);
-    Rule<int, int, int, int> rule;
+    ViewRule<int, int, int> rule;
 };
 constexpr Quantizer quantizers[] = {
     {&KvMvcViewSettings::quant_i,
      [](const Stream&) { return true; },
-     {"quantizer.i", Severity::Error, "View %d: the I quantizer %d is outside %d to %d.",
-      insideEnds}},
+     {"quantizer.i", Severity::Error, KV_QUANTIZER("I"), insideEnds}},
     {&KvMvcViewSettings::quant_p,
      [](const Stream& stream) { return stream.predicts; },
-     {"quantizer.p", Severity::Error, "View %d: the P quantizer %d is outside %d to %d.",
-      insideEnds}},
+     {"quantizer.p", Severity::Error, KV_QUANTIZER("P"), insideEnds}},
     {&KvMvcViewSettings::quant_b,
      [](const Stream& stream) { return stream.bFrames; },
-     {"quantizer.b", Severity::Error, "View %d: the B quantizer %d is outside %d to %d.",
-      insideEnds}},
+     {"quantizer.b", Severity::Error, KV_QUANTIZER("B"), insideEnds}},
 };
 
 void judgeFullness(const Stream& stream, int v, Report& report)
@@ -96,23 +110,22 @@ void judgeFullness(const Stream& stream, int v, Report& report)
     }
     const double start = fullnessSeconds(view, view.vbv_initial);
     if (view.vbv_initial <= 0) {
-        report.say(emptyStart, v);
+        report.sayOf(v, emptyStart);
     } else if (view.vbv_initial > full) {
-        report.say(fullStart, v, view.vbv_initial, full);
+        report.sayOf(v, fullStart, full, view.vbv_initial);
     } else if (stream.frameRate > 0 && start * stream.frameRate < 1) {
-        report.say(shortStart, v);
+        report.sayOf(v, shortStart);
     }
     const std::int64_t bits = bufferBits(view);
     const std::int64_t rate = limitRate(view);
     if (view.frame_size_i > bits / 8) {
-        report.say(iPicture, v, view.frame_size_i, static_cast<double>(bits / 8));
+        report.sayOf(v, iPicture, static_cast<double>(bits / 8), view.frame_size_i);
     }
-    if (const double seconds = static_cast<double>(bits) / static_cast<double>(rate);
-        seconds < 0.5) {
-        report.say(shortBuffer, v, seconds);
+    if (const double time = static_cast<double>(bits) / static_cast<double>(rate); time < 0.5) {
+        report.sayOf(v, shortBuffer, seconds(time));
     }
     if (rate % 64 != 0 || bits % 16 != 0) {
-        report.say(rounded, v);
+        report.sayOf(v, rounded);
     }
 }
 
@@ -120,13 +133,13 @@ void judgeBuffer(const Stream& stream, int v, Report& report)
 {
     const KvMvcViewSettings& view = stream.record.views[v];
     if (view.bitrate_mode == KV_MVC_VARIABLE_BITRATE && view.max_bitrate <= 0) {
-        report.say(noMaximum, v);
+        report.sayOf(v, noMaximum);
     }
     if (view.bitrate_buffer <= 0) {
-        report.say(noBuffer, v);
+        report.sayOf(v, noBuffer);
     }
     if (stream.frameRate == 0) {
-        report.say(noFrameRate, v);
+        report.sayOf(v, noFrameRate);
     }
     judgeFullness(stream, v, report);
 }
@@ -135,7 +148,7 @@ void judgeQuantizers(const Stream& stream, int v, Report& report)
 {
     const KvMvcViewSettings& view = stream.record.views[v];
     if (view.quant_min > view.quant_max) {
-        report.say(quantizerOrder, v, view.quant_min, view.quant_max);
+        report.sayOf(v, quantizerOrder, view.quant_min, view.quant_max);
         return;
     }
     if (aimsAtRate(view)) {
@@ -144,7 +157,7 @@ void judgeQuantizers(const Stream& stream, int v, Report& report)
     for (const Quantizer& row : quantizers) {
         const int value = view.*row.field;
         if (row.used(stream) && (value < view.quant_min || value > view.quant_max)) {
-            report.say(row.rule, v, value, view.quant_min, view.quant_max);
+            report.sayOf(v, row.rule, view.quant_min, view.quant_max, value);
         }
     }
 }
@@ -153,22 +166,22 @@ void judgeView(const Stream& stream, int v, Report& report)
 {
     const KvMvcViewSettings& view = stream.record.views[v];
     if (aimsAtRate(view) && view.bitrate <= 0) {
-        report.say(noTarget, v);
+        report.sayOf(v, noTarget);
     }
     if (keepsBuffer(view)) {
         judgeBuffer(stream, v, report);
     } else if (view.hrd_mode != 0) {
-        report.say(withQuantizer, v);
-    } else if (view.bitrate_mode == KV_MVC_VARIABLE_BITRATE && view.max_bitrate <= 0) {
-        report.say(unlimited, v);
+        report.sayOf(v, withQuantizer);
+    } else if (view.bitrate_mode == KV_MVC_VARIABLE_BITRATE) {
+        report.sayOf(v, unlimited);
     }
     judgeQuantizers(stream, v, report);
 }
 
 constexpr const RuleInfo* singles[] = {
-    &constantMaximum, &targetMaximum, &targetFullness, &noTarget,       &noMaximum,  &noBuffer,
-    &noFrameRate,     &emptyStart,    &fullStart,      &iPicture,       &shortStart, &shortBuffer,
-    &rounded,         &withQuantizer, &unlimited,      &quantizerOrder,
+    &constantMaximum, &targetMaximum, &raisedMaximum, &targetFullness, &noTarget,       &noMaximum,
+    &noBuffer,        &noFrameRate,   &emptyStart,    &fullStart,      &iPicture,       &shortStart,
+    &shortBuffer,     &rounded,       &withQuantizer, &unlimited,      &quantizerOrder,
 };
 constexpr auto rules = joinRules(singles, rulesOf(quantizers));
 
@@ -181,16 +194,21 @@ void correctRates(KvMvcSettings& record, Report& report)
         if (view.bitrate_mode == KV_MVC_CONSTANT_BITRATE && view.bitrate > 0 &&
             view.max_bitrate != view.bitrate) {
             view.max_bitrate = view.bitrate;
-            report.say(constantMaximum, v, view.bitrate);
+            report.sayOf(v, constantMaximum, millions(view.bitrate));
         }
         if (view.bitrate_mode == KV_MVC_VARIABLE_BITRATE && view.max_bitrate > 0 &&
             view.bitrate > view.max_bitrate) {
-            view.bitrate = view.max_bitrate;
-            report.say(targetMaximum, v, view.bitrate);
+            if (keepsBuffer(view)) {
+                view.bitrate = view.max_bitrate;
+                report.sayOf(v, targetMaximum, millions(view.bitrate));
+            } else {
+                view.max_bitrate = view.bitrate;
+                report.sayOf(v, raisedMaximum, millions(view.bitrate));
+            }
         }
         const int full = keepsBuffer(view) ? fullBuffer(view) : -1;
         if (full >= 0 && view.vbv_target > full) {
-            report.say(targetFullness, v, view.vbv_target, full);
+            report.sayOf(v, targetFullness, view.vbv_target, full);
             view.vbv_target = full;
         }
     }

@@ -1,5 +1,7 @@
 // What several views have in common, and what a multiview profile allows.
 
+#include <cmath>
+
 #include "rules.h"
 
 namespace kv::encoder
@@ -23,35 +25,42 @@ constexpr Rule<> alignedGop = {
     "views.gop", Severity::Warning,
     "View 1 now has the base view's GOP structure, which all views share.",
     "H.7.4.1.1: IDR, anchor and temporal identifiers are those of the access unit"};
-constexpr Rule<> otherTools = {"views.tools", Severity::Note,
-                               "View 1 uses other coding tools than the base view.",
-                               "legal: parameter sets may differ"};
+constexpr Rule<> otherTools = {
+    "views.tools", Severity::Note,
+    "The advanced settings of view 1 differ from those of the base view.",
+    "legal: parameter sets may differ"};
 constexpr Rule<int> beyondRecord = {
-    "views.beyond", Severity::Note, "The views up to view %d are judged by the settings of view 1.",
+    "views.beyond", Severity::Note,
+    "The settings of view 1 also count for the views after it, up to view %d.",
     "the record holds two views: the third and fourth count as the second does"};
 constexpr Rule<> splitOne = {"views.split", Severity::Note,
-                             "Split views has no effect on a single view.", "nothing to split"};
+                             "Split views has no effect: there is only one view.",
+                             "nothing to split"};
 
 constexpr Rule<int> stereoViews = {
     "mvc.stereo-views", Severity::Error,
-    "Stereo High has two views, not %d: remove views, or choose another preset.", "H.10.1.2"};
+    "Stereo High has two views (now %d): set 1 additional view, or choose another preset.",
+    "H.10.1.2"};
 constexpr Rule<> multiviewFrames = {
     "mvc.frames", Severity::Error,
-    "Multiview High has progressive pictures only: choose Progressive.",
+    "Multiview High allows progressive pictures only: set the picture structure to Progressive.",
     "H.10.1.1: frame_mbs_only_flag is 1 in all views"};
 constexpr Rule<const char*> baseProfile = {
     "mvc.base-profile", Severity::Error,
-    "The base view of several cannot be %s: choose Baseline, Main or High.",
+    "With several views, the profile cannot be %s: choose Baseline, Main or High.",
     "H.10.1: the base view conforms to High, Main or Constrained Baseline"};
 constexpr Rule<> chroma = {"mvc.chroma", Severity::Error,
-                           "Several views cannot be coded in 4:2:2: choose 4:2:0.",
+                           "With several views, the chroma format cannot be 4:2:2: choose 4:2:0.",
                            "H.10.1.1, H.10.1.2"};
-constexpr Rule<> depth = {"mvc.depth", Severity::Error,
-                          "Several views have 8 bits a sample: choose 8 bits.",
-                          "H.10.1.1, H.10.1.2"};
-constexpr Rule<int, int, int, int> listSize = {
-    "mvc.list-size", Severity::Error,
-    "View %d: %d reference frames with those of other views; %d views allow %d.",
+constexpr Rule<> depth = {
+    "mvc.depth", Severity::Error,
+    "With several views, luma and chroma have a bit-depth of 8: choose 8 bits.",
+    "H.10.1.1, H.10.1.2"};
+// Only the active references of a list are limited: frames beyond them may be kept.
+constexpr ViewRule<int, int, int> listSize = {
+    "mvc.list-size", Severity::Note,
+    KV_EACH_VIEW("With %d views, a picture refers to at most %d frames at once; %d are kept, other "
+                 "views included."),
     "H.7.4.3: active references in a list, inter-view pictures included"};
 
 // clang-format off
@@ -106,7 +115,7 @@ void judgeLists(const Stream& stream, Report& report)
     for (int v = 0; v < stream.subRecords; ++v) {
         const int used = stream.record.views[v].num_ref_frames + interViewReferences(stream, v);
         if (stream.predicts && used > limit) {
-            report.say(listSize, v, used, stream.views, limit);
+            report.sayOf(v, listSize, stream.views, limit, used);
         }
     }
 }
@@ -126,7 +135,10 @@ void alignViews(KvMvcSettings& record, Report& report)
     const V& base = record.views[0];
     V& second = record.views[1];
     bool picture = copyFields(pictureFields, base, second);
-    if (const double rate = base.frame_rate; second.frame_rate != rate) {
+    const double rate = base.frame_rate;
+    const double own = second.frame_rate;
+    const bool neitherIsANumber = std::isnan(rate) && std::isnan(own);
+    if (rate != own && !neitherIsANumber) {
         second.frame_rate = rate;
         picture = true;
     }

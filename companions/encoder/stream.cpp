@@ -87,8 +87,9 @@ std::int64_t limitRate(const KvMvcViewSettings& view)
     if (!aimsAtRate(view)) {
         return 0;
     }
-    const bool variable = view.bitrate_mode == KV_MVC_VARIABLE_BITRATE;
-    return variable && view.max_bitrate > 0 ? view.max_bitrate : view.bitrate;
+    const bool hasMaximum =
+        view.bitrate_mode == KV_MVC_VARIABLE_BITRATE && keepsBuffer(view) && view.max_bitrate > 0;
+    return hasMaximum ? view.max_bitrate : view.bitrate;
 }
 
 std::int64_t bufferBits(const KvMvcViewSettings& view)
@@ -158,7 +159,8 @@ Stream::Stream(const KvMvcSettings& settings)
       frameRate(base.frame_rate),
       outputRate(frameRate * outputFactor(base.pulldown)),
       predicts(base.i_interval != 1),
-      bFrames(predicts && base.ref_distance > 1)
+      bFrames(predicts && base.ref_distance > 1),
+      disc(base.video_type == KV_MVC_BLURAY_3D)
 {
 }
 

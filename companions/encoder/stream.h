@@ -29,7 +29,11 @@ bool aimsAtRate(const KvMvcViewSettings& view);
 /** Whether buffer and fullness are in effect: HRD conformance with a bit rate. */
 bool keepsBuffer(const KvMvcViewSettings& view);
 
-/** Bit rate that the view never exceeds, in bit/s; 0 when none is set or the quantizer rules. */
+/**
+ * Bit rate that limits hold for, in bit/s; 0 when the quantizer rules. The maximum is the rate at
+ * which the buffer is filled (C.1.1): without HRD conformance it has no effect, and the dialog does
+ * not show it, so the target stands for it.
+ */
 std::int64_t limitRate(const KvMvcViewSettings& view);
 
 /** Buffer size in bits. */
@@ -71,6 +75,7 @@ struct Stream {
     double outputRate;       ///< frames per second at the shortest distance between output times
     bool predicts;           ///< there are other pictures than I pictures
     bool bFrames;            ///< there are B pictures
+    bool disc;               ///< made for Blu-ray 3D
 
     /** The profile that limits rates and slices: the multiview profile, else the base view's. */
     const Profile* streamProfile() const { return multiview ? multiview : profile; }

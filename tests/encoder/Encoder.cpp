@@ -22,8 +22,10 @@ int collect(int kind, const char* format, va_list arguments)
     current->texts[kind].append(text);
     for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
         for (const kv::encoder::RuleInfo* rule : group.rules) {
-            if (std::strcmp(rule->format, format) == 0) {
-                current->rules.append(QString::fromLatin1(rule->id));
+            for (const char* const known : {rule->format, rule->viewFormat}) {
+                if (known && std::strcmp(known, format) == 0) {
+                    current->rules.append(QString::fromLatin1(rule->id));
+                }
             }
         }
     }

@@ -18,6 +18,46 @@ constexpr RuleCase rows[] = {
     {"disc.level", "4", 3, [](Record& r) { setBoth(r, &V::level, 40); }, true},
     {"disc.level", "4.2", 3, [](Record& r) { setBoth(r, &V::level, 42); }, true},
     {"disc.level", "Auto", 3, [](Record& r) { setBoth(r, &V::level, 100); }, false},
+    {"level.fits-disc", "4.1", 3, [](Record&) {}, true},
+    {"level.fits-disc", "the level is another, the settings fit", 3,
+     [](Record& r) { setBoth(r, &V::level, 51); }, true},
+    {"level.fits-disc", "rates beyond 4.1", 3,
+     [](Record& r) {
+         setBoth(r, &V::level, 51);
+         setBoth(r, &V::max_bitrate, 40000000);
+     },
+     false},
+    {"level.fits-disc", "no disc", 2, [](Record&) {}, false},
+    {"level.auto-disc", "Auto", 3, [](Record& r) { setBoth(r, &V::level, 100); }, true},
+    {"level.auto-disc", "rates beyond 4.1", 3,
+     [](Record& r) {
+         setBoth(r, &V::level, 100);
+         setBoth(r, &V::max_bitrate, 40000000);
+     },
+     false},
+    {"level.auto-disc", "no disc", 2, [](Record& r) { setBoth(r, &V::level, 100); }, false},
+    {"level.none-disc", "rates beyond 4.1", 3,
+     [](Record& r) {
+         setBoth(r, &V::level, 51);
+         setBoth(r, &V::max_bitrate, 40000000);
+     },
+     true},
+    {"level.none-disc", "rates beyond 4.1 at that level, whose errors are there", 3,
+     [](Record& r) { setBoth(r, &V::max_bitrate, 40000000); }, false},
+    {"level.none-disc", "rates beyond 4.1, no disc", 2,
+     [](Record& r) {
+         setBoth(r, &V::level, 51);
+         setBoth(r, &V::max_bitrate, 40000000);
+     },
+     false},
+    {"level.none", "disc beyond 4.1", 3,
+     [](Record& r) {
+         setBoth(r, &V::level, 51);
+         setBoth(r, &V::max_bitrate, 400000000);
+     },
+     false},
+    {"level.lowest", "disc", 3, [](Record&) {}, false},
+    {"level.auto", "disc", 3, [](Record& r) { setBoth(r, &V::level, 100); }, false},
     {"disc.level", "Auto of rates that a lower level takes", 3,
      [](Record& r) {
          setBoth(r, &V::level, 100);
@@ -87,7 +127,7 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::pixel_aspect_y, 1);
      },
      true},
-    {"disc.aspect", "720 x 576, 16:11", 3,
+    {"disc.aspect-two", "720 x 576, 16:11", 3,
      [](Record& r) {
          setBoth(r, &V::width, 720);
          setBoth(r, &V::height, 576);
@@ -99,7 +139,19 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::pixel_aspect_y, 11);
      },
      false},
-    {"disc.aspect", "720 x 576, 64:45", 3,
+    {"disc.aspect-two", "720 x 576, 12:11", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 720);
+         setBoth(r, &V::height, 576);
+         setBoth(r, &V::interlace_mode, 2);
+         setFrameRate(r, 25);
+         setBoth(r, &V::display_aspect_x, -1);
+         setBoth(r, &V::display_aspect_y, -1);
+         setBoth(r, &V::pixel_aspect_x, 12);
+         setBoth(r, &V::pixel_aspect_y, 11);
+     },
+     false},
+    {"disc.aspect-two", "720 x 576, 64:45", 3,
      [](Record& r) {
          setBoth(r, &V::width, 720);
          setBoth(r, &V::height, 576);

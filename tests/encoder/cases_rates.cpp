@@ -38,6 +38,32 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::hrd_mode, 0);
      },
      false},
+    {"rate.target-max", "above without HRD", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate, 30000001);
+         setBoth(r, &V::hrd_mode, 0);
+     },
+     false},
+    {"rate.max-target", "below without HRD", 0,
+     [](Record& r) {
+         setBoth(r, &V::max_bitrate, 19999999);
+         setBoth(r, &V::hrd_mode, 0);
+     },
+     true},
+    {"rate.max-target", "equal without HRD", 0,
+     [](Record& r) {
+         setBoth(r, &V::max_bitrate, 20000000);
+         setBoth(r, &V::hrd_mode, 0);
+     },
+     false},
+    {"rate.max-target", "unset without HRD", 0,
+     [](Record& r) {
+         setBoth(r, &V::max_bitrate, 0);
+         setBoth(r, &V::hrd_mode, 0);
+     },
+     false},
+    {"rate.max-target", "below with HRD", 0, [](Record& r) { setBoth(r, &V::max_bitrate, 10); },
+     false},
     {"rate.target-max", "above in a quantizer mode", 0,
      [](Record& r) {
          setBoth(r, &V::bitrate_mode, 1);
@@ -256,7 +282,15 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::hrd_mode, 0);
      },
      true},
-    {"rate.unlimited", "given", 0, [](Record& r) { setBoth(r, &V::hrd_mode, 0); }, false},
+    {"rate.unlimited", "given, which has no effect without HRD", 0,
+     [](Record& r) { setBoth(r, &V::hrd_mode, 0); }, true},
+    {"rate.unlimited", "HRD", 0, [](Record&) {}, false},
+    {"rate.unlimited", "constant bitrate", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate_mode, 0);
+         setBoth(r, &V::hrd_mode, 0);
+     },
+     false},
     {"quantizer.order", "equal", 0,
      [](Record& r) {
          setBoth(r, &V::quant_min, 30);

@@ -110,6 +110,14 @@ constexpr RuleCase rows[] = {
          r.views[1].num_ref_frames = 7;
      },
      false},
+    {"mvc.list-size", "I-frames only", 2,
+     [](Record& r) {
+         setBoth(r, &V::width, 352);
+         setBoth(r, &V::height, 288);
+         setBoth(r, &V::num_ref_frames, 8);
+         setBoth(r, &V::i_interval, 1);
+     },
+     false},
     {"mvc.list-size", "9 in the base view", 2,
      [](Record& r) {
          setBoth(r, &V::width, 352);

@@ -96,6 +96,8 @@ class TestEncoderDefaults : public QObject
 private Q_SLOTS:
     void passTheCheckWithNotesOnly_data() { addPresets(); }
     void passTheCheckWithNotesOnly();
+    void tellOfTheirLevel_data();
+    void tellOfTheirLevel();
     void lieInWhatControlsShow_data() { addPresets(); }
     void lieInWhatControlsShow();
     void setEveryField_data() { addPresets(); }
@@ -121,6 +123,28 @@ void TestEncoderDefaults::passTheCheckWithNotesOnly()
     QCOMPARE(outcome.warnings(), QByteArrayList());
     QVERIFY2(outcome.notes().size() >= 3 && outcome.notes().size() <= 6, outcome.all().constData());
     QVERIFY(std::memcmp(&before, &record, sizeof record) == 0);
+}
+
+void TestEncoderDefaults::tellOfTheirLevel_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QByteArray>("note");
+    // One view would do with less; a second one, with the rates that it has, would not.
+    QTest::newRow("none") << 0 << QByteArray("Level 4.0 is the lowest that fits.");
+    QTest::newRow("Multivew High") << 1 << QByteArray("Level 4.1 is the lowest that fits.");
+    QTest::newRow("Stereo High") << 2 << QByteArray("Level 4.1 is the lowest that fits.");
+    QTest::newRow("Blu-ray 3D") << 3
+                                << QByteArray(
+                                       "These settings fit level 4.1, which Blu-ray 3D requires.");
+}
+
+void TestEncoderDefaults::tellOfTheirLevel()
+{
+    QFETCH(const int, number);
+    QFETCH(const QByteArray, note);
+    KvMvcSettings record = encoder::preset(number);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.notes().contains(note), outcome.all().constData());
 }
 
 void TestEncoderDefaults::lieInWhatControlsShow()

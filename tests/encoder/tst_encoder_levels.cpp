@@ -31,20 +31,20 @@ struct LevelRow {
 // clang-format off
 constexpr LevelRow levelRows[] = {
     //code name   full      side       MaxMBPS  DPB 2   MaxBR   MaxCPB MinCR slices
-    {10, "1",    11,   9,   28,  3,     1485,   4,  4,     64,    175, 2,   0, false},
+    {10, "1.0",  11,   9,   28,  3,     1485,   4,  4,     64,    175, 2,   0, false},
     {11, "1.1",  22,  18,   56,  6,     3000,   2,  2,    192,    500, 2,   0, false},
     {12, "1.2",  22,  18,   56,  6,     6000,   6,  6,    384,   1000, 2,   0, false},
     {13, "1.3",  22,  18,   56,  6,    11880,   6,  6,    768,   2000, 2,   0, false},
-    {20, "2",    22,  18,   56,  6,    11880,   6,  6,   2000,   2000, 2,   0, false},
+    {20, "2.0",  22,  18,   56,  6,    11880,   6,  6,   2000,   2000, 2,   0, false},
     {21, "2.1",  36,  22,   79,  9,    19800,   6,  6,   4000,   4000, 2,   0, true},
     {22, "2.2",  45,  36,  113, 14,    20250,   5,  5,   4000,   4000, 2,   0, true},
-    {30, "3",    45,  36,  113, 14,    40500,   5,  5,  10000,  10000, 2,  10, true},
+    {30, "3.0",  45,  36,  113, 14,    40500,   5,  5,  10000,  10000, 2,  10, true},
     {31, "3.1",  80,  45,  169, 21,   108000,   5,  5,  14000,  14000, 4,  10, true},
     {32, "3.2",  80,  64,  202, 25,   216000,   4,  4,  20000,  20000, 4,  20, true},
-    {40, "4",   128,  64,  256, 31,   245760,   4,  4,  20000,  25000, 4,  23, true},
+    {40, "4.0", 128,  64,  256, 31,   245760,   4,  4,  20000,  25000, 4,  23, true},
     {41, "4.1", 128,  64,  256, 31,   245760,   4,  4,  50000,  62500, 2,  59, true},
     {42, "4.2", 136,  64,  263, 32,   522240,   4,  4,  50000,  62500, 2, 126, false},
-    {50, "5",   184, 120,  420, 52,   589824,   5,  5, 135000, 135000, 2, 142, false},
+    {50, "5.0", 184, 120,  420, 52,   589824,   5,  5, 135000, 135000, 2, 142, false},
     {51, "5.1", 192, 192,  543, 67,   983040,   5,  5, 240000, 240000, 2, 238, false},
     {52, "5.2", 192, 192,  543, 67,  2073600,   5,  5, 240000, 240000, 2, 502, false},
 };
@@ -143,7 +143,17 @@ private Q_SLOTS:
     void automaticLevel_data();
     void automaticLevel();
     void automaticLevelKeepsItsCode();
+    void lowestLevelIsTold_data();
     void lowestLevelIsTold();
+    void lowestLevelCanBeChosen();
+    void reservedLevelsAreNamed_data();
+    void reservedLevelsAreNamed();
+    void ratesAreReadable_data();
+    void ratesAreReadable();
+    void frameRatesAreReadable_data();
+    void frameRatesAreReadable();
+    void discHasOneLevel_data();
+    void discHasOneLevel();
 
 private:
     void levels();
@@ -365,6 +375,7 @@ void TestEncoderLevels::severalViewsOf1080Lines_data()
     QTest::newRow("4.2, 2") << 42 << 2 << 64.0 << 4;
     QTest::newRow("4.2, 3") << 42 << 3 << 42.6 << 2;
     QTest::newRow("4.2, 4") << 42 << 4 << 32.0 << 2;
+    QTest::newRow("5, 2") << 50 << 2 << 72.2 << 8;
     QTest::newRow("5, 3") << 50 << 3 << 48.1 << 9;
     QTest::newRow("5, 4") << 50 << 4 << 36.1 << 6;
     QTest::newRow("5.1, 3") << 51 << 3 << 80.3 << 10;
@@ -410,24 +421,24 @@ void TestEncoderLevels::automaticLevel_data()
                         const char* level) {
         QTest::newRow(name) << width << height << frameRate << rate << QByteArray(level);
     };
-    add("the least", 1, 1, 1, 64, "1");
-    add("most of 1", 11, 9, 15, 96000, "1");
+    add("the least", 1, 1, 1, 64, "1.0");
+    add("most of 1", 11, 9, 15, 96000, "1.0");
     add("rate beyond 1", 11, 9, 15, 96001, "1b");
     add("most of 1b", 11, 9, 15, 192000, "1b");
     add("rate beyond 1b", 11, 9, 15, 192001, "1.1");
     add("frames beyond 1", 11, 9, 15.01, 64, "1.1");
     add("rate beyond 1.1", 11, 9, 15, 288001, "1.2");
     add("rate beyond 1.2", 11, 9, 15, 576001, "1.3");
-    add("rate beyond 1.3", 11, 9, 15, 1152001, "2");
+    add("rate beyond 1.3", 11, 9, 15, 1152001, "2.0");
     add("frames beyond 2", 22, 18, 30.1, 64, "2.1");
     add("picture beyond 2.1", 45, 36, 12.5, 64, "2.2");
-    add("frames beyond 2.2", 45, 36, 25, 64, "3");
+    add("frames beyond 2.2", 45, 36, 25, 64, "3.0");
     add("1280 x 720 at 30", 80, 45, 30, 64, "3.1");
     add("1280 x 720 at 60", 80, 45, 60, 64, "3.2");
-    add("1920 x 1080 at 30", 120, 68, 30, 30000000, "4");
+    add("1920 x 1080 at 30", 120, 68, 30, 30000000, "4.0");
     add("rate beyond 4", 120, 68, 30, 30000001, "4.1");
     add("1920 x 1080 at 50", 120, 68, 50, 64, "4.2");
-    add("2560 x 1440 at 30", 160, 90, 30, 64, "5");
+    add("2560 x 1440 at 30", 160, 90, 30, 64, "5.0");
     add("3840 x 2160 at 30", 240, 135, 30, 64, "5.1");
     add("3840 x 2160 at 60", 240, 135, 60, 64, "5.2");
 }
@@ -446,9 +457,9 @@ void TestEncoderLevels::automaticLevel()
     setBoth(record, &V::max_bitrate, rate);
     const Outcome outcome = encoder::check(record);
     QVERIFY2(outcome.accepted(), outcome.all().constData());
-    QVERIFY2(
-        outcome.notes().contains("Level Auto comes to level " + level + ", the lowest that fits."),
-        outcome.all().constData());
+    QVERIFY2(outcome.notes().contains("With level Auto, the stream has level " + level +
+                                      ", the lowest that fits."),
+             outcome.all().constData());
 }
 
 void TestEncoderLevels::automaticLevelKeepsItsCode()
@@ -460,19 +471,175 @@ void TestEncoderLevels::automaticLevelKeepsItsCode()
         QVERIFY2(outcome.accepted(), outcome.all().constData());
         QCOMPARE(record.views[0].level, 100);
         QCOMPARE(record.views[1].level, 100);
-        QVERIFY(outcome.said(QStringLiteral("level.auto")));
+        const bool disc = number == KV_MVC_BLURAY_3D;
+        QVERIFY(
+            outcome.said(disc ? QStringLiteral("level.auto-disc") : QStringLiteral("level.auto")));
     }
+}
+
+void TestEncoderLevels::lowestLevelIsTold_data()
+{
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<QByteArray>("level");
+    // The only levels that take pictures of 1920 x 1080.
+    QTest::newRow("4.0") << 30000000 << QByteArray("4.0");
+    QTest::newRow("4.1") << 30000001 << QByteArray("4.1");
+    QTest::newRow("5.0") << 75000001 << QByteArray("5.0");
 }
 
 void TestEncoderLevels::lowestLevelIsTold()
 {
+    QFETCH(const int, rate);
+    QFETCH(const QByteArray, level);
     // Also of a level that is too low, so that the user sees where to go.
-    KvMvcSettings record = encoder::preset(2);
+    KvMvcSettings record = encoder::preset(0);
     setBoth(record, &V::level, 30);
+    setBoth(record, &V::max_bitrate, rate);
     const Outcome outcome = encoder::check(record);
     QVERIFY(!outcome.accepted());
-    QVERIFY2(outcome.notes().contains("Level 4.1 is the lowest that fits."),
+    QVERIFY2(outcome.notes().contains("Level " + level + " is the lowest that fits."),
              outcome.all().constData());
+}
+
+void TestEncoderLevels::lowestLevelCanBeChosen()
+{
+    // 96001 bit/s would do with 1b, which no list has.
+    KvMvcSettings record = modest(levelRows[1]);
+    setSize(record, 11, 9);
+    setBoth(record, &V::max_bitrate, 96001);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.accepted(), outcome.all().constData());
+    QVERIFY2(outcome.notes().contains("Level 1.1 is the lowest that fits."),
+             outcome.all().constData());
+}
+
+void TestEncoderLevels::reservedLevelsAreNamed_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("1.6") << 16 << QByteArray("1.6");
+    QTest::newRow("6.0") << 60 << QByteArray("6.0");
+    QTest::newRow("0.0") << 0 << QByteArray("0.0");
+    QTest::newRow("-0.5") << -5 << QByteArray("-0.5");
+    QTest::newRow("lowest") << INT32_MIN << QByteArray("-214748364.8");
+}
+
+void TestEncoderLevels::reservedLevelsAreNamed()
+{
+    QFETCH(const int, code);
+    QFETCH(const QByteArray, name);
+    KvMvcSettings record = encoder::preset(0);
+    setBoth(record, &V::level, code);
+    QCOMPARE(encoder::check(record).errors(),
+             QByteArrayList{"Level " + name +
+                            " is none of the H.264 levels from 1.0 to 5.2: choose "
+                            "another level, or Auto."});
+}
+
+void TestEncoderLevels::ratesAreReadable_data()
+{
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<QByteArray>("error");
+    const auto add = [](int rate, const char* shown) {
+        QTest::addRow("%d", rate) << rate
+                                  << QByteArray(
+                                         "Level 4.0 allows the base view at most 30.00 Mbit/s "
+                                         "(now ") +
+                                         shown + "): lower its bitrate, or choose a higher level.";
+    };
+    add(30000001, "30.000001"); // no two numbers look equal
+    add(30000100, "30.0001");
+    add(30100000, "30.10");
+    add(31234567, "31.234567");
+    add(2147483647, "2147.483647");
+}
+
+void TestEncoderLevels::ratesAreReadable()
+{
+    QFETCH(const int, rate);
+    QFETCH(const QByteArray, error);
+    KvMvcSettings record = encoder::preset(0);
+    setBoth(record, &V::level, 40);
+    setBoth(record, &V::max_bitrate, rate);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.errors().contains(error), outcome.all().constData());
+}
+
+void TestEncoderLevels::frameRatesAreReadable_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QByteArray>("shown");
+    QTest::newRow("30000/1001") << 30000.0 / 1001 << QByteArray("29.97");
+    QTest::newRow("60000/1001") << 60000.0 / 1001 << QByteArray("59.94");
+    QTest::newRow("25") << 25.0 << QByteArray("25.00");
+    QTest::newRow("12.5") << 12.5 << QByteArray("12.50");
+    QTest::newRow("29.9996") << 29.9996 << QByteArray("30.00");
+    QTest::newRow("23.98") << 23.98 << QByteArray("23.98");
+    QTest::newRow("23.977") << 23.9774 << QByteArray("23.977");
+    QTest::newRow("beyond all numbers of a message") << 1e300 << QByteArray("2147483647.00");
+}
+
+void TestEncoderLevels::frameRatesAreReadable()
+{
+    QFETCH(const double, rate);
+    QFETCH(const QByteArray, shown);
+    KvMvcSettings record = encoder::preset(0);
+    setBoth(record, &V::pulldown, int{KV_MVC_PULLDOWN_2_3});
+    encoder::setFrameRate(record, rate);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.notes().contains(
+                 "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now " + shown + ")."),
+             outcome.all().constData());
+}
+
+void TestEncoderLevels::discHasOneLevel_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<int>("rate"); // of each view
+    QTest::addColumn<QByteArrayList>("errors");
+    QTest::addColumn<QByteArray>("note");
+    const QByteArray another = "Blu-ray 3D requires level 4.1 (now 4.2): choose 4.1.";
+    const QByteArray together = "Blu-ray 3D allows both views together at most 60.00 Mbit/s (now "
+                                "80.00): lower a bitrate.";
+    // 15 Mbit/s in each view fit level 4.0, which is not told: a disc cannot have it.
+    QTest::newRow("4.0 would do") << 41 << 15000000 << QByteArrayList()
+                                  << QByteArray("These settings fit level 4.1, which Blu-ray 3D "
+                                                "requires.");
+    QTest::newRow("4.0 would do, Auto")
+        << 100 << 15000000 << QByteArrayList()
+        << QByteArray("With level Auto, the stream has level 4.1, which Blu-ray 3D requires.");
+    QTest::newRow("another level")
+        << 42 << 15000000 << QByteArrayList{another}
+        << QByteArray("These settings fit level 4.1, which Blu-ray 3D requires.");
+    QTest::newRow("rates of a higher level, Auto")
+        << 100 << 40000000
+        << QByteArrayList{"Level 4.1 allows at most 75.00 Mbit/s for 2 views together (now 80.00): "
+                          "lower a bitrate, or choose a higher level.",
+                          together}
+        << QByteArray();
+    QTest::newRow("rates of another level")
+        << 50 << 40000000
+        << QByteArrayList{"These settings do not fit level 4.1, which Blu-ray 3D requires.",
+                          "Blu-ray 3D requires level 4.1 (now 5.0): choose 4.1.", together}
+        << QByteArray();
+}
+
+void TestEncoderLevels::discHasOneLevel()
+{
+    QFETCH(const int, level);
+    QFETCH(const int, rate);
+    QFETCH(const QByteArrayList, errors);
+    QFETCH(const QByteArray, note);
+    KvMvcSettings record = encoder::preset(3);
+    setBoth(record, &V::level, level);
+    setBoth(record, &V::bitrate, 10000000);
+    setBoth(record, &V::max_bitrate, rate);
+    setBoth(record, &V::bitrate_buffer, 1875000);
+    const Outcome outcome = encoder::check(record);
+    QCOMPARE(outcome.errors(), errors);
+    QVERIFY2(note.isEmpty() || outcome.notes().contains(note), outcome.all().constData());
+    for (const QByteArray& told : outcome.notes())
+        QVERIFY2(!told.contains("lowest"), told.constData());
 }
 
 QTEST_GUILESS_MAIN(TestEncoderLevels)

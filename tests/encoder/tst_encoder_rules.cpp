@@ -23,6 +23,15 @@ QList<const kv::encoder::RuleInfo*> allRules()
     return list;
 }
 
+QList<const char*> formatsOf(const kv::encoder::RuleInfo& rule)
+{
+    QList<const char*> formats = {rule.format};
+    if (rule.viewFormat) {
+        formats.append(rule.viewFormat);
+    }
+    return formats;
+}
+
 QList<RuleCase> allCases()
 {
     QList<RuleCase> list;
@@ -80,6 +89,7 @@ private Q_SLOTS:
     void bothViewsGetOneMessageOfAGeneralField();
     void tenBitsLowerTheQuantizers();
     void everyRuleIsShownOnBothSides();
+    void messagesNameTheView();
     void namesAndFormatsAreUnique();
     void messagesAreShortSentences();
     void documentIsTheRuleList();
@@ -207,11 +217,12 @@ void TestEncoderRules::tenBitsLowerTheQuantizers()
     QVERIFY(encoder::check(record).accepted());
     QCOMPARE(record.views[0].quant_min, -12);
     record.views[0].quant_min = -13;
-    QCOMPARE(encoder::check(record).warnings(),
-             QByteArrayList{"View 0: minimum quantizer was -13; it is now -12 (-12 to 51)."});
+    QCOMPARE(
+        encoder::check(record).warnings(),
+        QByteArrayList{"Base view: The minimum quantizer was -13; it is now -12 (-12 to 51)."});
     record.views[0].bit_depth_luma = 8;
     QCOMPARE(encoder::check(record).warnings(),
-             QByteArrayList{"View 0: minimum quantizer was -12; it is now 0 (0 to 51)."});
+             QByteArrayList{"Base view: The minimum quantizer was -12; it is now 0 (0 to 51)."});
 }
 
 void TestEncoderRules::everyRuleIsShownOnBothSides()
@@ -236,15 +247,35 @@ void TestEncoderRules::everyRuleIsShownOnBothSides()
     QCOMPARE(speaking, QSet<QString>()); // a row about a rule that does not exist
 }
 
+void TestEncoderRules::messagesNameTheView()
+{
+    // Both formats of a rule are one sentence; the dialog calls the views by these names.
+    for (const kv::encoder::RuleInfo* rule : allRules()) {
+        const QByteArray format = rule->format;
+        QVERIFY2(!format.startsWith("View %d"), format.constData());
+        if (!rule->viewFormat) {
+            QVERIFY2(!format.startsWith("Base view:"), format.constData());
+            continue;
+        }
+        QByteArray sentence = format;
+        if (sentence.startsWith("Base view: ")) {
+            sentence.remove(0, 11);
+        }
+        QCOMPARE(QByteArray(rule->viewFormat), "View %d: " + sentence);
+    }
+}
+
 void TestEncoderRules::namesAndFormatsAreUnique()
 {
     QSet<QByteArray> names;
     QSet<QByteArray> formats;
     for (const kv::encoder::RuleInfo* rule : allRules()) {
         QVERIFY2(!names.contains(rule->id), rule->id);
-        QVERIFY2(!formats.contains(rule->format), rule->format);
         names.insert(rule->id);
-        formats.insert(rule->format);
+        for (const char* const format : formatsOf(*rule)) {
+            QVERIFY2(!formats.contains(format), format);
+            formats.insert(format);
+        }
     }
 }
 
@@ -252,9 +283,11 @@ void TestEncoderRules::messagesAreShortSentences()
 {
     static const QRegularExpression sentence(QStringLiteral("^[A-Z0-9%][^\\n|]*\\.$"));
     for (const kv::encoder::RuleInfo* rule : allRules()) {
-        const QString format = QString::fromLatin1(rule->format);
-        QVERIFY2(sentence.match(format).hasMatch(), rule->format);
-        QVERIFY2(format.size() <= 100, rule->format);
+        for (const char* const format : formatsOf(*rule)) {
+            const QString text = QString::fromLatin1(format);
+            QVERIFY2(sentence.match(text).hasMatch(), format);
+            QVERIFY2(text.size() <= 120, format);
+        }
         QVERIFY2(*rule->basis != '\0', rule->id);
     }
 }
@@ -274,7 +307,9 @@ void TestEncoderRules::formatsAreListedOneALine()
 {
     QByteArrayList wanted;
     for (const kv::encoder::RuleInfo* rule : allRules()) {
-        wanted.append(rule->format);
+        for (const char* const format : formatsOf(*rule)) {
+            wanted.append(format);
+        }
     }
     QCOMPARE(outputOf({QStringLiteral("--formats")}), wanted.join('\n') + '\n');
 }

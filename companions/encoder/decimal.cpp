@@ -1,0 +1,52 @@
+#include "decimal.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kv::encoder
+{
+
+namespace
+{
+
+/** A number of thousandths, millionths, ...; zeros at the end are left out down to two decimals. */
+Decimal decimal(std::int64_t units, int digits)
+{
+    std::int64_t one = 1;
+    for (int i = 0; i < digits; ++i) {
+        one *= 10;
+    }
+    std::int64_t fraction = units % one;
+    for (; digits > 2 && fraction % 10 == 0; --digits) {
+        fraction /= 10;
+    }
+    const std::int64_t whole = std::min<std::int64_t>(units / one, std::numeric_limits<int>::max());
+    return {static_cast<int>(whole), digits, static_cast<int>(fraction)};
+}
+
+/** Beyond what a message can print, the highest number that it can. */
+Decimal rounded(double number, int digits)
+{
+    const double highest = std::numeric_limits<int>::max();
+    return decimal(std::llround(std::clamp(number, 0.0, highest) * std::pow(10, digits)), digits);
+}
+
+} // namespace
+
+Decimal millions(std::int64_t number)
+{
+    return decimal(std::max<std::int64_t>(number, 0), 6);
+}
+
+Decimal frameRateText(double rate)
+{
+    return rounded(rate, 3);
+}
+
+Decimal seconds(double time)
+{
+    return rounded(time, 2);
+}
+
+} // namespace kv::encoder
