@@ -47,6 +47,8 @@ private Q_SLOTS:
     void noTextIsStale();
     void aFewTexts_data();
     void aFewTexts();
+    void decimalsHaveASignOfTheLanguage();
+    void viewsAreNamedInEachLanguage();
     void languages();
     void unknownFormats();
 
@@ -98,7 +100,10 @@ void TestTexts::messageIsTranslated_data()
     QTest::addColumn<QByteArray>("format");
     for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups())
         for (const kv::encoder::RuleInfo* rule : group.rules)
-            QTest::newRow(rule->id) << QByteArray(rule->format);
+            for (const char* const format : {rule->format, rule->viewFormat})
+                if (format)
+                    QTest::addRow("%s%s", rule->id, format == rule->format ? "" : ", view")
+                        << QByteArray(format);
 }
 
 void TestTexts::messageIsTranslated()
@@ -120,7 +125,9 @@ void TestTexts::noTextIsStale()
     QSet<QByteArray> formats;
     for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups())
         for (const kv::encoder::RuleInfo* rule : group.rules)
-            formats += rule->format;
+            for (const char* const format : {rule->format, rule->viewFormat})
+                if (format)
+                    formats += format;
     QSet<QByteArray> seen;
     for (const kv::texts::Table& table : kv::texts::tables())
         for (const kv::texts::Text& text : table) {
@@ -134,24 +141,72 @@ void TestTexts::noTextIsStale()
 void TestTexts::aFewTexts_data()
 {
     QTest::addColumn<int>("language");
+    QTest::addColumn<QByteArray>("format");
     QTest::addColumn<QString>("text");
-    QTest::newRow("German") << 7 << QStringLiteral("Ansicht %d braucht eine Zielbitrate über 0.");
-    QTest::newRow("Japanese") << 17
-                              << QStringLiteral(
-                                     "ビュー %d には 0 より大きい目標ビットレートが必要です。");
+    const QByteArray base = "Base view: The target bitrate has to be above 0.";
+    const QByteArray other = "View %d: The target bitrate has to be above 0.";
+    QTest::newRow("German, base view")
+        << 7 << base << QStringLiteral("Basisansicht: Die Zielbitrate muss über 0 liegen.");
+    QTest::newRow("German, view") << 7 << other
+                                  << QStringLiteral(
+                                         "Ansicht %d: Die Zielbitrate muss über 0 liegen.");
+    QTest::newRow("Japanese, base view")
+        << 17 << base
+        << QStringLiteral("ベースビュー: 目標ビットレートは 0 より大きくしてください。");
+    QTest::newRow("Japanese, view")
+        << 17 << other
+        << QStringLiteral("ビュー %d: 目標ビットレートは 0 より大きくしてください。");
+    QTest::newRow("German, of all views")
+        << 7 << QByteArray("The switch \"Deblocking filter\" was %d; it is now on (1).")
+        << QStringLiteral("„Deblocking-Filter“ war %d und ist jetzt an (1).");
+    QTest::newRow("German, of another view")
+        << 7 << QByteArray("View %d: The switch \"Deblocking filter\" was %d; it is now on (1).")
+        << QStringLiteral("Ansicht %d: „Deblocking-Filter“ war %d und ist jetzt an (1).");
 }
 
 void TestTexts::aFewTexts()
 {
     QFETCH(int, language);
+    QFETCH(QByteArray, format);
     QFETCH(QString, text);
     QCOMPARE(setLanguage(language), 0);
-    QCOMPARE(QString::fromUtf8(convert("View %d needs a target bitrate above 0.")), text);
+    QCOMPARE(QString::fromUtf8(convert(format.constData())), text);
+}
+
+void TestTexts::decimalsHaveASignOfTheLanguage()
+{
+    int seen = 0;
+    for (const kv::texts::Table& table : kv::texts::tables())
+        for (const kv::texts::Text& text : table) {
+            const int decimals = QByteArray(text.format).count("%d.%0*d");
+            QCOMPARE(QByteArray(text.german).count("%d,%0*d"), decimals);
+            QCOMPARE(QByteArray(text.japanese).count("%d.%0*d"), decimals);
+            QVERIFY2(!QByteArray(text.german).contains("%d.%0*d"), text.german);
+            seen += decimals;
+        }
+    QVERIFY(seen > 0);
+}
+
+void TestTexts::viewsAreNamedInEachLanguage()
+{
+    const struct {
+        const char* english;
+        const char* german;
+        const char* japanese;
+    } names[] = {{"Base view: ", "Basisansicht: ", "ベースビュー: "},
+                 {"View %d: ", "Ansicht %d: ", "ビュー %d: "}};
+    for (const kv::texts::Table& table : kv::texts::tables())
+        for (const kv::texts::Text& text : table)
+            for (const auto& name : names) {
+                const bool named = QByteArray(text.format).startsWith(name.english);
+                QCOMPARE(QByteArray(text.german).startsWith(name.german), named);
+                QCOMPARE(QByteArray(text.japanese).startsWith(name.japanese), named);
+            }
 }
 
 void TestTexts::languages()
 {
-    const char* const format = "View %d needs a target bitrate above 0.";
+    const char* const format = "View %d: The target bitrate has to be above 0.";
     QCOMPARE(setLanguage(KV_MVC_LANGUAGE_GERMAN), 0);
     const QByteArray german = convert(format);
     QCOMPARE(setLanguage(KV_MVC_LANGUAGE_JAPANESE), 0);
