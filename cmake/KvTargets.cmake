@@ -8,8 +8,9 @@ function(kv_library_settings target)
         PREFIX ""
         LIBRARY_OUTPUT_DIRECTORY "${KV_BIN_DIR}"
         RUNTIME_OUTPUT_DIRECTORY "${KV_BIN_DIR}"
-        BUILD_RPATH_USE_ORIGIN ON
-        BUILD_RPATH "$ORIGIN"
+        # CMake ends a run path of the build tree's own with an empty one: the current folder.
+        BUILD_WITH_INSTALL_RPATH ON
+        INSTALL_RPATH_USE_LINK_PATH ON
         INSTALL_RPATH "$ORIGIN")
     if(WIN32)
         set(exports "${CMAKE_CURRENT_BINARY_DIR}/${target}.def")
