@@ -1,5 +1,6 @@
 #include "Commands.h"
 #include "Encoder.h"
+#include "Failure.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
 
@@ -66,26 +67,37 @@ QByteArray resultJson(const CheckResult& result, const KvMvcSettings& before)
 
 QList<QCommandLineOption> checkOptions()
 {
-    return {jsonOption(),
-            {QStringLiteral("notes"),
-             QStringLiteral("Prints the encoder's notes even when there is nothing but notes.")},
-            outputOption(QStringLiteral("Saves the settings as the check corrected them, when it "
-                                        "accepts them. FILE is replaced when it exists."))};
+    return {
+        jsonOption(),
+        {QStringLiteral("notes"),
+         QStringLiteral("Prints the encoder's notes even when there is nothing but notes.")},
+        outputOption(QStringLiteral("Saves the settings as the check corrected them, when it "
+                                    "accepts them. FILE is replaced when it exists; - is standard "
+                                    "output, and the messages go to standard error then."))};
 }
 
 Outcome runCheck(const Invocation& call)
 {
     const QString output = call.value("output");
+    const bool toStandardOutput = isStandardOutput(output);
+    if (toStandardOutput && call.has("json")) {
+        throw Failure(
+            QStringLiteral("--json and '-o %1' both write to standard output").arg(output));
+    }
     if (call.has("output")) {
         requireWritable(output);
     }
     const SettingsFiles files(call.directory);
     const KvMvcSettings settings = files.read(call.files.first());
     const CheckResult result = Encoder(call.directory).check(settings);
+    const ExitCode exitCode = result.accepted ? ExitYes : ExitNo;
+    const QByteArray messages =
+        call.has("json") ? resultJson(result, settings) : resultText(result, call.has("notes"));
+    if (toStandardOutput) {
+        return {exitCode, result.accepted ? files.text(result.corrected) : QByteArray(), messages};
+    }
     if (result.accepted && call.has("output")) {
         files.write(result.corrected, output);
     }
-    return {result.accepted ? ExitYes : ExitNo, call.has("json")
-                                                    ? resultJson(result, settings)
-                                                    : resultText(result, call.has("notes"))};
+    return {exitCode, messages};
 }

@@ -31,13 +31,14 @@ QString programHelp(std::span<const Command> commands)
                        .arg(latin1(programName));
     for (const Command& command : commands) {
         const QString call = latin1(command.name) + QLatin1Char(' ') + latin1(command.arguments);
-        text += QStringLiteral("  %1  %2\n").arg(call, -26).arg(latin1(command.summary));
+        text += QStringLiteral("  %1  %2\n").arg(call.leftJustified(26), latin1(command.summary));
     }
     text += QStringLiteral(
         "\nOptions:\n"
         "  -h, --help     Displays this help; after a command, the command's.\n"
         "  -v, --version  Displays the version.\n"
-        "\nEvery command exits with 2 on trouble, after one line on standard error.\n");
+        "\nA FILE to read may be -, which is standard input.\n"
+        "Every command exits with 2 on trouble, which it tells on standard error.\n");
     return text;
 }
 
@@ -129,6 +130,9 @@ Invocation parseCommandLine(std::span<const Command> commands, const QStringList
     // What a script gets from a variable that is not set.
     if (call.files.contains(QString())) {
         refuse(&command, QStringLiteral("an argument is empty"));
+    }
+    if (!command.takesStandardInput && call.files.contains(QStringLiteral("-"))) {
+        refuse(&command, QStringLiteral("it does not read standard input"));
     }
     for (const QCommandLineOption& option : command.options()) {
         const QString name = option.names().constLast();

@@ -17,6 +17,8 @@ enum ExitCode { ExitYes = 0, ExitNo = 1, ExitTrouble = 2 };
 struct Outcome {
     int exitCode;
     QByteArray output;
+    /// For standard error.
+    QByteArray messages = {};
 };
 
 /// A command line that has been understood.
@@ -51,6 +53,8 @@ struct Command {
     Outcome (*run)(const Invocation&);
     /// Runs when the program has no application object of its own.
     bool opensDialog;
+    /// "-" among its arguments is standard input.
+    bool takesStandardInput;
 };
 
 /// The program's name, as it is printed before every message.

@@ -19,8 +19,8 @@ trouble.
 )";
 
 constexpr char showHelp[] = R"(
-Prints the settings in FILE as a table: one row a setting, the views side by
-side.
+Prints the settings in FILE as a table: one row a setting, as the dialog shows
+it, the views side by side. FILE may be -, which is standard input.
 
 Exit code: 0, or 2 on trouble.
 )";
@@ -28,7 +28,8 @@ Exit code: 0, or 2 on trouble.
 constexpr char checkHelp[] = R"(
 Lets the encoder check the settings in FILE, without a window, and prints each
 of its messages after "error: ", "warning: " or "note: ". When it accepts them
-and has only notes, nothing is printed. FILE is not changed.
+and has only notes, nothing is printed. FILE is not changed; it may be -, which
+is standard input.
 
 Exit code: 0 when the encoder accepts the settings, 1 when it refuses them, 2 on
 trouble.
@@ -42,7 +43,7 @@ Exit code: 0, or 2 on trouble.
 
 constexpr char diffHelp[] = R"(
 Prints the settings that differ between two files, one a line: the value in A,
-then the value in B.
+then the value in B. One of the files may be -, which is standard input.
 
 Exit code: 0 when all settings are the same, 1 when some differ, 2 on trouble.
 )";
@@ -55,17 +56,18 @@ Exit code: 0, or 2 on trouble.
 )";
 
 constexpr Command commands[] = {
-    {"edit", "[FILE]", 0, 1, "Opens the settings dialog.", editHelp, editOptions, runEdit, true},
-    {"show", "FILE", 1, 1, "Prints the settings as a table.", showHelp, showOptions, runShow,
+    {"edit", "[FILE]", 0, 1, "Opens the settings dialog.", editHelp, editOptions, runEdit, true,
      false},
+    {"show", "FILE", 1, 1, "Prints the settings as a table.", showHelp, showOptions, runShow, false,
+     true},
     {"check", "FILE", 1, 1, "Runs the encoder's check, without a window.", checkHelp, checkOptions,
-     runCheck, false},
+     runCheck, false, true},
     {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, writingOptions,
-     runDefaults, false},
-    {"diff", "A B", 2, 2, "Prints the settings that differ.", diffHelp, diffOptions, runDiff,
-     false},
+     runDefaults, false, false},
+    {"diff", "A B", 2, 2, "Prints the settings that differ.", diffHelp, diffOptions, runDiff, false,
+     true},
     {"import", "MEDIA", 1, 1, "Writes the settings that fit a media file.", importHelp,
-     writingOptions, runImport, false},
+     writingOptions, runImport, false, false},
 };
 
 } // namespace

@@ -2,13 +2,13 @@
 #include "Encoder.h"
 #include "Failure.h"
 #include "FatalMessages.h"
+#include "FileState.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <kv_config_gui_mvc/config_gui.h>
@@ -196,12 +196,12 @@ Plan planOf(const Invocation& call)
     const bool saveElsewhere = call.has("output");
     if (!saveElsewhere) {
         plan.target = plan.source;
-        if (!plan.source.isEmpty() && !QFileInfo::exists(plan.source)) {
+        if (!plan.source.isEmpty() && fileState(plan.source).kind == FileState::Missing) {
             plan.source.clear();
         }
     }
     if (saveElsewhere || !plan.target.isEmpty()) {
-        requireWritable(plan.target);
+        requireWritable(plan.target, Target::File);
     }
     if (call.has("preset") && !plan.source.isEmpty()) {
         throw Failure(
@@ -235,8 +235,7 @@ void save(const SettingsFiles& files, const KvMvcSettings& settings, const QStri
             QFile::remove(rescue);
             throw;
         }
-        throw Failure(
-            QStringLiteral("%1; the edited settings are in '%2'").arg(failure.text(), rescue));
+        throw failure.adding(QStringLiteral("the edited settings are in '%1'").arg(rescue));
     }
 }
 

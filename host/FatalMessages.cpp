@@ -1,6 +1,7 @@
 #include "FatalMessages.h"
 
 #include "CommandLine.h"
+#include "TextOutput.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -22,9 +23,10 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
 {
     if (type == QtFatalMsg) {
         const QString reason = platformMessages.isEmpty() ? text : platformMessages.first();
-        std::fprintf(stderr, "%s: cannot open a window: %s\n", programName,
-                     reason.section(QLatin1Char('\n'), 0, 0).trimmed().toUtf8().constData());
-        std::fflush(stderr);
+        writeText(stderr, QStringLiteral("%1: cannot open a window: %2\n")
+                              .arg(QLatin1String(programName),
+                                   reason.section(QLatin1Char('\n'), 0, 0).trimmed())
+                              .toUtf8());
         std::_Exit(ExitTrouble);
     }
     if (context.category != nullptr && std::strncmp(context.category, "qt.qpa.", 7) == 0) {

@@ -14,12 +14,13 @@ template <class Make>
 Outcome writeSettings(const Invocation& call, const Make& make)
 {
     const QString output = call.value("output");
-    if (call.has("output")) {
+    const bool toFile = call.has("output") && !isStandardOutput(output);
+    if (toFile) {
         requireWritable(output);
     }
     const SettingsFiles files(call.directory);
     const KvMvcSettings settings = make(files);
-    if (!call.has("output")) {
+    if (!toFile) {
         return {ExitYes, files.text(settings)};
     }
     files.write(settings, output);
@@ -31,7 +32,8 @@ Outcome writeSettings(const Invocation& call, const Make& make)
 QList<QCommandLineOption> writingOptions()
 {
     return {outputOption(
-        QStringLiteral("Writes FILE, not standard output; it is replaced when it exists."))};
+        QStringLiteral("Writes FILE, which is replaced when it exists; - is standard output, "
+                       "as without this option."))};
 }
 
 Outcome runDefaults(const Invocation& call)

@@ -1,9 +1,9 @@
 #include "Library.h"
 
 #include "Failure.h"
+#include "FileState.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace
 {
@@ -18,38 +18,39 @@ const QLatin1String suffix(".so");
 
 Library::Library(const QString& directory, const QStringList& baseNames)
 {
-    QString reason;
+    QString reasonBeside;
     for (const QString& baseName : baseNames) {
         const QString fileName = baseName + suffix;
         const QString beside = QDir(directory).filePath(fileName);
-        for (const QString& candidate : {beside, fileName}) {
-            m_library.setFileName(candidate);
-            if (m_library.load()) {
-                return;
-            }
-            // The loader's own words are worth more than ours only when there is something to load.
-            if (candidate == beside && QFileInfo::exists(beside)) {
-                reason = m_library.errorString();
-            }
+        const bool isBeside = fileState(beside).kind != FileState::Missing;
+        m_file = isBeside ? beside : fileName;
+        QString reason;
+        m_handle = load(m_file, reason);
+        if (m_handle != nullptr) {
+            return;
+        }
+        // The loader's own words are worth more than ours only when there is something to load.
+        if (isBeside) {
+            reasonBeside = reason;
         }
     }
-    throw Failure(!reason.isEmpty() ? reason
-                                    : QStringLiteral("cannot find the library %1, neither in '%2' "
-                                                     "nor where the system looks")
-                                          .arg(baseNames.last() + suffix, directory));
+    throw Failure(!reasonBeside.isEmpty()
+                      ? reasonBeside
+                      : QStringLiteral("cannot find the library %1, neither in '%2' "
+                                       "nor where the system looks")
+                            .arg(baseNames.last() + suffix, directory));
 }
 
 Library::~Library()
 {
-    m_library.unload();
+    unload(m_handle);
 }
 
-QFunctionPointer Library::resolve(const char* name) const
+Library::Address Library::resolve(const char* name) const
 {
-    const QFunctionPointer address = m_library.resolve(name);
+    const Address address = find(m_handle, name);
     if (address == nullptr) {
-        throw Failure(
-            QStringLiteral("%1 has no function %2").arg(m_library.fileName(), QLatin1String(name)));
+        throw Failure(QStringLiteral("%1 has no function %2").arg(m_file, QLatin1String(name)));
     }
     return address;
 }

@@ -1,15 +1,17 @@
 #pragma once
 
-#include <QLibrary>
 #include <QString>
 #include <QStringList>
 
 /// A shared library found at run time, by its file name without "lib" and suffix; unloaded with
 /// the object.
+///
+/// The settings dialog looks for libraries by the same rules, so that both work with the same ones.
 class Library
 {
 public:
-    /// Tries the names in order, each in the directory first and then by the system loader's rules.
+    /// Takes the first of the names that loads. What lies in the directory counts, even when it
+    /// cannot be loaded; otherwise the system looks for the name by its own rules.
     /// @throws Failure with the loader's reason.
     Library(const QString& directory, const QStringList& baseNames);
     ~Library();
@@ -23,8 +25,23 @@ public:
         return reinterpret_cast<Function>(resolve(name));
     }
 
-private:
-    [[nodiscard]] QFunctionPointer resolve(const char* name) const;
+    /// To be called first in the process: keeps libraries of the current folder, which may be
+    /// anybody's, from being found by name.
+    static void ignoreCurrentFolder();
 
-    mutable QLibrary m_library;
+private:
+    using Address = void (*)();
+
+    [[nodiscard]] Address resolve(const char* name) const;
+
+    // The system's calls; each platform has a file of its own.
+
+    /// @param file A full path, or a name to look for.
+    /// @param reason Set in case of failure.
+    static void* load(const QString& file, QString& reason);
+    static Address find(void* handle, const char* name);
+    static void unload(void* handle);
+
+    QString m_file;
+    void* m_handle = nullptr;
 };

@@ -1,14 +1,18 @@
 #include "SettingsFiles.h"
 
+#include "CommandLine.h"
 #include "Failure.h"
+#include "FileNames.h"
+#include "FileState.h"
+#include "PassedText.h"
 #include "StandardErrorCapture.h"
+#include "TextInput.h"
+#include "TextOutput.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <QTemporaryDir>
 
-#include <cstdio>
+#include <algorithm>
 
 namespace
 {
@@ -24,24 +28,61 @@ Function apiFunction(const Library& library, int32_t code)
     return reinterpret_cast<Function>(function);
 }
 
+/// Whether a line is "NAME:LINE: REASON".
+bool tellsPlace(const QString& line, const QString& name)
+{
+    if (!line.startsWith(name + QLatin1Char(':'))) {
+        return false;
+    }
+    const auto start = name.size() + 1;
+    const auto end = line.indexOf(QLatin1Char(':'), start);
+    return end > start && std::all_of(line.begin() + start, line.begin() + end,
+                                      [](QChar sign) { return sign.isDigit(); });
+}
+
+/// A file as the library knows it and as the user does.
+struct NamedFile {
+    QString path;
+    QString shown;
+};
+
+/// What the library said, with the name that the user knows.
+QStringList linesAbout(const NamedFile& file, const QByteArray& said)
+{
+    QStringList lines = QString::fromUtf8(said).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (QString& line : lines) {
+        line = line.trimmed();
+        if (line.startsWith(file.path + QLatin1Char(':'))) {
+            line = file.shown + line.mid(file.path.size());
+        }
+    }
+    return lines;
+}
+
 /// Calls a function of the library, which explains itself on standard error.
-/// @throws Failure with the library's first line, or with `failed` when it gave none.
+/// @param failed The reason when it does not.
+/// @throws Failure with all that it said; places in the file are told as compilers do.
 template <class Call>
-void callLibrary(const QString& failed, const Call& call)
+void callLibrary(const NamedFile& file, const QString& failed, const Call& call)
 {
     StandardErrorCapture capture;
-    const int32_t result = call();
-    const QByteArray text = capture.finish();
+    const int32_t result = call(nameForLibrary(file.path).toUtf8().constData());
+    QStringList lines = linesAbout(file, capture.finish());
     if (result == 0) {
-        std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
+        for (const QString& line : lines) {
+            writeText(stderr, line.toUtf8() + '\n');
+        }
         return;
     }
-    const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    if (lines.size() <= 1) {
-        throw Failure(lines.isEmpty() ? failed : lines.first().trimmed());
+    if (lines.isEmpty()) {
+        throw Failure(failed);
     }
-    throw Failure(
-        QStringLiteral("%1 (and %2 more)").arg(lines.first().trimmed()).arg(lines.size() - 1));
+    for (QString& line : lines) {
+        if (!tellsPlace(line, file.shown)) {
+            line = QStringLiteral("%1: %2").arg(QLatin1String(programName), line);
+        }
+    }
+    throw Failure(lines);
 }
 
 } // namespace
@@ -56,69 +97,121 @@ SettingsFiles::SettingsFiles(const QString& directory)
 KvMvcSettings SettingsFiles::read(const QString& path) const
 {
     requireReadable(path);
+    NamedFile file = {path, path};
+    std::optional<ReadableText> text;
+    const bool standard = isStandardInput(path);
+    if (standard || fileState(path).kind == FileState::Stream) {
+        file.shown = standard ? QStringLiteral("<stdin>") : path;
+        text.emplace(standard ? readStandardInput() : readStream(path));
+        file.path = text->path();
+    }
     KvMvcSettings settings = {};
-    callLibrary(QStringLiteral("cannot read settings from '%1'").arg(path),
-                [&] { return m_read(&settings, path.toUtf8().constData()); });
+    callLibrary(file, QStringLiteral("cannot read settings from '%1'").arg(file.shown),
+                [&](const char* name) { return m_read(&settings, name); });
     return settings;
 }
 
 void SettingsFiles::write(const KvMvcSettings& settings, const QString& path) const
 {
     KvMvcSettings copy = settings;
-    callLibrary(QStringLiteral("cannot write '%1'").arg(path),
-                [&] { return m_write(&copy, path.toUtf8().constData()); });
+    callLibrary({path, path}, QStringLiteral("cannot write '%1'").arg(path),
+                [&](const char* name) { return m_write(&copy, name); });
 }
 
 QByteArray SettingsFiles::text(const KvMvcSettings& settings) const
 {
-    const QTemporaryDir directory;
-    QFile file(directory.filePath(QStringLiteral("settings.ini")));
-    if (directory.isValid()) {
-        write(settings, file.fileName());
+    if (const auto pipe = WrittenText::inPipe()) {
+        try {
+            write(settings, pipe->path());
+        } catch (const Failure&) {
+            // A library need not write to a pipe.
+        }
+        if (const auto text = pipe->take()) {
+            return *text;
+        }
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure(QStringLiteral("cannot use a temporary file: %1")
-                          .arg(directory.isValid() ? file.errorString() : directory.errorString()));
+    const auto file = WrittenText::inFolder();
+    write(settings, file->path());
+    if (const auto text = file->take()) {
+        return *text;
     }
-    return file.readAll();
+    throw Failure(QStringLiteral("the settings file library has written nothing"));
+}
+
+bool isStandardInput(const QString& path)
+{
+    return path == QLatin1String("-");
+}
+
+bool isStandardOutput(const QString& path)
+{
+#ifndef Q_OS_WIN
+    // Not left to the library: where the stream goes to a file, the name leads to that file.
+    if (path == QLatin1String("/dev/stdout")) {
+        return true;
+    }
+#endif
+    return path == QLatin1String("-");
 }
 
 void requireReadable(const QString& path)
 {
     // Not opened here: the reader does, and has its own words for what it finds inside.
-    const QFileInfo file(path);
+    if (isStandardInput(path)) {
+        return;
+    }
+    const FileState state = fileState(path);
     const auto refuse = [&](const QString& reason) {
         throw Failure(QStringLiteral("cannot read '%1': %2").arg(path, reason));
     };
-    if (!file.exists()) {
-        refuse(QStringLiteral("there is no such file"));
+    switch (state.kind) {
+    case FileState::Missing:
+        return refuse(QStringLiteral("there is no such file"));
+    case FileState::Folder:
+        return refuse(QStringLiteral("it is a directory"));
+    case FileState::Hidden:
+        return refuse(QStringLiteral("permission denied"));
+    case FileState::Regular:
+    case FileState::Stream:
+    case FileState::Other:
+        break;
     }
-    if (file.isDir()) {
-        refuse(QStringLiteral("it is a directory"));
-    }
-    if (!file.isReadable()) {
+    if (!state.readable) {
         refuse(QStringLiteral("permission denied"));
     }
 }
 
-void requireWritable(const QString& path)
+void requireWritable(const QString& path, Target target)
 {
-    const QFileInfo file(path);
-    const QString suffix = file.suffix().toLower();
-    const QFileInfo directory(file.path());
     const auto refuse = [&](const QString& reason) {
         throw Failure(QStringLiteral("cannot write '%1': %2").arg(path, reason));
     };
+    const bool streams = target == Target::FileOrStream;
+    if (streams && isStandardOutput(path)) {
+        return;
+    }
+    const FileState file = fileState(path);
+    const bool exists = file.kind != FileState::Missing;
+    if (file.kind == FileState::Stream && streams && file.writable) {
+        return;
+    }
+    const QFileInfo name(path);
+    const QString suffix = name.suffix().toLower();
     if (suffix != QLatin1String("cfg") && suffix != QLatin1String("ini")) {
         refuse(QStringLiteral("the name of a settings file ends in .cfg or .ini"));
     }
-    if (file.exists() && !file.isFile()) {
-        refuse(QStringLiteral("it is no file"));
-    }
-    if (!directory.isDir()) {
-        refuse(QStringLiteral("there is no directory '%1'").arg(file.path()));
-    }
-    if (!directory.isWritable() || (file.exists() && !file.isWritable())) {
+    if (file.kind == FileState::Hidden) {
         refuse(QStringLiteral("permission denied"));
     }
+    if (exists && file.kind != FileState::Regular) {
+        refuse(QStringLiteral("it is no file"));
+    }
+    const FileState directory = fileState(name.path());
+    if (directory.kind != FileState::Folder) {
+        refuse(QStringLiteral("there is no directory '%1'").arg(name.path()));
+    }
+    if (!directory.writable || (exists && !file.writable)) {
+        refuse(QStringLiteral("permission denied"));
+    }
+    nameForLibrary(path);
 }

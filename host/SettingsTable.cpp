@@ -20,6 +20,7 @@ constexpr QLatin1String operator""_l1(const char* text, std::size_t size)
     return QLatin1String(text, static_cast<int>(size));
 }
 
+// Values, too, are named as the dialog names them.
 constexpr ValueName switchNames[] = {{0, "off"_l1}, {1, "on"_l1}};
 constexpr ValueName profileNames[] = {{KV_MVC_PROFILE_BASELINE, "Baseline"_l1},
                                       {KV_MVC_PROFILE_MAIN, "Main"_l1},
@@ -32,7 +33,6 @@ constexpr ValueName levelNames[] = {{10, "1.0"_l1}, {11, "1.1"_l1}, {12, "1.2"_l
                                     {31, "3.1"_l1}, {32, "3.2"_l1}, {40, "4.0"_l1},
                                     {41, "4.1"_l1}, {42, "4.2"_l1}, {50, "5.0"_l1},
                                     {51, "5.1"_l1}, {52, "5.2"_l1}, {KV_MVC_LEVEL_AUTO, "Auto"_l1}};
-// Spelled as the dialog shows it.
 constexpr ValueName videoTypeNames[] = {{KV_MVC_VIDEO_TYPE_NONE, "None"_l1},
                                         {KV_MVC_MULTIVIEW_HIGH, "Multivew High"_l1},
                                         {KV_MVC_STEREO_HIGH, "Stereo High"_l1},
@@ -40,13 +40,13 @@ constexpr ValueName videoTypeNames[] = {{KV_MVC_VIDEO_TYPE_NONE, "None"_l1},
 constexpr ValueName interlaceNames[] = {{KV_MVC_PROGRESSIVE, "Progressive"_l1},
                                         {KV_MVC_INTERLACED, "Interlaced"_l1},
                                         {KV_MVC_MBAFF, "MBAFF"_l1}};
-constexpr ValueName fieldOrderNames[] = {{KV_MVC_TOP_FIELD_FIRST, "Top field first"_l1},
-                                         {KV_MVC_BOTTOM_FIELD_FIRST, "Bottom field first"_l1}};
+constexpr ValueName fieldOrderNames[] = {{KV_MVC_TOP_FIELD_FIRST, "Top Field First"_l1},
+                                         {KV_MVC_BOTTOM_FIELD_FIRST, "Bot Field First"_l1}};
 constexpr ValueName pulldownNames[] = {{KV_MVC_PULLDOWN_OFF, "Off"_l1},
                                        {KV_MVC_PULLDOWN_2_3, "2:3"_l1},
                                        {KV_MVC_PULLDOWN_3_2, "3:2"_l1},
-                                       {KV_MVC_PULLDOWN_2_3_PROGRESSIVE, "2:3 progressive"_l1},
-                                       {KV_MVC_PULLDOWN_3_2_PROGRESSIVE, "3:2 progressive"_l1},
+                                       {KV_MVC_PULLDOWN_2_3_PROGRESSIVE, "2:3 P"_l1},
+                                       {KV_MVC_PULLDOWN_3_2_PROGRESSIVE, "3:2 P"_l1},
                                        {KV_MVC_PULLDOWN_AUTO, "Auto"_l1},
                                        {KV_MVC_PULLDOWN_2_2, "2:2"_l1},
                                        {KV_MVC_PULLDOWN_3_3, "3:3"_l1}};
@@ -54,10 +54,11 @@ constexpr ValueName chromaNames[] = {{KV_MVC_CHROMA_400, "4:0:0"_l1},
                                      {KV_MVC_CHROMA_420, "4:2:0"_l1},
                                      {KV_MVC_CHROMA_422, "4:2:2"_l1},
                                      {KV_MVC_CHROMA_UNNAMED, "unnamed format"_l1}};
-constexpr ValueName bitrateModeNames[] = {{KV_MVC_CONSTANT_BITRATE, "Constant bitrate"_l1},
-                                          {KV_MVC_CONSTANT_QUANTIZER, "Constant quantizer"_l1},
-                                          {KV_MVC_VARIABLE_BITRATE, "Variable bitrate"_l1},
-                                          {KV_MVC_AVERAGE_QUANTIZER, "Average quantizer"_l1}};
+constexpr ValueName bitrateModeNames[] = {
+    {KV_MVC_CONSTANT_BITRATE, "Constant Bitrate"_l1},
+    {KV_MVC_CONSTANT_QUANTIZER, "Const. Quality - Constant Quantizer"_l1},
+    {KV_MVC_VARIABLE_BITRATE, "Variable Bitrate"_l1},
+    {KV_MVC_AVERAGE_QUANTIZER, "Const. Quality - Average Quantizer"_l1}};
 constexpr ValueName unitsNames[] = {{KV_MVC_UNITS_BYTES_PERCENT, "Bytes and percent"_l1},
                                     {KV_MVC_UNITS_BITS, "Bits"_l1},
                                     {KV_MVC_UNITS_BITS_90KHZ, "Bits and 90 kHz"_l1}};
@@ -67,11 +68,11 @@ constexpr ValueName subpixelNames[] = {{KV_MVC_SUBPIXEL_FULL, "Full"_l1},
                                        {KV_MVC_SUBPIXEL_HALF, "Half"_l1},
                                        {KV_MVC_SUBPIXEL_QUARTER, "Quarter"_l1}};
 constexpr ValueName entropyNames[] = {{KV_MVC_CAVLC, "CAVLC"_l1}, {KV_MVC_CABAC, "CABAC"_l1}};
-constexpr ValueName customNames[] = {{KV_MVC_ASPECT_UNSET, "custom"_l1}};
+constexpr ValueName customNames[] = {{KV_MVC_ASPECT_UNSET, "Custom"_l1}};
 constexpr ValueName derivedNames[] = {{KV_MVC_ASPECT_UNSET, "derived"_l1}};
-constexpr ValueName firstOnlyNames[] = {{0, "first only"_l1}};
-constexpr ValueName noLimitNames[] = {{0, "no limit"_l1}};
-constexpr ValueName automaticNames[] = {{0, "automatic"_l1}};
+constexpr ValueName firstOnlyNames[] = {{0, "0 (first only)"_l1}};
+constexpr ValueName noLimitNames[] = {{0, "0 (no limit)"_l1}};
+constexpr ValueName automaticNames[] = {{0, "Auto"_l1}};
 
 // The units that a value of bitrate_units selects.
 constexpr ValueName bufferUnits[] = {{KV_MVC_UNITS_BYTES_PERCENT, "bytes"_l1},
@@ -87,9 +88,10 @@ constexpr ValueName fullnessUnits[] = {{KV_MVC_UNITS_BYTES_PERCENT, "%"_l1},
 #define RECORD(...) KV_SETTING(KvMvcSettings, __VA_ARGS__)
 #define VIEW(...) KV_SETTING(KvMvcViewSettings, __VA_ARGS__)
 
+// The names are those of the dialog's controls, which a test holds.
 constexpr Setting recordTable[] = {
-    RECORD(num_views, "Number of views", Number),
-    RECORD(split_views, "Separate streams", Code, switchNames),
+    RECORD(num_views, "Number of additional views", Number, {}, {}, 1),
+    RECORD(split_views, "Split views", Code, switchNames),
 };
 
 constexpr Setting viewTable[] = {
@@ -100,64 +102,64 @@ constexpr Setting viewTable[] = {
     VIEW(width, "Picture width", Number),
     VIEW(height, "Picture height", Number),
     VIEW(frame_rate, "Frame rate", Rate),
-    VIEW(display_aspect_x, "Display aspect, horizontal", Number, customNames),
-    VIEW(display_aspect_y, "Display aspect, vertical", Number, customNames),
-    VIEW(pixel_aspect_x, "Pixel aspect, horizontal", Number, derivedNames),
-    VIEW(pixel_aspect_y, "Pixel aspect, vertical", Number, derivedNames),
-    VIEW(interlace_mode, "Interlacing", Code, interlaceNames),
+    VIEW(display_aspect_x, "Picture aspect ratio, horizontal part", Number, customNames),
+    VIEW(display_aspect_y, "Picture aspect ratio, vertical part", Number, customNames),
+    VIEW(pixel_aspect_x, "Pixel aspect ratio, horizontal part", Number, derivedNames),
+    VIEW(pixel_aspect_y, "Pixel aspect ratio, vertical part", Number, derivedNames),
+    VIEW(interlace_mode, "Picture structure", Code, interlaceNames),
     VIEW(field_order, "Field order", Code, fieldOrderNames),
     VIEW(pulldown, "Pulldown", Code, pulldownNames),
     VIEW(chroma_format, "Chroma format", Code, chromaNames),
-    VIEW(bit_depth_luma, "Bit depth, luma", Number),
-    VIEW(bit_depth_chroma, "Bit depth, chroma", Number),
+    VIEW(bit_depth_luma, "Bit-depth luma", Number, {}, "bits"_l1),
+    VIEW(bit_depth_chroma, "Bit-depth chroma", Number, {}, "bits"_l1),
 
     VIEW(bitrate_mode, "Bitrate mode", Code, bitrateModeNames),
-    VIEW(bitrate, "Target bitrate", Number, {}, "bit/s"_l1),
-    VIEW(max_bitrate, "Maximum bitrate", Number, {}, "bit/s"_l1),
+    VIEW(bitrate, "Target bitrate (bps)", Number),
+    VIEW(max_bitrate, "Max bitrate (bps)", Number),
     VIEW(hrd_mode, "HRD conformance", Code, switchNames),
-    VIEW(bitrate_units, "Buffer units", Code, unitsNames),
+    VIEW(bitrate_units, "Units", Code, unitsNames),
     VIEW(bitrate_buffer, "Bitrate buffer", BufferSize),
-    VIEW(vbv_initial, "Initial buffer fullness", Fullness),
-    VIEW(vbv_target, "Target buffer fullness", Fullness),
-    VIEW(frame_size_i, "Maximum I picture size", Number, noLimitNames, "bytes"_l1),
-    VIEW(frame_size_p, "Maximum P picture size", Number, noLimitNames, "bytes"_l1),
-    VIEW(frame_size_b, "Maximum B picture size", Number, noLimitNames, "bytes"_l1),
-    VIEW(frame_size_bref, "Maximum reference B picture size", Number, noLimitNames, "bytes"_l1),
-    VIEW(quant_i, "Quantizer, I pictures", Number),
-    VIEW(quant_p, "Quantizer, P pictures", Number),
-    VIEW(quant_b, "Quantizer, B pictures", Number),
+    VIEW(vbv_initial, "VBV buffer initial", Fullness),
+    VIEW(vbv_target, "VBV buffer target", Fullness),
+    VIEW(frame_size_i, "Maximum I-frame size", Number, noLimitNames, "bytes"_l1),
+    VIEW(frame_size_p, "Maximum P-frame size", Number, noLimitNames, "bytes"_l1),
+    VIEW(frame_size_b, "Maximum B-frame size", Number, noLimitNames, "bytes"_l1),
+    VIEW(frame_size_bref, "Maximum Br-frame size", Number, noLimitNames, "bytes"_l1),
+    VIEW(quant_i, "Quantizer I-frames", Number),
+    VIEW(quant_p, "Quantizer P-frames", Number),
+    VIEW(quant_b, "Quantizer B-frames", Number),
     VIEW(quant_min, "Minimum quantizer", Number),
     VIEW(quant_max, "Maximum quantizer", Number),
 
-    VIEW(scene_detection, "Scene detection", Code, switchNames),
-    VIEW(i_interval, "I picture interval", Number, firstOnlyNames),
-    VIEW(force_i, "Minimum I picture distance", Number),
-    VIEW(idr_marker, "IDR picture every I pictures", Number, firstOnlyNames),
-    VIEW(fixed_i_position, "Fixed I picture distance", Code, switchNames),
-    VIEW(ref_distance, "Reference picture distance", Number),
-    VIEW(adaptive_b, "Adaptive B pictures", Code, switchNames),
-    VIEW(pyramid_b, "B picture pyramid", Code, switchNames),
-    VIEW(reference_b, "B pictures as references", Code, switchNames),
+    VIEW(scene_detection, "Enable scene detection", Code, switchNames),
+    VIEW(i_interval, "I-frame interval", Number, firstOnlyNames),
+    VIEW(force_i, "Min. I-frame distance", Number),
+    VIEW(idr_marker, "Mark every so many I-frames as IDR", Number, firstOnlyNames),
+    VIEW(fixed_i_position, "Fixed I-frames distance", Code, switchNames),
+    VIEW(ref_distance, "Number of B-frames", Number, {}, {}, 1),
+    VIEW(adaptive_b, "Adaptive B-frame placement", Code, switchNames),
+    VIEW(pyramid_b, "Pyramidal structure for B-frames", Code, switchNames),
+    VIEW(reference_b, "B-frames as reference frames", Code, switchNames),
 
-    VIEW(min_partition, "Smallest partition", Code, partitionNames),
-    VIEW(subpixel_mode, "Subpixel search", Code, subpixelNames),
+    VIEW(min_partition, "Macroblock search block size", Code, partitionNames),
+    VIEW(subpixel_mode, "Subpixel search depth", Code, subpixelNames),
     VIEW(num_ref_frames, "Reference frames", Number),
-    VIEW(motion_search, "Motion search range", Number),
-    VIEW(weighted_p, "Weighted prediction of P pictures", Code, switchNames),
-    VIEW(fast_reference, "Fast reference search", Code, switchNames),
+    VIEW(motion_search, "Motion vector search range", Number),
+    VIEW(weighted_p, "Weighted prediction for P-frames", Code, switchNames),
+    VIEW(fast_reference, "Fast multi-reference frame search", Code, switchNames),
     VIEW(fast_subblock, "Fast sub-block search", Code, switchNames),
 
     VIEW(fast_intra, "Fast intra decisions", Code, switchNames),
     VIEW(fast_inter, "Fast inter decisions", Code, switchNames),
-    VIEW(simple_rd, "Simple rate-distortion decisions", Code, switchNames),
-    VIEW(hadamard, "Hadamard transform", Code, switchNames),
-    VIEW(brightness, "Adaptive quantization, brightness", Number),
-    VIEW(contrast, "Adaptive quantization, contrast", Number),
-    VIEW(complexity, "Adaptive quantization, complexity", Number),
+    VIEW(simple_rd, "Simplified RD optimization", Code, switchNames),
+    VIEW(hadamard, "Hadamard transformation", Code, switchNames),
+    VIEW(brightness, "Adaptive quantization, brightness based", Number),
+    VIEW(contrast, "Adaptive quantization, contrast based", Number),
+    VIEW(complexity, "Adaptive quantization, complexity based", Number),
 
     VIEW(deblocking, "Deblocking filter", Code, switchNames),
-    VIEW(entropy_mode, "Entropy coding", Code, entropyNames),
-    VIEW(num_slices, "Slices", Number),
+    VIEW(entropy_mode, "Entropy coding mode", Code, entropyNames),
+    VIEW(num_slices, "Slices per picture", Number),
     VIEW(multi_slice, "Several slices", Code, switchNames),
     VIEW(num_threads, "Threads", Number, automaticNames),
 };
@@ -197,9 +199,10 @@ const ValueName* findName(std::span<const ValueName> names, qint32 value)
     return found == names.end() ? nullptr : &*found;
 }
 
-QString withUnit(qint32 number, QLatin1String unit)
+/// As the dialog shows it, and with the unit.
+QString withUnit(const Setting& setting, qint32 number, QLatin1String unit)
 {
-    const QString digits = QString::number(number);
+    const QString digits = QString::number(qint64{number} - setting.shownLess);
     return unit.isEmpty() ? digits : digits + QLatin1Char(' ') + unit;
 }
 
@@ -245,7 +248,7 @@ void compareScope(std::span<const Setting> table, const KvMvcSettings& before,
     }
 }
 
-constexpr std::array viewNames = {"Base view"_l1, "Second view"_l1};
+constexpr std::array viewNames = {"Base view"_l1, "View 1"_l1};
 static_assert(viewNames.size() == KV_MVC_RECORD_VIEWS);
 
 constexpr QLatin1String reservedName = "Reserved bytes"_l1;
@@ -286,14 +289,14 @@ QString settingText(const KvMvcSettings& settings, Place place)
     case Kind::Code:
         return QStringLiteral("%1 (unknown)").arg(number);
     case Kind::BufferSize:
-        return withUnit(number, selectedUnit(bufferUnits, settings, place.view));
+        return withUnit(setting, number, selectedUnit(bufferUnits, settings, place.view));
     case Kind::Fullness:
-        return withUnit(number, selectedUnit(fullnessUnits, settings, place.view));
+        return withUnit(setting, number, selectedUnit(fullnessUnits, settings, place.view));
     case Kind::Number:
     case Kind::Rate:
         break;
     }
-    return withUnit(number, setting.unit);
+    return withUnit(setting, number, setting.unit);
 }
 
 QJsonObject settingJson(const KvMvcSettings& settings, Place place)
@@ -324,7 +327,8 @@ QString differenceText(const Difference& difference, const KvMvcSettings& before
         subject += QStringLiteral(", ") + QString(viewName(view)).toLower();
     }
     if (setting == nullptr) {
-        return QStringLiteral("%1: %2 differ").arg(subject).arg(difference.reservedBytes);
+        return QStringLiteral("%1: %2 differ")
+            .arg(subject, QString::number(difference.reservedBytes));
     }
     return QStringLiteral("%1: %2 -> %3")
         .arg(subject, settingText(before, difference.place), settingText(after, difference.place));

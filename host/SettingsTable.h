@@ -35,6 +35,8 @@ struct Setting {
     std::span<const ValueName> names = {};
     /// Follows a number; may be empty.
     QLatin1String unit = {};
+    /// The dialog shows that much less than the field holds.
+    qint32 shownLess = 0;
 
     /// @return Bytes of the field.
     [[nodiscard]] std::size_t size() const;
@@ -44,7 +46,7 @@ struct Setting {
 std::span<const Setting> recordSettings();
 std::span<const Setting> viewSettings();
 
-/// "Base view", "Second view".
+/// "Base view", "View 1".
 QLatin1String viewName(int view);
 
 /// Where a field lies.
@@ -54,10 +56,11 @@ struct Place {
     int view;
 };
 
-/// @return The value as people read it, with its unit.
+/// @return The value as the dialog shows it, with its unit.
 QString settingText(const KvMvcSettings& settings, Place place);
 
-/// @return {"value": the field's number, "text": settingText()}.
+/// @return {"value": the field's number, or null where JSON has none: infinity and NaN, "text":
+///         settingText()}.
 QJsonObject settingJson(const KvMvcSettings& settings, Place place);
 
 /// A setting that differs, or the reserved bytes of a view or of the record that do.

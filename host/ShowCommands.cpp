@@ -1,6 +1,7 @@
 // show and diff: settings as text and as JSON.
 
 #include "Commands.h"
+#include "Failure.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
 
@@ -106,6 +107,9 @@ QList<QCommandLineOption> diffOptions()
 
 Outcome runDiff(const Invocation& call)
 {
+    if (std::all_of(call.files.begin(), call.files.end(), isStandardInput)) {
+        throw Failure(QStringLiteral("standard input can be only one of the two files"));
+    }
     const SettingsFiles files(call.directory);
     const KvMvcSettings a = files.read(call.files.at(0));
     const KvMvcSettings b = files.read(call.files.at(1));

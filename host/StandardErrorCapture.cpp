@@ -1,5 +1,9 @@
 #include "StandardErrorCapture.h"
 
+#include "MemoryFile.h"
+
+#include <QTemporaryFile>
+
 #include <cstdio>
 
 #ifdef Q_OS_WIN
@@ -45,17 +49,31 @@ void closeFile(int file)
 
 constexpr int standardError = 2;
 
+/// A file, not a pipe: nobody reads while the library writes.
+std::unique_ptr<QFile> openFile()
+{
+    const int memory = openMemoryFile();
+    if (memory >= 0) {
+        auto file = std::make_unique<QFile>();
+        return file->open(memory, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle)
+                   ? std::move(file)
+                   : nullptr;
+    }
+    auto file = std::make_unique<QTemporaryFile>();
+    return file->open() ? std::move(file) : nullptr;
+}
+
 } // namespace
 
 StandardErrorCapture::StandardErrorCapture()
 {
     std::fflush(stderr);
-    // A file, not a pipe: nobody reads while the library writes.
-    if (!m_file.open()) {
+    m_file = openFile();
+    if (!m_file) {
         return;
     }
     m_original = duplicate(standardError);
-    if (m_original >= 0 && !redirect(m_file.handle(), standardError)) {
+    if (m_original >= 0 && !redirect(m_file->handle(), standardError)) {
         closeFile(m_original);
         m_original = -1;
     }
@@ -72,8 +90,8 @@ QByteArray StandardErrorCapture::finish()
         return {};
     }
     restore();
-    m_file.seek(0);
-    return m_file.readAll();
+    m_file->seek(0);
+    return m_file->readAll();
 }
 
 void StandardErrorCapture::restore()

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <QTemporaryFile>
+#include <QFile>
+
+#include <memory>
 
 /// Keeps what is written to the standard error stream, by whatever library of the process, while
 /// the object lives. Where that is not possible, the text passes through.
@@ -19,7 +21,8 @@ public:
 private:
     void restore();
 
-    QTemporaryFile m_file;
+    /// Null when there is no place for one.
+    std::unique_ptr<QFile> m_file;
     /// The stream's own file, or -1 when nothing is captured.
     int m_original = -1;
 };

@@ -1,5 +1,8 @@
 #include "Commands.h"
 #include "Failure.h"
+#include "FileNames.h"
+#include "Library.h"
+#include "TextOutput.h"
 
 #include <QCoreApplication>
 
@@ -14,7 +17,7 @@ Outcome run(int& argc, char** argv)
     Invocation call;
     {
         const QCoreApplication application(argc, argv);
-        call = parseCommandLine(allCommands(), QCoreApplication::arguments());
+        call = parseCommandLine(allCommands(), programArguments(argc, argv));
         if (call.command == nullptr) {
             return {ExitYes, call.text};
         }
@@ -26,17 +29,19 @@ Outcome run(int& argc, char** argv)
     return call.command->run(call);
 }
 
-void print(const QByteArray& text)
+void print(const Outcome& outcome)
 {
-    const auto size = static_cast<std::size_t>(text.size());
-    if (std::fwrite(text.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
+    writeText(stderr, outcome.messages);
+    if (!writeText(stdout, outcome.output)) {
         throw Failure(QStringLiteral("cannot write to standard output"));
     }
 }
 
-int fail(const QByteArray& text)
+int fail(const Failure& failure)
 {
-    std::fprintf(stderr, "%s: %s\n", programName, text.constData());
+    for (const QString& line : failure.lines()) {
+        writeText(stderr, line.toUtf8() + '\n');
+    }
     return ExitTrouble;
 }
 
@@ -44,13 +49,14 @@ int fail(const QByteArray& text)
 
 int main(int argc, char** argv)
 {
+    Library::ignoreCurrentFolder();
     try {
         const Outcome outcome = run(argc, argv);
-        print(outcome.output);
+        print(outcome);
         return outcome.exitCode;
     } catch (const Failure& failure) {
-        return fail(failure.text().toUtf8());
+        return fail(failure);
     } catch (const std::exception& exception) {
-        return fail(exception.what());
+        return fail(Failure(QString::fromUtf8(exception.what())));
     }
 }

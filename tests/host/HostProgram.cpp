@@ -75,8 +75,12 @@ void HostProgram::addBuiltLibrary(const QString& baseName)
 
 void HostProgram::addStub(const QString& stub, const QString& baseName)
 {
-    addLibrary(qEnvironmentVariable("KV_HOST_STUBS") + QLatin1Char('/') + stub + librarySuffix,
-               baseName);
+    addLibrary(stubPath(stub), baseName);
+}
+
+QString HostProgram::stubPath(const QString& stub)
+{
+    return qEnvironmentVariable("KV_HOST_STUBS") + QLatin1Char('/') + stub + librarySuffix;
 }
 
 void HostProgram::removeLibrary(const QString& baseName)
@@ -85,7 +89,21 @@ void HostProgram::removeLibrary(const QString& baseName)
 }
 
 HostProgram::Result HostProgram::run(const QStringList& arguments,
-                                     const QMap<QString, QString>& environment) const
+                                     const QMap<QString, QString>& environment,
+                                     const QByteArray& input) const
+{
+    return start(program(), arguments, environment, input);
+}
+
+HostProgram::Result HostProgram::runScript(const QString& script) const
+{
+    return start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script},
+                 {{QStringLiteral("program"), program()}}, {});
+}
+
+HostProgram::Result HostProgram::start(const QString& command, const QStringList& arguments,
+                                       const QMap<QString, QString>& environment,
+                                       const QByteArray& input) const
 {
     QProcess process;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
@@ -96,7 +114,9 @@ HostProgram::Result HostProgram::run(const QStringList& arguments,
     }
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(path(QString()));
-    process.start(program(), arguments, QIODevice::ReadOnly);
+    process.start(command, arguments);
+    process.write(input);
+    process.closeWriteChannel();
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
         return {-1, textOf(process.readAllStandardOutput()),
                 process.errorString() + QLatin1Char('\n') + textOf(process.readAllStandardError())};

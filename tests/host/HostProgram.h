@@ -27,10 +27,20 @@ public:
     /// Also what the project builds beside the program, and the stubs of these tests.
     void addBuiltLibrary(const QString& baseName);
     void addStub(const QString& stub, const QString& baseName);
+    /// @return The full path of a stub.
+    [[nodiscard]] static QString stubPath(const QString& stub);
     void removeLibrary(const QString& baseName);
 
     /// Runs the program in the directory of its files.
-    Result run(const QStringList& arguments, const QMap<QString, QString>& environment = {}) const;
+    /// @param input What it gets on standard input.
+    Result run(const QStringList& arguments, const QMap<QString, QString>& environment = {},
+               const QByteArray& input = {}) const;
+
+    /// Runs a shell script in the directory of its files; "$program" is the program.
+    Result runScript(const QString& script) const;
+
+    /// @return The full path of a library beside the program.
+    [[nodiscard]] QString libraryPath(const QString& baseName) const;
 
     /// @return The full path of the program.
     [[nodiscard]] QString program() const;
@@ -45,7 +55,8 @@ public:
     [[nodiscard]] KvMvcSettings readSettings(const QString& name) const;
 
 private:
-    [[nodiscard]] QString libraryPath(const QString& baseName) const;
+    Result start(const QString& command, const QStringList& arguments,
+                 const QMap<QString, QString>& environment, const QByteArray& input) const;
 
     QTemporaryDir m_directory;
     KvMvcReadSettings m_read = nullptr;

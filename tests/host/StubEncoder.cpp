@@ -20,7 +20,7 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* setti
 {
     std::memset(settings, 0, sizeof *settings);
     settings->num_views = 1;
-    settings->views[0].width = 1000 + preset;
+    settings->views[0].width = KV_FIRST_WIDTH + preset;
     return 0;
 }
 

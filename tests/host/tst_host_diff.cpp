@@ -66,17 +66,17 @@ void HostDiffTest::changesArePrintedOneALine()
 {
     const HostProgram::Result result = diff(exampleSettings(), changedSettings());
     QCOMPARE(result.output,
-             QStringLiteral("Number of views: 2 -> 1\n"
-                            "Separate streams: off -> on\n"
+             QStringLiteral("Number of additional views: 1 -> 0\n"
+                            "Split views: off -> on\n"
                             "Picture width, base view: 1920 -> 1440\n"
                             "Frame rate, base view: 23.976 (24000/1001) -> 23.976\n"
                             "Bitrate buffer, base view: 3750000 bytes -> 4000000 bytes\n"
                             "Reserved bytes, base view: 1 differ\n"
-                            "Interlacing, second view: MBAFF -> Progressive\n"
-                            "Bitrate mode, second view: Constant bitrate -> 9 (unknown)\n"
-                            "Initial buffer fullness, second view: 54000 ticks of 90 kHz -> 60000 "
+                            "Picture structure, view 1: MBAFF -> Progressive\n"
+                            "Bitrate mode, view 1: Constant Bitrate -> 9 (unknown)\n"
+                            "VBV buffer initial, view 1: 54000 ticks of 90 kHz -> 60000 "
                             "ticks of 90 kHz\n"
-                            "Reserved bytes, second view: 2 differ\n"));
+                            "Reserved bytes, view 1: 2 differ\n"));
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 1);
 }
@@ -92,7 +92,7 @@ void HostDiffTest::everyFieldIsSeen()
     const HostProgram::Result result = diff(before, after);
     QCOMPARE(result.output.count(QStringLiteral(", base view: ")),
              static_cast<int>(std::size(viewFields)));
-    QCOMPARE(result.output.count(QStringLiteral(", second view: ")),
+    QCOMPARE(result.output.count(QStringLiteral(", view 1: ")),
              static_cast<int>(std::size(viewFields)));
     QVERIFY(!result.output.contains(QStringLiteral("Reserved")));
     QCOMPARE(result.exitCode, 1);
@@ -112,7 +112,7 @@ void HostDiffTest::reservedBytesAreSeen_data()
     row(8, 248, {});
     for (const ReservedRange& range : viewReserved) {
         row(256 + range.offset, range.size, QStringLiteral(", base view"));
-        row(256 + 8316 + range.offset, range.size, QStringLiteral(", second view"));
+        row(256 + 8316 + range.offset, range.size, QStringLiteral(", view 1"));
     }
 }
 
@@ -147,21 +147,14 @@ void HostDiffTest::jsonListsTheDifferences()
     QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()), QJsonDocument::fromJson(R"json({
         "same": false,
         "differences": [
-            {"setting": "num_views", "name": "Number of views", "view": null,
-             "a": {"value": 2, "text": "2"}, "b": {"value": 1, "text": "1"}},
+            {"setting": "num_views", "name": "Number of additional views", "view": null,
+             "a": {"value": 2, "text": "1"}, "b": {"value": 1, "text": "0"}},
             {"setting": "frame_rate", "name": "Frame rate", "view": 0,
-             "a": {"value": 23.976023976023978, "text": "23.976 (24000/1001)"
-}
-, "b":
-{
-    "value" : 25, "text" : "25"
-}
-},
+             "a": {"value": 23.976023976023978, "text": "23.976 (24000/1001)"},
+             "b": {"value": 25, "text": "25"}},
             {"setting": "level", "name": "Level", "view": 1,
              "a": {"value": 41, "text": "4.1"}, "b": {"value": 100, "text": "Auto"}},
-            {"setting": null, "name": "Reserved bytes", "view": 1, "bytes": 1}
-        ]
-})json"));
+            {"setting": null, "name": "Reserved bytes", "view": 1, "bytes": 1}]})json"));
 }
 
 QTEST_GUILESS_MAIN(HostDiffTest)

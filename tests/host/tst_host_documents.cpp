@@ -1,4 +1,5 @@
-// The manual page and the shell completion know what the program knows.
+// The manual page and the shell completion know what the program knows, and every list of suffixes
+// is the same.
 
 #include "HostProgram.h"
 
@@ -15,6 +16,8 @@ private Q_SLOTS:
     void manualPageIsWellFormed();
     void manualPageNamesEveryOption_data();
     void manualPageNamesEveryOption();
+    void suffixesAreTheSameEverywhere_data();
+    void suffixesAreTheSameEverywhere();
     void completionOffers_data();
     void completionOffers();
 };
@@ -87,6 +90,66 @@ void HostDocumentsTest::manualPageNamesEveryOption()
         }
     }
     QVERIFY(options > 0);
+}
+
+void HostDocumentsTest::suffixesAreTheSameEverywhere_data()
+{
+    QTest::addColumn<QString>("file");
+    // What the list stands in, and one suffix in it.
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList settings = {QStringLiteral("cfg"), QStringLiteral("ini")};
+    const QStringList media = {QStringLiteral("ifo"), QStringLiteral("m2p"),  QStringLiteral("m2t"),
+                               QStringLiteral("m2v"), QStringLiteral("m4p"),  QStringLiteral("mp2"),
+                               QStringLiteral("mp4"), QStringLiteral("mpeg"), QStringLiteral("mpg"),
+                               QStringLiteral("mpv"), QStringLiteral("mxf"),  QStringLiteral("trp"),
+                               QStringLiteral("ts"),  QStringLiteral("vob")};
+    const auto row = [](const char* name, const char* file, const char* place, const char* suffix,
+                        const QStringList& expected) {
+        QTest::newRow(name) << QString::fromLatin1(KV_SOURCE_DIR "/") + QLatin1String(file)
+                            << QString::fromLatin1(place) << QString::fromLatin1(suffix)
+                            << expected;
+    };
+    const char* const library = "companions/settings_io/file_kind.cpp";
+    row("library, settings", library, "kSuffixes\\[\\].*?;", R"x("(\w+)", FileKind::Settings)x",
+        settings);
+    row("library, media", library, "kSuffixes\\[\\].*?;", R"x("(\w+)", FileKind::Media)x", media);
+    row("dialog, dropped files", "src/dialog/SettingsFiles.cpp", "QStringList suffixes.*?;",
+        R"x("(\w+)")x", settings + media);
+    const char* const completion = "host/completion/kv-mvc-settings.bash";
+    row("completion, settings", completion, "settings='[^']*'", "['|](\\w+)", settings);
+    row("completion, media", completion, "media='[^']*'", "['|](\\w+)", media);
+    const char* const manual = "docs/kv-mvc-settings.1";
+    row("manual, settings", manual, "their names end in.*?upper or lower", "^\\.IR? \\.(\\w+)",
+        settings);
+    row("manual, media", manual, "Names of media files end in.*?\\n\\.TP", "^\\.IR? \\.(\\w+)",
+        media);
+    const char* const format = "docs/settings-file.md";
+    row("format, settings", format, "The suffix decides.*?are settings", "`(\\w+)`", settings);
+    row("format, media", format, "are settings; .*?are media", "`(\\w+)`", media);
+}
+
+void HostDocumentsTest::suffixesAreTheSameEverywhere()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, place);
+    QFETCH(QString, suffix);
+    QFETCH(QStringList, expected);
+    const QString text = textOf(file.toUtf8().constData());
+    const QString list = QRegularExpression(place, QRegularExpression::DotMatchesEverythingOption |
+                                                       QRegularExpression::MultilineOption)
+                             .match(text)
+                             .captured();
+    QVERIFY2(!list.isEmpty(), qPrintable(place));
+    QStringList found;
+    const QRegularExpression one(suffix, QRegularExpression::MultilineOption);
+    for (auto match = one.globalMatch(list); match.hasNext();) {
+        found << match.next().captured(1);
+    }
+    found.sort();
+    expected.sort();
+    QCOMPARE(found, expected);
 }
 
 void HostDocumentsTest::completionOffers_data()

@@ -101,8 +101,7 @@ const QString twoEdits =
     QLatin1Char(' ') + edited(secondView + offsetof(KvMvcViewSettings, bitrate), 8000000);
 
 const QString twoChanges = QStringLiteral("Picture width, base view: 1920 -> 1280\n"
-                                          "Target bitrate, second view: 10000000 bit/s -> 8000000 "
-                                          "bit/s\n");
+                                          "Target bitrate (bps), view 1: 10000000 -> 8000000\n");
 
 KvMvcSettings twiceEditedSettings()
 {
@@ -290,7 +289,7 @@ void HostEditTest::newFileStartsWithThePreset()
     const HostProgram::Result result =
         program.edit(arguments, {edited(offsetof(KvMvcSettings, num_views), 2)});
     QCOMPARE(result.error, QString());
-    QCOMPARE(result.output, QStringLiteral("Number of views: 1 -> 2\n"));
+    QCOMPARE(result.output, QStringLiteral("Number of additional views: 0 -> 1\n"));
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(program.seen("width"), width);
     const KvMvcSettings saved = program.readSettings(b);
@@ -305,7 +304,7 @@ void HostEditTest::withoutAFileOnlyTheChangesArePrinted()
         program.edit({QStringLiteral("--preset"), QStringLiteral("1")},
                      {edited(offsetof(KvMvcSettings, split_views), 1)});
     QCOMPARE(result.error, QString());
-    QCOMPARE(result.output, QStringLiteral("Separate streams: off -> on\n"));
+    QCOMPARE(result.output, QStringLiteral("Split views: off -> on\n"));
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(program.seen("width"), QStringLiteral("1001"));
     QCOMPARE(program.files(), QStringList{a});

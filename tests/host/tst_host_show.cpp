@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <limits>
@@ -19,6 +20,8 @@ private Q_SLOTS:
     void valuesHaveNames_data();
     void valuesHaveNames();
     void jsonHoldsEveryField();
+    void frameRatesWithoutANumberAreNull_data();
+    void frameRatesWithoutANumberAreNull();
     void frameRatesKeepTheirDigits_data();
     void frameRatesKeepTheirDigits();
     void namesBeyondAsciiAreOpened();
@@ -118,14 +121,14 @@ void HostShowTest::valuesHaveNames_data()
         {"interlace_mode", 0, "Progressive"},
         {"interlace_mode", 1, "Interlaced"},
         {"interlace_mode", 2, "MBAFF"},
-        {"field_order", 0, "Top field first"},
-        {"field_order", 1, "Bottom field first"},
+        {"field_order", 0, "Top Field First"},
+        {"field_order", 1, "Bot Field First"},
         {"pulldown", 0, "Off"},
         {"pulldown", 1, "2:3"},
         {"pulldown", 2, "3:2"},
         {"pulldown", 3, "3 (unknown)"},
-        {"pulldown", 4, "2:3 progressive"},
-        {"pulldown", 5, "3:2 progressive"},
+        {"pulldown", 4, "2:3 P"},
+        {"pulldown", 5, "3:2 P"},
         {"pulldown", 6, "Auto"},
         {"pulldown", 7, "2:2"},
         {"pulldown", 8, "3:3"},
@@ -134,10 +137,10 @@ void HostShowTest::valuesHaveNames_data()
         {"chroma_format", 2, "4:2:0"},
         {"chroma_format", 3, "4:2:2"},
         {"chroma_format", 4, "unnamed format"},
-        {"bitrate_mode", 0, "Constant bitrate"},
-        {"bitrate_mode", 1, "Constant quantizer"},
-        {"bitrate_mode", 2, "Variable bitrate"},
-        {"bitrate_mode", 3, "Average quantizer"},
+        {"bitrate_mode", 0, "Constant Bitrate"},
+        {"bitrate_mode", 1, "Const. Quality - Constant Quantizer"},
+        {"bitrate_mode", 2, "Variable Bitrate"},
+        {"bitrate_mode", 3, "Const. Quality - Average Quantizer"},
         {"bitrate_units", 0, "Bytes and percent"},
         {"bitrate_units", 1, "Bits"},
         {"bitrate_units", 2, "Bits and 90 kHz"},
@@ -148,23 +151,29 @@ void HostShowTest::valuesHaveNames_data()
         {"subpixel_mode", 2, "Quarter"},
         {"entropy_mode", 0, "CAVLC"},
         {"entropy_mode", 1, "CABAC"},
-        {"display_aspect_x", -1, "custom"},
-        {"display_aspect_y", -1, "custom"},
+        {"display_aspect_x", -1, "Custom"},
+        {"display_aspect_y", -1, "Custom"},
         {"display_aspect_y", 9, "9"},
         {"pixel_aspect_x", -1, "derived"},
         {"pixel_aspect_y", -1, "derived"},
         {"pixel_aspect_y", 11, "11"},
-        {"i_interval", 0, "first only"},
+        {"i_interval", 0, "0 (first only)"},
         {"i_interval", 1, "1"},
-        {"idr_marker", 0, "first only"},
-        {"num_threads", 0, "automatic"},
-        {"frame_size_i", 0, "no limit"},
-        {"frame_size_p", 0, "no limit"},
-        {"frame_size_b", 0, "no limit"},
-        {"frame_size_bref", 0, "no limit"},
+        {"ref_distance", 1, "0"},
+        {"ref_distance", 3, "2"},
+        {"ref_distance", 0, "-1"},
+        {"ref_distance", -2147483647 - 1, "-2147483649"},
+        {"bit_depth_luma", 8, "8 bits"},
+        {"bit_depth_chroma", 10, "10 bits"},
+        {"idr_marker", 0, "0 (first only)"},
+        {"num_threads", 0, "Auto"},
+        {"frame_size_i", 0, "0 (no limit)"},
+        {"frame_size_p", 0, "0 (no limit)"},
+        {"frame_size_b", 0, "0 (no limit)"},
+        {"frame_size_bref", 0, "0 (no limit)"},
         {"frame_size_bref", 1, "1 bytes"},
-        {"bitrate", 2147483647, "2147483647 bit/s"},
-        {"max_bitrate", -1, "-1 bit/s"},
+        {"bitrate", 2147483647, "2147483647"},
+        {"max_bitrate", -1, "-1"},
         {"deblocking", 0, "off"},
         {"deblocking", 1, "on"},
         {"deblocking", 2, "2 (unknown)"},
@@ -258,6 +267,35 @@ void HostShowTest::frameRatesKeepTheirDigits()
     const QJsonObject second = viewOf(shownJson(program), 1);
     QCOMPARE(textOf(second, QLatin1String("frame_rate")), text);
     QVERIFY(valueOf(second, QLatin1String("frame_rate")) == rate);
+}
+
+void HostShowTest::frameRatesWithoutANumberAreNull_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QString>("text");
+    using Limits = std::numeric_limits<double>;
+    QTest::newRow("inf") << Limits::infinity() << QStringLiteral("inf");
+    QTest::newRow("-inf") << -Limits::infinity() << QStringLiteral("-inf");
+    QTest::newRow("nan") << Limits::quiet_NaN() << QStringLiteral("nan");
+}
+
+void HostShowTest::frameRatesWithoutANumberAreNull()
+{
+    QFETCH(double, rate);
+    QFETCH(QString, text);
+    KvMvcSettings settings = exampleSettings();
+    settings.views[1].frame_rate = rate;
+    const HostProgram program;
+    program.writeSettings(fileName, settings);
+    const QJsonObject shown =
+        viewOf(shownJson(program), 1)[QStringLiteral("frame_rate")].toObject();
+    QVERIFY(shown[QStringLiteral("value")].isNull());
+    QCOMPARE(shown[QStringLiteral("text")].toString(), text);
+    const HostProgram::Result table = program.run({QStringLiteral("show"), fileName});
+    const QRegularExpression line(
+        QStringLiteral("^Frame rate +23\\.976 \\(24000/1001\\) +%1$").arg(text),
+        QRegularExpression::MultilineOption);
+    QVERIFY2(table.output.contains(line), qPrintable(table.output));
 }
 
 void HostShowTest::namesBeyondAsciiAreOpened()
