@@ -46,7 +46,7 @@ Decimal frameRateText(double rate)
 
 Decimal seconds(double time)
 {
-    return rounded(time, 2);
+    return rounded(time, 3);
 }
 
 } // namespace kv::encoder

@@ -26,7 +26,7 @@ Decimal millions(std::int64_t number);
 /** Frames per second with two decimals, or with three where they differ: 59.94, 23.976. */
 Decimal frameRateText(double rate);
 
-/** Seconds with two decimals. */
+/** Seconds, likewise: 0.50, 0.003. */
 Decimal seconds(double time);
 
 } // namespace kv::encoder

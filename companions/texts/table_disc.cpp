@@ -56,7 +56,7 @@ static const Text texts[] = {
      "Blu-ray erlaubt nur ein Referenz-B-Bild in Folge: Pyramidenstruktur einschalten.",
      "Blu-ray では、参照 B フレームを 2 枚以上続けられません。ピラミッド構造をオンにしてください。"},
     {"Blu-ray 3D is only known to play 1920 x 1080 at 23.976 frames/s, progressive; others may fail.",
-     "Für Blu-ray 3D ist nur 1920 x 1080 mit 23,976 Bildern/s, progressiv, als abspielbar bekannt; anderes kann scheitern.",
+     "Sicher abspielbar ist Blu-ray 3D nur mit 1920 x 1080 und 23,976 Bildern/s, progressiv; anderes kann scheitern.",
      "Blu-ray 3D で再生が確認されているのは 1920 x 1080、23.976 フレーム/秒、プログレッシブだけです。ほかは再生できないおそれがあります。"},
     {"Blu-ray 3D players expect HRD conformance in view 1, too.",
      "Blu-ray-3D-Player erwarten auch in Ansicht 1 HRD-Konformität.",

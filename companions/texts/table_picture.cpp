@@ -35,8 +35,8 @@ static const Text texts[] = {
      "Es ist kein Pixelseitenverhältnis gesetzt, daher nehmen Player eines an.",
      "ピクセルアスペクト比が未設定のため、プレーヤーが独自に判断します。"},
     {"The field order has no effect on progressive pictures without pulldown.",
-     "Die Halbbildfolge hat bei progressiven Bildern ohne Pulldown keine Wirkung.",
-     "プルダウンなしのプログレッシブ映像では、フィールド順は影響しません。"},
+     "Die Halbbildreihenfolge hat bei progressiven Bildern ohne Pulldown keine Wirkung.",
+     "プルダウンなしのプログレッシブ映像では、フィールドオーダーは影響しません。"},
     {"The bit-depth of chroma has no effect: 4:0:0 has no chroma.",
      "Die Bittiefe der Chroma hat keine Wirkung: 4:0:0 hat keine Chroma.",
      "4:0:0 には色差がないため、色差ビット深度は影響しません。"},
@@ -134,7 +134,7 @@ static const Text texts[] = {
      "ビュー 1 の設定は、後続のビュー (ビュー %d まで) にも適用されます。"},
     {"Split views has no effect: there is only one view.",
      "„Ansichten trennen“ hat keine Wirkung: Es gibt nur eine Ansicht.",
-     "ビューが 1 つだけなので、「ビューを分割」は影響しません。"},
+     "ビューが 1 つだけなので、「ビューを分離」は影響しません。"},
 };
 // clang-format on
 

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void keptReferencesMayBeMoreThanActiveOnes();
     void judgementsNameTheView_data();
     void judgementsNameTheView();
+    void secondsAreReadable_data();
+    void secondsAreReadable();
     void anUnusedViewIsLeftAlone();
     void halfDoneEditsSurvive_data();
     void halfDoneEditsSurvive();
@@ -279,6 +281,29 @@ void TestEncoderCheck::judgementsNameTheView()
     KvMvcSettings record = encoder::preset(2);
     record.views[view].num_slices = slices;
     QCOMPARE(encoder::check(record).errors(), errors);
+}
+
+void TestEncoderCheck::secondsAreReadable_data()
+{
+    QTest::addColumn<int>("bytes"); // of a buffer that 30 Mbit/s fill
+    QTest::addColumn<QByteArray>("shown");
+    QTest::newRow("0.5 s") << 1875000 << QByteArray("0.50");
+    QTest::newRow("0.125 s") << 468750 << QByteArray("0.125");
+    QTest::newRow("0.0026 s") << 9750 << QByteArray("0.003");
+    QTest::newRow("2.3 s") << 8625000 << QByteArray("2.30");
+}
+
+void TestEncoderCheck::secondsAreReadable()
+{
+    QFETCH(const int, bytes);
+    QFETCH(const QByteArray, shown);
+    KvMvcSettings record = encoder::preset(0);
+    setBoth(record, &V::bitrate_buffer, bytes);
+    setBoth(record, &V::vbv_initial, 100);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.notes().contains("Base view: The bitrate buffer holds " + shown +
+                                      " s; decoding starts after " + shown + " s."),
+             outcome.all().constData());
 }
 
 void TestEncoderCheck::anUnusedViewIsLeftAlone()

@@ -4,9 +4,12 @@
 
 #include <kv_config_gui_mvc/companions.h>
 
+#include <QFile>
 #include <QLibrary>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <QXmlStreamReader>
 
 #include "rules.h"
 #include "tables.h"
@@ -49,6 +52,8 @@ private Q_SLOTS:
     void aFewTexts();
     void decimalsHaveASignOfTheLanguage();
     void viewsAreNamedInEachLanguage();
+    void quotedNamesAreTheDialogs_data();
+    void quotedNamesAreTheDialogs();
     void languages();
     void unknownFormats();
 
@@ -202,6 +207,61 @@ void TestTexts::viewsAreNamedInEachLanguage()
                 QCOMPARE(QByteArray(text.german).startsWith(name.german), named);
                 QCOMPARE(QByteArray(text.japanese).startsWith(name.japanese), named);
             }
+}
+
+void TestTexts::quotedNamesAreTheDialogs_data()
+{
+    QTest::addColumn<QString>("catalogue");
+    QTest::addColumn<QString>("element");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("quoted");
+    QTest::addColumn<QStringList>("others");
+    const QString german = QStringLiteral("gui_mvc_de.ts");
+    QTest::newRow("English") << german << QStringLiteral("source") << 0
+                             << QStringLiteral("\"([^\"]+)\"") << QStringList();
+    // What the dialog says in a group's title and a label, or on both sides of a control.
+    const QStringList inParts = {QStringLiteral("Ein IDR-Bild je … I-Bilder"),
+                                 QStringLiteral("Adaptive Quantisierung nach Helligkeit"),
+                                 QStringLiteral("Adaptive Quantisierung nach Kontrast"),
+                                 QStringLiteral("Adaptive Quantisierung nach Komplexität")};
+    QTest::newRow("German") << german << QStringLiteral("translation") << 1
+                            << QStringLiteral("„([^“]+)“") << inParts;
+    QTest::newRow("Japanese") << QStringLiteral("gui_mvc_jp.ts") << QStringLiteral("translation")
+                              << 2 << QStringLiteral("「([^」]+)」") << QStringList();
+}
+
+void TestTexts::quotedNamesAreTheDialogs()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, element);
+    QFETCH(int, column);
+    QFETCH(QString, quoted);
+    QFETCH(QStringList, others);
+    QFile file(QStringLiteral(KV_TRANSLATIONS "/") + catalogue);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));
+    // Labels lose their unit: "Max bitrate (bps)".
+    static const QRegularExpression unit(QStringLiteral(" \\([^)]*\\)$"));
+    QSet<QString> names(others.cbegin(), others.cend());
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd())
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == element)
+            names +=
+                xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed().remove(unit);
+    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+
+    const QRegularExpression expression(quoted);
+    QStringList unknown;
+    int seen = 0;
+    for (const kv::texts::Table& table : kv::texts::tables())
+        for (const kv::texts::Text& text : table) {
+            const char* const columns[] = {text.format, text.german, text.japanese};
+            auto match = expression.globalMatch(QString::fromUtf8(columns[column]));
+            for (; match.hasNext(); ++seen)
+                if (const QString name = match.next().captured(1); !names.contains(name))
+                    unknown += name;
+        }
+    QVERIFY(seen > 0);
+    QCOMPARE(unknown, QStringList());
 }
 
 void TestTexts::languages()
