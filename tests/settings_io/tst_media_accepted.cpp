@@ -171,27 +171,27 @@ void TestMediaAccepted::referencesOfFurtherViewsGiveWay()
 {
     const QString base = file("base.h264");
     QByteArray error =
-        makeMedia(picture("176x144", "25") +
-                      QStringLiteral("-c:v libx264 -pix_fmt yuv420p -bf 0 -refs 8 -level 3"),
+        makeMedia(picture("720x576", "10") +
+                      QStringLiteral("-c:v libx264 -pix_fmt yuv420p -bf 0 -refs 4 -level 3"),
                   base);
     QVERIFY2(error.isEmpty(), error.constData());
     QFile in(base);
-    QFile out(file("pair.h264"));
+    QFile out(file("three.h264"));
     QVERIFY(in.open(QIODevice::ReadOnly) && out.open(QIODevice::WriteOnly));
-    out.write(kvtest::withViews(in.readAll(), 128, 30, 2, 0.5));
+    out.write(kvtest::withViews(in.readAll(), 118, 30, 3, 0.5));
     out.close();
-    const QString name = file("pair.ts");
-    error = makeMedia(QStringLiteral("-f h264 -r 25 -i ") + out.fileName() +
-                          QStringLiteral(" -c copy -bsf:v setts=ts=N*3600"),
+    const QString name = file("three.ts");
+    error = makeMedia(QStringLiteral("-f h264 -r 10 -i ") + out.fileName() +
+                          QStringLiteral(" -c copy -bsf:v setts=ts=N*9000"),
                       name);
     QVERIFY2(error.isEmpty(), error.constData());
     KvMvcSettings settings{};
     QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
     QCOMPARE(m_library.messages, QByteArray());
     QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
-    QCOMPARE(settings.num_views, 2);
-    QCOMPARE(settings.views[0].num_ref_frames, 8);
-    QCOMPARE(settings.views[1].num_ref_frames, 7); // a list of eight has the base view, too
+    QCOMPARE(settings.num_views, 3);
+    QCOMPARE(settings.views[0].num_ref_frames, 4);
+    QCOMPARE(settings.views[1].num_ref_frames, 3); // ten frames in all
 }
 
 void TestMediaAccepted::whatCannotBeHelpedIsTold()
