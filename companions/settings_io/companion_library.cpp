@@ -19,22 +19,41 @@ namespace
 
 constexpr char kExtension[] = ".dll";
 
-std::filesystem::path ownFolder()
+/** @param module Null: the program. */
+std::filesystem::path folderOf(HMODULE module)
 {
-    HMODULE own = nullptr;
     std::vector<wchar_t> name(32 * 1024);
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&ownFolder), &own);
-    GetModuleFileNameW(own, name.data(), static_cast<DWORD>(name.size()));
+    GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size()));
     return std::filesystem::path(name.data()).parent_path();
 }
 
+std::filesystem::path hostFolder()
+{
+    return folderOf(nullptr);
+}
+
+std::filesystem::path ownFolder()
+{
+    HMODULE own = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(&ownFolder), &own);
+    return folderOf(own);
+}
+
+/** Whoever owns the current folder, such as that of a film, has no libraries for this process. */
 void* loadFile(const std::filesystem::path& file)
 {
-    // What a library beside this one needs is looked for beside it, too.
-    const DWORD flags = file.is_absolute() ? LOAD_WITH_ALTERED_SEARCH_PATH : 0;
-    return reinterpret_cast<void*>(LoadLibraryExW(file.c_str(), nullptr, flags));
+    // What a library needs is looked for beside it, too.
+    const DWORD beside = file.is_absolute() ? LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR : 0;
+    DWORD former = 0;
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &former); // no box of the system's own
+    void* const handle = reinterpret_cast<void*>(
+        LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS | beside));
+    const DWORD error = GetLastError();
+    SetThreadErrorMode(former, nullptr);
+    SetLastError(error);
+    return handle;
 }
 
 std::string loadReason()
@@ -45,6 +64,12 @@ std::string loadReason()
 #else
 
 constexpr char kExtension[] = ".so";
+
+std::filesystem::path hostFolder()
+{
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+}
 
 std::filesystem::path ownFolder()
 {
@@ -66,16 +91,23 @@ std::string loadReason()
 
 #endif
 
+/** What lies in one of the folders counts, even when it cannot be loaded. */
+std::filesystem::path findFile(const std::string& file)
+{
+    for (const std::filesystem::path& folder : {hostFolder(), ownFolder()}) {
+        std::error_code error;
+        if (!folder.empty() && std::filesystem::exists(folder / file, error))
+            return folder / file;
+    }
+    return file;
+}
+
 } // namespace
 
 CompanionLibrary::CompanionLibrary(std::initializer_list<const char*> names)
 {
     for (const char* name : names) {
-        const std::string file = std::string(name) + kExtension;
-        const std::filesystem::path beside = ownFolder() / file;
-        std::error_code error;
-        const bool isBeside = std::filesystem::exists(beside, error);
-        m_handle = loadFile(isBeside ? beside : std::filesystem::path(file));
+        m_handle = loadFile(findFile(std::string(name) + kExtension));
         if (m_handle)
             return;
         m_reason = loadReason();

@@ -15,8 +15,9 @@ class CompanionLibrary
 {
 public:
     /**
-     * Loads the first that can be loaded: each base name in the directory of this library first,
-     * then by the system loader's rules.
+     * Loads the first that can be loaded: each base name in the host program's directory, else in
+     * that of this library, else by the system loader's rules, the current directory left out. That
+     * is the dialog's order, too, so that both meet the same library.
      */
     explicit CompanionLibrary(std::initializer_list<const char*> names);
     ~CompanionLibrary();
