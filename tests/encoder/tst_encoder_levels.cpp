@@ -148,10 +148,6 @@ private Q_SLOTS:
     void lowestLevelCanBeChosen();
     void reservedLevelsAreNamed_data();
     void reservedLevelsAreNamed();
-    void ratesAreReadable_data();
-    void ratesAreReadable();
-    void frameRatesAreReadable_data();
-    void frameRatesAreReadable();
     void discHasOneLevel_data();
     void discHasOneLevel();
 
@@ -534,62 +530,6 @@ void TestEncoderLevels::reservedLevelsAreNamed()
              QByteArrayList{"Level " + name +
                             " is none of the H.264 levels from 1.0 to 5.2: choose "
                             "another level, or Auto."});
-}
-
-void TestEncoderLevels::ratesAreReadable_data()
-{
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<QByteArray>("error");
-    const auto add = [](int rate, const char* shown) {
-        QTest::addRow("%d", rate) << rate
-                                  << QByteArray(
-                                         "Level 4.0 allows the base view at most 30.00 Mbit/s "
-                                         "(now ") +
-                                         shown + "): lower its bitrate, or choose a higher level.";
-    };
-    add(30000001, "30.000001"); // no two numbers look equal
-    add(30000100, "30.0001");
-    add(30100000, "30.10");
-    add(31234567, "31.234567");
-    add(2147483647, "2147.483647");
-}
-
-void TestEncoderLevels::ratesAreReadable()
-{
-    QFETCH(const int, rate);
-    QFETCH(const QByteArray, error);
-    KvMvcSettings record = encoder::preset(0);
-    setBoth(record, &V::level, 40);
-    setBoth(record, &V::max_bitrate, rate);
-    const Outcome outcome = encoder::check(record);
-    QVERIFY2(outcome.errors().contains(error), outcome.all().constData());
-}
-
-void TestEncoderLevels::frameRatesAreReadable_data()
-{
-    QTest::addColumn<double>("rate");
-    QTest::addColumn<QByteArray>("shown");
-    QTest::newRow("30000/1001") << 30000.0 / 1001 << QByteArray("29.97");
-    QTest::newRow("60000/1001") << 60000.0 / 1001 << QByteArray("59.94");
-    QTest::newRow("25") << 25.0 << QByteArray("25.00");
-    QTest::newRow("12.5") << 12.5 << QByteArray("12.50");
-    QTest::newRow("29.9996") << 29.9996 << QByteArray("30.00");
-    QTest::newRow("23.98") << 23.98 << QByteArray("23.98");
-    QTest::newRow("23.977") << 23.9774 << QByteArray("23.977");
-    QTest::newRow("beyond all numbers of a message") << 1e300 << QByteArray("2147483647.00");
-}
-
-void TestEncoderLevels::frameRatesAreReadable()
-{
-    QFETCH(const double, rate);
-    QFETCH(const QByteArray, shown);
-    KvMvcSettings record = encoder::preset(0);
-    setBoth(record, &V::pulldown, int{KV_MVC_PULLDOWN_2_3});
-    encoder::setFrameRate(record, rate);
-    const Outcome outcome = encoder::check(record);
-    QVERIFY2(outcome.notes().contains(
-                 "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now " + shown + ")."),
-             outcome.all().constData());
 }
 
 void TestEncoderLevels::discHasOneLevel_data()
