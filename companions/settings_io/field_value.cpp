@@ -4,6 +4,7 @@
 #include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 namespace kv
@@ -77,11 +78,34 @@ std::optional<double> parseRate(std::string_view text)
     return rate && std::isfinite(*rate) ? rate : std::nullopt; // "inf" and "nan" are numbers to it
 }
 
+/** Levels are spelled with a dot, so that a code of one digit is never taken for a level. */
+std::string formatLevel(std::int32_t code)
+{
+    const std::int64_t tenths = std::abs(std::int64_t{code});
+    std::string text(code < 0 ? "-" : "");
+    return text.append(decimal(tenths / 10)).append(".").append(decimal(tenths % 10));
+}
+
+/** "4.0" and "4" are level 4; "40", as stream analyzers have it, is its code. */
+std::optional<std::int32_t> parseLevel(std::string_view text)
+{
+    const auto dot = text.find('.');
+    if (dot == text.npos) {
+        const auto number = parseDecimal<std::int32_t>(text);
+        return number && *number > 0 && *number < 10 ? *number * 10 : number;
+    }
+    const bool one = dot > 0 && text[dot - 1] != '-' && dot + 2 == text.size();
+    const std::string digits = std::string(text.substr(0, dot)).append(text.substr(dot + 1));
+    return one ? parseDecimal<std::int32_t>(digits) : std::nullopt;
+}
+
 std::optional<std::int32_t> parseInteger(const Field& field, std::string_view text)
 {
     const auto known = std::ranges::find_if(
         field.values, [&](const NamedValue& row) { return equalIgnoringCase(row.name, text); });
-    return known != field.values.end() ? known->value : parseDecimal<std::int32_t>(text);
+    if (known != field.values.end())
+        return known->value;
+    return field.kind == FieldKind::Level ? parseLevel(text) : parseDecimal<std::int32_t>(text);
 }
 
 std::string expectation(const Field& field)
@@ -91,6 +115,8 @@ std::string expectation(const Field& field)
     std::string text;
     for (const NamedValue& row : field.values)
         text.append(row.name).append(", ");
+    if (field.kind == FieldKind::Level)
+        return text + "or another number with one decimal";
     return text.empty() ? "a whole number of 32 bits" : text + "or a whole number of 32 bits";
 }
 
@@ -125,7 +151,9 @@ std::string formatField(const Field& field, const unsigned char* base)
     std::int32_t value = 0;
     std::memcpy(&value, base + field.offset, sizeof value);
     const auto known = std::ranges::find(field.values, value, &NamedValue::value);
-    return known != field.values.end() ? std::string(known->name) : decimal(value);
+    if (known != field.values.end())
+        return std::string(known->name);
+    return field.kind == FieldKind::Level ? formatLevel(value) : decimal(value);
 }
 
 std::string parseField(const Field& field, std::string_view text, unsigned char* base)

@@ -43,6 +43,8 @@ std::string valueNames(const kv::Field& field)
         text += text.empty() ? "" : ", ";
         text.append("`").append(row.name).append("` ").append(std::to_string(row.value));
     }
+    if (field.kind == kv::FieldKind::Level)
+        return text + "; level";
     return text.empty() ? field.kind == kv::FieldKind::Rate ? "rate" : "number" : text;
 }
 
@@ -77,8 +79,8 @@ int main(int count, char** arguments)
     std::puts(
         "# Keys of settings files\n\n<!-- Written by kv_settings_fields_doc; do not edit. -->\n");
     std::puts("[settings-file.md](settings-file.md) tells how such files are written. A field with "
-              "named values takes\nany other whole number too; the offset is that in the section's "
-              "part of the record.");
+              "named values takes\nany other whole number too, a level any other level; the offset "
+              "is that in the section's part of the record.");
     const auto sections = kv::settingsSections().first(2); // all views have the same keys
     for (const kv::Section& section : sections) {
         std::printf("\n## [%s]%s\n", std::string(section.name).c_str(),

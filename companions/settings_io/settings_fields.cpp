@@ -74,8 +74,14 @@ constexpr FieldKind kindOf()
 
 constexpr Field kViews[] = {KV_RECORD(num_views), KV_RECORD(split_views, kSwitch)};
 
+constexpr Field ofKind(FieldKind kind, Field field)
+{
+    field.kind = kind;
+    return field;
+}
+
 constexpr Field kStream[] = {KV_VIEW(video_type, kVideoTypes), KV_VIEW(profile, kProfiles),
-                             KV_VIEW(level, kLevels)};
+                             ofKind(FieldKind::Level, KV_VIEW(level, kLevels))};
 
 constexpr Field kPicture[] = {KV_VIEW(width),
                               KV_VIEW(height),

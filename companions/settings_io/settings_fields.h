@@ -11,7 +11,7 @@
 namespace kv
 {
 
-enum class FieldKind { Integer, Rate };
+enum class FieldKind { Integer, Rate, Level };
 
 /** The readable form of one value of a field. */
 struct NamedValue {

@@ -133,6 +133,8 @@ private Q_SLOTS:
     void viewsAndRecordAreApart();
     void namesStandForTheirCodes_data();
     void namesStandForTheirCodes();
+    void levels_data();
+    void levels();
     void frameRates_data();
     void frameRates();
     void frameRatesKeepTheirBits_data();
@@ -182,8 +184,10 @@ void TestSettingsText::numbersGoToTheirOffset_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<int>("offset");
-    for (const RecordField& field : viewFields)
-        QTest::newRow(field.name) << QByteArray(field.name) << static_cast<int>(field.offset);
+    for (const RecordField& field : viewFields) {
+        if (QByteArray(field.name) != "level") // see levels()
+            QTest::newRow(field.name) << QByteArray(field.name) << static_cast<int>(field.offset);
+    }
 }
 
 void TestSettingsText::numbersGoToTheirOffset()
@@ -234,6 +238,61 @@ void TestSettingsText::namesStandForTheirCodes()
     QVERIFY(same(readLine(key + " = " + QByteArray::number(value)), expected));
     const QByteArray text = QByteArray::fromStdString(kv::formatSettings(expected));
     QVERIFY(text.contains("\n" + key + " = " + name + "\n"));
+}
+
+void TestSettingsText::levels_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char* text, int code, const char* written) {
+        QTest::newRow(text) << QByteArray(text) << code << QByteArray(written);
+    };
+    row("4", 40, "4.0");
+    row("4.0", 40, "4.0");
+    row("40", 40, "4.0");
+    row("1", 10, "1.0");
+    row("9", 90, "9.0");
+    row("10", 10, "1.0");
+    row("41", 41, "4.1");
+    row("6.2", 62, "6.2");
+    row("100", 100, "auto");
+    // Codes that no level has.
+    row("0", 0, "0.0");
+    row("0.4", 4, "0.4");
+    row("0.9", 9, "0.9");
+    row("43", 43, "4.3");
+    row("41.0", 410, "41.0");
+    row("-1", -1, "-0.1");
+    row("-0.1", -1, "-0.1");
+    row("-4", -4, "-0.4");
+    row("2147483647", 2147483647, "214748364.7");
+    row("214748364.7", 2147483647, "214748364.7");
+    row("-214748364.8", std::numeric_limits<int>::min(), "-214748364.8");
+    for (const char* wrong : {"", ".", "4.", ".4", "-.4", "4.10", "4,0", "4.0.0", "+4.0", "4.x",
+                              "4.-", "214748364.8", "level 4", "1b"})
+        QTest::newRow(wrong) << QByteArray(wrong) << 0 << QByteArray();
+}
+
+void TestSettingsText::levels()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, code);
+    QFETCH(QByteArray, written);
+    if (written.isEmpty()) {
+        QCOMPARE(firstProblem(inViewZero("level = " + text)),
+                 "3: bad value '" + text.toStdString() +
+                     "' for 'level': expected 1.0, 1.1, 1.2, 1.3, 1.6, 2.0, 2.1, 2.2, 3.0, 3.1, "
+                     "3.2, 4.0, 4.1, 4.2, 5.0, 5.1, 5.2, auto, or another number with one decimal");
+        return;
+    }
+    const KvMvcSettings settings = readLine("level = " + text);
+    QCOMPARE(settings.views[0].level, code);
+    const std::string file = kv::formatSettings(settings);
+    QVERIFY(QByteArray::fromStdString(file).contains("\nlevel = " + written + "\n"));
+    KvMvcSettings back{};
+    QVERIFY(kv::parseSettings(file, back).empty());
+    QCOMPARE(back.views[0].level, code);
 }
 
 void TestSettingsText::frameRates_data()
