@@ -5,11 +5,11 @@
     <name>AVCVideoEncoderDlg</name>
     <message>
         <source>Korvane MVC Video Encoder Settings</source>
-        <translation>Einstellungen des Korvane MVC Video Encoders</translation>
+        <translation>Korvane MVC Video Encoder – Einstellungen</translation>
     </message>
     <message>
         <source>Basic Settings</source>
-        <translation>Basis</translation>
+        <translation>Grundeinstellungen</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Load Config File...</source>
-        <translation>Einstellungen laden …</translation>
+        <translation>Einstellungsdatei laden</translation>
     </message>
     <message>
         <source>Config Files (*.cfg *.ini);;MPEG Files (*.m2p *.m2t *.m2p*.m4p *.mp2 *.mp4 *.mpeg *.mpg *.mpv *.mxf *.trp *.ts *.vob *.ifo)</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Save Config File...</source>
-        <translation>Einstellungen speichern …</translation>
+        <translation>Einstellungsdatei speichern</translation>
     </message>
     <message>
         <source>Config Files (*.cfg *.ini)</source>
@@ -42,7 +42,7 @@
     <message>
         <source>File already exists.
 Do you want to overwrite it?</source>
-        <translation>Die Datei gibt es schon.
+        <translation>Die Datei ist bereits vorhanden.
 Soll sie überschrieben werden?</translation>
     </message>
     <message>
@@ -162,7 +162,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Rate Distortion</source>
-        <translation>Rate und Verzerrung</translation>
+        <translation>Rate-Distortion</translation>
     </message>
     <message>
         <source>Miscellaneous</source>
@@ -180,39 +180,34 @@ Soll sie überschrieben werden?</translation>
     <name>IAVCVideoEncoderDlg</name>
     <message>
         <source>Korvane AVC Video Encoder Dialog</source>
-        <translation>Dialog des Korvane AVC Video Encoders</translation>
+        <extracomment>Placeholder: the dialog sets its own title.</extracomment>
+        <translation>Korvane AVC Video Encoder – Dialog</translation>
     </message>
     <message>
         <source>Banner</source>
+        <extracomment>For assistive technology: the picture at the top.</extracomment>
         <translation>Banner</translation>
     </message>
     <message>
         <source>Preset:</source>
+        <extracomment>A named set of default settings.</extracomment>
         <translation>Voreinstellung:</translation>
     </message>
     <message>
         <source>Type of stream; choosing one loads its default settings.</source>
-        <translation>Art des Datenstroms; mit der Wahl werden seine Voreinstellungen geladen.</translation>
+        <translation>Art des Datenstroms; die Wahl lädt die zugehörigen Standardwerte.</translation>
     </message>
     <message>
         <source>Click this button to load/restore the default settings for selected preset.</source>
-        <translation>Lädt die Werte der gewählten Voreinstellung oder stellt sie wieder her.</translation>
+        <translation>Lädt die Standardwerte der gewählten Voreinstellung oder stellt sie wieder her.</translation>
     </message>
     <message>
         <source>Restore preset</source>
         <translation>Voreinstellung wiederherstellen</translation>
     </message>
     <message>
-        <source>Load settings from a file.</source>
-        <translation>Lädt Einstellungen aus einer Datei.</translation>
-    </message>
-    <message>
         <source>Load settings</source>
         <translation>Einstellungen laden</translation>
-    </message>
-    <message>
-        <source>Save settings to a file.</source>
-        <translation>Speichert die Einstellungen in einer Datei.</translation>
     </message>
     <message>
         <source>Save settings</source>
@@ -220,6 +215,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Info Window</source>
+        <extracomment>Tool tip of the frame around the message log.</extracomment>
         <translation>Meldungsfenster</translation>
     </message>
     <message>
@@ -228,22 +224,27 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Message log</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>Meldungen</translation>
     </message>
     <message>
         <source>Settings</source>
+        <extracomment>For assistive technology: the row of tabs.</extracomment>
         <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Basic Settings</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>Grundeinstellungen</translation>
     </message>
     <message>
         <source>Advanced Video Settings</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>Erweiterte Videoeinstellungen</translation>
     </message>
     <message>
         <source>Miscellaneous</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>Verschiedenes</translation>
     </message>
     <message>
@@ -262,19 +263,30 @@ Soll sie überschrieben werden?</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Load settings from a file (Alt+L).</source>
+        <translation>Lädt Einstellungen aus einer Datei (Alt+L).</translation>
+    </message>
+    <message>
+        <source>Save settings to a file (Alt+S).</source>
+        <translation>Speichert die Einstellungen in einer Datei (Alt+S).</translation>
+    </message>
 </context>
 <context>
     <name>IAdvancedPage</name>
     <message>
         <source>Advanced Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Erweitert“</translation>
     </message>
     <message>
         <source>Profile and level</source>
+        <extracomment>For assistive technology: the group of both lists.</extracomment>
         <translation>Profil und Level</translation>
     </message>
     <message>
         <source>Profile:</source>
+        <extracomment>Profile of H.264; its names, as High, stay as they are.</extracomment>
         <translation>Profil:</translation>
     </message>
     <message>
@@ -283,21 +295,24 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Level:</source>
+        <extracomment>Level of H.264, as 4.1.</extracomment>
         <translation>Level:</translation>
     </message>
     <message>
         <source>Level, which limits picture size, rate and buffers; &quot;Auto&quot; takes the lowest that fits.</source>
-        <translation>Level, das Bildgröße, Rate und Puffer begrenzt; „Auto“ nimmt das niedrigste, das ausreicht.</translation>
+        <translation>Level, das Bildgröße, Rate und Puffer begrenzt; „Auto“ wählt das niedrigste ausreichende.</translation>
     </message>
 </context>
 <context>
     <name>IBasicPage</name>
     <message>
         <source>Basic Page</source>
-        <translation>Seite „Basis“</translation>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
+        <translation>Seite „Grundeinstellungen“</translation>
     </message>
     <message>
         <source>CUDA Devices:</source>
+        <extracomment>Hidden; CUDA is a name.</extracomment>
         <translation>CUDA-Geräte:</translation>
     </message>
 </context>
@@ -305,10 +320,12 @@ Soll sie überschrieben werden?</translation>
     <name>IGOPStructurePage</name>
     <message>
         <source>GOP Structure Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „GOP-Struktur“</translation>
     </message>
     <message>
         <source>Enable scene detection</source>
+        <extracomment>Check box. Scenes change at cuts.</extracomment>
         <translation>Szenenwechsel erkennen</translation>
     </message>
     <message>
@@ -325,10 +342,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Distance between I-frames in frames; with 0 only the first frame is one.</source>
-        <translation>Abstand der I-Bilder in Bildern; bei 0 ist nur das erste Bild eines.</translation>
+        <translation>Abstand der I-Bilder in Bildern; bei 0 ist nur das erste Bild ein I-Bild.</translation>
     </message>
     <message>
         <source>Min. I-frame distance</source>
+        <extracomment>Min. is the minimum.</extracomment>
         <translation>Min. I-Bild-Abstand</translation>
     </message>
     <message>
@@ -337,11 +355,13 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Mark every</source>
-        <translation>Jedes</translation>
+        <extracomment>One row with a number from 0 to 99 and &quot;I-frame as IDR.&quot;; the parts may be worded anew.</extracomment>
+        <translation>Ein IDR-Bild je</translation>
     </message>
     <message>
         <source>Mark every so many I-frames as IDR</source>
-        <translation>Jedes wievielte I-Bild IDR ist</translation>
+        <extracomment>For assistive technology: the number between &quot;Mark every&quot; and &quot;I-frame as IDR.&quot;.</extracomment>
+        <translation>Anzahl der I-Bilder je IDR-Bild</translation>
     </message>
     <message>
         <source>Every how many I-frames one is an IDR picture; 0 marks only the first.</source>
@@ -349,10 +369,12 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>I-frame as IDR.</source>
-        <translation>. I-Bild ist IDR.</translation>
+        <extracomment>One row with &quot;Mark every&quot; and a number from 0 to 99; the parts may be worded anew.</extracomment>
+        <translation>I-Bilder</translation>
     </message>
     <message>
         <source>Fixed I-frames distance</source>
+        <extracomment>Check box: the distance stays the same after scene changes.</extracomment>
         <translation>Fester I-Bild-Abstand</translation>
     </message>
     <message>
@@ -381,7 +403,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Number of B-frames</source>
-        <translation>Anzahl B-Bilder</translation>
+        <translation>Anzahl der B-Bilder</translation>
     </message>
     <message>
         <source>Number of consecutive B-frames between I- or P-frames.</source>
@@ -400,6 +422,7 @@ Soll sie überschrieben werden?</translation>
     <name>IMiscPage</name>
     <message>
         <source>Miscallaneous Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Verschiedenes“</translation>
     </message>
     <message>
@@ -416,22 +439,25 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Entropy coder of the stream; CABAC needs fewer bits than CAVLC, and more time.</source>
-        <translation>Entropiecodierer des Datenstroms; CABAC braucht weniger Bits als CAVLC und mehr Zeit.</translation>
+        <translation>Entropiecodierer des Datenstroms; CABAC braucht weniger Bits als CAVLC, aber mehr Zeit.</translation>
     </message>
     <message>
         <source>Threads</source>
+        <extracomment>Number of threads of execution.</extracomment>
         <translation>Threads</translation>
     </message>
     <message>
         <source>Number of threads that the encoder works with; &quot;Auto&quot; leaves it to the encoder.</source>
-        <translation>Anzahl der Threads, mit denen der Encoder arbeitet; „Auto“ überlässt sie dem Encoder.</translation>
+        <translation>Anzahl der Threads, mit denen der Encoder arbeitet; bei „Auto“ bestimmt er sie selbst.</translation>
     </message>
     <message>
         <source>Auto</source>
+        <extracomment>Shown for the number 0: the encoder chooses.</extracomment>
         <translation>Auto</translation>
     </message>
     <message>
         <source>Slices per picture</source>
+        <extracomment>Slices of H.264: parts of a picture that are coded separately.</extracomment>
         <translation>Slices je Bild</translation>
     </message>
     <message>
@@ -443,23 +469,26 @@ Soll sie überschrieben werden?</translation>
     <name>IMotionEstimationPage</name>
     <message>
         <source>Motion Estimation Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Bewegungsschätzung“</translation>
     </message>
     <message>
         <source>Macroblock search block size</source>
+        <extracomment>The smallest block that is searched for: 16 x 16 or 8 x 8.</extracomment>
         <translation>Kleinster Suchblock</translation>
     </message>
     <message>
         <source>Smallest macroblock partition that the motion search tries.</source>
-        <translation>Kleinste Makroblock-Partition, die die Bewegungssuche versucht.</translation>
+        <translation>Kleinste Makroblock-Partition, die die Bewegungssuche prüft.</translation>
     </message>
     <message>
         <source>Subpixel search depth</source>
+        <extracomment>How finely motion is searched: full, half or quarter samples.</extracomment>
         <translation>Subpixel-Suche</translation>
     </message>
     <message>
         <source>Precision to which motion vectors are refined.</source>
-        <translation>Genauigkeit, auf die Bewegungsvektoren verfeinert werden.</translation>
+        <translation>Genauigkeit, mit der Bewegungsvektoren bestimmt werden.</translation>
     </message>
     <message>
         <source>Reference frames</source>
@@ -475,7 +504,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Distance in luma samples up to which motion is searched.</source>
-        <translation>Entfernung in Luma-Abtastwerten, bis zu der Bewegung gesucht wird.</translation>
+        <translation>Entfernung in Luma-Abtastwerten, bis zu der gesucht wird.</translation>
     </message>
     <message>
         <source>Weighted prediction for P-frames</source>
@@ -483,7 +512,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Weights the references of P-frames, which helps with fades.</source>
-        <translation>Gewichtet die Referenzen von P-Bildern, was bei Blenden hilft.</translation>
+        <translation>Gewichtet die Referenzen von P-Bildern, was bei Auf- und Abblenden hilft.</translation>
     </message>
     <message>
         <source>Fast multi-reference frame search</source>
@@ -499,14 +528,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Searches small partitions only where large ones predict badly.</source>
-        <translation>Sucht kleine Partitionen nur, wo große schlecht vorhersagen.</translation>
+        <translation>Prüft kleine Partitionen nur, wo große schlecht vorhersagen.</translation>
     </message>
 </context>
 <context>
     <name>IRateDistortionPage</name>
     <message>
         <source>Rate Distortion Page</source>
-        <translation>Seite „Rate und Verzerrung“</translation>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
+        <translation>Seite „Rate-Distortion“</translation>
     </message>
     <message>
         <source>Fast intra decisions</source>
@@ -514,7 +544,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Tries only the likely intra prediction modes.</source>
-        <translation>Versucht nur die wahrscheinlichen Intra-Prädiktionsarten.</translation>
+        <translation>Prüft nur die wahrscheinlichen Intra-Prädiktionsmodi.</translation>
     </message>
     <message>
         <source>Fast inter decisions</source>
@@ -522,10 +552,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Tries only the likely inter prediction modes.</source>
-        <translation>Versucht nur die wahrscheinlichen Inter-Prädiktionsarten.</translation>
+        <translation>Prüft nur die wahrscheinlichen Inter-Prädiktionsmodi.</translation>
     </message>
     <message>
         <source>Simplified RD optimization</source>
+        <extracomment>RD is rate distortion.</extracomment>
         <translation>Vereinfachte RD-Optimierung</translation>
     </message>
     <message>
@@ -534,6 +565,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source> Hadamard transformation</source>
+        <extracomment>Check box. Keep the blank at the start.</extracomment>
         <translation> Hadamard-Transformation</translation>
     </message>
     <message>
@@ -546,6 +578,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Brightness based</source>
+        <extracomment>Adaptive quantization by the brightness of the picture&apos;s parts.</extracomment>
         <translation>Nach Helligkeit</translation>
     </message>
     <message>
@@ -554,10 +587,12 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>TextLabel</source>
+        <extracomment>Placeholder: replaced by the slider&apos;s value.</extracomment>
         <translation>TextLabel</translation>
     </message>
     <message>
         <source>Contrast based</source>
+        <extracomment>Adaptive quantization by the contrast of the picture&apos;s parts.</extracomment>
         <translation>Nach Kontrast</translation>
     </message>
     <message>
@@ -566,6 +601,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Complexity based</source>
+        <extracomment>Adaptive quantization by the complexity of the picture&apos;s parts.</extracomment>
         <translation>Nach Komplexität</translation>
     </message>
     <message>
@@ -577,14 +613,17 @@ Soll sie überschrieben werden?</translation>
     <name>IVideoFormatPage</name>
     <message>
         <source>Video Format Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Videoformat“</translation>
     </message>
     <message>
         <source>Resolution</source>
+        <extracomment>Picture size, as 1920 x 1080.</extracomment>
         <translation>Auflösung</translation>
     </message>
     <message>
         <source>Picture width</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>Bildbreite</translation>
     </message>
     <message>
@@ -593,10 +632,12 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>x</source>
+        <extracomment>Stands between two numbers, as in 1920 x 1080.</extracomment>
         <translation>x</translation>
     </message>
     <message>
         <source>Picture height</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>Bildhöhe</translation>
     </message>
     <message>
@@ -605,19 +646,21 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Keep aspect ratio</source>
-        <translation>Seitenverhältnis halten</translation>
+        <extracomment>Check box: width follows height and the other way round. The list beside it holds the ratio.</extracomment>
+        <translation>Seitenverhältnis wahren</translation>
     </message>
     <message>
         <source>Keeps width and height in the chosen display aspect ratio while one of them is changed.</source>
-        <translation>Hält Breite und Höhe im gewählten Bildseitenverhältnis, wenn eine von beiden geändert wird.</translation>
+        <translation>Behält das gewählte Bildseitenverhältnis bei, wenn Breite oder Höhe geändert wird.</translation>
     </message>
     <message>
         <source>Picture aspect ratio</source>
+        <extracomment>For assistive technology: the list beside &quot;Keep aspect ratio&quot;.</extracomment>
         <translation>Bildseitenverhältnis</translation>
     </message>
     <message>
         <source>Display aspect ratio; &quot;Custom&quot; leaves it to the pixel aspect ratio.</source>
-        <translation>Bildseitenverhältnis der Anzeige; „Eigenes“ überlässt es dem Pixelseitenverhältnis.</translation>
+        <translation>Bildseitenverhältnis; bei „Benutzerdefiniert“ folgt es aus dem Pixelseitenverhältnis.</translation>
     </message>
     <message>
         <source>Frame rate</source>
@@ -633,31 +676,23 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Pixel aspect ratio, horizontal part</source>
+        <extracomment>For assistive technology: the first number of the ratio.</extracomment>
         <translation>Pixelseitenverhältnis, waagerechter Anteil</translation>
     </message>
     <message>
-        <source>Horizontal part of the sample aspect ratio; -1 derives it from the display aspect ratio.</source>
-        <translation>Waagerechter Anteil des Pixelseitenverhältnisses; -1 leitet es aus dem der Anzeige ab.</translation>
-    </message>
-    <message>
         <source>Pixel aspect ratio, vertical part</source>
+        <extracomment>For assistive technology: the second number of the ratio.</extracomment>
         <translation>Pixelseitenverhältnis, senkrechter Anteil</translation>
     </message>
     <message>
-        <source>Vertical part of the sample aspect ratio; -1 derives it from the display aspect ratio.</source>
-        <translation>Senkrechter Anteil des Pixelseitenverhältnisses; -1 leitet es aus dem der Anzeige ab.</translation>
-    </message>
-    <message>
         <source>Picture structure</source>
+        <extracomment>Progressive, interlaced or MBAFF.</extracomment>
         <translation>Bildstruktur</translation>
     </message>
     <message>
-        <source>Whether pictures are coded as frames, as fields, or as frames with field macroblock pairs (MBAFF).</source>
-        <translation>Ob als Vollbilder, als Halbbilder oder als Vollbilder mit Halbbild-Makroblockpaaren (MBAFF) codiert wird.</translation>
-    </message>
-    <message>
         <source>Field order</source>
-        <translation>Halbbildfolge</translation>
+        <extracomment>Fields are the halves of an interlaced frame.</extracomment>
+        <translation>Halbbildreihenfolge</translation>
     </message>
     <message>
         <source>Which field of an interlaced frame comes first in time.</source>
@@ -665,6 +700,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Pulldown</source>
+        <extracomment>Repetition of fields or frames, as in 2:3 pulldown.</extracomment>
         <translation>Pulldown</translation>
     </message>
     <message>
@@ -685,7 +721,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Bits per luma sample.</source>
-        <translation>Bits je Luma-Abtastwert.</translation>
+        <translation>Anzahl der Bits je Luma-Abtastwert.</translation>
     </message>
     <message>
         <source>Bit-depth chroma</source>
@@ -693,13 +729,26 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Bits per chroma sample.</source>
-        <translation>Bits je Chroma-Abtastwert.</translation>
+        <translation>Anzahl der Bits je Chroma-Abtastwert.</translation>
+    </message>
+    <message>
+        <source>Horizontal part of the pixel aspect ratio; -1 derives it from the display aspect ratio.</source>
+        <translation>Waagerechter Anteil des Pixelseitenverhältnisses; bei -1 folgt er aus dem Bildseitenverhältnis.</translation>
+    </message>
+    <message>
+        <source>Vertical part of the pixel aspect ratio; -1 derives it from the display aspect ratio.</source>
+        <translation>Senkrechter Anteil des Pixelseitenverhältnisses; bei -1 folgt er aus dem Bildseitenverhältnis.</translation>
+    </message>
+    <message>
+        <source>Codes pictures as frames, as fields, or as frames with field macroblock pairs (MBAFF).</source>
+        <translation>Codiert Vollbilder, Halbbilder oder Vollbilder mit Halbbild-Makroblockpaaren (MBAFF).</translation>
     </message>
 </context>
 <context>
     <name>IView0Page</name>
     <message>
         <source>View1 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Ansicht 1“</translation>
     </message>
     <message>
@@ -708,23 +757,17 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>How bits are spread: at a constant or variable rate, or at constant quality.</source>
-        <translation>Wie Bits verteilt werden: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
+        <translation>Verteilung der Bits: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
-        <translation>Zielbitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
+        <translation>Zielbitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Max bitrate (bps)</source>
-        <translation>Max. Bitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
+        <translation>Max. Bitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -732,71 +775,52 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>Einheiten</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Byte, VBV-Füllung in %</translation>
     </message>
     <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>Puffergröße und Füllstand in Bit.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in Bit</translation>
     </message>
     <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>Puffergröße in Bit, Füllstand in Takten von 90 kHz.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in 90-kHz-Takten</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>Puffer</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>Größe des Puffers für codierte Bilder, in der gewählten Einheit.</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
-        <translation>VBV-Füllung, Anfang</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, wenn die Decodierung beginnt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Anfangsfüllung</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
-        <translation>VBV-Füllung, Ziel</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, den der Encoder anstrebt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Zielfüllung</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
         <translation>Pufferlänge auf 1 Sekunde festlegen</translation>
     </message>
     <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>Hält den Puffer so groß wie das, was bei der Zielbitrate in einer Sekunde ankommt.</translation>
-    </message>
-    <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD-Konformität</translation>
     </message>
     <message>
         <source>Keeps the stream within the buffer model of the hypothetical reference decoder (HRD).</source>
-        <translation>Hält den Datenstrom im Puffermodell des hypothetischen Referenzdecoders (HRD).</translation>
+        <translation>Hält das Puffermodell des hypothetischen Referenzdecoders (HRD) ein.</translation>
     </message>
     <message>
         <source>Maximum I-frame size</source>
@@ -824,6 +848,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Max. Größe der Br-Bilder</translation>
     </message>
     <message>
@@ -832,7 +857,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer I-frames</source>
-        <translation>Quantisierer I-Bilder</translation>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
+        <translation>Quantisierer der I-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of I-frames; larger values save bits at the cost of quality.</source>
@@ -840,7 +866,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer P-frames</source>
-        <translation>Quantisierer P-Bilder</translation>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
+        <translation>Quantisierer der P-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of P-frames; larger values save bits at the cost of quality.</source>
@@ -848,7 +875,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer B-frames</source>
-        <translation>Quantisierer B-Bilder</translation>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
+        <translation>Quantisierer der B-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of B-frames; larger values save bits at the cost of quality.</source>
@@ -856,6 +884,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>Größter Quantisierer</translation>
     </message>
     <message>
@@ -864,17 +893,55 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>Kleinster Quantisierer</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>Kleinster Quantisierer, den der Encoder wählen darf.</translation>
+    </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Bitrate, mit der sich der Puffer füllt, in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>Größe des Puffers für codierte Bilder (VBV), in der gewählten Einheit.</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>Bemisst den Puffer auf die Datenmenge, die bei der Zielbitrate in einer Sekunde ankommt.</translation>
     </message>
 </context>
 <context>
     <name>IView1Page</name>
     <message>
         <source>View1 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Ansicht 1“</translation>
     </message>
     <message>
@@ -883,23 +950,17 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>How bits are spread: at a constant or variable rate, or at constant quality.</source>
-        <translation>Wie Bits verteilt werden: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
+        <translation>Verteilung der Bits: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
-        <translation>Zielbitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
+        <translation>Zielbitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Max bitrate (bps)</source>
-        <translation>Max. Bitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
+        <translation>Max. Bitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -907,71 +968,52 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>Einheiten</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Byte, VBV-Füllung in %</translation>
     </message>
     <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>Puffergröße und Füllstand in Bit.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in Bit</translation>
     </message>
     <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>Puffergröße in Bit, Füllstand in Takten von 90 kHz.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in 90-kHz-Takten</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>Puffer</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>Größe des Puffers für codierte Bilder, in der gewählten Einheit.</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
-        <translation>VBV-Füllung, Anfang</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, wenn die Decodierung beginnt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Anfangsfüllung</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
-        <translation>VBV-Füllung, Ziel</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, den der Encoder anstrebt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Zielfüllung</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
         <translation>Pufferlänge auf 1 Sekunde festlegen</translation>
     </message>
     <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>Hält den Puffer so groß wie das, was bei der Zielbitrate in einer Sekunde ankommt.</translation>
-    </message>
-    <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD-Konformität</translation>
     </message>
     <message>
         <source>Keeps the stream within the buffer model of the hypothetical reference decoder (HRD).</source>
-        <translation>Hält den Datenstrom im Puffermodell des hypothetischen Referenzdecoders (HRD).</translation>
+        <translation>Hält das Puffermodell des hypothetischen Referenzdecoders (HRD) ein.</translation>
     </message>
     <message>
         <source>Maximum I-frame size</source>
@@ -999,6 +1041,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Max. Größe der Br-Bilder</translation>
     </message>
     <message>
@@ -1007,7 +1050,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer I-frames</source>
-        <translation>Quantisierer I-Bilder</translation>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
+        <translation>Quantisierer der I-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of I-frames; larger values save bits at the cost of quality.</source>
@@ -1015,7 +1059,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer P-frames</source>
-        <translation>Quantisierer P-Bilder</translation>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
+        <translation>Quantisierer der P-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of P-frames; larger values save bits at the cost of quality.</source>
@@ -1023,7 +1068,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer B-frames</source>
-        <translation>Quantisierer B-Bilder</translation>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
+        <translation>Quantisierer der B-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of B-frames; larger values save bits at the cost of quality.</source>
@@ -1031,6 +1077,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>Größter Quantisierer</translation>
     </message>
     <message>
@@ -1039,17 +1086,55 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>Kleinster Quantisierer</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>Kleinster Quantisierer, den der Encoder wählen darf.</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Bitrate, mit der sich der Puffer füllt, in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>Größe des Puffers für codierte Bilder (VBV), in der gewählten Einheit.</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>Bemisst den Puffer auf die Datenmenge, die bei der Zielbitrate in einer Sekunde ankommt.</translation>
+    </message>
 </context>
 <context>
     <name>IView2Page</name>
     <message>
         <source>View2 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Ansicht 2“</translation>
     </message>
     <message>
@@ -1058,23 +1143,17 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>How bits are spread: at a constant or variable rate, or at constant quality.</source>
-        <translation>Wie Bits verteilt werden: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
+        <translation>Verteilung der Bits: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
-        <translation>Zielbitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
+        <translation>Zielbitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Max bitrate (bps)</source>
-        <translation>Max. Bitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
+        <translation>Max. Bitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1082,71 +1161,52 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>Einheiten</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Byte, VBV-Füllung in %</translation>
     </message>
     <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>Puffergröße und Füllstand in Bit.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in Bit</translation>
     </message>
     <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>Puffergröße in Bit, Füllstand in Takten von 90 kHz.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in 90-kHz-Takten</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>Puffer</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>Größe des Puffers für codierte Bilder, in der gewählten Einheit.</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
-        <translation>VBV-Füllung, Anfang</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, wenn die Decodierung beginnt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Anfangsfüllung</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
-        <translation>VBV-Füllung, Ziel</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, den der Encoder anstrebt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Zielfüllung</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
         <translation>Pufferlänge auf 1 Sekunde festlegen</translation>
     </message>
     <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>Hält den Puffer so groß wie das, was bei der Zielbitrate in einer Sekunde ankommt.</translation>
-    </message>
-    <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD-Konformität</translation>
     </message>
     <message>
         <source>Keeps the stream within the buffer model of the hypothetical reference decoder (HRD).</source>
-        <translation>Hält den Datenstrom im Puffermodell des hypothetischen Referenzdecoders (HRD).</translation>
+        <translation>Hält das Puffermodell des hypothetischen Referenzdecoders (HRD) ein.</translation>
     </message>
     <message>
         <source>Maximum I-frame size</source>
@@ -1174,6 +1234,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Max. Größe der Br-Bilder</translation>
     </message>
     <message>
@@ -1182,7 +1243,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer I-frames</source>
-        <translation>Quantisierer I-Bilder</translation>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
+        <translation>Quantisierer der I-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of I-frames; larger values save bits at the cost of quality.</source>
@@ -1190,7 +1252,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer P-frames</source>
-        <translation>Quantisierer P-Bilder</translation>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
+        <translation>Quantisierer der P-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of P-frames; larger values save bits at the cost of quality.</source>
@@ -1198,7 +1261,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer B-frames</source>
-        <translation>Quantisierer B-Bilder</translation>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
+        <translation>Quantisierer der B-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of B-frames; larger values save bits at the cost of quality.</source>
@@ -1206,6 +1270,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>Größter Quantisierer</translation>
     </message>
     <message>
@@ -1214,17 +1279,55 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>Kleinster Quantisierer</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>Kleinster Quantisierer, den der Encoder wählen darf.</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Bitrate, mit der sich der Puffer füllt, in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>Größe des Puffers für codierte Bilder (VBV), in der gewählten Einheit.</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>Bemisst den Puffer auf die Datenmenge, die bei der Zielbitrate in einer Sekunde ankommt.</translation>
+    </message>
 </context>
 <context>
     <name>IView3Page</name>
     <message>
         <source>View3 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Ansicht 3“</translation>
     </message>
     <message>
@@ -1233,23 +1336,17 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>How bits are spread: at a constant or variable rate, or at constant quality.</source>
-        <translation>Wie Bits verteilt werden: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
+        <translation>Verteilung der Bits: mit konstanter oder variabler Rate oder mit konstanter Qualität.</translation>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
-        <translation>Zielbitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
+        <translation>Zielbitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Max bitrate (bps)</source>
-        <translation>Max. Bitrate (bit/s)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>Höchste Rate, mit der der Puffer gefüllt wird, in Bit pro Sekunde.</translation>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
+        <translation>Max. Bitrate (Bit/s)</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1257,71 +1354,52 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>Einheiten</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Byte, VBV-Füllung in %</translation>
     </message>
     <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>Puffergröße und Füllstand in Bit.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in Bit</translation>
     </message>
     <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>Puffergröße in Bit, Füllstand in Takten von 90 kHz.</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
         <translation>Puffer in Bit, VBV-Füllung in 90-kHz-Takten</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>Puffer</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>Größe des Puffers für codierte Bilder, in der gewählten Einheit.</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
-        <translation>VBV-Füllung, Anfang</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, wenn die Decodierung beginnt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Anfangsfüllung</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
-        <translation>VBV-Füllung, Ziel</translation>
-    </message>
-    <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>Füllstand des Puffers für codierte Bilder, den der Encoder anstrebt.</translation>
+        <extracomment>Placeholder until the unit is known.</extracomment>
+        <translation>VBV-Zielfüllung</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
         <translation>Pufferlänge auf 1 Sekunde festlegen</translation>
     </message>
     <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>Hält den Puffer so groß wie das, was bei der Zielbitrate in einer Sekunde ankommt.</translation>
-    </message>
-    <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD-Konformität</translation>
     </message>
     <message>
         <source>Keeps the stream within the buffer model of the hypothetical reference decoder (HRD).</source>
-        <translation>Hält den Datenstrom im Puffermodell des hypothetischen Referenzdecoders (HRD).</translation>
+        <translation>Hält das Puffermodell des hypothetischen Referenzdecoders (HRD) ein.</translation>
     </message>
     <message>
         <source>Maximum I-frame size</source>
@@ -1349,6 +1427,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Max. Größe der Br-Bilder</translation>
     </message>
     <message>
@@ -1357,7 +1436,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer I-frames</source>
-        <translation>Quantisierer I-Bilder</translation>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
+        <translation>Quantisierer der I-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of I-frames; larger values save bits at the cost of quality.</source>
@@ -1365,7 +1445,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer P-frames</source>
-        <translation>Quantisierer P-Bilder</translation>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
+        <translation>Quantisierer der P-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of P-frames; larger values save bits at the cost of quality.</source>
@@ -1373,7 +1454,8 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Quantizer B-frames</source>
-        <translation>Quantisierer B-Bilder</translation>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
+        <translation>Quantisierer der B-Bilder</translation>
     </message>
     <message>
         <source>Quantizer of B-frames; larger values save bits at the cost of quality.</source>
@@ -1381,6 +1463,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>Größter Quantisierer</translation>
     </message>
     <message>
@@ -1389,21 +1472,60 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>Kleinster Quantisierer</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>Kleinster Quantisierer, den der Encoder wählen darf.</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>Angestrebte Bitrate in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>Höchste Bitrate, mit der sich der Puffer füllt, in Bit pro Sekunde.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>Größe des Puffers für codierte Bilder (VBV), in der gewählten Einheit.</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>Bemisst den Puffer auf die Datenmenge, die bei der Zielbitrate in einer Sekunde ankommt.</translation>
+    </message>
 </context>
 <context>
     <name>IViewsPage</name>
     <message>
         <source>Views Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>Seite „Ansichten“</translation>
     </message>
     <message>
         <source>Number of views</source>
+        <extracomment>For assistive technology: the group of the number and its check box.</extracomment>
         <translation>Anzahl der Ansichten</translation>
     </message>
     <message>
@@ -1416,6 +1538,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Split views</source>
+        <extracomment>Check box: each view goes to a stream of its own. Views are not divided.</extracomment>
         <translation>Ansichten trennen</translation>
     </message>
     <message>
@@ -1446,15 +1569,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation>Ganz</translation>
+        <translation>Ganzpixel</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation>Halb</translation>
+        <translation>Halbpixel</translation>
     </message>
     <message>
         <source>Quarter</source>
-        <translation>Viertel</translation>
+        <translation>Viertelpixel</translation>
     </message>
 </context>
 <context>
@@ -1523,11 +1646,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>ShowMenu</source>
-        <translation>Menü</translation>
+        <translation>Menü zeigen</translation>
     </message>
     <message>
         <source>SetFocus</source>
-        <translation>Fokus</translation>
+        <translation>Fokus setzen</translation>
     </message>
     <message>
         <source>Toggle</source>
@@ -1535,19 +1658,19 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Scroll Left</source>
-        <translation>Nach links</translation>
+        <translation>Nach links scrollen</translation>
     </message>
     <message>
         <source>Scroll Right</source>
-        <translation>Nach rechts</translation>
+        <translation>Nach rechts scrollen</translation>
     </message>
     <message>
         <source>Scroll Up</source>
-        <translation>Nach oben</translation>
+        <translation>Nach oben scrollen</translation>
     </message>
     <message>
         <source>Scroll Down</source>
-        <translation>Nach unten</translation>
+        <translation>Nach unten scrollen</translation>
     </message>
     <message>
         <source>Previous Page</source>
@@ -1583,19 +1706,19 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Scrolls to the left</source>
-        <translation>Rollt nach links</translation>
+        <translation>Scrollt nach links</translation>
     </message>
     <message>
         <source>Scrolls to the right</source>
-        <translation>Rollt nach rechts</translation>
+        <translation>Scrollt nach rechts</translation>
     </message>
     <message>
         <source>Scrolls up</source>
-        <translation>Rollt nach oben</translation>
+        <translation>Scrollt nach oben</translation>
     </message>
     <message>
         <source>Scrolls down</source>
-        <translation>Rollt nach unten</translation>
+        <translation>Scrollt nach unten</translation>
     </message>
     <message>
         <source>Goes back a page</source>
@@ -1683,11 +1806,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Detail View</source>
-        <translation>Einzelheiten</translation>
+        <translation>Details</translation>
     </message>
     <message>
         <source>Change to detail view mode</source>
-        <translation>Zeigt Dateien mit Einzelheiten</translation>
+        <translation>Zeigt Dateien mit Details</translation>
     </message>
     <message>
         <source>Sidebar</source>
@@ -1808,7 +1931,7 @@ Bitte prüfen Sie den Namen.</translation>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation>%1 gibt es schon.
+        <translation>%1 ist bereits vorhanden.
 Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
@@ -1991,7 +2114,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <name>QObject</name>
     <message>
         <source>Custom</source>
-        <translation>Eigenes</translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>1:1</source>
@@ -2143,11 +2266,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität - fester Quantisierer</translation>
+        <translation>Qualität – fester Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>Qualität - mittlerer Quantisierer</translation>
+        <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
     <message>
         <source>16 x 16</source>
@@ -2159,15 +2282,15 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation>Ganz</translation>
+        <translation>Ganzpixel</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation>Halb</translation>
+        <translation>Halbpixel</translation>
     </message>
     <message>
         <source>Quarter</source>
-        <translation>Viertel</translation>
+        <translation>Viertelpixel</translation>
     </message>
     <message>
         <source>CAVLC</source>
@@ -2257,7 +2380,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation>Hierher</translation>
+        <translation>Hierher scrollen</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -2293,19 +2416,19 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation>Nach links</translation>
+        <translation>Nach links scrollen</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation>Nach oben</translation>
+        <translation>Nach oben scrollen</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation>Nach rechts</translation>
+        <translation>Nach rechts scrollen</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation>Nach unten</translation>
+        <translation>Nach unten scrollen</translation>
     </message>
 </context>
 <context>
@@ -2399,11 +2522,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <name>QTabBar</name>
     <message>
         <source>Scroll Left</source>
-        <translation>Nach links</translation>
+        <translation>Nach links scrollen</translation>
     </message>
     <message>
         <source>Scroll Right</source>
-        <translation>Nach rechts</translation>
+        <translation>Nach rechts scrollen</translation>
     </message>
 </context>
 <context>
@@ -2522,7 +2645,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <name>VideoFormatPage</name>
     <message>
         <source>Custom</source>
-        <translation>Eigenes</translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>1:1</source>
@@ -2677,11 +2800,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität - fester Quantisierer</translation>
+        <translation>Qualität – fester Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>Qualität - mittlerer Quantisierer</translation>
+        <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
 </context>
 <context>
@@ -2696,11 +2819,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität - fester Quantisierer</translation>
+        <translation>Qualität – fester Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>Qualität - mittlerer Quantisierer</translation>
+        <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
 </context>
 <context>
@@ -2715,11 +2838,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität - fester Quantisierer</translation>
+        <translation>Qualität – fester Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>Qualität - mittlerer Quantisierer</translation>
+        <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
 </context>
 <context>
@@ -2734,11 +2857,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität - fester Quantisierer</translation>
+        <translation>Qualität – fester Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>Qualität - mittlerer Quantisierer</translation>
+        <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
 </context>
 <context>
@@ -2749,11 +2872,11 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
-        <translation>VBV-Anfang (%)</translation>
+        <translation>VBV-Anfangsfüllung (%)</translation>
     </message>
     <message>
         <source>VBV buffer target (%)</source>
-        <translation>VBV-Ziel (%)</translation>
+        <translation>VBV-Zielfüllung (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
@@ -2761,19 +2884,19 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
-        <translation>VBV-Anfang (Bit)</translation>
+        <translation>VBV-Anfangsfüllung (Bit)</translation>
     </message>
     <message>
         <source>VBV buffer target (bits)</source>
-        <translation>VBV-Ziel (Bit)</translation>
+        <translation>VBV-Zielfüllung (Bit)</translation>
     </message>
     <message>
         <source>VBV buffer initial (90 kHz)</source>
-        <translation>VBV-Anfang (90 kHz)</translation>
+        <translation>VBV-Anfangsfüllung (90 kHz)</translation>
     </message>
     <message>
         <source>VBV buffer target (90 kHz)</source>
-        <translation>VBV-Ziel (90 kHz)</translation>
+        <translation>VBV-Zielfüllung (90 kHz)</translation>
     </message>
 </context>
 <context>

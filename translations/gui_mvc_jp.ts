@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Load Config File...</source>
-        <translation>設定ファイルを開く</translation>
+        <translation>設定ファイルの読み込み</translation>
     </message>
     <message>
         <source>Config Files (*.cfg *.ini);;MPEG Files (*.m2p *.m2t *.m2p*.m4p *.mp2 *.mp4 *.mpeg *.mpg *.mpv *.mxf *.trp *.ts *.vob *.ifo)</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Save Config File...</source>
-        <translation>設定ファイルを保存</translation>
+        <translation>設定ファイルの保存</translation>
     </message>
     <message>
         <source>Config Files (*.cfg *.ini)</source>
@@ -43,7 +43,7 @@
         <source>File already exists.
 Do you want to overwrite it?</source>
         <translation>ファイルは既に存在します。
-上書きしますか?</translation>
+上書きしますか？</translation>
     </message>
     <message>
         <source>Multivew High</source>
@@ -180,39 +180,34 @@ Do you want to overwrite it?</source>
     <name>IAVCVideoEncoderDlg</name>
     <message>
         <source>Korvane AVC Video Encoder Dialog</source>
+        <extracomment>Placeholder: the dialog sets its own title.</extracomment>
         <translation>Korvane AVC Video Encoder ダイアログ</translation>
     </message>
     <message>
         <source>Banner</source>
+        <extracomment>For assistive technology: the picture at the top.</extracomment>
         <translation>バナー</translation>
     </message>
     <message>
         <source>Preset:</source>
+        <extracomment>A named set of default settings.</extracomment>
         <translation>プリセット:</translation>
     </message>
     <message>
         <source>Type of stream; choosing one loads its default settings.</source>
-        <translation>ストリームの種類。選ぶと、その既定値が読み込まれます。</translation>
+        <translation>ストリームの種類。選択すると、その既定値が読み込まれます。</translation>
     </message>
     <message>
         <source>Click this button to load/restore the default settings for selected preset.</source>
-        <translation>選択したプリセットの既定値を読み込みます (元に戻します)。</translation>
+        <translation>選択したプリセットの既定値を読み込みます。変更した設定も既定値に戻ります。</translation>
     </message>
     <message>
         <source>Restore preset</source>
         <translation>プリセットを元に戻す</translation>
     </message>
     <message>
-        <source>Load settings from a file.</source>
-        <translation>設定をファイルから読み込みます。</translation>
-    </message>
-    <message>
         <source>Load settings</source>
         <translation>設定を読み込む</translation>
-    </message>
-    <message>
-        <source>Save settings to a file.</source>
-        <translation>設定をファイルに保存します。</translation>
     </message>
     <message>
         <source>Save settings</source>
@@ -220,6 +215,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Info Window</source>
+        <extracomment>Tool tip of the frame around the message log.</extracomment>
         <translation>メッセージ欄</translation>
     </message>
     <message>
@@ -228,22 +224,27 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Message log</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>メッセージ</translation>
     </message>
     <message>
         <source>Settings</source>
+        <extracomment>For assistive technology: the row of tabs.</extracomment>
         <translation>設定</translation>
     </message>
     <message>
         <source>Basic Settings</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>基本設定</translation>
     </message>
     <message>
         <source>Advanced Video Settings</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>映像の詳細設定</translation>
     </message>
     <message>
         <source>Miscellaneous</source>
+        <extracomment>Placeholder: the dialog makes tabs of its own.</extracomment>
         <translation>その他</translation>
     </message>
     <message>
@@ -262,19 +263,30 @@ Do you want to overwrite it?</source>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Load settings from a file (Alt+L).</source>
+        <translation>設定をファイルから読み込みます (Alt+L)。</translation>
+    </message>
+    <message>
+        <source>Save settings to a file (Alt+S).</source>
+        <translation>設定をファイルに保存します (Alt+S)。</translation>
+    </message>
 </context>
 <context>
     <name>IAdvancedPage</name>
     <message>
         <source>Advanced Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>詳細設定ページ</translation>
     </message>
     <message>
         <source>Profile and level</source>
+        <extracomment>For assistive technology: the group of both lists.</extracomment>
         <translation>プロファイルとレベル</translation>
     </message>
     <message>
         <source>Profile:</source>
+        <extracomment>Profile of H.264; its names, as High, stay as they are.</extracomment>
         <translation>プロファイル:</translation>
     </message>
     <message>
@@ -283,6 +295,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Level:</source>
+        <extracomment>Level of H.264, as 4.1.</extracomment>
         <translation>レベル:</translation>
     </message>
     <message>
@@ -294,10 +307,12 @@ Do you want to overwrite it?</source>
     <name>IBasicPage</name>
     <message>
         <source>Basic Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>基本設定ページ</translation>
     </message>
     <message>
         <source>CUDA Devices:</source>
+        <extracomment>Hidden; CUDA is a name.</extracomment>
         <translation>CUDA デバイス:</translation>
     </message>
 </context>
@@ -305,10 +320,12 @@ Do you want to overwrite it?</source>
     <name>IGOPStructurePage</name>
     <message>
         <source>GOP Structure Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>GOP 構造ページ</translation>
     </message>
     <message>
         <source>Enable scene detection</source>
+        <extracomment>Check box. Scenes change at cuts.</extracomment>
         <translation>シーン検出を使用</translation>
     </message>
     <message>
@@ -329,6 +346,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Min. I-frame distance</source>
+        <extracomment>Min. is the minimum.</extracomment>
         <translation>I フレーム最小間隔</translation>
     </message>
     <message>
@@ -337,22 +355,26 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Mark every</source>
+        <extracomment>One row with a number from 0 to 99 and &quot;I-frame as IDR.&quot;; the parts may be worded anew.</extracomment>
         <translation>I フレーム</translation>
     </message>
     <message>
         <source>Mark every so many I-frames as IDR</source>
-        <translation>何枚ごとの I フレームを IDR にするか</translation>
+        <extracomment>For assistive technology: the number between &quot;Mark every&quot; and &quot;I-frame as IDR.&quot;.</extracomment>
+        <translation>IDR にする I フレームの間隔</translation>
     </message>
     <message>
         <source>Every how many I-frames one is an IDR picture; 0 marks only the first.</source>
-        <translation>何枚の I フレームごとに IDR ピクチャにするか。0 では最初だけを IDR にします。</translation>
+        <translation>I フレーム何枚ごとに 1 枚を IDR ピクチャにするか。0 では最初の 1 枚だけを IDR にします。</translation>
     </message>
     <message>
         <source>I-frame as IDR.</source>
+        <extracomment>One row with &quot;Mark every&quot; and a number from 0 to 99; the parts may be worded anew.</extracomment>
         <translation>枚ごとに IDR</translation>
     </message>
     <message>
         <source>Fixed I-frames distance</source>
+        <extracomment>Check box: the distance stays the same after scene changes.</extracomment>
         <translation>I フレーム間隔を固定</translation>
     </message>
     <message>
@@ -400,6 +422,7 @@ Do you want to overwrite it?</source>
     <name>IMiscPage</name>
     <message>
         <source>Miscallaneous Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>その他ページ</translation>
     </message>
     <message>
@@ -408,7 +431,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Smooths block edges inside the coding loop, so that references are smoothed, too.</source>
-        <translation>符号化ループ内でブロック境界を平滑化します。参照フレームにも効きます。</translation>
+        <translation>符号化ループ内でブロック境界を平滑化します。参照フレームにも適用されます。</translation>
     </message>
     <message>
         <source>Entropy coding mode</source>
@@ -416,10 +439,11 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Entropy coder of the stream; CABAC needs fewer bits than CAVLC, and more time.</source>
-        <translation>ストリームのエントロピー符号化方式。CABAC は CAVLC よりビット数が少なく、時間がかかります。</translation>
+        <translation>エントロピー符号化方式。CABAC は CAVLC よりビット数が少ない反面、時間がかかります。</translation>
     </message>
     <message>
         <source>Threads</source>
+        <extracomment>Number of threads of execution.</extracomment>
         <translation>スレッド数</translation>
     </message>
     <message>
@@ -428,10 +452,12 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Auto</source>
+        <extracomment>Shown for the number 0: the encoder chooses.</extracomment>
         <translation>自動</translation>
     </message>
     <message>
         <source>Slices per picture</source>
+        <extracomment>Slices of H.264: parts of a picture that are coded separately.</extracomment>
         <translation>ピクチャのスライス数</translation>
     </message>
     <message>
@@ -443,10 +469,12 @@ Do you want to overwrite it?</source>
     <name>IMotionEstimationPage</name>
     <message>
         <source>Motion Estimation Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>動き推定ページ</translation>
     </message>
     <message>
         <source>Macroblock search block size</source>
+        <extracomment>The smallest block that is searched for: 16 x 16 or 8 x 8.</extracomment>
         <translation>探索ブロックサイズ</translation>
     </message>
     <message>
@@ -455,6 +483,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Subpixel search depth</source>
+        <extracomment>How finely motion is searched: full, half or quarter samples.</extracomment>
         <translation>サブピクセル精度</translation>
     </message>
     <message>
@@ -483,7 +512,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Weights the references of P-frames, which helps with fades.</source>
-        <translation>P フレームの参照に重みを付けます。フェードに効果があります。</translation>
+        <translation>P フレームの参照に重みを付けます。フェードの場面に効果があります。</translation>
     </message>
     <message>
         <source>Fast multi-reference frame search</source>
@@ -506,6 +535,7 @@ Do you want to overwrite it?</source>
     <name>IRateDistortionPage</name>
     <message>
         <source>Rate Distortion Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>レート歪みページ</translation>
     </message>
     <message>
@@ -526,6 +556,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Simplified RD optimization</source>
+        <extracomment>RD is rate distortion.</extracomment>
         <translation>RD 最適化の簡略化</translation>
     </message>
     <message>
@@ -534,6 +565,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source> Hadamard transformation</source>
+        <extracomment>Check box. Keep the blank at the start.</extracomment>
         <translation> アダマール変換</translation>
     </message>
     <message>
@@ -546,6 +578,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Brightness based</source>
+        <extracomment>Adaptive quantization by the brightness of the picture&apos;s parts.</extracomment>
         <translation>明るさに基づく</translation>
     </message>
     <message>
@@ -554,10 +587,12 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>TextLabel</source>
+        <extracomment>Placeholder: replaced by the slider&apos;s value.</extracomment>
         <translation>TextLabel</translation>
     </message>
     <message>
         <source>Contrast based</source>
+        <extracomment>Adaptive quantization by the contrast of the picture&apos;s parts.</extracomment>
         <translation>コントラストに基づく</translation>
     </message>
     <message>
@@ -566,6 +601,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Complexity based</source>
+        <extracomment>Adaptive quantization by the complexity of the picture&apos;s parts.</extracomment>
         <translation>複雑さに基づく</translation>
     </message>
     <message>
@@ -577,14 +613,17 @@ Do you want to overwrite it?</source>
     <name>IVideoFormatPage</name>
     <message>
         <source>Video Format Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>映像フォーマットページ</translation>
     </message>
     <message>
         <source>Resolution</source>
+        <extracomment>Picture size, as 1920 x 1080.</extracomment>
         <translation>解像度</translation>
     </message>
     <message>
         <source>Picture width</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>画面の幅</translation>
     </message>
     <message>
@@ -593,10 +632,12 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>x</source>
+        <extracomment>Stands between two numbers, as in 1920 x 1080.</extracomment>
         <translation>x</translation>
     </message>
     <message>
         <source>Picture height</source>
+        <extracomment>For assistive technology.</extracomment>
         <translation>画面の高さ</translation>
     </message>
     <message>
@@ -605,7 +646,8 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Keep aspect ratio</source>
-        <translation>縦横比を維持</translation>
+        <extracomment>Check box: width follows height and the other way round. The list beside it holds the ratio.</extracomment>
+        <translation>アスペクト比を維持</translation>
     </message>
     <message>
         <source>Keeps width and height in the chosen display aspect ratio while one of them is changed.</source>
@@ -613,6 +655,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Picture aspect ratio</source>
+        <extracomment>For assistive technology: the list beside &quot;Keep aspect ratio&quot;.</extracomment>
         <translation>画面アスペクト比</translation>
     </message>
     <message>
@@ -629,35 +672,27 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Pixel aspect ratio</source>
-        <translation>ピクセル縦横比</translation>
+        <translation>ピクセルアスペクト比</translation>
     </message>
     <message>
         <source>Pixel aspect ratio, horizontal part</source>
-        <translation>ピクセル縦横比 (横)</translation>
-    </message>
-    <message>
-        <source>Horizontal part of the sample aspect ratio; -1 derives it from the display aspect ratio.</source>
-        <translation>ピクセル縦横比の横の値。-1 では表示アスペクト比から求めます。</translation>
+        <extracomment>For assistive technology: the first number of the ratio.</extracomment>
+        <translation>ピクセルアスペクト比 (横)</translation>
     </message>
     <message>
         <source>Pixel aspect ratio, vertical part</source>
-        <translation>ピクセル縦横比 (縦)</translation>
-    </message>
-    <message>
-        <source>Vertical part of the sample aspect ratio; -1 derives it from the display aspect ratio.</source>
-        <translation>ピクセル縦横比の縦の値。-1 では表示アスペクト比から求めます。</translation>
+        <extracomment>For assistive technology: the second number of the ratio.</extracomment>
+        <translation>ピクセルアスペクト比 (縦)</translation>
     </message>
     <message>
         <source>Picture structure</source>
+        <extracomment>Progressive, interlaced or MBAFF.</extracomment>
         <translation>ピクチャ構造</translation>
     </message>
     <message>
-        <source>Whether pictures are coded as frames, as fields, or as frames with field macroblock pairs (MBAFF).</source>
-        <translation>フレーム、フィールド、またはフィールドのマクロブロックペアを含むフレーム (MBAFF) のどれで符号化するか。</translation>
-    </message>
-    <message>
         <source>Field order</source>
-        <translation>フィールド順</translation>
+        <extracomment>Fields are the halves of an interlaced frame.</extracomment>
+        <translation>フィールドオーダー</translation>
     </message>
     <message>
         <source>Which field of an interlaced frame comes first in time.</source>
@@ -665,11 +700,12 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Pulldown</source>
+        <extracomment>Repetition of fields or frames, as in 2:3 pulldown.</extracomment>
         <translation>プルダウン</translation>
     </message>
     <message>
         <source>Repetition of fields or frames at display, signalled in the stream.</source>
-        <translation>表示時のフィールドまたはフレームの繰り返し。ストリームで通知されます。</translation>
+        <translation>表示時にフィールドまたはフレームを繰り返す方法。ストリームに記録されます。</translation>
     </message>
     <message>
         <source>Chroma format</source>
@@ -695,11 +731,24 @@ Do you want to overwrite it?</source>
         <source>Bits per chroma sample.</source>
         <translation>色差サンプルあたりのビット数。</translation>
     </message>
+    <message>
+        <source>Horizontal part of the pixel aspect ratio; -1 derives it from the display aspect ratio.</source>
+        <translation>ピクセルアスペクト比の横の値。-1 では表示アスペクト比から求めます。</translation>
+    </message>
+    <message>
+        <source>Vertical part of the pixel aspect ratio; -1 derives it from the display aspect ratio.</source>
+        <translation>ピクセルアスペクト比の縦の値。-1 では表示アスペクト比から求めます。</translation>
+    </message>
+    <message>
+        <source>Codes pictures as frames, as fields, or as frames with field macroblock pairs (MBAFF).</source>
+        <translation>フレーム、フィールド、またはフィールドのマクロブロック対を含むフレーム (MBAFF) で符号化します。</translation>
+    </message>
 </context>
 <context>
     <name>IView0Page</name>
     <message>
         <source>View1 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>ビュー 1 ページ</translation>
     </message>
     <message>
@@ -712,19 +761,13 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
         <translation>目標ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>目標とするビットレート (ビット/秒)。</translation>
-    </message>
-    <message>
         <source>Max bitrate (bps)</source>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
         <translation>最大ビットレート (bps)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -732,66 +775,47 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>単位</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>バッファサイズはバイト、占有量はパーセント。</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
-        <translation>バッファ (バイト)、VBV (%)</translation>
-    </message>
-    <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>バッファサイズと占有量をビットで表します。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (バイト)、VBV (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
-        <translation>バッファ (ビット)、VBV (ビット)</translation>
-    </message>
-    <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>バッファサイズはビット、占有量は 90 kHz クロックの刻み。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (ビット)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
-        <translation>バッファ (ビット)、VBV (90 kHz クロック)</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (90 kHz)</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>ビットレートバッファ</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>符号化ピクチャバッファのサイズ (選んだ単位)。</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 初期値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>復号を始めるときの符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>VBV buffer target</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 目標値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>エンコーダーが目標とする符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>Force bitrate buffer length to 1 second</source>
-        <translation>バッファの長さを 1 秒に固定</translation>
-    </message>
-    <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
+        <translation>ビットレートバッファの長さを 1 秒に固定</translation>
     </message>
     <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD 準拠</translation>
     </message>
     <message>
@@ -824,6 +848,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Br フレーム最大サイズ</translation>
     </message>
     <message>
@@ -832,6 +857,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer I-frames</source>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
         <translation>I フレーム量子化値</translation>
     </message>
     <message>
@@ -840,6 +866,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer P-frames</source>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
         <translation>P フレーム量子化値</translation>
     </message>
     <message>
@@ -848,6 +875,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer B-frames</source>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
         <translation>B フレーム量子化値</translation>
     </message>
     <message>
@@ -856,6 +884,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>最大量子化値</translation>
     </message>
     <message>
@@ -864,17 +893,55 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>最小量子化値</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>エンコーダーが選べる最小の量子化値。</translation>
+    </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>目標とするビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファに入る最大ビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはバイト、占有量はパーセントで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>バッファサイズと占有量をビットで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはビット、占有量は 90 kHz クロックで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>符号化ピクチャバッファ (VBV) のサイズ (選択した単位)。</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>復号を始めるときの符号化ピクチャバッファ (VBV) の占有量。</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>符号化ピクチャバッファ (VBV) の目標占有量。表示のみで、プリセットかファイルで決まります。</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
     </message>
 </context>
 <context>
     <name>IView1Page</name>
     <message>
         <source>View1 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>ビュー 1 ページ</translation>
     </message>
     <message>
@@ -887,19 +954,13 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
         <translation>目標ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>目標とするビットレート (ビット/秒)。</translation>
-    </message>
-    <message>
         <source>Max bitrate (bps)</source>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
         <translation>最大ビットレート (bps)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -907,66 +968,47 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>単位</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>バッファサイズはバイト、占有量はパーセント。</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
-        <translation>バッファ (バイト)、VBV (%)</translation>
-    </message>
-    <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>バッファサイズと占有量をビットで表します。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (バイト)、VBV (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
-        <translation>バッファ (ビット)、VBV (ビット)</translation>
-    </message>
-    <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>バッファサイズはビット、占有量は 90 kHz クロックの刻み。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (ビット)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
-        <translation>バッファ (ビット)、VBV (90 kHz クロック)</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (90 kHz)</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>ビットレートバッファ</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>符号化ピクチャバッファのサイズ (選んだ単位)。</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 初期値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>復号を始めるときの符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>VBV buffer target</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 目標値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>エンコーダーが目標とする符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>Force bitrate buffer length to 1 second</source>
-        <translation>バッファの長さを 1 秒に固定</translation>
-    </message>
-    <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
+        <translation>ビットレートバッファの長さを 1 秒に固定</translation>
     </message>
     <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD 準拠</translation>
     </message>
     <message>
@@ -999,6 +1041,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Br フレーム最大サイズ</translation>
     </message>
     <message>
@@ -1007,6 +1050,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer I-frames</source>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
         <translation>I フレーム量子化値</translation>
     </message>
     <message>
@@ -1015,6 +1059,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer P-frames</source>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
         <translation>P フレーム量子化値</translation>
     </message>
     <message>
@@ -1023,6 +1068,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer B-frames</source>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
         <translation>B フレーム量子化値</translation>
     </message>
     <message>
@@ -1031,6 +1077,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>最大量子化値</translation>
     </message>
     <message>
@@ -1039,17 +1086,55 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>最小量子化値</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>エンコーダーが選べる最小の量子化値。</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>目標とするビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファに入る最大ビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはバイト、占有量はパーセントで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>バッファサイズと占有量をビットで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはビット、占有量は 90 kHz クロックで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>符号化ピクチャバッファ (VBV) のサイズ (選択した単位)。</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>復号を始めるときの符号化ピクチャバッファ (VBV) の占有量。</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>符号化ピクチャバッファ (VBV) の目標占有量。表示のみで、プリセットかファイルで決まります。</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+    </message>
 </context>
 <context>
     <name>IView2Page</name>
     <message>
         <source>View2 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>ビュー 2 ページ</translation>
     </message>
     <message>
@@ -1062,19 +1147,13 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
         <translation>目標ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>目標とするビットレート (ビット/秒)。</translation>
-    </message>
-    <message>
         <source>Max bitrate (bps)</source>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
         <translation>最大ビットレート (bps)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1082,66 +1161,47 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>単位</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>バッファサイズはバイト、占有量はパーセント。</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
-        <translation>バッファ (バイト)、VBV (%)</translation>
-    </message>
-    <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>バッファサイズと占有量をビットで表します。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (バイト)、VBV (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
-        <translation>バッファ (ビット)、VBV (ビット)</translation>
-    </message>
-    <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>バッファサイズはビット、占有量は 90 kHz クロックの刻み。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (ビット)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
-        <translation>バッファ (ビット)、VBV (90 kHz クロック)</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (90 kHz)</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>ビットレートバッファ</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>符号化ピクチャバッファのサイズ (選んだ単位)。</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 初期値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>復号を始めるときの符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>VBV buffer target</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 目標値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>エンコーダーが目標とする符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>Force bitrate buffer length to 1 second</source>
-        <translation>バッファの長さを 1 秒に固定</translation>
-    </message>
-    <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
+        <translation>ビットレートバッファの長さを 1 秒に固定</translation>
     </message>
     <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD 準拠</translation>
     </message>
     <message>
@@ -1174,6 +1234,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Br フレーム最大サイズ</translation>
     </message>
     <message>
@@ -1182,6 +1243,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer I-frames</source>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
         <translation>I フレーム量子化値</translation>
     </message>
     <message>
@@ -1190,6 +1252,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer P-frames</source>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
         <translation>P フレーム量子化値</translation>
     </message>
     <message>
@@ -1198,6 +1261,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer B-frames</source>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
         <translation>B フレーム量子化値</translation>
     </message>
     <message>
@@ -1206,6 +1270,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>最大量子化値</translation>
     </message>
     <message>
@@ -1214,17 +1279,55 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>最小量子化値</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>エンコーダーが選べる最小の量子化値。</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>目標とするビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファに入る最大ビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはバイト、占有量はパーセントで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>バッファサイズと占有量をビットで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはビット、占有量は 90 kHz クロックで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>符号化ピクチャバッファ (VBV) のサイズ (選択した単位)。</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>復号を始めるときの符号化ピクチャバッファ (VBV) の占有量。</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>符号化ピクチャバッファ (VBV) の目標占有量。表示のみで、プリセットかファイルで決まります。</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+    </message>
 </context>
 <context>
     <name>IView3Page</name>
     <message>
         <source>View3 Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>ビュー 3 ページ</translation>
     </message>
     <message>
@@ -1237,19 +1340,13 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Target bitrate (bps)</source>
+        <extracomment>The bitrate aimed at; bps are bits per second.</extracomment>
         <translation>目標ビットレート (bps)</translation>
     </message>
     <message>
-        <source>Bit rate aimed at, in bits per second.</source>
-        <translation>目標とするビットレート (ビット/秒)。</translation>
-    </message>
-    <message>
         <source>Max bitrate (bps)</source>
+        <extracomment>Max is the maximum; bps are bits per second.</extracomment>
         <translation>最大ビットレート (bps)</translation>
-    </message>
-    <message>
-        <source>Highest rate at which the buffer is filled, in bits per second.</source>
-        <translation>バッファを満たす最大レート (ビット/秒)。</translation>
     </message>
     <message>
         <source>Buffers</source>
@@ -1257,66 +1354,47 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Units</source>
+        <extracomment>Units of measurement.</extracomment>
         <translation>単位</translation>
     </message>
     <message>
-        <source>Buffer size in bytes, buffer fullness in percent.</source>
-        <translation>バッファサイズはバイト、占有量はパーセント。</translation>
-    </message>
-    <message>
         <source>Bitrate buffer (bytes), VBV buffers (%)</source>
-        <translation>バッファ (バイト)、VBV (%)</translation>
-    </message>
-    <message>
-        <source>Buffer size and buffer fullness in bits.</source>
-        <translation>バッファサイズと占有量をビットで表します。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (バイト)、VBV (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (bits)</source>
-        <translation>バッファ (ビット)、VBV (ビット)</translation>
-    </message>
-    <message>
-        <source>Buffer size in bits, buffer fullness in ticks of a 90 kHz clock.</source>
-        <translation>バッファサイズはビット、占有量は 90 kHz クロックの刻み。</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (ビット)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits), VBV buffers (90  kHz clock)</source>
-        <translation>バッファ (ビット)、VBV (90 kHz クロック)</translation>
+        <extracomment>Units of the buffer&apos;s size and of both VBV numbers.</extracomment>
+        <translation>ビットレートバッファ (ビット)、VBV (90 kHz)</translation>
     </message>
     <message>
         <source>Bitrate buffer</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>ビットレートバッファ</translation>
     </message>
     <message>
-        <source>Size of the coded picture buffer, in the chosen units.</source>
-        <translation>符号化ピクチャバッファのサイズ (選んだ単位)。</translation>
-    </message>
-    <message>
         <source>VBV buffer initial</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 初期値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer when decoding starts.</source>
-        <translation>復号を始めるときの符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>VBV buffer target</source>
+        <extracomment>Placeholder until the unit is known.</extracomment>
         <translation>VBV 目標値</translation>
     </message>
     <message>
-        <source>Fullness of the coded picture buffer that the encoder aims at.</source>
-        <translation>エンコーダーが目標とする符号化ピクチャバッファの占有量。</translation>
-    </message>
-    <message>
         <source>Force bitrate buffer length to 1 second</source>
-        <translation>バッファの長さを 1 秒に固定</translation>
-    </message>
-    <message>
-        <source>Keeps the buffer as large as what arrives in one second at the target bit rate.</source>
-        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+        <extracomment>Check box: the buffer&apos;s size follows from the target bitrate.</extracomment>
+        <translation>ビットレートバッファの長さを 1 秒に固定</translation>
     </message>
     <message>
         <source>HRD conformance</source>
+        <extracomment>HRD is the hypothetical reference decoder of H.264.</extracomment>
         <translation>HRD 準拠</translation>
     </message>
     <message>
@@ -1349,6 +1427,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum Br-frame size</source>
+        <extracomment>Br-frames are B-frames that are reference frames.</extracomment>
         <translation>Br フレーム最大サイズ</translation>
     </message>
     <message>
@@ -1357,6 +1436,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer I-frames</source>
+        <extracomment>Quantization parameter of I-frames, a number.</extracomment>
         <translation>I フレーム量子化値</translation>
     </message>
     <message>
@@ -1365,6 +1445,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer P-frames</source>
+        <extracomment>Quantization parameter of P-frames, a number.</extracomment>
         <translation>P フレーム量子化値</translation>
     </message>
     <message>
@@ -1373,6 +1454,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Quantizer B-frames</source>
+        <extracomment>Quantization parameter of B-frames, a number.</extracomment>
         <translation>B フレーム量子化値</translation>
     </message>
     <message>
@@ -1381,6 +1463,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Maximum quantizer</source>
+        <extracomment>Largest quantization parameter that the encoder may choose.</extracomment>
         <translation>最大量子化値</translation>
     </message>
     <message>
@@ -1389,21 +1472,60 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Minimum quantizer</source>
+        <extracomment>Smallest quantization parameter that the encoder may choose.</extracomment>
         <translation>最小量子化値</translation>
     </message>
     <message>
         <source>Smallest quantizer that the encoder may choose.</source>
         <translation>エンコーダーが選べる最小の量子化値。</translation>
     </message>
+    <message>
+        <source>Bitrate aimed at, in bits per second.</source>
+        <translation>目標とするビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Highest bitrate at which the buffer is filled, in bits per second.</source>
+        <translation>バッファに入る最大ビットレート (ビット/秒)。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはバイト、占有量はパーセントで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
+        <translation>バッファサイズと占有量をビットで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
+        <translation>バッファサイズはビット、占有量は 90 kHz クロックで表します。切り替えても数値は換算されません。</translation>
+    </message>
+    <message>
+        <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
+        <translation>符号化ピクチャバッファ (VBV) のサイズ (選択した単位)。</translation>
+    </message>
+    <message>
+        <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
+        <translation>復号を始めるときの符号化ピクチャバッファ (VBV) の占有量。</translation>
+    </message>
+    <message>
+        <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
+        <translation>符号化ピクチャバッファ (VBV) の目標占有量。表示のみで、プリセットかファイルで決まります。</translation>
+    </message>
+    <message>
+        <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
+        <translation>バッファを、目標ビットレートで 1 秒間に届く量と同じ大きさに保ちます。</translation>
+    </message>
 </context>
 <context>
     <name>IViewsPage</name>
     <message>
         <source>Views Page</source>
+        <extracomment>Title of the page as a window, which it never is.</extracomment>
         <translation>ビューページ</translation>
     </message>
     <message>
         <source>Number of views</source>
+        <extracomment>For assistive technology: the group of the number and its check box.</extracomment>
         <translation>ビューの数</translation>
     </message>
     <message>
@@ -1416,7 +1538,8 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Split views</source>
-        <translation>ビューを分割</translation>
+        <extracomment>Check box: each view goes to a stream of its own. Views are not divided.</extracomment>
+        <translation>ビューを分離</translation>
     </message>
     <message>
         <source>Writes each view to a stream of its own instead of one stream for all.</source>
@@ -1446,15 +1569,15 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Full</source>
-        <translation>整数</translation>
+        <translation>整数ピクセル</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation>1/2</translation>
+        <translation>1/2 ピクセル</translation>
     </message>
     <message>
         <source>Quarter</source>
-        <translation>1/4</translation>
+        <translation>1/4 ピクセル</translation>
     </message>
 </context>
 <context>
@@ -1523,11 +1646,11 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>ShowMenu</source>
-        <translation>メニュー</translation>
+        <translation>メニューを表示</translation>
     </message>
     <message>
         <source>SetFocus</source>
-        <translation>フォーカス</translation>
+        <translation>フォーカスを設定</translation>
     </message>
     <message>
         <source>Toggle</source>
@@ -1625,7 +1748,7 @@ Do you want to overwrite it?</source>
     <name>QDialog</name>
     <message>
         <source>What&apos;s This?</source>
-        <translation>これは何?</translation>
+        <translation>これは何？</translation>
     </message>
 </context>
 <context>
@@ -1809,17 +1932,17 @@ Please verify the correct file name was given.</source>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 は既に存在します。
-置き換えますか?</translation>
+置き換えますか？</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
         <translation>「%1」は書き込み禁止です。
-それでも削除しますか?</translation>
+それでも削除しますか？</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
-        <translation>「%1」を削除しますか?</translation>
+        <translation>「%1」を削除しますか？</translation>
     </message>
     <message>
         <source>Could not delete directory.</source>
@@ -2063,11 +2186,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Top Field First</source>
-        <translation>トップ先頭</translation>
+        <translation>トップファースト</translation>
     </message>
     <message>
         <source>Bot Field First</source>
-        <translation>ボトム先頭</translation>
+        <translation>ボトムファースト</translation>
     </message>
     <message>
         <source>Progressive</source>
@@ -2143,11 +2266,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>固定品質 - 固定量子化</translation>
+        <translation>固定品質: 固定量子化</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>固定品質 - 平均量子化</translation>
+        <translation>固定品質: 平均量子化</translation>
     </message>
     <message>
         <source>16 x 16</source>
@@ -2159,15 +2282,15 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Full</source>
-        <translation>整数</translation>
+        <translation>整数ピクセル</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation>1/2</translation>
+        <translation>1/2 ピクセル</translation>
     </message>
     <message>
         <source>Quarter</source>
-        <translation>1/4</translation>
+        <translation>1/4 ピクセル</translation>
     </message>
     <message>
         <source>CAVLC</source>
@@ -2293,19 +2416,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation>左へ</translation>
+        <translation>左へスクロール</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation>上へ</translation>
+        <translation>上へスクロール</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation>右へ</translation>
+        <translation>右へスクロール</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation>下へ</translation>
+        <translation>下へスクロール</translation>
     </message>
 </context>
 <context>
@@ -2606,11 +2729,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Top Field First</source>
-        <translation>トップ先頭</translation>
+        <translation>トップファースト</translation>
     </message>
     <message>
         <source>Bot Field First</source>
-        <translation>ボトム先頭</translation>
+        <translation>ボトムファースト</translation>
     </message>
     <message>
         <source>Off</source>
@@ -2677,11 +2800,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>固定品質 - 固定量子化</translation>
+        <translation>固定品質: 固定量子化</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>固定品質 - 平均量子化</translation>
+        <translation>固定品質: 平均量子化</translation>
     </message>
 </context>
 <context>
@@ -2696,11 +2819,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>固定品質 - 固定量子化</translation>
+        <translation>固定品質: 固定量子化</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>固定品質 - 平均量子化</translation>
+        <translation>固定品質: 平均量子化</translation>
     </message>
 </context>
 <context>
@@ -2715,11 +2838,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>固定品質 - 固定量子化</translation>
+        <translation>固定品質: 固定量子化</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>固定品質 - 平均量子化</translation>
+        <translation>固定品質: 平均量子化</translation>
     </message>
 </context>
 <context>
@@ -2734,18 +2857,18 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>固定品質 - 固定量子化</translation>
+        <translation>固定品質: 固定量子化</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
-        <translation>固定品質 - 平均量子化</translation>
+        <translation>固定品質: 平均量子化</translation>
     </message>
 </context>
 <context>
     <name>ViewPage</name>
     <message>
         <source>Bitrate buffer (bytes)</source>
-        <translation>バッファ (バイト)</translation>
+        <translation>ビットレートバッファ (バイト)</translation>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
@@ -2757,7 +2880,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
-        <translation>バッファ (ビット)</translation>
+        <translation>ビットレートバッファ (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
