@@ -1,9 +1,10 @@
-// The translation files hold every text of the sources, and nothing else; and no translation loses
-// what its text is filled with.
+// The translation files hold every text of the sources, and nothing else; no translation loses what
+// its text is filled with; and all keep to the rules of their language's typography.
 
 #include "ToolkitWarnings.h"
 
 #include <QFile>
+#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -84,6 +85,12 @@ private Q_SLOTS:
     void isFinished();
     void keepsPlacesAndPatterns_data() { rows(); }
     void keepsPlacesAndPatterns();
+    void givesATextOneTranslation_data() { rows(); }
+    void givesATextOneTranslation();
+    void endsSentencesAlike_data() { rows(); }
+    void endsSentencesAlike();
+    void keepsToTypography_data();
+    void keepsToTypography();
 
 private:
     static void rows();
@@ -154,6 +161,82 @@ void TestCatalogues::keepsPlacesAndPatterns()
     }
     QVERIFY(withPlaces > 0);
     QVERIFY(withPatterns > 0);
+}
+
+void TestCatalogues::givesATextOneTranslation()
+{
+    QFETCH(QString, language);
+
+    QMap<QString, QStringList> translations;
+    for (const Message& message : messagesOf(contentOf(pathOf(language))))
+        translations[message.source] += message.translation;
+    int repeated = 0;
+    QStringList faults;
+    for (auto row = translations.begin(); row != translations.end(); ++row) {
+        repeated += row.value().size() > 1;
+        row.value().removeDuplicates();
+        if (row.value().size() > 1)
+            faults += row.key() + QLatin1String(": ") + row.value().join(QLatin1String(" / "));
+    }
+    QVERIFY(repeated > 50);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestCatalogues::endsSentencesAlike()
+{
+    QFETCH(QString, language);
+
+    // Part of a label around a number, worded anew in each language.
+    const QString labelPart = QStringLiteral("I-frame as IDR.");
+    const QChar stop = language == QLatin1String("jp") ? QChar(0x3002) : QLatin1Char('.');
+    int sentences = 0;
+    QStringList faults;
+    for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
+        if (message.source == labelPart || message.source.endsWith(QLatin1String("...")))
+            continue;
+        const bool sentence = message.source.endsWith(QLatin1Char('.'));
+        sentences += sentence;
+        if (message.translation.endsWith(stop) != sentence)
+            faults += message.context + QLatin1String(": ") + message.translation;
+    }
+    QVERIFY(sentences > 100);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestCatalogues::keepsToTypography_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("fault");
+    const auto row = [](const char* language, const char* name, const char* fault) {
+        QTest::addRow("%s, %s", language, name)
+            << QString::fromLatin1(language) << QString::fromUtf8(fault);
+    };
+    row("de", "straight quotation marks", "[\"']");
+    row("de", "three full stops for an ellipsis", "\\.\\.\\.");
+    row("de", "ellipsis without a blank", "[^ ]\u2026");
+    row("de", "hyphen for a dash", " - ");
+    row("de", "two blanks", "  ");
+    row("de", "unit that is no noun", "\\b(bit|byte|bits|bytes)\\b");
+    row("jp", "straight quotation marks", "[\"']");
+    row("jp", "half-width question or exclamation mark", "[?!]");
+    row("jp", "half-width kana", "[\uFF61-\uFF9F]");
+    row("jp", "hyphen for a dash", " - ");
+    row("jp", "two blanks", "  ");
+    row("jp", "kanji word beside the loan word", "縦横比");
+}
+
+void TestCatalogues::keepsToTypography()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, fault);
+
+    const QRegularExpression pattern(fault, QRegularExpression::UseUnicodePropertiesOption);
+    QVERIFY2(pattern.isValid(), qPrintable(pattern.errorString()));
+    QStringList faults;
+    for (const Message& message : messagesOf(contentOf(pathOf(language))))
+        if (message.translation.contains(pattern))
+            faults += message.context + QLatin1String(": ") + message.translation;
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 
 QTEST_GUILESS_MAIN(TestCatalogues)
