@@ -12,10 +12,10 @@ namespace
 {
 
 const QStringList iconNames = {
-    QStringLiteral("cancel"),  QStringLiteral("down"),  QStringLiteral("load"),
-    QStringLiteral("next"),    QStringLiteral("ok"),    QStringLiteral("prev"),
-    QStringLiteral("restore"), QStringLiteral("right"), QStringLiteral("save"),
-    QStringLiteral("up"),
+    QStringLiteral("cancel"), QStringLiteral("down"), QStringLiteral("load"),
+    QStringLiteral("minus"),  QStringLiteral("next"), QStringLiteral("ok"),
+    QStringLiteral("plus"),   QStringLiteral("prev"), QStringLiteral("restore"),
+    QStringLiteral("right"),  QStringLiteral("save"), QStringLiteral("up"),
 };
 
 QString iconPath(const QString& name, const QString& density = QString())
@@ -67,9 +67,10 @@ void TestBundle::everyPathOpens_data()
          {":/res_mvc/icons/restore.png", ":/res_mvc/icons/load.png", ":/res_mvc/icons/save.png",
           ":/res_mvc/icons/ok.png", ":/res_mvc/icons/cancel.png", ":/res_mvc/icons/down.png",
           ":/res_mvc/icons/up.png", ":/res_mvc/icons/prev.png", ":/res_mvc/icons/next.png",
-          ":/res_mvc/icons/right.png", ":/res_mvc/backgrounds/main.png",
-          ":/res_mvc/backgrounds/box.png", ":/res_mvc/banners/banner.png",
-          ":/res_mvc/skins/default.qss", ":/res_mvc/skins/metal.qss"})
+          ":/res_mvc/icons/right.png", ":/res_mvc/icons/plus.png", ":/res_mvc/icons/minus.png",
+          ":/res_mvc/backgrounds/main.png", ":/res_mvc/backgrounds/box.png",
+          ":/res_mvc/banners/banner.png", ":/res_mvc/skins/default.qss",
+          ":/res_mvc/skins/metal.qss"})
         QTest::newRow(path) << QString::fromLatin1(path);
 }
 
@@ -89,7 +90,7 @@ void TestBundle::holdsNothingElse()
     for (QDirIterator it(QStringLiteral(":/res_mvc"), QDir::Files, QDirIterator::Subdirectories);
          it.hasNext(); it.next())
         ++files;
-    QCOMPARE(files, 13 * 3 + 2);
+    QCOMPARE(files, 15 * 3 + 2);
 }
 
 void TestBundle::pictureComesInThreeDensities_data()

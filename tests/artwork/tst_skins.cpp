@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyleFactory>
+#include <QStyleOptionSpinBox>
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
@@ -112,6 +113,18 @@ struct Stage {
     QPushButton* other;
 };
 
+/// The extent of what is drawn darker than the ground of the picture's first pixel.
+QSize inkSize(const QImage& picture)
+{
+    const int ground = qGray(picture.pixel(0, 0));
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (ground - qGray(picture.pixel(x, y)) > 40)
+                ink |= QRect(x, y, 1, 1);
+    return ink.size();
+}
+
 } // namespace
 
 /// What the two style sheets make of controls.
@@ -131,6 +144,8 @@ private Q_SLOTS:
     void metalLogIsReadable_data();
     void metalLogIsReadable();
     void buttonsKeepTheirSizeWhenTheSkinChanges();
+    void metalSpinBoxHasSymbols_data();
+    void metalSpinBoxHasSymbols();
 };
 
 // The text of a dark palette is light, and so is the metal: no colour may come from the palette.
@@ -257,6 +272,52 @@ void TestSkins::buttonsKeepTheirSizeWhenTheSkinChanges()
     QVERIFY(sizes[0].width() >= 24 && sizes[0].width() <= 28);
     QCOMPARE(sizes[1], QSize(24, 24));
     QCOMPARE(sizes[3], QSize(24, 24));
+}
+
+// What a step up and a step down look like: the size of the drawing tells plus, minus and chevron.
+void TestSkins::metalSpinBoxHasSymbols_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("up");
+    QTest::addColumn<QString>("down");
+    QTest::newRow("picture format")
+        << QStringLiteral("IVideoFormatPage") << QStringLiteral("plus") << QStringLiteral("minus");
+    QTest::newRow("another page") << QStringLiteral("IMiscPage") << QStringLiteral("chevron")
+                                  << QStringLiteral("chevron");
+}
+
+void TestSkins::metalSpinBoxHasSymbols()
+{
+    QFETCH(QString, page);
+
+    QDialog dialog;
+    auto* const frame = new QFrame(&dialog);
+    frame->setObjectName(page);
+    auto* const box = new QSpinBox(frame);
+    (new QVBoxLayout(&dialog))->addWidget(frame);
+    (new QVBoxLayout(frame))->addWidget(box);
+    dialog.setStyleSheet(skinText(QStringLiteral("metal")));
+    box->setRange(-1, 1); // both steps are open
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+
+    const auto symbol = [box](QStyle::SubControl button) {
+        QStyleOptionSpinBox option;
+        option.initFrom(box);
+        option.subControls = QStyle::SC_All;
+        const QRect place = box->style()->subControlRect(QStyle::CC_SpinBox, &option, button, box);
+        // The border's corners are round.
+        const QSize ink = inkSize(box->grab(place.adjusted(2, 0, -3, 0)).toImage());
+        if (ink.width() < 5)
+            return QStringLiteral("nothing");
+        if (5 * ink.height() <= ink.width())
+            return QStringLiteral("minus");
+        return ink.height() >= ink.width() - 1 ? QStringLiteral("plus") : QStringLiteral("chevron");
+    };
+    const QString up = symbol(QStyle::SC_SpinBoxUp);
+    const QString down = symbol(QStyle::SC_SpinBoxDown);
+    QTEST(up, "up");
+    QTEST(down, "down");
 }
 
 QTEST_MAIN(TestSkins)
