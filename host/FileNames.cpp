@@ -23,9 +23,9 @@ QString escaped(const QByteArray& bytes)
     return text;
 }
 
-[[noreturn]] void refuseArgument(const QString& shown)
+[[noreturn]] void refuseArgument(const QByteArray& bytes)
 {
-    throw Failure(QStringLiteral("the argument '%1' is not valid UTF-8").arg(shown));
+    throw Failure(QStringLiteral("the argument '%1' is not valid UTF-8").arg(escaped(bytes)));
 }
 
 /// Whether the text reads as UTF-8 that somebody took for Latin-1.
@@ -59,7 +59,7 @@ QStringList programArguments(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     for (const QString& argument : arguments) {
         if (fromUtf8(argument.toUtf8()) != argument) {
-            refuseArgument(argument);
+            refuseArgument(argument.toUtf8());
         }
     }
     return arguments;
@@ -70,7 +70,7 @@ QStringList programArguments(int argc, char** argv)
         const QByteArray bytes(argv[at]);
         const auto argument = fromUtf8(bytes);
         if (!argument) {
-            refuseArgument(escaped(bytes));
+            refuseArgument(bytes);
         }
         arguments << *argument;
     }

@@ -47,7 +47,11 @@ void Library::unload(void* handle)
 
 void Library::ignoreCurrentFolder()
 {
-    SetDllDirectoryW(L"");
+    // The folder given takes the current one's place in the search.
+    std::wstring folder(32 * 1024, L'\0');
+    folder.resize(GetModuleFileNameW(nullptr, folder.data(), static_cast<DWORD>(folder.size())));
+    folder.erase(folder.find_last_of(L'\\') + 1);
+    SetDllDirectoryW(folder.c_str());
     // And a library that cannot be loaded is an error to print, not one to show in a box.
     SetErrorMode(SEM_FAILCRITICALERRORS);
 }

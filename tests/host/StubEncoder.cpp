@@ -25,7 +25,7 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* setti
 }
 
 /// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there; 5 is
-/// refused without an error.
+/// refused without an error; 6 has letters beyond ASCII.
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
                                                                KvMvcSettings* settings,
                                                                int32_t stage, int32_t reserved)
@@ -59,6 +59,9 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
     case 5:
         sinkOf(lookUp, "inf_printf")("no reason");
         return 1;
+    case 6:
+        sinkOf(lookUp, "wrn_printf")("%s", "\xC3\x9C\xC5\x82 \xD0\x96 \xE2\x82\xAC");
+        return 0;
     default:
         return 0;
     }

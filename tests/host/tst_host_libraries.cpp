@@ -155,8 +155,8 @@ void HostLibrariesTest::runPathsLeadToTheOwnFolderOnly_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* name : {"kv-mvc-settings", "kv_mvc_settings_io.so", "kv_mvcenc.so"}) {
-        QTest::newRow(name) << QDir(qEnvironmentVariable("KV_BIN_DIR"))
-                                   .filePath(QString::fromLatin1(name));
+        QTest::newRow(name)
+            << QDir(qEnvironmentVariable("KV_BIN_DIR")).filePath(QString::fromLatin1(name));
     }
 }
 

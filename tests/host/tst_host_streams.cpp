@@ -15,6 +15,8 @@ class HostStreamsTest : public QObject
 private Q_SLOTS:
     void standardInputReadsAsAFile_data();
     void standardInputReadsAsAFile();
+    void standardInputIsAnyText_data();
+    void standardInputIsAnyText();
     void badInputIsRefused_data();
     void badInputIsRefused();
     void standardOutputGetsTheFile_data();
@@ -61,8 +63,8 @@ void HostStreamsTest::standardInputReadsAsAFile_data()
     // "%1" is the first file.
     for (const char* line :
          {"show %1", "show --json %1", "check %1", "check --json %1", "diff %1 b.ini",
-          "diff b.ini %1", "diff --json %1 %2", "check %1 -o fixed.ini"}) {
-        QTest::newRow(line) << QString::fromLatin1(line).replace(QLatin1String("%2"), a);
+          "diff b.ini %1", "diff --json %1 a.ini", "check %1 -o fixed.ini"}) {
+        QTest::newRow(line) << QString::fromLatin1(line);
     }
 }
 
@@ -71,20 +73,40 @@ void HostStreamsTest::standardInputReadsAsAFile()
     QFETCH(QString, line);
     HostProgram program;
     prepare(program);
-    const QByteArray content = program.content(a);
+    const QString fixed = QStringLiteral("fixed.ini");
     const HostProgram::Result named = program.run(words(line.arg(a)));
-    QVERIFY(named.exitCode != 2);
-    const QByteArray fixed = program.content(QStringLiteral("fixed.ini"));
-    program.setContent(QStringLiteral("fixed.ini"), "old");
-    for (const QByteArray& input : {content, QByteArray(content).replace("\n", "\r\n"),
-                                    QByteArray("\xEF\xBB\xBF" + content)}) {
-        const HostProgram::Result result =
-            program.run(words(line.arg(QLatin1Char('-'))), {}, input);
-        QCOMPARE(result.error, named.error);
-        QCOMPARE(result.output, named.output);
-        QCOMPARE(result.exitCode, named.exitCode);
-    }
-    QCOMPARE(program.content(QStringLiteral("fixed.ini")), fixed.isEmpty() ? "old" : fixed);
+    const QByteArray fixedByName = program.content(fixed);
+    program.setContent(fixed, {});
+    const HostProgram::Result result =
+        program.run(words(line.arg(QLatin1Char('-'))), {}, program.content(a));
+    QCOMPARE(result.error, named.error);
+    QCOMPARE(result.output, named.output);
+    QCOMPARE(result.exitCode, named.exitCode);
+    QVERIFY(result.exitCode != 2);
+    QCOMPARE(program.content(fixed), fixedByName);
+}
+
+void HostStreamsTest::standardInputIsAnyText_data()
+{
+    QTest::addColumn<QByteArray>("mark");
+    QTest::addColumn<QByteArray>("lineEnd");
+    QTest::newRow("Windows") << QByteArray() << QByteArray("\r\n");
+    QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF") << QByteArray("\n");
+    QTest::newRow("both") << QByteArray("\xEF\xBB\xBF") << QByteArray("\r\n");
+}
+
+void HostStreamsTest::standardInputIsAnyText()
+{
+    QFETCH(QByteArray, mark);
+    QFETCH(QByteArray, lineEnd);
+    HostProgram program;
+    prepare(program);
+    const HostProgram::Result result =
+        program.run({QStringLiteral("diff"), QStringLiteral("-"), a}, {},
+                    mark + program.content(a).replace("\n", lineEnd));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 0);
 }
 
 void HostStreamsTest::badInputIsRefused_data()
@@ -101,7 +123,7 @@ void HostStreamsTest::badInputIsRefused_data()
     QTest::newRow("no text") << QByteArray("\x00\x00\x01\xB3", 4)
                              << prefix + QStringLiteral(
                                              "cannot read '<stdin>': no text of a settings file\n");
-    QTest::newRow("no end") << QByteArray(5 * 1024 * 1024, '#')
+    QTest::newRow("no end") << QByteArray(2 * 1024 * 1024, '#')
                             << prefix + QStringLiteral("cannot read '<stdin>': too large\n");
 }
 
@@ -111,7 +133,7 @@ void HostStreamsTest::badInputIsRefused()
     QFETCH(QString, error);
     HostProgram program;
     prepare(program);
-    for (const char* line : {"show -", "check -", "diff a.ini -", "diff - a.ini"}) {
+    for (const char* line : {"show -", "diff a.ini -"}) {
         const HostProgram::Result result = program.run(words(QString::fromLatin1(line)), {}, input);
         QCOMPARE(result.error, error);
         QCOMPARE(result.output, QString());
