@@ -1,6 +1,7 @@
 #include "file_store.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <optional>
@@ -172,6 +173,35 @@ std::string replaceRegular(const std::filesystem::path& file,
     return {};
 }
 
+/** In this thread, writing to a pipe whose reader has gone is an error, not the process's end. */
+class BrokenPipeGuard
+{
+public:
+    BrokenPipeGuard()
+    {
+        sigset_t pending;
+        sigpending(&pending);
+        m_wasPending = sigismember(&pending, SIGPIPE) == 1;
+        sigemptyset(&m_signal);
+        sigaddset(&m_signal, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &m_signal, &m_former);
+    }
+    ~BrokenPipeGuard()
+    {
+        const timespec now = {};
+        while (!m_wasPending && sigtimedwait(&m_signal, nullptr, &now) < 0 && errno == EINTR) {
+        }
+        pthread_sigmask(SIG_SETMASK, &m_former, nullptr);
+    }
+    BrokenPipeGuard(const BrokenPipeGuard&) = delete;
+    BrokenPipeGuard& operator=(const BrokenPipeGuard&) = delete;
+
+private:
+    sigset_t m_signal;
+    sigset_t m_former;
+    bool m_wasPending;
+};
+
 /** A pipe that nobody reads is refused instead of waited for. */
 std::string writeStream(const std::filesystem::path& file, std::string_view content)
 {
@@ -179,6 +209,7 @@ std::string writeStream(const std::filesystem::path& file, std::string_view cont
     if (!descriptor.isOpen())
         return systemReason();
     ::fcntl(descriptor.number(), F_SETFL, 0);
+    const BrokenPipeGuard guard;
     return writeAll(descriptor.number(), content) && descriptor.close() ? "" : systemReason();
 }
 

@@ -8,12 +8,15 @@
 #include <QScopeGuard>
 #include <QTest>
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <thread>
 #include <unistd.h>
 
 using kvtest::filledRecord;
@@ -46,6 +49,7 @@ private Q_SLOTS:
     void aFullDiskLeavesTheOldFile();
     void aFileSizeLimitLeavesTheOldFile();
     void aPipeWithAReaderIsWrittenTo();
+    void aReaderThatGoesIsAnError();
 };
 
 void TestSettingsFilePosix::specialFilesAreNotRead_data()
@@ -257,6 +261,35 @@ void TestSettingsFilePosix::aPipeWithAReaderIsWrittenTo()
     struct stat status = {};
     QCOMPARE(::lstat(path("pipe.ini").constData(), &status), 0);
     QVERIFY(S_ISFIFO(status.st_mode));
+}
+
+volatile std::sig_atomic_t brokenPipes = 0;
+
+/** The writer waits, since the pipe is full, when its reader goes. */
+void TestSettingsFilePosix::aReaderThatGoesIsAnError()
+{
+    QCOMPARE(::mkfifo(path("pipe.ini").constData(), 0600), 0);
+    const int reader = ::open(path("pipe.ini").constData(), O_RDONLY | O_NONBLOCK);
+    const int writer = ::open(path("pipe.ini").constData(), O_WRONLY | O_NONBLOCK);
+    QVERIFY(reader >= 0 && writer >= 0);
+    for (const QByteArray block(4096, '#'); ::write(writer, block.constData(), 4096) > 0;) {
+    }
+    QCOMPARE(errno, EAGAIN);
+    const auto former = std::signal(SIGPIPE, [](int) { brokenPipes = brokenPipes + 1; });
+    std::thread leaving([reader] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        ::close(reader);
+    });
+    const int result = m_library->write(recordOfViews(3), path("pipe.ini"));
+    leaving.join();
+    std::signal(SIGPIPE, former);
+    QCOMPARE(m_library->messages, path("pipe.ini") + ": Broken pipe\n");
+    QVERIFY(result != 0);
+    QCOMPARE(int(brokenPipes), 0);
+    sigset_t blocked;
+    QCOMPARE(pthread_sigmask(SIG_SETMASK, nullptr, &blocked), 0);
+    QCOMPARE(sigismember(&blocked, SIGPIPE), 0); // as the caller had it
+    ::close(writer);
 }
 
 } // namespace
