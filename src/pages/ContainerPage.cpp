@@ -23,8 +23,10 @@ ContainerPage::ContainerPage(QWidget* parent) : SettingsPage(parent) {}
 void ContainerPage::receiveState(const ConfigState& state)
 {
     SettingsPage::receiveState(state);
-    for (SettingsPage* page : std::as_const(m_pages))
-        page->receiveState(state);
+    m_toolBox->keepFocusInPlace([&] {
+        for (SettingsPage* page : std::as_const(m_pages))
+            page->receiveState(state);
+    });
 }
 
 void ContainerPage::makeToolBox(QFrame* collectionFrame)

@@ -1,5 +1,6 @@
 #include "GOPStructurePage.h"
 
+#include "ControlLabel.h"
 #include "model/KeyNames.h"
 
 GOPStructurePage::GOPStructurePage(QWidget* parent) : SettingsPage(parent)
@@ -15,4 +16,6 @@ GOPStructurePage::GOPStructurePage(QWidget* parent) : SettingsPage(parent)
     bind(ui.piramydBCheck, keys::piramydB, &Page::slotChangePiramydB);
     bind(ui.bBetweenIPSpin, keys::bBetween, &Page::slotChangeBBetween);
     bind(ui.bAsReferenceCheck, keys::referenceB, &Page::slotChangeReferenceB);
+    // The end of its sentence.
+    ControlLabel::attach(ui.label_2, ui.idrSpin);
 }

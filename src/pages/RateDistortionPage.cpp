@@ -1,5 +1,6 @@
 #include "RateDistortionPage.h"
 
+#include "ControlLabel.h"
 #include "model/KeyNames.h"
 
 RateDistortionPage::RateDistortionPage(QWidget* parent) : SettingsPage(parent)
@@ -13,6 +14,9 @@ RateDistortionPage::RateDistortionPage(QWidget* parent) : SettingsPage(parent)
     bind(ui.brightnessSlider, keys::brightness, &Page::slotChangeBrightness);
     bind(ui.contrastSlider, keys::contrast, &Page::slotChangeContrast);
     bind(ui.complexitySlider, keys::complexity, &Page::slotChangeComplexity);
+    ControlLabel::attach(ui.brightnessLabel, ui.brightnessSlider);
+    ControlLabel::attach(ui.contrastLabel, ui.contrastSlider);
+    ControlLabel::attach(ui.complexityLabel, ui.complexitySlider);
 }
 
 void RateDistortionPage::receiveState(const ConfigState& state)

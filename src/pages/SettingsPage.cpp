@@ -1,5 +1,7 @@
 #include "SettingsPage.h"
 
+#include "ControlLabel.h"
+#include "EnterGuard.h"
 #include "WheelGuard.h"
 
 #include <QSignalBlocker>
@@ -31,8 +33,12 @@ void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter se
 {
     controlKeys.insert(control, key);
     m_setters.append(std::move(setFromState));
-    if (auto* widget = qobject_cast<QWidget*>(control))
+    if (auto* field = qobject_cast<QAbstractSpinBox*>(control))
+        EnterGuard::protect(field);
+    if (auto* widget = qobject_cast<QWidget*>(control)) {
         WheelGuard::protect(widget);
+        ControlLabel::attachBuddies(widget);
+    }
 }
 
 void SettingsPage::reportEdit(const QVariant& value)

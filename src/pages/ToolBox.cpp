@@ -1,8 +1,11 @@
 #include "ToolBox.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QVector>
@@ -11,6 +14,31 @@
 
 namespace
 {
+
+/// A grid that is as high as its rows need. Pages end with spacers, which would share the room that
+/// is left and so tear the sections apart; the grid's alignment counts only without such.
+class Column : public QGridLayout
+{
+public:
+    using QGridLayout::QGridLayout;
+
+    void setGeometry(const QRect& rect) override
+    {
+        const int needed = hasHeightForWidth() ? heightForWidth(rect.width()) : sizeHint().height();
+        QGridLayout::setGeometry(
+            {rect.topLeft(), QSize(rect.width(), qMin(rect.height(), needed))});
+    }
+};
+
+/// Lays out what is below the widget and then the widget itself, in which changes take effect from
+/// the inside outwards.
+void layOutNow(QWidget* widget)
+{
+    const auto below = widget->findChildren<QWidget*>();
+    for (auto it = below.crbegin(); it != below.crend(); ++it)
+        QCoreApplication::sendPostedEvents(*it, QEvent::LayoutRequest);
+    QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
+}
 
 /// What takes the keyboard focus inside the page, in the order of the Tab key.
 QVector<QWidget*> focusChain(const QWidget* page)
@@ -38,11 +66,14 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     // Focused controls are scrolled into view anyway; a stop of its own would be invisible.
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_content = new QFrame(this);
-    m_grid = new QGridLayout(m_content);
+    m_grid = new Column(m_content);
     m_grid->setAlignment(Qt::AlignTop);
     m_grid->setContentsMargins(2, 2, 2, 2);
     m_grid->setColumnStretch(1, 1);
     m_scrollArea->setWidget(m_content);
+    // What is behind shows through: a box of another tone would end at no visible edge.
+    m_scrollArea->viewport()->setAutoFillBackground(false);
+    m_content->setAutoFillBackground(false);
     outer->addWidget(m_scrollArea);
     outer->setContentsMargins(0, 0, 0, 0);
 }
@@ -90,4 +121,26 @@ void ToolBox::addSection(QWidget* page, const QString& title)
 {
     addSection(page, title, QStringLiteral(":/res_mvc/icons/down.png"),
                QStringLiteral(":/res_mvc/icons/right.png"));
+}
+
+void ToolBox::keepFocusInPlace(const std::function<void()>& change)
+{
+    const QPointer<QWidget> control = window()->focusWidget();
+    if (!isVisible() || !m_content->isAncestorOf(control)) {
+        change();
+        return;
+    }
+    const int before = placeOf(control);
+    change();
+    if (!control || !control->isVisible())
+        return;
+    // Now, not when the event loop comes to it, which would show the control elsewhere first.
+    layOutNow(m_scrollArea->viewport());
+    QScrollBar* const bar = m_scrollArea->verticalScrollBar();
+    bar->setValue(bar->value() + placeOf(control) - before);
+}
+
+int ToolBox::placeOf(const QWidget* widget) const
+{
+    return widget->mapTo(m_scrollArea->viewport(), QPoint()).y();
 }

@@ -3,6 +3,8 @@
 #include <QFrame>
 #include <QPointer>
 
+#include <functional>
+
 class QGridLayout;
 class QScrollArea;
 
@@ -23,7 +25,14 @@ public:
     /// The same with the arrows that every section of the dialog has.
     void addSection(QWidget* page, const QString& title);
 
+    /// Makes a change of the pages, which may show and hide what is in them, and scrolls so that
+    /// the control with the focus does not move under the user's eyes.
+    void keepFocusInPlace(const std::function<void()>& change);
+
 private:
+    /// Where the widget stands in the part of the column that shows.
+    int placeOf(const QWidget* widget) const;
+
     QScrollArea* m_scrollArea;
     QFrame* m_content;
     QGridLayout* m_grid;

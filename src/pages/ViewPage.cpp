@@ -138,10 +138,10 @@ void ViewPage::findRows()
     m_maxRateRow = widgets({"maxRateLabel", "maxRateSpin"});
     m_bufferRows = widgets({"groupBoxBuffers", "bitrateBufferSpin"});
     m_quantizerRows =
-        widgets({"quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel",
+        widgets({"line_3", "quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel",
                  "quantBSpin", "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"});
-    m_sizeRows = widgets({"iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel",
-                          "bSizeSpin", "brSizeLabel", "brSizeSpin"});
+    m_sizeRows = widgets({"line_2", "iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin",
+                          "bSizeLabel", "bSizeSpin", "brSizeLabel", "brSizeSpin"});
     m_bufferLabel = control<QLabel>("bitrateBufferLabel");
     m_vbvInitialLabel = control<QLabel>("vbvInitialLabel");
     m_vbvTargetLabel = control<QLabel>("vbvTargetLabel");

@@ -93,10 +93,9 @@ const char* const radio = "QRadioButton";
 QVector<Built> videoFormat()
 {
     const char* const page = "VideoFormatPage";
-    const Properties size =
-        range(16, 4096, 2, 352) + tracking(false) + plusMinus + width(60, 60, 200000);
-    const Properties pixels =
-        range(-1, 1000, 1, 1) + tracking(true) + plusMinus + width(60, 60, 200000);
+    const Properties pair = width(60, 60, 200000) + aligned(Qt::AlignRight);
+    const Properties size = range(16, 4096, 2, 352) + tracking(false) + plusMinus + pair;
+    const Properties pixels = range(-1, 1000, 1, 1) + tracking(true) + plusMinus + pair;
     Properties height = size;
     height[3].second = 288;
     const Properties list = width(140, 140) + Properties{{"enabled", true}};
@@ -173,8 +172,10 @@ QVector<Built> advancedPages()
 
         {motion, "macroSearchList", comboBox, width(140, 140)},
         {motion, "subSearchList", comboBox, width(140, 140)},
-        {motion, "refFramesSpin", spinBox, spin(0, 99, 0, 140) + tracking(true)},
-        {motion, "searchRangeSpin", spinBox, spin(0, 99, 0, 140) + tracking(true)},
+        {motion, "refFramesSpin", spinBox,
+         spin(0, 99, 0, 140) + tracking(true) + aligned(Qt::AlignRight)},
+        {motion, "searchRangeSpin", spinBox,
+         spin(0, 99, 0, 140) + tracking(true) + aligned(Qt::AlignRight)},
         {motion, "weightedPCheck", checkBox, check("Weighted prediction for P-frames")},
         {motion, "fastRefCheck", checkBox, check("Fast multi-reference frame search")},
         {motion, "fastSubCheck", checkBox, check("Fast sub-block search")},
@@ -198,9 +199,10 @@ QVector<Built> advancedPages()
         {misc, "deblockingCheck", checkBox, check("Deblocking filter")},
         {misc, "entropyList", comboBox, width(140, 140)},
         {misc, "threadsSpin", spinBox,
-         spin(0, 16, 9, 140) + tracking(true) +
+         spin(0, 16, 9, 140) + tracking(true) + aligned(Qt::AlignRight) +
              Properties{{"specialValueText", QStringLiteral("Auto")}}},
-        {misc, "slicesSpin", spinBox, spin(1, 99999, 1, 140) + tracking(true)},
+        {misc, "slicesSpin", spinBox,
+         spin(1, 99999, 1, 140) + tracking(true) + aligned(Qt::AlignRight)},
     };
 }
 
@@ -208,7 +210,8 @@ QVector<Built> viewsPages()
 {
     const char* const views = "ViewsPage";
     QVector<Built> all = {
-        {views, "numViewsSpin", spinBox, range(0, 3, 1, 0) + tracking(true)},
+        {views, "numViewsSpin", spinBox,
+         range(0, 3, 1, 0) + tracking(true) + aligned(Qt::AlignRight)},
         {views, "splitCheck", checkBox, check("Split views")},
         {"BasicPage", "deviceList", comboBox,
          width(250, 2000000, 2000000) + Properties{{"count", 0}}},

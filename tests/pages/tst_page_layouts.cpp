@@ -30,6 +30,9 @@ private Q_SLOTS:
     void labelIsBold_data();
     void labelIsBold();
     void viewPageEndsWithASpacerInRow16();
+    void pageEndsWithItsLastRow_data();
+    void pageEndsWithItsLastRow();
+    void fieldsOfThePictureFormatEndAtOneEdge();
 };
 
 namespace
@@ -489,6 +492,61 @@ void PageLayoutsTest::viewPageEndsWithASpacerInRow16()
         QCOMPARE(lastRow, 16);
         QCOMPARE(grid->rowCount(), 17);
     }
+}
+
+// Those without a spacer of a size that is to be seen.
+void PageLayoutsTest::pageEndsWithItsLastRow_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("mode");
+    const auto row = [](const char* page, int tab, const char* mode = "") {
+        QTest::addRow("%s%s%s", page, *mode ? ", " : "", mode)
+            << tab << QString(QLatin1String(mode));
+    };
+    row("VideoFormatPage", 0);
+    row("MotionEstimationPage", 1);
+    for (const char* mode :
+         {"Constant Bitrate", "Variable Bitrate", "Const. Quality - Constant Quantizer",
+          "Const. Quality - Average Quantizer"})
+        row("View0Page", 2, mode);
+}
+
+void PageLayoutsTest::pageEndsWithItsLastRow()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, mode);
+    AllPages pages;
+    pages.window()->setCurrentIndex(tab);
+    QVERIFY(pages.show());
+    ConfigState state = stateOf(&Control::a);
+    state.insert(QStringLiteral("Bitrate Mode V0"), mode);
+    pages.receive(state);
+    const QString page =
+        QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(','), 0, 0);
+    const auto* const found = pages.window()->findChild<QWidget*>(QLatin1Char('I') + page);
+    QVERIFY(found && found->isVisible());
+    const auto roomBelow = [found] {
+        int bottom = 0;
+        for (const QWidget* widget :
+             found->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            if (widget->isVisible())
+                bottom = qMax(bottom, widget->geometry().bottom() + 1);
+        return found->height() - bottom;
+    };
+    QTRY_COMPARE(roomBelow(), 4);
+}
+
+void PageLayoutsTest::fieldsOfThePictureFormatEndAtOneEdge()
+{
+    AllPages pages;
+    QVERIFY(pages.show());
+    const auto right = [&pages](const char* name) {
+        return findOnPage(pages.window(), QLatin1String(video), QLatin1String(name))
+            ->geometry()
+            .right();
+    };
+    for (const char* name : {"heightSpin", "pixelYSpin", "aspectRatioList", "interlaceList"})
+        QCOMPARE(right(name), right("framerateList"));
 }
 
 QTEST_MAIN(PageLayoutsTest)

@@ -31,6 +31,12 @@ private Q_SLOTS:
     void gridClosesUpOverACollapsedPage();
     void areaScrollsWhenSectionsAreTallerThanTheBox();
     void buttonIsNamedAfterItsSection();
+    void focusedControlStaysWhereItIs_data();
+    void focusedControlStaysWhereItIs();
+    void focusedControlStaysInSightAtTheEnds();
+    void columnStaysWithoutAFocusedControl();
+    void sectionsStayTogetherInAHighBox();
+    void backgroundIsThatOfTheWindowBehind();
 };
 
 namespace
@@ -85,6 +91,29 @@ public:
 
 private:
     bool isVisible(int section) const { return pages[section]->isVisible(); }
+};
+
+/// Three sections of 300 pixels in a box of 250, scrolled down to the second.
+class Scrolled : public ThreeSections
+{
+public:
+    Scrolled()
+    {
+        for (QLabel* label : labels) {
+            label->setFixedHeight(300);
+            label->setFocusPolicy(Qt::StrongFocus);
+        }
+        ready = show(250);
+        bar()->setValue(350);
+    }
+
+    QScrollBar* bar() const { return area->verticalScrollBar(); }
+    int placeOf(const QWidget* widget) const
+    {
+        return widget->mapTo(area->viewport(), QPoint()).y();
+    }
+
+    bool ready = false;
 };
 
 void click(QToolButton* button)
@@ -279,6 +308,93 @@ void ToolBoxTest::buttonIsNamedAfterItsSection()
         QVERIFY(!sections.buttons[i]->toolTip().isEmpty());
         QCOMPARE(sections.title(i)->buddy(), sections.buttons[i]);
     }
+}
+
+void ToolBoxTest::focusedControlStaysWhereItIs_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("rows above go") << 300 << 150;
+    QTest::newRow("rows above come") << 300 << 450;
+    QTest::newRow("nothing changes") << 300 << 300;
+}
+
+void ToolBoxTest::focusedControlStaysWhereItIs()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    sections.labels[1]->setFocus();
+    QCOMPARE(sections.labels[0]->height(), before);
+    const int place = sections.placeOf(sections.labels[1]);
+    QVERIFY(place > -250 && place < 250);
+    sections.box.keepFocusInPlace([&] { sections.labels[0]->setFixedHeight(after); });
+    // At once, so that nothing else is ever painted.
+    QCOMPARE(sections.placeOf(sections.labels[1]), place);
+    QCOMPARE(sections.labels[0]->height(), after);
+    QCoreApplication::processEvents();
+    QCOMPARE(sections.placeOf(sections.labels[1]), place);
+}
+
+void ToolBoxTest::focusedControlStaysInSightAtTheEnds()
+{
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    auto* const button = sections.buttons[2];
+    button->setFocus();
+    sections.area->ensureWidgetVisible(button);
+    // So little is left that the column cannot be scrolled that far.
+    sections.box.keepFocusInPlace([&] {
+        sections.labels[0]->setFixedHeight(10);
+        sections.labels[2]->hide();
+    });
+    QCOMPARE(sections.bar()->value(), sections.bar()->maximum());
+    const QRect shown(QPoint(0, sections.placeOf(button)), button->size());
+    QVERIFY(sections.area->viewport()->rect().contains(shown));
+}
+
+void ToolBoxTest::columnStaysWithoutAFocusedControl()
+{
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    sections.box.setFocus();
+    sections.box.keepFocusInPlace([&] { sections.labels[0]->setFixedHeight(400); });
+    QCoreApplication::processEvents();
+    QCOMPARE(sections.bar()->value(), 350);
+}
+
+void ToolBoxTest::sectionsStayTogetherInAHighBox()
+{
+    ThreeSections sections;
+    // As the pages of the dialog end.
+    for (QFrame* page : sections.pages)
+        static_cast<QVBoxLayout*>(page->layout())->addStretch();
+    QVERIFY(sections.show(900));
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(sections.pages[i]->height() < 150);
+    QVERIFY(sections.title(2)->geometry().bottom() < 400);
+}
+
+void ToolBoxTest::backgroundIsThatOfTheWindowBehind()
+{
+    QWidget window;
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::Window, Qt::cyan);
+    window.setPalette(palette);
+    ThreeSections sections;
+    sections.box.setParent(&window);
+    // The sections' own palette is another.
+    sections.box.setPalette(QPalette(Qt::gray));
+    sections.box.resize(300, 600);
+    window.resize(300, 600);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QColor below = window.grab().toImage().pixelColor(150, 590);
+    QCOMPARE(below, QColor(Qt::cyan));
+    const QRect title = sections.title(0)->geometry();
+    QCOMPARE(window.grab().toImage().pixelColor(title.right() - 2, title.center().y()),
+             QColor(Qt::cyan));
 }
 
 QTEST_MAIN(ToolBoxTest)

@@ -563,11 +563,11 @@ void ViewPageTest::modeAndHrdDecideWhatIsVisible()
          {"groupBoxBuffers", "bitrateBufferSpin", "bitrateBufferLabel", "vbvInitialSpin",
           "vbvTargetSpin", "units1Radio", "onesecCheck"}},
         {"sizes",
-         {"iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel", "bSizeSpin",
+         {"line_2", "iSizeLabel", "iSizeSpin", "pSizeLabel", "pSizeSpin", "bSizeLabel", "bSizeSpin",
           "brSizeLabel", "brSizeSpin"}},
         {"quantizers",
-         {"quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel", "quantBSpin",
-          "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"}},
+         {"line_3", "quantILabel", "quantISpin", "quantPLabel", "quantPSpin", "quantBLabel",
+          "quantBSpin", "maxQuantLabel", "maxQuantSpin", "minQuantLabel", "minQuantSpin"}},
     };
     QFETCH(QStringList, visible);
     // From everything that can be shown, and from what has nothing in common with it.
