@@ -10,6 +10,7 @@
 #include "model/StateToSettings.h"
 #include "pages/AdvancedPage.h"
 #include "pages/BasicPage.h"
+#include "pages/ControlLabel.h"
 #include "pages/ViewsPage.h"
 #include "pages/WheelGuard.h"
 
@@ -107,6 +108,7 @@ void AVCVideoEncoderDlg::buildPresetRow()
     ui.presetList->addItems(m_vocabulary.videoTypes().keys());
     // A turn of the wheel in passing would replace every setting.
     WheelGuard::protect(ui.presetList);
+    ControlLabel::attachBuddies(ui.presetList);
 }
 
 void AVCVideoEncoderDlg::buildPages()
@@ -277,8 +279,14 @@ void AVCVideoEncoderDlg::slotAccept()
     const QPointer<AVCVideoEncoderDlg> self(this);
     if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget()))
         field->interpretText();
-    if (!self || !check())
+    if (!self)
         return;
+    if (!check()) {
+        // The same messages may have been there before: that nothing happened must not be all.
+        if (self)
+            messageLog().pointOutError();
+        return;
+    }
     *m_caller = m_record.settings;
     accept();
 }

@@ -42,6 +42,8 @@ bool mayOverwrite()
         QCoreApplication::translate("AVCVideoEncoderDlg",
                                     "File already exists.\nDo you want to overwrite it?"),
         QMessageBox::Yes | QMessageBox::No);
+    // Typing a name and pressing Enter once too often shall not cost a file.
+    question.setDefaultButton(QMessageBox::No);
     question.setAttribute(Qt::WA_QuitOnClose, false);
     return question.exec() == QMessageBox::Yes;
 }
@@ -126,7 +128,8 @@ bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
     } else if (watched == ui.tabWidget && event->type() == QEvent::Drop) {
         dropOnTabs(static_cast<QDropEvent*>(event));
     }
-    // What was dropped was checked; the host may have deleted this dialog while it showed a message.
+    // What was dropped was checked; the host may have deleted this dialog while it showed a
+    // message.
     return !self || QDialog::eventFilter(watched, event);
 }
 

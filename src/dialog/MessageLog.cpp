@@ -89,14 +89,39 @@ int printProgress(const char*, ...)
     return 0;
 }
 
-/// Past the empty paragraphs before it.
-void scrollToFirstMessage(QTextEdit* log)
+/// The state of the paragraph that the errors begin with.
+constexpr int errorsBegin = 1;
+
+/// The first error, else the first message: what there is to do comes before what there is to know.
+QTextBlock firstToRead(const QTextEdit* log)
 {
     QTextBlock first = log->document()->begin();
-    while (first.next().isValid() && first.text().isEmpty())
-        first = first.next();
+    for (QTextBlock block = first; block.isValid(); block = block.next()) {
+        if (block.text().isEmpty())
+            continue;
+        if (block.userState() == errorsBegin)
+            return block;
+        if (first.text().isEmpty())
+            first = block;
+    }
+    return first;
+}
+
+void scrollToFirstToRead(QTextEdit* log)
+{
+    // From below, so that it becomes the topmost line.
     log->moveCursor(QTextCursor::End);
-    log->setTextCursor(QTextCursor(first));
+    log->setTextCursor(QTextCursor(firstToRead(log)));
+}
+
+/// What does not fit a line goes on under the message, not under its beginning.
+QTextBlockFormat hangingIndent()
+{
+    constexpr int indent = 12;
+    QTextBlockFormat format;
+    format.setLeftMargin(indent);
+    format.setTextIndent(-indent);
+    return format;
 }
 
 } // namespace
@@ -126,25 +151,46 @@ void MessageLog::rewriteWidget() const
     const struct {
         const QString& messages;
         const QColor& colour;
-    } blocks[] = {{warnings, warningColour}, {errors, errorColour}, {notes, noteColour}};
+        int state;
+    } blocks[] = {
+        {warnings, warningColour, -1}, {errors, errorColour, errorsBegin}, {notes, noteColour, -1}};
+    const QTextBlockFormat paragraph = hangingIndent();
 
     widget->clear();
     QTextCursor cursor(widget->document());
     cursor.beginEditBlock();
+    cursor.setBlockFormat(paragraph);
     for (const auto& block : blocks) {
         QTextCharFormat format;
         format.setForeground(block.colour);
         if (&block != blocks)
-            cursor.insertBlock(QTextBlockFormat(), format);
+            cursor.insertBlock(paragraph, format);
+        QTextBlock first = cursor.block();
         cursor.insertText(block.messages, format);
+        first.setUserState(block.state);
     }
     cursor.endEditBlock();
 
-    scrollToFirstMessage(widget);
+    scrollToFirstToRead(widget);
     // Before it is shown the log does not know yet how much of the text it has room for.
     if (!widget->isVisible())
         QMetaObject::invokeMethod(
-            widget, [log = widget.data()] { scrollToFirstMessage(log); }, Qt::QueuedConnection);
+            widget, [log = widget.data()] { scrollToFirstToRead(log); }, Qt::QueuedConnection);
+}
+
+void MessageLog::pointOutError() const
+{
+    if (!widget || !widget->isVisible())
+        return;
+    widget->setFocus();
+    const QTextBlock block = firstToRead(widget);
+    QTextCursor cursor(block);
+    if (block.userState() == errorsBegin) {
+        // Backwards, so that its beginning is what is scrolled to.
+        cursor.movePosition(QTextCursor::EndOfBlock);
+        cursor.setPosition(block.position(), QTextCursor::KeepAnchor);
+    }
+    widget->setTextCursor(cursor);
 }
 
 KvMvcFunction lookUpCheckFunction(const char* name)

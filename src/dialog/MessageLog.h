@@ -27,6 +27,8 @@ struct MessageLog {
     /// Shows the collected messages: warnings, errors, notes, each block in its colour; a block
     /// without messages is an empty paragraph.
     void rewriteWidget() const;
+    /// Gives the log the focus, with the first error selected.
+    void pointOutError() const;
 };
 
 MessageLog& messageLog();

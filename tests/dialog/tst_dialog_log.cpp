@@ -8,8 +8,10 @@
 #include "dialog/MessageLog.h"
 
 #include <QMessageBox>
+#include <QSpinBox>
 #include <QTest>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include <cstring>
 
@@ -75,6 +77,12 @@ private Q_SLOTS:
     void textOutsideAscii();
     void formatsAreTranslatedFirst();
     void startsReadingAtTheFirstMessage();
+    void startsReadingAtTheFirstErrorBelowWarnings();
+    void refusedOkPointsOutTheFirstError_data();
+    void refusedOkPointsOutTheFirstError();
+    void refusedOkWithoutAnErrorShowsTheLog();
+    void editDoesNotTakeTheFocusToTheLog();
+    void wrappedMessagesHang();
     void lookup_data();
     void lookup();
     void lookupAllocates();
@@ -254,6 +262,110 @@ void TestDialogLog::startsReadingAtTheFirstMessage()
     dialog.probe().check();
     QCOMPARE(dialog.log()->textCursor().block().text(), QStringLiteral("note 0"));
     QVERIFY(!dialog.log()->textCursor().hasSelection());
+}
+
+namespace
+{
+
+/// More of each than the log can show.
+int manyOfEach(KvMvcLookup lookUp, KvMvcSettings&)
+{
+    for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"})
+        for (int i = 0; i < 20; ++i)
+            print(lookUp, sink, "%s %d", sink, i);
+    return 1;
+}
+
+/// The text of the line at the log's upper edge.
+QString topLine(const OpenDialog& dialog)
+{
+    return dialog.log()->cursorForPosition({20, 3}).block().text();
+}
+
+} // namespace
+
+void TestDialogLog::startsReadingAtTheFirstErrorBelowWarnings()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = manyOfEach;
+    dialog.probe().check();
+    QCOMPARE(topLine(dialog), QStringLiteral("err_printf 0"));
+    QCOMPARE(dialog.log()->textCursor().block().text(), QStringLiteral("err_printf 0"));
+    QVERIFY(!dialog.log()->textCursor().hasSelection());
+}
+
+void TestDialogLog::refusedOkPointsOutTheFirstError_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::newRow("short") << QStringLiteral("too wide");
+    QTest::newRow("longer than the log is high") << QStringLiteral("too wide ").repeated(90);
+}
+
+void TestDialogLog::refusedOkPointsOutTheFirstError()
+{
+    QFETCH(QString, first);
+    OpenDialog dialog;
+    dialog.companions.onCheck = [&first](KvMvcLookup lookUp, KvMvcSettings&) {
+        for (int i = 0; i < 20; ++i)
+            print(lookUp, "wrn_printf", "warning %d", i);
+        print(lookUp, "err_printf", "%s", qPrintable(first));
+        print(lookUp, "err_printf", "too high");
+        for (int i = 0; i < 20; ++i)
+            print(lookUp, "inf_printf", "note %d", i);
+        return 1;
+    };
+    // Once more with the same messages: the user has to see that it was refused again.
+    for (int press = 0; press < 2; ++press) {
+        dialog.log()->moveCursor(QTextCursor::End);
+        user::click(dialog.button("buttonOk"));
+        QVERIFY(dialog->isVisible());
+        QVERIFY(dialog.log()->hasFocus());
+        QCOMPARE(dialog.log()->textCursor().selectedText(), first);
+        QCOMPARE(topLine(dialog), first);
+    }
+    // Until the next check, which has messages of its own.
+    dialog.probe().check();
+    QVERIFY(!dialog.log()->textCursor().hasSelection());
+}
+
+void TestDialogLog::refusedOkWithoutAnErrorShowsTheLog()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = [](KvMvcLookup, KvMvcSettings&) { return 1; };
+    user::click(dialog.button("buttonOk"));
+    QVERIFY(dialog.log()->hasFocus());
+    QVERIFY(!dialog.log()->textCursor().hasSelection());
+}
+
+void TestDialogLog::editDoesNotTakeTheFocusToTheLog()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = manyOfEach;
+    auto* const width = findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin");
+    width->setFocus();
+    QTest::keyClick(width, Qt::Key_Up);
+    QVERIFY(width->hasFocus());
+    QVERIFY(!dialog.log()->textCursor().hasSelection());
+}
+
+void TestDialogLog::wrappedMessagesHang()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
+        for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"})
+            print(lookUp, sink, "%s", qPrintable(QStringLiteral("too wide ").repeated(20)));
+        return 0;
+    };
+    dialog.probe().check();
+    int wrapped = 0;
+    const QTextDocument* const document = dialog.log()->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const QTextLayout* const layout = block.layout();
+        const qreal begin = layout->lineAt(0).x();
+        for (int line = 1; line < layout->lineCount(); ++line, ++wrapped)
+            QVERIFY(layout->lineAt(line).x() >= begin + 8);
+    }
+    QVERIFY(wrapped >= 3);
 }
 
 void TestDialogLog::lookup_data()

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init() { failOnToolkitWarnings(); }
 
     void listInTheOrderOfNames();
+    void labelShowsTheTipOfTheList();
     void choosingCallsTheDefaultsOnce_data();
     void choosingCallsTheDefaultsOnce();
     void choosingTheSameAgainRestoresIt();
@@ -44,6 +45,14 @@ void TestDialogPresets::listInTheOrderOfNames()
         QVERIFY(list->itemIcon(i).isNull());
         QVERIFY(!list->itemData(i).isValid());
     }
+}
+
+void TestDialogPresets::labelShowsTheTipOfTheList()
+{
+    OpenDialog dialog;
+    const auto* const label = dialog->findChild<QLabel*>(QStringLiteral("presetLabel"));
+    QVERIFY(!label->toolTip().isEmpty());
+    QCOMPARE(label->toolTip(), dialog.presetList()->toolTip());
 }
 
 void TestDialogPresets::choosingCallsTheDefaultsOnce_data()
