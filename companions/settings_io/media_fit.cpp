@@ -180,7 +180,7 @@ std::vector<std::string> refusals(const Verdict& verdict)
     const std::string note = "the encoder refuses the settings";
     std::vector<std::string> notes;
     for (const std::string& error : verdict.errors)
-        notes.push_back(note + ": " + error);
+        notes.emplace_back(note).append(": ").append(error);
     return notes.empty() ? std::vector{note} : notes;
 }
 
