@@ -98,7 +98,7 @@ Invocation parseCommandLine(std::span<const Command> commands, const QStringList
     if (arguments.size() < 2) {
         refuse(nullptr, QStringLiteral("no command"));
     }
-    const QString first = arguments.at(1);
+    const QString& first = arguments.at(1);
     if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
         call.text = programHelp(commands).toUtf8();
         return call;

@@ -83,7 +83,7 @@ QString nameForLibrary(const QString& path)
     if (!looksEncodedTwice(path)) {
         return path;
     }
-    const QString encoded = QString::fromLatin1(path.toUtf8());
+    QString encoded = QString::fromLatin1(path.toUtf8());
     if (isNameTaken(encoded) && !isNameTaken(path)) {
         throw Failure(
             QStringLiteral("cannot write '%1': the settings file library would take it for '%2', "

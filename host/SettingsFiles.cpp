@@ -96,10 +96,12 @@ SettingsFiles::SettingsFiles(const QString& directory)
 
 KvMvcSettings SettingsFiles::read(const QString& path) const
 {
-    requireReadable(path);
+    const bool standard = isStandardInput(path);
+    if (!standard) {
+        requireReadable(path);
+    }
     NamedFile file = {path, path};
     std::optional<ReadableText> text;
-    const bool standard = isStandardInput(path);
     if (standard || fileState(path).kind == FileState::Stream) {
         file.shown = standard ? QStringLiteral("<stdin>") : path;
         text.emplace(standard ? readStandardInput() : readStream(path));
@@ -157,9 +159,6 @@ bool isStandardOutput(const QString& path)
 void requireReadable(const QString& path)
 {
     // Not opened here: the reader does, and has its own words for what it finds inside.
-    if (isStandardInput(path)) {
-        return;
-    }
     const FileState state = fileState(path);
     const auto refuse = [&](const QString& reason) {
         throw Failure(QStringLiteral("cannot read '%1': %2").arg(path, reason));

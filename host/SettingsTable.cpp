@@ -202,7 +202,7 @@ const ValueName* findName(std::span<const ValueName> names, qint32 value)
 /// As the dialog shows it, and with the unit.
 QString withUnit(const Setting& setting, qint32 number, QLatin1String unit)
 {
-    const QString digits = QString::number(qint64{number} - setting.shownLess);
+    const QString digits = QString::number(number - setting.shownLess);
     return unit.isEmpty() ? digits : digits + QLatin1Char(' ') + unit;
 }
 
@@ -358,7 +358,7 @@ qint32 requirePreset(const QString& text)
 {
     // Nobody should have to misspell a name.
     static constexpr ValueName alias = {KV_MVC_MULTIVIEW_HIGH, "Multiview High"_l1};
-    const auto folded = [](QString name) {
+    const auto folded = [](const QString& name) {
         return name.toLower().replace(QLatin1Char('-'), QLatin1Char(' '));
     };
     QStringList known;

@@ -36,7 +36,7 @@ struct Setting {
     /// Follows a number; may be empty.
     QLatin1String unit = {};
     /// The dialog shows that much less than the field holds.
-    qint32 shownLess = 0;
+    qint64 shownLess = 0;
 
     /// @return Bytes of the field.
     [[nodiscard]] std::size_t size() const;

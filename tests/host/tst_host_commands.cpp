@@ -92,6 +92,7 @@ void HostCommandsTest::wrongArgumentsGetOneLine_data()
     row("diff of one stream", text("diff - -"), "standard input can be only one of the two files");
     row("two outputs in one stream", text("check a.ini --json -o -"),
         "--json and '-o -' both write to standard output");
+    row("banner from a stream", text("edit --banner -"), "cannot read '-': there is no such file");
     QTest::newRow("empty file name")
         << QStringList{text("show"), QString()}
         << text("an argument is empty; see 'kv-mvc-settings show --help'");
