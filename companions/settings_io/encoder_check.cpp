@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 namespace kv
 {
@@ -17,27 +18,21 @@ constexpr int32_t kLastStage = 3;
 /** Where the sinks, which are told nothing else, put their messages. */
 thread_local Verdict* listening = nullptr;
 
-std::string formatted(const char* format, std::va_list arguments)
-{
-    std::va_list again;
-    va_copy(again, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, again);
-    va_end(again);
-    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
-    std::vsnprintf(text.data(), text.size() + 1, format, arguments);
-    return text;
-}
-
 /** Called by the encoder: no exception may leave. */
 template <Messages messages>
 int listen(const char* format, ...) noexcept
 {
     std::va_list arguments;
     va_start(arguments, format);
-    if (listening)
-        (listening->*messages).push_back(formatted(format, arguments));
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
-    return 0;
+    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
+    va_start(arguments, format);
+    std::vsnprintf(text.data(), text.size() + 1, format, arguments);
+    va_end(arguments);
+    if (listening)
+        (listening->*messages).push_back(std::move(text));
+    return length;
 }
 
 int ignore(const char*, ...) noexcept
