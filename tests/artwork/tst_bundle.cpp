@@ -18,6 +18,12 @@ const QStringList iconNames = {
     QStringLiteral("right"),  QStringLiteral("save"), QStringLiteral("up"),
 };
 
+// What the metal skin shows of a control that cannot be used, or not that way.
+const QStringList greyIconNames = {
+    QStringLiteral("down-off"), QStringLiteral("minus-off"), QStringLiteral("ok-off"),
+    QStringLiteral("plus-off"), QStringLiteral("up-off"),
+};
+
 QString iconPath(const QString& name, const QString& density = QString())
 {
     return QStringLiteral(":/res_mvc/icons/%1%2.png").arg(name, density);
@@ -55,6 +61,8 @@ private Q_SLOTS:
     void metalIsStandardZlib();
     void iconStandsOutOnEveryPalette_data();
     void iconStandsOutOnEveryPalette();
+    void greyIconIsTheOtherOnePaler_data();
+    void greyIconIsTheOtherOnePaler();
     void backgroundTilesWithoutSeams_data();
     void backgroundTilesWithoutSeams();
 };
@@ -90,7 +98,7 @@ void TestBundle::holdsNothingElse()
     for (QDirIterator it(QStringLiteral(":/res_mvc"), QDir::Files, QDirIterator::Subdirectories);
          it.hasNext(); it.next())
         ++files;
-    QCOMPARE(files, 15 * 3 + 2);
+    QCOMPARE(files, 20 * 3 + 2);
 }
 
 void TestBundle::pictureComesInThreeDensities_data()
@@ -98,7 +106,7 @@ void TestBundle::pictureComesInThreeDensities_data()
     QTest::addColumn<QString>("stem");
     QTest::addColumn<QSize>("size");
 
-    for (const QString& name : iconNames)
+    for (const QString& name : iconNames + greyIconNames)
         QTest::newRow(qPrintable(name)) << QStringLiteral("icons/") + name << QSize(16, 16);
     QTest::newRow("banner") << QStringLiteral("banners/banner") << QSize(380, 74);
     QTest::newRow("main") << QStringLiteral("backgrounds/main") << QSize(200, 100);
@@ -195,6 +203,34 @@ void TestBundle::iconStandsOutOnEveryPalette()
     }
     // On the pixel grid: solid strokes, not only softened edges.
     QVERIFY2(32 * opaque >= icon.width() * icon.height(), qPrintable(QString::number(opaque)));
+}
+
+void TestBundle::greyIconIsTheOtherOnePaler_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString& name : greyIconNames)
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void TestBundle::greyIconIsTheOtherOnePaler()
+{
+    QFETCH(QString, name);
+    const QImage grey(iconPath(name));
+    const QImage icon(iconPath(name.chopped(4)));
+    const QColor ground(251, 251, 252);
+    int opaque = 0;
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            QCOMPARE(grey.pixelColor(x, y).alpha(), icon.pixelColor(x, y).alpha());
+            if (icon.pixelColor(x, y).alpha() < 255)
+                continue;
+            ++opaque;
+            QVERIFY(grey.pixelColor(x, y).hslSaturation() < 30);
+            QVERIFY(contrast(grey.pixelColor(x, y), ground) <
+                    contrast(icon.pixelColor(x, y), ground) - 0.5);
+        }
+    }
+    QVERIFY(opaque > 0);
 }
 
 void TestBundle::backgroundTilesWithoutSeams_data()

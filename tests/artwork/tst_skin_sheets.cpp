@@ -16,6 +16,7 @@ private Q_SLOTS:
     void defaultHasExactlyTwoRules();
     void metalHasRule_data();
     void metalHasRule();
+    void metalTablesHaveTheGradientOfTheLog();
 };
 
 void TestSkinSheets::linesEndInCrLfAndAreAscii_data()
@@ -126,6 +127,20 @@ void TestSkinSheets::metalHasRule()
         if (rule.selector == selector && rule.declarations.contains(property))
             values.append(rule.declarations.value(property));
     QVERIFY2(values.contains(value), qPrintable(values.join(QLatin1String(" | "))));
+}
+
+void TestSkinSheets::metalTablesHaveTheGradientOfTheLog()
+{
+    QMap<QString, QString> backgrounds;
+    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal"))))
+        if (rule.declarations.contains(QStringLiteral("background")))
+            backgrounds.insert(rule.selector,
+                               rule.declarations.value(QStringLiteral("background")));
+    const QString log = backgrounds.value(QStringLiteral("QWidget#errorLog"));
+    QVERIFY(log.contains(QLatin1String("stop: 0 #f6f7fa")));
+    QVERIFY(log.contains(QLatin1String("stop: 1 #aaabae")));
+    QCOMPARE(backgrounds.value(QStringLiteral("QTableView")), log);
+    QCOMPARE(backgrounds.value(QStringLiteral("QTableView *")), log);
 }
 
 QTEST_GUILESS_MAIN(TestSkinSheets)

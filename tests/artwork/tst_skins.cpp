@@ -2,6 +2,7 @@
 #include "SkinSheet.h"
 #include "ToolkitWarnings.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -113,6 +114,46 @@ struct Stage {
     QPushButton* other;
 };
 
+/// A spin box on a page of that name, in the metal skin; both of its steps are open.
+struct MetalSpinBox {
+    explicit MetalSpinBox(const QString& page)
+    {
+        auto* const frame = new QFrame(&dialog);
+        frame->setObjectName(page);
+        box = new QSpinBox(frame);
+        (new QVBoxLayout(&dialog))->addWidget(frame);
+        (new QVBoxLayout(frame))->addWidget(box);
+        dialog.setStyleSheet(skinText(QStringLiteral("metal")));
+        box->setRange(-1, 1);
+        dialog.show();
+        ready = QTest::qWaitForWindowExposed(&dialog);
+    }
+
+    QImage picture(QStyle::SubControl button) const
+    {
+        QStyleOptionSpinBox option;
+        option.initFrom(box);
+        option.subControls = QStyle::SC_All;
+        const QRect place = box->style()->subControlRect(QStyle::CC_SpinBox, &option, button, box);
+        // The border's corners are round.
+        return box->grab(place.adjusted(2, 0, -3, 0)).toImage();
+    }
+
+    QDialog dialog;
+    QSpinBox* box;
+    bool ready = false;
+};
+
+/// How far the darkest pixel is from the ground of the picture's first one.
+int depthOfInk(const QImage& picture)
+{
+    int depth = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            depth = qMax(depth, qGray(picture.pixel(0, 0)) - qGray(picture.pixel(x, y)));
+    return depth;
+}
+
 /// The extent of what is drawn darker than the ground of the picture's first pixel.
 QSize inkSize(const QImage& picture)
 {
@@ -146,6 +187,13 @@ private Q_SLOTS:
     void buttonsKeepTheirSizeWhenTheSkinChanges();
     void metalSpinBoxHasSymbols_data();
     void metalSpinBoxHasSymbols();
+    void metalStepOutOfReachIsPale_data();
+    void metalStepOutOfReachIsPale();
+    void stateOfADisabledControlShows_data();
+    void stateOfADisabledControlShows();
+    void openListHasRowsToHit_data();
+    void openListHasRowsToHit();
+    void metalLogKeepsTextOffItsFrame();
 };
 
 // The text of a dark palette is light, and so is the metal: no colour may come from the palette.
@@ -289,25 +337,10 @@ void TestSkins::metalSpinBoxHasSymbols_data()
 void TestSkins::metalSpinBoxHasSymbols()
 {
     QFETCH(QString, page);
-
-    QDialog dialog;
-    auto* const frame = new QFrame(&dialog);
-    frame->setObjectName(page);
-    auto* const box = new QSpinBox(frame);
-    (new QVBoxLayout(&dialog))->addWidget(frame);
-    (new QVBoxLayout(frame))->addWidget(box);
-    dialog.setStyleSheet(skinText(QStringLiteral("metal")));
-    box->setRange(-1, 1); // both steps are open
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-
-    const auto symbol = [box](QStyle::SubControl button) {
-        QStyleOptionSpinBox option;
-        option.initFrom(box);
-        option.subControls = QStyle::SC_All;
-        const QRect place = box->style()->subControlRect(QStyle::CC_SpinBox, &option, button, box);
-        // The border's corners are round.
-        const QSize ink = inkSize(box->grab(place.adjusted(2, 0, -3, 0)).toImage());
+    const MetalSpinBox stage(page);
+    QVERIFY(stage.ready);
+    const auto symbol = [&stage](QStyle::SubControl button) {
+        const QSize ink = inkSize(stage.picture(button));
         if (ink.width() < 5)
             return QStringLiteral("nothing");
         if (5 * ink.height() <= ink.width())
@@ -318,6 +351,106 @@ void TestSkins::metalSpinBoxHasSymbols()
     const QString down = symbol(QStyle::SC_SpinBoxDown);
     QTEST(up, "up");
     QTEST(down, "down");
+}
+
+void TestSkins::metalStepOutOfReachIsPale_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::newRow("picture format") << QStringLiteral("IVideoFormatPage");
+    QTest::newRow("another page") << QStringLiteral("IMiscPage");
+}
+
+void TestSkins::metalStepOutOfReachIsPale()
+{
+    QFETCH(QString, page);
+    const MetalSpinBox stage(page);
+    QVERIFY(stage.ready);
+    const auto depths = [&stage] {
+        return QList<int>{depthOfInk(stage.picture(QStyle::SC_SpinBoxUp)),
+                          depthOfInk(stage.picture(QStyle::SC_SpinBoxDown))};
+    };
+    const QList<int> open = depths();
+    const auto isPale = [&open](const QList<int>& now, int step) {
+        return now[step] > 10 && 3 * now[step] < 2 * open[step];
+    };
+    stage.box->setValue(1);
+    const QList<int> highest = depths();
+    QVERIFY(isPale(highest, 0));
+    QCOMPARE(highest[1], open[1]);
+    stage.box->setValue(-1);
+    const QList<int> lowest = depths();
+    QCOMPARE(lowest[0], open[0]);
+    QVERIFY(isPale(lowest, 1));
+    stage.box->setValue(0);
+    stage.box->setEnabled(false);
+    const QList<int> disabled = depths();
+    QVERIFY(isPale(disabled, 0) && isPale(disabled, 1));
+}
+
+void TestSkins::stateOfADisabledControlShows_data()
+{
+    QTest::addColumn<QString>("skinName");
+    QTest::addColumn<QString>("control");
+    for (const char* skin : {"default", "metal"})
+        for (const char* control : {"check box", "radio button"})
+            QTest::addRow("%s, %s", skin, control)
+                << QString::fromLatin1(skin) << QString::fromLatin1(control);
+}
+
+void TestSkins::stateOfADisabledControlShows()
+{
+    QFETCH(QString, skinName);
+    QFETCH(QString, control);
+    const auto picture = [&](bool checked) {
+        Stage stage(control, skinName);
+        auto* const button = qobject_cast<QAbstractButton*>(stage.control);
+        button->setAutoExclusive(false);
+        button->setChecked(checked);
+        button->setEnabled(false);
+        return stage.picture().copy(0, 0, 20, stage.control->height());
+    };
+    const QImage off = picture(false);
+    const QImage on = picture(true);
+    int changed = 0;
+    for (int y = 0; y < on.height(); ++y) {
+        for (int x = 0; x < on.width(); ++x) {
+            changed += qAbs(qGray(on.pixel(x, y)) - qGray(off.pixel(x, y))) > 40;
+            // What cannot be changed has no colour.
+            QVERIFY(on.pixelColor(x, y).hslSaturation() < 60);
+        }
+    }
+    QVERIFY2(changed >= 10, qPrintable(QString::number(changed)));
+}
+
+void TestSkins::openListHasRowsToHit_data()
+{
+    QTest::addColumn<QString>("skinName");
+    QTest::newRow("default") << QStringLiteral("default");
+    QTest::newRow("metal") << QStringLiteral("metal");
+}
+
+void TestSkins::openListHasRowsToHit()
+{
+    QFETCH(QString, skinName);
+    Stage stage(QStringLiteral("combo box"), skinName);
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.dialog));
+    auto* const list = qobject_cast<QComboBox*>(stage.control);
+    list->showPopup();
+    const int rows = list->view()->sizeHintForRow(0);
+    list->hidePopup();
+    QVERIFY2(rows >= list->fontMetrics().height() + 6, qPrintable(QString::number(rows)));
+}
+
+void TestSkins::metalLogKeepsTextOffItsFrame()
+{
+    Stage stage(QStringLiteral("log"), QStringLiteral("metal"));
+    auto* const log = qobject_cast<QTextEdit*>(stage.control);
+    log->setFixedHeight(72); // as in the dialog
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.dialog));
+    constexpr int frame = 2;
+    const QRect viewport = log->viewport()->geometry();
+    QVERIFY(viewport.top() >= frame + 3);
+    QVERIFY(log->height() - viewport.bottom() - 1 >= frame + 3);
 }
 
 QTEST_MAIN(TestSkins)

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void bannerIsSetAgainEachTime_data();
     void bannerIsSetAgainEachTime();
     void editsSurviveASkin();
+    void bannerFillsItsFrame_data();
+    void bannerFillsItsFrame();
 };
 
 void TestDialogSkins::opensInTheDefaultSkin()
@@ -120,6 +122,55 @@ void TestDialogSkins::editsSurviveASkin()
     QTest::keyClick(dialog.get(), Qt::Key_F6);
     QCOMPARE(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin")->value(), 640);
     QCOMPARE(int(dialog.probe().record().settings.views[0].width), 640);
+}
+
+void TestDialogSkins::bannerFillsItsFrame_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("border");
+    QTest::addColumn<int>("radius");
+    QTest::newRow("default") << int(Qt::Key_F5) << 1 << 0;
+    QTest::newRow("metal") << int(Qt::Key_F6) << 2 << 10;
+}
+
+// The picture is dark, the frame and what is behind it are light.
+void TestDialogSkins::bannerFillsItsFrame()
+{
+    QFETCH(int, key);
+    QFETCH(int, border);
+    QFETCH(int, radius);
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key(key));
+    QCoreApplication::processEvents();
+    const auto* const banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame"));
+    const QImage picture = dialog->grab(banner->geometry()).toImage();
+    const QRect whole = picture.rect();
+    const QRect inside = whole.adjusted(border, border, -border, -border);
+    const auto isInCorner = [&](int x, int y) {
+        const int across = qMin(x, whole.right() - x);
+        const int down = qMin(y, whole.bottom() - y);
+        return across < radius && down < radius;
+    };
+    const auto isDark = [&picture](int x, int y) { return qGray(picture.pixel(x, y)) < 115; };
+    for (int x = 0; x < whole.width(); ++x) {
+        for (const int y : {inside.top(), inside.bottom()})
+            QVERIFY2(isDark(x, y) || isInCorner(x, y) || !inside.contains(x, y),
+                     qPrintable(QStringLiteral("light at %1, %2").arg(x).arg(y)));
+        for (const int y : {0, whole.bottom()})
+            QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
+    }
+    for (int y = 0; y < whole.height(); ++y) {
+        for (const int x : {inside.left(), inside.right()})
+            QVERIFY2(isDark(x, y) || isInCorner(x, y) || !inside.contains(x, y),
+                     qPrintable(QStringLiteral("light at %1, %2").arg(x).arg(y)));
+        for (const int x : {0, whole.right()})
+            QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
+    }
+    // A round frame, near the diagonal of its corners.
+    if (radius > 0)
+        for (const int x : {2, whole.right() - 2})
+            for (const int y : {3, whole.bottom() - 3})
+                QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
 }
 
 QTEST_MAIN(TestDialogSkins)
