@@ -6,24 +6,29 @@
 // | step            | does                                                                |
 // |-----------------|---------------------------------------------------------------------|
 // | flags=NUMBER    | the flags of the next calls                                          |
-// | ext=KIND        | null, application, window=ID; with "record:" before it, in a record  |
-// |                 | of the host (bit 29); "record" is a null record                      |
+// | ext=KIND        | null, application, window=ID, foreign; with "record:" before it, in a |
+// |                 | record of the host (bit 29); "record" is a null record               |
 // | title=, banner= | of the record                                                        |
 // | press=WHAT      | ok, cancel, close: what is done in the dialog; "again": the module    |
 // |                 | is called once more, while the dialog is open, which is then left     |
 // | call            | calls the module: "result", "changed", "record flags"                |
 // | call-null       | calls it without settings                                            |
-// | mapped          | names what of the host's and the module's folders is mapped          |
+// | mapped          | names what of the module, companions and stubs is mapped, without the |
+// |                 | platform's extension                                                 |
 // | application     | makes an application object; "delete" deletes it                     |
 // | instance        | says whether there is an application object                          |
 // | window, unwindow| shows a window of the host's application; closes it                  |
+// | foreign         | opens a window of the window system's own, without the toolkit       |
+// | foreign-state   | says whether it is enabled, active and focused                       |
 // | run             | runs the application's event loop until the last window is closed    |
 // | stay            | has the application outlive its last window, if nothing else ends it   |
 // | locale          | says which the process has                                           |
 // | translate       | says what "Views" is called in the application                        |
 // | unload          | unloads the module                                                   |
-// | remove=FILE     | removes a file beside the module                                     |
-// | replace=FILE    | puts "replacement.so" in the place of a file beside the module       |
+// | remove=LIBRARY  | takes away a library, mapped or not, that lies beside the module     |
+// | replace=LIBRARY | puts "replacement" in the place of one that is not mapped            |
+
+#include "HostSystem.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -34,14 +39,12 @@
 #include <QTextEdit>
 #include <QTimer>
 
-#include <dlfcn.h>
-
 #include <kv_config_gui_mvc/config_gui.h>
 
 #include <clocale>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
@@ -57,10 +60,17 @@ void say(const QString& line)
 
 QString what = QStringLiteral("cancel");
 KvShowMvcEncoderPages showAgain = nullptr;
+void* foreignWindow = nullptr;
 
 QString yesNo(bool yes)
 {
     return yes ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+void describeForeignWindow()
+{
+    say(QStringLiteral("foreign ") +
+        QString::fromStdString(host_system::stateOf(foreignWindow)).trimmed());
 }
 
 void describe(QDialog* dialog)
@@ -81,6 +91,8 @@ void describe(QDialog* dialog)
         say(QStringLiteral("log ") + log->toPlainText().simplified());
     if (const auto* banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame")))
         say(QStringLiteral("banner %1").arg(banner->pixmap(Qt::ReturnByValue).width()));
+    if (foreignWindow)
+        describeForeignWindow();
 }
 
 void press(QDialog* dialog)
@@ -118,7 +130,7 @@ void watchDialogs()
 }
 
 struct Host {
-    std::string modulePath;
+    std::filesystem::path modulePath;
     void* module = nullptr;
     KvShowMvcEncoderPages show = nullptr;
 
@@ -138,17 +150,20 @@ struct Host {
     void setExt(std::string kind);
     void call(KvMvcSettings* edited);
     void mapped() const;
+    std::filesystem::path libraryBeside(const std::string& name) const;
     bool step(const std::string& text);
 };
 
 bool Host::load()
 {
-    module = dlopen(modulePath.c_str(), RTLD_NOW | RTLD_LOCAL);
+    std::string error;
+    module = host_system::openLibrary(modulePath, error);
     if (!module) {
-        say(QString::fromUtf8(dlerror()));
+        say(QString::fromStdString(error));
         return false;
     }
-    show = reinterpret_cast<KvShowMvcEncoderPages>(dlsym(module, "showMVCEncoderPages"));
+    show = reinterpret_cast<KvShowMvcEncoderPages>(
+        host_system::findFunction(module, "showMVCEncoderPages"));
     showAgain = show;
     return show != nullptr;
 }
@@ -163,8 +178,10 @@ void Host::setExt(std::string kind)
     parent = nullptr;
     if (kind == "application")
         parent = application.get();
+    else if (kind == "foreign")
+        parent = foreignWindow;
     else if (kind.compare(0, 7, "window=") == 0)
-        parent = reinterpret_cast<void*>(std::stoul(kind.substr(7), nullptr, 0));
+        parent = reinterpret_cast<void*>(uintptr_t(std::stoull(kind.substr(7), nullptr, 0)));
 }
 
 void Host::call(KvMvcSettings* edited)
@@ -184,19 +201,24 @@ void Host::call(KvMvcSettings* edited)
 void Host::mapped() const
 {
     std::set<std::string> names;
-    std::ifstream maps("/proc/self/maps");
-    for (std::string line; std::getline(maps, line);) {
-        const auto slash = line.rfind('/');
-        if (slash == std::string::npos)
+    const std::string suffix = KV_LIBRARY_SUFFIX;
+    for (std::string file : host_system::mappedFiles()) {
+        if (file.compare(0, 3, "kv_") != 0 && file.compare(0, 4, "mvc_") != 0)
             continue;
-        const std::string file = line.substr(slash + 1);
-        if (file.compare(0, 3, "kv_") == 0 || file.compare(0, 4, "mvc_") == 0)
-            names.insert(file);
+        if (file.size() > suffix.size() &&
+            file.compare(file.size() - suffix.size(), suffix.size(), suffix) == 0)
+            file.resize(file.size() - suffix.size());
+        names.insert(file);
     }
     std::string all = "mapped";
     for (const std::string& name : names)
         all += ' ' + name;
     say(QString::fromStdString(all));
+}
+
+std::filesystem::path Host::libraryBeside(const std::string& name) const
+{
+    return modulePath.parent_path() / (name + KV_LIBRARY_SUFFIX);
 }
 
 bool Host::step(const std::string& text)
@@ -239,10 +261,18 @@ bool Host::step(const std::string& text)
         window->close();
         QCoreApplication::processEvents();
         window.reset();
+    } else if (name == "foreign") {
+        foreignWindow = host_system::openForeignWindow();
+        return foreignWindow != nullptr;
+    } else if (name == "foreign-state") {
+        describeForeignWindow();
     } else if (name == "run") {
         const QPointer<QWidget> closed = window.get();
-        QTimer::singleShot(0, closed, [closed] { closed->close(); });
-        QTimer::singleShot(2000, application.get(), [] { QCoreApplication::exit(7); });
+        QTimer::singleShot(0, closed, [closed] {
+            closed->close();
+            // Well after what the end of the last window sets off.
+            QTimer::singleShot(500, qApp, [] { QCoreApplication::exit(7); });
+        });
         say(QStringLiteral("loop %1").arg(QApplication::exec()));
     } else if (name == "stay") {
         QApplication::setQuitOnLastWindowClosed(false);
@@ -252,14 +282,14 @@ bool Host::step(const std::string& text)
         say(QStringLiteral("translated ") +
             QCoreApplication::translate("AVCVideoEncoderDlg", "Views"));
     } else if (name == "remove") {
-        return std::remove((modulePath.substr(0, modulePath.rfind('/') + 1) + value).c_str()) == 0;
+        // Windows keeps a file that is mapped, but lets it have another name.
+        std::filesystem::rename(libraryBeside(value), libraryBeside(value + ".removed"));
     } else if (name == "unload") {
-        dlclose(module);
+        host_system::closeLibrary(module);
         module = nullptr;
         show = nullptr;
     } else if (name == "replace") {
-        const std::string folder = modulePath.substr(0, modulePath.rfind('/') + 1);
-        return std::rename((folder + "replacement.so").c_str(), (folder + value).c_str()) == 0;
+        std::filesystem::rename(libraryBeside("replacement"), libraryBeside(value));
     } else {
         return false;
     }

@@ -1,9 +1,12 @@
 #include "Sandbox.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTest>
+#include <QThread>
 
 namespace
 {
@@ -13,8 +16,17 @@ void copy(const QString& from, const QString& to)
     QVERIFY2(QFile::copy(from, to), qPrintable(from + QLatin1String(" -> ") + to));
 }
 
-QStringList linesOf(const QByteArray& text)
+const QString librarySuffix = QStringLiteral(KV_LIBRARY_SUFFIX);
+
+QString hostProgram()
 {
+    return qEnvironmentVariable("KV_MODULE_HOST");
+}
+
+QStringList linesOf(QByteArray text)
+{
+    // Of a text file of Windows.
+    text.replace("\r\n", "\n");
     QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
     if (lines.last().isEmpty())
         lines.removeLast();
@@ -24,19 +36,44 @@ QStringList linesOf(const QByteArray& text)
 } // namespace
 
 Sandbox::Sandbox(Module where)
-    : m_module(path(where == Module::Apart ? QStringLiteral("module/kv_config_gui_mvc.so")
-                                           : QStringLiteral("host/kv_config_gui_mvc.so")))
+    : m_program(path(QLatin1String("host/") + QFileInfo(hostProgram()).fileName())),
+      m_module(libraryPath("kv_config_gui_mvc", where == Module::Apart ? "module" : "host"))
 {
     QDir(m_directory.path()).mkdir(QStringLiteral("host"));
     QDir(m_directory.path()).mkdir(QStringLiteral("module"));
-    copy(qEnvironmentVariable("KV_MODULE_HOST"), path(QStringLiteral("host/module_host")));
-    copy(qEnvironmentVariable("KV_BIN_DIR") + QLatin1String("/kv_config_gui_mvc.so"), m_module);
+    copy(hostProgram(), m_program);
+    copy(qEnvironmentVariable("KV_BIN_DIR") + QLatin1String("/kv_config_gui_mvc") + librarySuffix,
+         m_module);
+}
+
+Sandbox::~Sandbox()
+{
+    // Windows may hold the files of a process for a moment after its end.
+    const QDeadlineTimer patience(5000);
+    while (!QDir(m_directory.path()).removeRecursively() && !patience.hasExpired())
+        QThread::msleep(20);
 }
 
 void Sandbox::add(const char* stub, const char* name, const char* folder) const
 {
-    copy(qEnvironmentVariable("KV_ENTRY_STUBS") + QStringLiteral("/%1.so").arg(QLatin1String(stub)),
-         path(QStringLiteral("%1/%2.so").arg(QLatin1String(folder), QLatin1String(name))));
+    copy(qEnvironmentVariable("KV_ENTRY_STUBS") + QLatin1Char('/') + QLatin1String(stub) +
+             librarySuffix,
+         libraryPath(name, folder));
+}
+
+QString Sandbox::libraryPath(const char* name, const char* folder) const
+{
+    return path(QLatin1String(folder) + QLatin1Char('/') + QLatin1String(name) + librarySuffix);
+}
+
+QMap<QString, QString> Sandbox::findingBesideTheModule() const
+{
+#ifdef Q_OS_WIN
+    return {{QStringLiteral("PATH"), QDir::toNativeSeparators(path(QStringLiteral("module"))) +
+                                         QDir::listSeparator() + qEnvironmentVariable("PATH")}};
+#else
+    return {};
+#endif
 }
 
 void Sandbox::addRequired() const
@@ -64,8 +101,8 @@ Sandbox::Result Sandbox::run(const QStringList& steps,
     QProcess process;
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(m_directory.path());
-    process.start(path(QStringLiteral("host/module_host")), QStringList(m_module) + steps);
-    if (!process.waitForFinished(30000)) {
+    process.start(m_program, QStringList(m_module) + steps);
+    if (!process.waitForFinished(60000)) {
         process.kill();
         process.waitForFinished();
         return {-1, {QStringLiteral("did not end")}, {}, {}};

@@ -7,18 +7,27 @@
 
 /// A folder "host" with the host program, a folder "module" with the module, or both in "host", and
 /// the companion stubs that a test puts into either. The program runs as a process of its own,
-/// since an application object, loaded libraries and environment are the process's.
+/// since an application object, loaded libraries and environment are the process's. Libraries are
+/// named without the platform's extension, here and in what comes of a run.
 class Sandbox
 {
 public:
     enum class Module { BesideHost, Apart };
     explicit Sandbox(Module where = Module::BesideHost);
+    Sandbox(const Sandbox&) = delete;
+    Sandbox& operator=(const Sandbox&) = delete;
+    ~Sandbox();
 
-    /// Copies a stub to "FOLDER/NAME.so".
+    /// Copies a stub to "FOLDER/NAME".
     void add(const char* stub, const char* name, const char* folder = "host") const;
     /// The stubs of the required companions.
     void addRequired() const;
     QString path(const QString& name) const { return m_directory.filePath(name); }
+    QString libraryPath(const char* name, const char* folder = "host") const;
+
+    /// For run(): lets the system's loader find companions in the folder "module". The module's own
+    /// run path does that already; on Windows, which knows none, the search path does.
+    QMap<QString, QString> findingBesideTheModule() const;
 
     struct Result {
         int exitCode;
@@ -37,5 +46,6 @@ public:
 
 private:
     QTemporaryDir m_directory;
-    QString m_module;
+    const QString m_program;
+    const QString m_module;
 };

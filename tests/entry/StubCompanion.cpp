@@ -12,7 +12,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <stdexcept>
+#include <exception>
+#include <filesystem>
 #include <string>
 
 namespace
@@ -46,14 +47,13 @@ std::string ownPath()
 #endif
 }
 
-/// "host/kv_mvcenc.so": the library's own file with its folder.
+/// "host/kv_mvcenc": the library's own file with its folder, without the platform's extension.
 std::string ownName()
 {
-    const std::string path = ownPath();
-    constexpr const char* separators = "/\\";
-    const auto file = path.find_last_of(separators);
-    const auto folder = file == std::string::npos ? file : path.find_last_of(separators, file - 1);
-    return folder == std::string::npos ? path : path.substr(folder + 1);
+    const std::filesystem::path path = ownPath();
+    const std::filesystem::path file =
+        path.extension() == KV_LIBRARY_SUFFIX ? path.stem() : path.filename();
+    return (path.parent_path().filename() / file).generic_string();
 }
 
 [[maybe_unused]] bool asked(const char* variable, const char* value)
@@ -62,9 +62,21 @@ std::string ownName()
     return content && std::strcmp(content, value) == 0;
 }
 
+/// Whether the system would show a box about a library that it cannot load.
+bool systemShowsErrors()
+{
+#ifdef _WIN32
+    return (GetThreadErrorMode() & SEM_FAILCRITICALERRORS) == 0;
+#else
+    return false;
+#endif
+}
+
 __attribute__((constructor)) void loaded()
 {
     writeDown("load " + ownName());
+    if (systemShowsErrors())
+        writeDown("the system would have shown errors");
 }
 
 __attribute__((destructor)) void unloaded()
@@ -83,13 +95,28 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings*, int3
 #endif
 
 #ifdef KV_STUB_CHECK
+namespace
+{
+
+/// An exception whose destructor is the library's own code, gone with the library.
+class CheckError : public std::exception
+{
+public:
+    CheckError() = default;
+    CheckError(const CheckError&) = default;
+    CheckError& operator=(const CheckError&) = default;
+    ~CheckError() override { writeDown("exception gone"); }
+};
+
+} // namespace
+
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
                                                                KvMvcSettings* settings, int32_t,
                                                                int32_t)
 {
     writeDown("check");
     if (asked("KV_STUB_CHECK", "throw"))
-        throw std::runtime_error("from the check");
+        throw CheckError();
     if (asked("KV_STUB_CHECK", "correct"))
         settings->views[0].bitrate = 4711;
     reinterpret_cast<KvMvcPrintf>(lookUp("err_printf"))("width %d", 5);

@@ -58,42 +58,41 @@ void TestEntryCompanions::loaded_data()
     // What a failed call loaded is unloaded when the process ends, in no order of ours.
     row("none", {}, 1, {});
     row("no encoder", {settingsIo}, 1,
-        {"load host/kv_mvc_settings_io.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "unload host/kv_mvc_settings_io"});
     row("no settings file library", {encoder}, 1, {});
     row("settings file library without its function",
         {{"stub_entry_empty", "kv_mvc_settings_io"}, encoder}, 1,
-        {"load host/kv_mvc_settings_io.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "unload host/kv_mvc_settings_io"});
     row("the required ones", {settingsIo, encoder}, 1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so", "unload host/kv_mvcenc.so",
-         "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc", "unload host/kv_mvcenc",
+         "unload host/kv_mvc_settings_io"});
     row("the first encoder name", {settingsIo, encoderB}, 1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc_b.so",
-         "unload host/kv_mvcenc_b.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc_b", "unload host/kv_mvcenc_b",
+         "unload host/kv_mvc_settings_io"});
     row("both encoder names", {settingsIo, encoder, encoderB}, 1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc_b.so",
-         "unload host/kv_mvcenc_b.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc_b", "unload host/kv_mvcenc_b",
+         "unload host/kv_mvc_settings_io"});
     row("all", {settingsIo, encoder, {"stub_entry_probe", "kv_media_probe"}}, 1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so", "load host/kv_media_probe.so",
-         "unload host/kv_mvcenc.so", "unload host/kv_media_probe.so",
-         "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc", "load host/kv_media_probe",
+         "unload host/kv_mvcenc", "unload host/kv_media_probe", "unload host/kv_mvc_settings_io"});
     row("both probe names",
         {settingsIo,
          encoder,
          {"stub_entry_probe", "kv_media_probe"},
          {"stub_entry_probe", "kv_media_probe_x"}},
         1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so",
-         "load host/kv_media_probe_x.so", "unload host/kv_mvcenc.so",
-         "unload host/kv_media_probe_x.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc", "load host/kv_media_probe_x",
+         "unload host/kv_mvcenc", "unload host/kv_media_probe_x",
+         "unload host/kv_mvc_settings_io"});
     row("probe without functions",
         {settingsIo,
          encoder,
          {"stub_entry_empty", "kv_media_probe_x"},
          {"stub_entry_probe", "kv_media_probe"}},
         1001,
-        {"load host/kv_mvc_settings_io.so", "load host/kv_mvcenc.so",
-         "load host/kv_media_probe_x.so", "unload host/kv_mvcenc.so",
-         "unload host/kv_media_probe_x.so", "unload host/kv_mvc_settings_io.so"});
+        {"load host/kv_mvc_settings_io", "load host/kv_mvcenc", "load host/kv_media_probe_x",
+         "unload host/kv_mvcenc", "unload host/kv_media_probe_x",
+         "unload host/kv_mvc_settings_io"});
 }
 
 void TestEntryCompanions::loaded()
@@ -129,10 +128,10 @@ void TestEntryCompanions::companionBesideTheHostWins()
         sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io", folder);
         sandbox.add("stub_entry_encoder", "kv_mvcenc", folder);
     }
-    const auto run = sandbox.run(ownCall);
+    const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
-    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load host/kv_mvc_settings_io.so"),
-                                             QStringLiteral("load host/kv_mvcenc.so")}));
+    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load host/kv_mvc_settings_io"),
+                                             QStringLiteral("load host/kv_mvcenc")}));
     QCOMPARE(run.log.size(), 4);
 }
 
@@ -141,10 +140,10 @@ void TestEntryCompanions::companionBesideTheModuleIsFound()
     const Sandbox sandbox(Sandbox::Module::Apart);
     sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io", "module");
     sandbox.add("stub_entry_encoder", "kv_mvcenc", "module");
-    const auto run = sandbox.run(ownCall);
+    const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
-    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load module/kv_mvc_settings_io.so"),
-                                             QStringLiteral("load module/kv_mvcenc.so")}));
+    QCOMPARE(run.log.mid(0, 2), QStringList({QStringLiteral("load module/kv_mvc_settings_io"),
+                                             QStringLiteral("load module/kv_mvcenc")}));
 }
 
 void TestEntryCompanions::oneOfEachPlace()
@@ -153,23 +152,23 @@ void TestEntryCompanions::oneOfEachPlace()
     const Sandbox sandbox(Sandbox::Module::Apart);
     sandbox.addRequired();
     sandbox.add("stub_entry_encoder", "kv_mvcenc_b", "module");
-    const auto run = sandbox.run(ownCall);
+    const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
-    QVERIFY(run.log.contains(QLatin1String("load module/kv_mvcenc_b.so")));
-    QVERIFY(!run.log.contains(QLatin1String("load host/kv_mvcenc.so")));
+    QVERIFY(run.log.contains(QLatin1String("load module/kv_mvcenc_b")));
+    QVERIFY(!run.log.contains(QLatin1String("load host/kv_mvcenc")));
 }
 
 void TestEntryCompanions::brokenFileCountsAsMissing()
 {
     const Sandbox sandbox;
     sandbox.addRequired();
-    QFile broken(sandbox.path(QStringLiteral("host/kv_mvcenc_b.so")));
+    QFile broken(sandbox.libraryPath("kv_mvcenc_b"));
     QVERIFY(broken.open(QIODevice::WriteOnly));
     broken.write("no library");
     broken.close();
     const auto run = sandbox.run(ownCall);
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
-    QVERIFY(run.log.contains(QLatin1String("load host/kv_mvcenc.so")));
+    QVERIFY(run.log.contains(QLatin1String("load host/kv_mvcenc")));
 }
 
 void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()
@@ -185,15 +184,15 @@ void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()
     QCOMPARE(run.values("result"),
              QStringList({QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")}));
     // No fallback to the other encoder, and no probe.
-    const QString left = QStringLiteral("kv_config_gui_mvc.so kv_mvc_settings_io.so "
-                                        "kv_mvcenc_b.so");
+    const QString left = QStringLiteral("kv_config_gui_mvc kv_mvc_settings_io "
+                                        "kv_mvcenc_b");
     QCOMPARE(run.values("mapped"), QStringList({left, left, left}));
-    const QStringList expected = {QStringLiteral("load host/kv_mvc_settings_io.so"),
-                                  QStringLiteral("load host/kv_mvcenc_b.so"),
-                                  QStringLiteral("unload host/kv_mvc_settings_io.so"),
-                                  QStringLiteral("load host/kv_mvc_settings_io.so"),
-                                  QStringLiteral("unload host/kv_mvcenc_b.so"),
-                                  QStringLiteral("load host/kv_mvcenc_b.so")};
+    const QStringList expected = {QStringLiteral("load host/kv_mvc_settings_io"),
+                                  QStringLiteral("load host/kv_mvcenc_b"),
+                                  QStringLiteral("unload host/kv_mvc_settings_io"),
+                                  QStringLiteral("load host/kv_mvc_settings_io"),
+                                  QStringLiteral("unload host/kv_mvcenc_b"),
+                                  QStringLiteral("load host/kv_mvcenc_b")};
     QCOMPARE(run.log.mid(0, 6), expected);
 }
 
@@ -205,20 +204,20 @@ void TestEntryCompanions::probeOfAFailedCallIsReleasedByTheNextCall()
     sandbox.addRequired();
     sandbox.add("stub_entry_probe", "kv_media_probe");
     const auto run = sandbox.run({QStringLiteral("flags=0x10000000"), QStringLiteral("call"),
-                                  QStringLiteral("mapped"), QStringLiteral("remove=kv_mvcenc.so"),
+                                  QStringLiteral("mapped"), QStringLiteral("remove=kv_mvcenc"),
                                   QStringLiteral("call"), QStringLiteral("mapped")});
     QCOMPARE(run.values("result"), QStringList({QStringLiteral("1"), QStringLiteral("1")}));
     QCOMPARE(run.values("mapped"),
-             QStringList({QStringLiteral("kv_config_gui_mvc.so kv_media_probe.so "
-                                         "kv_mvc_settings_io.so kv_mvcenc.so"),
-                          QStringLiteral("kv_config_gui_mvc.so kv_mvc_settings_io.so")}));
+             QStringList({QStringLiteral("kv_config_gui_mvc kv_media_probe "
+                                         "kv_mvc_settings_io kv_mvcenc"),
+                          QStringLiteral("kv_config_gui_mvc kv_mvc_settings_io")}));
 }
 
 void TestEntryCompanions::missingLibraryIsNotFoundInAnEarlierCall_data()
 {
     QTest::addColumn<QString>("removed");
-    QTest::newRow("encoder") << QStringLiteral("kv_mvcenc.so");
-    QTest::newRow("settings files") << QStringLiteral("kv_mvc_settings_io.so");
+    QTest::newRow("encoder") << QStringLiteral("kv_mvcenc");
+    QTest::newRow("settings files") << QStringLiteral("kv_mvc_settings_io");
 }
 
 void TestEntryCompanions::missingLibraryIsNotFoundInAnEarlierCall()
@@ -240,9 +239,8 @@ void TestEntryCompanions::missingFunctionIsNotFoundInAnEarlierCallsLibrary()
         const Sandbox sandbox;
         sandbox.addRequired();
         sandbox.add(lacking, "replacement");
-        const auto run =
-            sandbox.run({QStringLiteral("call"), QStringLiteral("replace=kv_mvcenc.so"),
-                         QStringLiteral("call"), QStringLiteral("instance")});
+        const auto run = sandbox.run({QStringLiteral("call"), QStringLiteral("replace=kv_mvcenc"),
+                                      QStringLiteral("call"), QStringLiteral("instance")});
         QCOMPARE(run.values("result"), QStringList({QStringLiteral("1001"), QStringLiteral("1")}));
         QCOMPARE(run.value("instance"), QStringLiteral("no"));
     }

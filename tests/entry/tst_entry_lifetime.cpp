@@ -53,7 +53,7 @@ void TestEntryLifetime::nothingStaysMappedAfterACall()
     sandbox.add("stub_entry_probe", "kv_media_probe");
     const auto run = sandbox.run(words(steps.toLatin1().constData()) + words("mapped"));
     QVERIFY(run.value("result").startsWith(QLatin1String("100")));
-    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc.so"));
+    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc"));
     QCOMPARE(run.errors, QString());
 }
 
@@ -71,8 +71,15 @@ void TestEntryLifetime::moduleCanBeUnloaded()
     sandbox.addRequired();
     const auto run = sandbox.run(words(steps.toLatin1().constData()) + words("unload mapped"));
     QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.value("mapped"), QString(QLatin1String("")));
     QCOMPARE(run.lines.last(), QStringLiteral("end"));
+#ifdef Q_OS_WIN
+    // No library can free another while it is freed itself.
+    if (qstrcmp(QTest::currentDataTag(), "after a failed call") == 0) {
+        QCOMPARE(run.value("mapped"), QStringLiteral("kv_mvc_settings_io kv_mvcenc"));
+        return;
+    }
+#endif
+    QCOMPARE(run.value("mapped"), QString(QLatin1String("")));
 }
 
 void TestEntryLifetime::hostGoesOnWithoutTheModule()
@@ -126,8 +133,10 @@ void TestEntryLifetime::exceptionOfACompanionGivesAnError()
     QCOMPARE(run.value("changed"), QStringLiteral("no"));
     QCOMPARE(run.value("instance"), instance);
     QCOMPARE(run.values("mapped"),
-             QStringList({QStringLiteral("kv_config_gui_mvc.so"), QLatin1String("")}));
-    QVERIFY(run.log.contains(QLatin1String("check")));
+             QStringList({QStringLiteral("kv_config_gui_mvc"), QLatin1String("")}));
+    QCOMPARE(run.log.mid(2), QStringList({QStringLiteral("check"), QStringLiteral("exception gone"),
+                                          QStringLiteral("unload host/kv_mvcenc"),
+                                          QStringLiteral("unload host/kv_mvc_settings_io")}));
     QVERIFY(run.values("title").isEmpty());
 }
 
@@ -153,11 +162,10 @@ void TestEntryLifetime::functionsLastAsLongAsTheDialog()
     const Sandbox sandbox;
     sandbox.addRequired();
     const auto run = sandbox.run(words("flags=0x13 press=ok call"));
-    QCOMPARE(run.log,
-             QStringList({QStringLiteral("load host/kv_mvc_settings_io.so"),
-                          QStringLiteral("load host/kv_mvcenc.so"), QStringLiteral("check"),
-                          QStringLiteral("check"), QStringLiteral("unload host/kv_mvcenc.so"),
-                          QStringLiteral("unload host/kv_mvc_settings_io.so")}));
+    QCOMPARE(run.log, QStringList({QStringLiteral("load host/kv_mvc_settings_io"),
+                                   QStringLiteral("load host/kv_mvcenc"), QStringLiteral("check"),
+                                   QStringLiteral("check"), QStringLiteral("unload host/kv_mvcenc"),
+                                   QStringLiteral("unload host/kv_mvc_settings_io")}));
 }
 
 QTEST_MAIN(TestEntryLifetime)

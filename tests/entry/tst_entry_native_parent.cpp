@@ -26,20 +26,26 @@ public:
         const xcb_screen_t* const screen =
             xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
         m_window = xcb_generate_id(m_connection);
-        const uint32_t unmanaged = 1;
+        const uint32_t unmanagedAndTold[] = {1, XCB_EVENT_MASK_BUTTON_PRESS};
         xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, screen->root,
                           int16_t(place.x()), int16_t(place.y()), uint16_t(place.width()),
                           uint16_t(place.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
-                          screen->root_visual, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
+                          screen->root_visual, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK,
+                          unmanagedAndTold);
         xcb_map_window(m_connection, m_window);
         // The answer tells that the window is there.
-        free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        hasFocus();
     }
     ForeignWindow(const ForeignWindow&) = delete;
     ForeignWindow& operator=(const ForeignWindow&) = delete;
     ~ForeignWindow() { xcb_disconnect(m_connection); }
 
     QString id() const { return QString::number(m_window); }
+    void takeFocus() const
+    {
+        xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
+        xcb_flush(m_connection);
+    }
     bool hasFocus() const
     {
         auto* const reply =
@@ -48,10 +54,25 @@ public:
         free(reply);
         return focused;
     }
+    bool wasClicked()
+    {
+        while (xcb_generic_event_t* const event = xcb_poll_for_event(m_connection)) {
+            m_clicked = m_clicked || (event->response_type & 0x7F) == XCB_BUTTON_PRESS;
+            free(event);
+        }
+        return m_clicked;
+    }
+    /// Its id stays this program's, and so becomes no other's.
+    void close() const
+    {
+        xcb_destroy_window(m_connection, m_window);
+        xcb_flush(m_connection);
+    }
 
 private:
     xcb_connection_t* m_connection;
     xcb_window_t m_window = 0;
+    bool m_clicked = false;
 };
 
 } // namespace
@@ -68,7 +89,8 @@ private Q_SLOTS:
     void dialogIsPutOverTheParent();
     void parentMayBeInARecord();
     void windowThatIsGone();
-    void parentGetsTheFocusBack();
+    void parentTakesInputAgain_data();
+    void parentTakesInputAgain();
     void platformWithoutForeignWindows();
 
 private:
@@ -77,6 +99,7 @@ private:
         return {{QStringLiteral("DISPLAY"), QString::fromLatin1(m_display)},
                 {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")}};
     }
+    void click(QPoint at) const;
 
     QProcess m_server;
     QByteArray m_display;
@@ -129,7 +152,7 @@ void TestEntryNativeParent::dialogIsPutOverTheParent()
                     environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
-    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc.so"));
+    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc"));
 
     const auto place = QRegularExpression(QStringLiteral("^(-?\\d+),(-?\\d+) (\\d+)x(\\d+)$"))
                            .match(run.value("place"));
@@ -168,31 +191,69 @@ void TestEntryNativeParent::windowThatIsGone()
 {
     const Sandbox sandbox;
     sandbox.addRequired();
-    QString id;
-    {
-        const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
-        id = window.id();
-    }
-    const auto run = sandbox.run(
-        {QStringLiteral("ext=window=") + id, QStringLiteral("flags=0"), QStringLiteral("call")},
-        environment());
+    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    window.close();
+    const auto run = sandbox.run({QStringLiteral("ext=window=") + window.id(),
+                                  QStringLiteral("flags=0"), QStringLiteral("call")},
+                                 environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     // In the desktop's middle.
     QVERIFY2(run.value("place").startsWith(QLatin1String("440,")), qPrintable(run.value("place")));
 }
 
-void TestEntryNativeParent::parentGetsTheFocusBack()
+void TestEntryNativeParent::click(QPoint at) const
 {
+    QProcess mouse;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(QStringLiteral("DISPLAY"), QString::fromLatin1(m_display));
+    mouse.setProcessEnvironment(variables);
+    mouse.start(QStringLiteral("xdotool"),
+                {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
+                 QStringLiteral("click"), QStringLiteral("1")});
+    QVERIFY(mouse.waitForFinished() && mouse.exitCode() == 0);
+}
+
+void TestEntryNativeParent::parentTakesInputAgain_data()
+{
+    QTest::addColumn<QString>("check");
+    QTest::addColumn<QString>("press");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<bool>("focusedBefore");
+    const auto row = [](const char* name, const char* check, const char* press, const char* result,
+                        bool focusedBefore) {
+        QTest::newRow(name) << QString::fromLatin1(check) << QString::fromLatin1(press)
+                            << QString::fromLatin1(result) << focusedBefore;
+    };
+    row("OK", "", "ok", "1000", true);
+    row("cancel", "", "cancel", "1001", true);
+    row("OK, without the focus before", "", "ok", "1000", false);
+    row("exception of a companion", "throw", "ok", "1", true);
+}
+
+void TestEntryNativeParent::parentTakesInputAgain()
+{
+    QFETCH(QString, check);
+    QFETCH(QString, press);
+    QFETCH(QString, result);
+    QFETCH(bool, focusedBefore);
     const Sandbox sandbox;
     sandbox.addRequired();
-    const ForeignWindow window(m_display, QRect(100, 100, 300, 300));
-    QVERIFY(!window.hasFocus());
-    const auto run =
-        sandbox.run({QStringLiteral("ext=window=") + window.id(), QStringLiteral("flags=0x13"),
-                     QStringLiteral("press=ok"), QStringLiteral("call")},
-                    environment());
-    QCOMPARE(run.value("result"), QStringLiteral("1000"));
+    ForeignWindow window(m_display, QRect(100, 100, 300, 300));
+    if (focusedBefore)
+        window.takeFocus();
+    QCOMPARE(window.hasFocus(), focusedBefore);
+    auto variables = environment();
+    variables.insert(QStringLiteral("KV_STUB_CHECK"), check);
+    const auto run = sandbox.run({QStringLiteral("ext=window=") + window.id(),
+                                  QStringLiteral("flags=0x13"), QLatin1String("press=") + press,
+                                  QStringLiteral("call"), QStringLiteral("mapped")},
+                                 variables);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.value("result"), result);
+    QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc"));
     QVERIFY(window.hasFocus());
+    click({250, 250});
+    QTRY_VERIFY(window.wasClicked());
 }
 
 void TestEntryNativeParent::platformWithoutForeignWindows()

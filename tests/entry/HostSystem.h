@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// What the host program asks of the system that the toolkit has not got, or would do otherwise.
+namespace host_system
+{
+
+/// Loads a library as a host does that knows its path. @param error The system's word for why not.
+void* openLibrary(const std::filesystem::path& file, std::string& error);
+/// Null when the library does not have it.
+void* findFunction(void* library, const char* name);
+void closeLibrary(void* library);
+
+/// The names, without folders, of the files that are mapped into this process as programs,
+/// libraries or data; each as often as the system lists it.
+std::vector<std::string> mappedFiles();
+
+/// Shows a window of the window system's own, without the toolkit, and gives it the focus. It stays
+/// until the process ends. @return Its handle; null where a host makes none in its own process.
+void* openForeignWindow();
+/// Which of "enabled", "active" and "focused" it is.
+std::string stateOf(void* foreignWindow);
+
+} // namespace host_system
