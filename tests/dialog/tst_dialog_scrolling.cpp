@@ -31,6 +31,12 @@ bool inSight(const OpenDialog& dialog, const QWidget* widget)
     return areaOf(dialog)->viewport()->rect().contains(place);
 }
 
+/// Changes of rows travel outwards, one layout a turn of the event loop.
+void settle()
+{
+    QTest::qWait(50);
+}
+
 /// The rate control of a view, at variable bit rate within the buffer model.
 void openViews(const OpenDialog& dialog)
 {
@@ -42,7 +48,7 @@ void openViews(const OpenDialog& dialog)
     dialog.probe().record().settings.num_views = KV_MVC_RECORD_VIEWS;
     dialog.probe().settingsToState();
     dialog.tabs()->setCurrentIndex(2);
-    QCoreApplication::processEvents();
+    settle();
 }
 
 } // namespace
@@ -75,7 +81,7 @@ void TestDialogScrolling::firstTabDoesNotScroll()
     QFETCH(int, key);
     OpenDialog dialog;
     QTest::keyClick(dialog.get(), Qt::Key(key));
-    QCoreApplication::processEvents();
+    settle();
     QCOMPARE(dialog.tabs()->currentIndex(), 0);
     QCOMPARE(areaOf(dialog)->verticalScrollBar()->maximum(), 0);
     QVERIFY(!areaOf(dialog)->verticalScrollBar()->isVisible());
@@ -117,7 +123,7 @@ void TestDialogScrolling::switchThatHidesRowsAboveItStays()
         QCOMPARE(box->isVisible(), on);
         QCOMPARE(placeOf(dialog, hrd), place);
         QVERIFY(qAbs(bar->value() - before) > 200);
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(placeOf(dialog, hrd), place);
     }
 }
@@ -131,7 +137,7 @@ void TestDialogScrolling::switchAtTheTopStaysInSight()
     user::reveal(hrd);
     QVERIFY(areaOf(dialog)->verticalScrollBar()->value() > 0);
     QTest::mouseClick(hrd, Qt::LeftButton, {}, {8, hrd->height() / 2});
-    QCoreApplication::processEvents();
+    settle();
     QVERIFY(!hrd->isChecked());
     QVERIFY(inSight(dialog, hrd));
 }
@@ -152,7 +158,7 @@ void TestDialogScrolling::checkThatHidesRowsOfAnotherViewMovesNothing()
     rate->selectAll();
     QTest::keyClicks(rate, QStringLiteral("5000000"));
     QTest::keyClick(rate, Qt::Key_Return);
-    QCoreApplication::processEvents();
+    settle();
     QVERIFY(!findControl<QWidget>(dialog.get(), "View0Page", "groupBoxBuffers")->isVisible());
     QCOMPARE(placeOf(dialog, rate), place);
 }
