@@ -92,7 +92,7 @@ typedef struct KvMvcHosting {
  *         KV_MVC_GUI_HOST_APPLICATION is given without a QApplication, or is
  *         missing though the process has an application object; when there is
  *         no platform plug-in of Qt, or no display that it could connect to;
- *         when a dialog is open already; or when an exception ended the dialog.
+ *         when a dialog is open already; or when an exception kept it from opening.
  *         No message is shown for any of these, and no exception leaves the
  *         function.
  */
