@@ -34,9 +34,9 @@ public:
 /// the inside outwards.
 void layOutNow(QWidget* widget)
 {
-    const auto below = widget->findChildren<QWidget*>();
-    for (auto it = below.crbegin(); it != below.crend(); ++it)
-        QCoreApplication::sendPostedEvents(*it, QEvent::LayoutRequest);
+    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children)
+        layOutNow(child);
     QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
 }
 
