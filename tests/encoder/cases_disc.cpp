@@ -9,6 +9,14 @@ using Record = KvMvcSettings;
 using encoder::setBoth;
 using encoder::setFrameRate;
 
+/// Rates that exceed level 4.1, at another level: its code.
+template <int level>
+void beyondLevel41(Record& r)
+{
+    setBoth(r, &V::level, level);
+    setBoth(r, &V::max_bitrate, 40000000);
+}
+
 constexpr RuleCase rows[] = {
     {"disc.views", "2", 3, [](Record&) {}, false},
     {"disc.views", "1", 3, [](Record& r) { r.num_views = 1; }, true},
@@ -21,35 +29,15 @@ constexpr RuleCase rows[] = {
     {"level.fits-disc", "4.1", 3, [](Record&) {}, true},
     {"level.fits-disc", "the level is another, the settings fit", 3,
      [](Record& r) { setBoth(r, &V::level, 51); }, true},
-    {"level.fits-disc", "rates beyond 4.1", 3,
-     [](Record& r) {
-         setBoth(r, &V::level, 51);
-         setBoth(r, &V::max_bitrate, 40000000);
-     },
-     false},
+    {"level.fits-disc", "rates beyond 4.1", 3, beyondLevel41<51>, false},
     {"level.fits-disc", "no disc", 2, [](Record&) {}, false},
     {"level.auto-disc", "Auto", 3, [](Record& r) { setBoth(r, &V::level, 100); }, true},
-    {"level.auto-disc", "rates beyond 4.1", 3,
-     [](Record& r) {
-         setBoth(r, &V::level, 100);
-         setBoth(r, &V::max_bitrate, 40000000);
-     },
-     false},
+    {"level.auto-disc", "rates beyond 4.1", 3, beyondLevel41<100>, false},
     {"level.auto-disc", "no disc", 2, [](Record& r) { setBoth(r, &V::level, 100); }, false},
-    {"level.none-disc", "rates beyond 4.1", 3,
-     [](Record& r) {
-         setBoth(r, &V::level, 51);
-         setBoth(r, &V::max_bitrate, 40000000);
-     },
-     true},
+    {"level.none-disc", "rates beyond 4.1", 3, beyondLevel41<51>, true},
     {"level.none-disc", "rates beyond 4.1 at that level, whose errors are there", 3,
      [](Record& r) { setBoth(r, &V::max_bitrate, 40000000); }, false},
-    {"level.none-disc", "rates beyond 4.1, no disc", 2,
-     [](Record& r) {
-         setBoth(r, &V::level, 51);
-         setBoth(r, &V::max_bitrate, 40000000);
-     },
-     false},
+    {"level.none-disc", "rates beyond 4.1, no disc", 2, beyondLevel41<51>, false},
     {"level.none", "disc beyond 4.1", 3,
      [](Record& r) {
          setBoth(r, &V::level, 51);
