@@ -4,43 +4,36 @@
 
 #include <cstring>
 
-#include "tables.h"
+#include "languages.h"
 
 namespace
 {
 
-using kv::texts::Text;
-
-/** The column of the language; null for English and before a language is set. */
-const char* Text::*translation = nullptr;
+/// Of the language that is set; none for English and before a language is set.
+std::span<const kv::texts::Text> currentTexts;
 
 } // namespace
 
-extern "C" KV_MVC_COMPANION_API int32_t localizeSetLanguage(int32_t language)
+extern "C" KV_MVC_COMPANION_API int32_t localizeSetLanguage(int32_t code)
 {
-    switch (language) {
-    case KV_MVC_LANGUAGE_GERMAN:
-        translation = &Text::german;
-        return 0;
-    case KV_MVC_LANGUAGE_JAPANESE:
-        translation = &Text::japanese;
-        return 0;
-    default:
-        translation = nullptr;
-        return 1;
+    currentTexts = {};
+    for (const kv::texts::Language& language : kv::texts::languages()) {
+        if (language.code == code) {
+            currentTexts = language.texts;
+            return 0;
+        }
     }
+    return 1;
 }
 
 extern "C" KV_MVC_COMPANION_API const char* localizeConvertStr(const char* format)
 {
-    if (!translation || !format) {
+    if (!format) {
         return nullptr;
     }
-    for (const kv::texts::Table& table : kv::texts::tables()) {
-        for (const Text& text : table) {
-            if (std::strcmp(text.format, format) == 0) {
-                return text.*translation;
-            }
+    for (const kv::texts::Text& text : currentTexts) {
+        if (std::strcmp(text.format, format) == 0) {
+            return text.translation;
         }
     }
     return nullptr;

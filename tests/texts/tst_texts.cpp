@@ -1,18 +1,16 @@
-// Every message of the encoder has both translations, and each takes what its source takes.
+// The library as the dialog loads it: what it says of every message of the encoder.
 
+#include "EncoderMessages.h"
 #include "ToolkitWarnings.h"
 
 #include <kv_config_gui_mvc/companions.h>
 
-#include <QFile>
 #include <QLibrary>
-#include <QRegularExpression>
-#include <QSet>
 #include <QTest>
-#include <QXmlStreamReader>
 
-#include "rules.h"
-#include "tables.h"
+#include <cstring>
+
+#include "languages.h"
 
 namespace
 {
@@ -47,13 +45,8 @@ private Q_SLOTS:
     void conversions();
     void messageIsTranslated_data();
     void messageIsTranslated();
-    void noTextIsStale();
     void aFewTexts_data();
     void aFewTexts();
-    void decimalsHaveASignOfTheLanguage();
-    void viewsAreNamedInEachLanguage();
-    void quotedNamesAreTheDialogs_data();
-    void quotedNamesAreTheDialogs();
     void languages();
     void unknownFormats();
 
@@ -102,45 +95,28 @@ void TestTexts::conversions()
 
 void TestTexts::messageIsTranslated_data()
 {
+    QTest::addColumn<int>("language");
     QTest::addColumn<QByteArray>("format");
-    for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups())
-        for (const kv::encoder::RuleInfo* rule : group.rules)
-            for (const char* const format : {rule->format, rule->viewFormat})
-                if (format)
-                    QTest::addRow("%s%s", rule->id, format == rule->format ? "" : ", view")
-                        << QByteArray(format);
+    for (const kv::texts::Language& language : kv::texts::languages()) {
+        for (const Message& message : encoderMessages()) {
+            QTest::addRow("%d, %s: %s", language.code, message.rule.constData(),
+                          message.format.constData())
+                << int(language.code) << message.format;
+        }
+    }
 }
 
 void TestTexts::messageIsTranslated()
 {
+    QFETCH(int, language);
     QFETCH(QByteArray, format);
-    for (const int language : {KV_MVC_LANGUAGE_GERMAN, KV_MVC_LANGUAGE_JAPANESE}) {
-        QCOMPARE(setLanguage(language), 0);
-        const char* text = convert(format.constData());
-        QVERIFY2(text, format.constData());
-        QVERIFY(QByteArray(text) != format);
-        QCOMPARE(QString::fromUtf8(text).toUtf8(), QByteArray(text));
-        QCOMPARE(conversionsOf(text), conversionsOf(format.constData()));
-        QVERIFY(!QByteArray(text).endsWith('\n'));
-    }
-}
-
-void TestTexts::noTextIsStale()
-{
-    QSet<QByteArray> formats;
-    for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups())
-        for (const kv::encoder::RuleInfo* rule : group.rules)
-            for (const char* const format : {rule->format, rule->viewFormat})
-                if (format)
-                    formats += format;
-    QSet<QByteArray> seen;
-    for (const kv::texts::Table& table : kv::texts::tables())
-        for (const kv::texts::Text& text : table) {
-            QVERIFY2(formats.contains(text.format), text.format);
-            QVERIFY2(!seen.contains(text.format), text.format);
-            seen += text.format;
-        }
-    QCOMPARE(seen.size(), formats.size());
+    QCOMPARE(setLanguage(language), 0);
+    const char* const text = convert(format.constData());
+    QVERIFY(text);
+    QVERIFY(QByteArray(text) != format);
+    QCOMPARE(QString::fromUtf8(text).toUtf8(), QByteArray(text));
+    QCOMPARE(conversionsOf(text), conversionsOf(format.constData()));
+    QVERIFY(!QByteArray(text).endsWith('\n'));
 }
 
 void TestTexts::aFewTexts_data()
@@ -176,92 +152,6 @@ void TestTexts::aFewTexts()
     QFETCH(QString, text);
     QCOMPARE(setLanguage(language), 0);
     QCOMPARE(QString::fromUtf8(convert(format.constData())), text);
-}
-
-void TestTexts::decimalsHaveASignOfTheLanguage()
-{
-    int seen = 0;
-    for (const kv::texts::Table& table : kv::texts::tables())
-        for (const kv::texts::Text& text : table) {
-            const int decimals = QByteArray(text.format).count("%d.%0*d");
-            QCOMPARE(QByteArray(text.german).count("%d,%0*d"), decimals);
-            QCOMPARE(QByteArray(text.japanese).count("%d.%0*d"), decimals);
-            QVERIFY2(!QByteArray(text.german).contains("%d.%0*d"), text.german);
-            seen += decimals;
-        }
-    QVERIFY(seen > 0);
-}
-
-void TestTexts::viewsAreNamedInEachLanguage()
-{
-    const struct {
-        const char* english;
-        const char* german;
-        const char* japanese;
-    } names[] = {{"Base view: ", "Basisansicht: ", "ベースビュー: "},
-                 {"View %d: ", "Ansicht %d: ", "ビュー %d: "}};
-    for (const kv::texts::Table& table : kv::texts::tables())
-        for (const kv::texts::Text& text : table)
-            for (const auto& name : names) {
-                const bool named = QByteArray(text.format).startsWith(name.english);
-                QCOMPARE(QByteArray(text.german).startsWith(name.german), named);
-                QCOMPARE(QByteArray(text.japanese).startsWith(name.japanese), named);
-            }
-}
-
-void TestTexts::quotedNamesAreTheDialogs_data()
-{
-    QTest::addColumn<QString>("catalogue");
-    QTest::addColumn<QString>("element");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("quoted");
-    QTest::addColumn<QStringList>("others");
-    const QString german = QStringLiteral("gui_mvc_de.ts");
-    QTest::newRow("English") << german << QStringLiteral("source") << 0
-                             << QStringLiteral("\"([^\"]+)\"") << QStringList();
-    // What the dialog says in a group's title and a label, or on both sides of a control.
-    const QStringList inParts = {QStringLiteral("Ein IDR-Bild je … I-Bilder"),
-                                 QStringLiteral("Adaptive Quantisierung nach Helligkeit"),
-                                 QStringLiteral("Adaptive Quantisierung nach Kontrast"),
-                                 QStringLiteral("Adaptive Quantisierung nach Komplexität")};
-    QTest::newRow("German") << german << QStringLiteral("translation") << 1
-                            << QStringLiteral("„([^“]+)“") << inParts;
-    QTest::newRow("Japanese") << QStringLiteral("gui_mvc_jp.ts") << QStringLiteral("translation")
-                              << 2 << QStringLiteral("「([^」]+)」") << QStringList();
-}
-
-void TestTexts::quotedNamesAreTheDialogs()
-{
-    QFETCH(QString, catalogue);
-    QFETCH(QString, element);
-    QFETCH(int, column);
-    QFETCH(QString, quoted);
-    QFETCH(QStringList, others);
-    QFile file(QStringLiteral(KV_TRANSLATIONS "/") + catalogue);
-    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));
-    // Labels lose their unit: "Max bitrate (bps)".
-    static const QRegularExpression unit(QStringLiteral(" \\([^)]*\\)$"));
-    QSet<QString> names(others.cbegin(), others.cend());
-    QXmlStreamReader xml(&file);
-    while (!xml.atEnd())
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == element)
-            names +=
-                xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed().remove(unit);
-    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-
-    const QRegularExpression expression(quoted);
-    QStringList unknown;
-    int seen = 0;
-    for (const kv::texts::Table& table : kv::texts::tables())
-        for (const kv::texts::Text& text : table) {
-            const char* const columns[] = {text.format, text.german, text.japanese};
-            auto match = expression.globalMatch(QString::fromUtf8(columns[column]));
-            for (; match.hasNext(); ++seen)
-                if (const QString name = match.next().captured(1); !names.contains(name))
-                    unknown += name;
-        }
-    QVERIFY(seen > 0);
-    QCOMPARE(unknown, QStringList());
 }
 
 void TestTexts::languages()

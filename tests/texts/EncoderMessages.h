@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include "rules.h"
+
+struct Message {
+    QByteArray rule;
+    QByteArray format;
+};
+
+/// All that the encoder can say, in the order of its rule list.
+inline QList<Message> encoderMessages()
+{
+    QList<Message> messages;
+    for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
+        for (const kv::encoder::RuleInfo* rule : group.rules) {
+            for (const char* const format : {rule->format, rule->viewFormat}) {
+                if (format) {
+                    messages += Message{rule->id, format};
+                }
+            }
+        }
+    }
+    return messages;
+}
