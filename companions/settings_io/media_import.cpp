@@ -41,7 +41,7 @@ std::string importMedia(const std::filesystem::path& file, KvMvcSettings& settin
     if (!defaults)
         return "media files cannot be read without the library kv_mvcenc: " + encoder.reason();
     KvMvcSettings imported{};
-    defaults(&imported, 0, fittingPreset(info.num_views), 0);
+    defaults(&imported, 0, fittingPreset(info), 0);
     notes = applyMedia(info, imported);
     if (const auto check = encoder.find<KvMvcCheck>(KV_MVC_ENCODER_CHECK))
         std::ranges::move(fitToEncoder(check, info, imported), std::back_inserter(notes));

@@ -218,11 +218,13 @@ void scaleRates(double factor, KvMvcViewSettings& view)
     scaleLimits(factor, view);
 }
 
-int32_t fittingPreset(int32_t views)
+int32_t fittingPreset(const KvMediaInfo& info)
 {
-    return views > 2    ? KV_MVC_MULTIVIEW_HIGH
-           : views == 2 ? KV_MVC_STEREO_HIGH
-                        : KV_MVC_VIDEO_TYPE_NONE;
+    constexpr int32_t multiviewHigh = 118; // profile_idc (H.10.1.1)
+    if (info.num_views < 2)
+        return KV_MVC_VIDEO_TYPE_NONE;
+    return info.num_views > 2 || info.mvc_profile_idc == multiviewHigh ? KV_MVC_MULTIVIEW_HIGH
+                                                                       : KV_MVC_STEREO_HIGH;
 }
 
 std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& settings)

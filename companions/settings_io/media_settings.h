@@ -11,8 +11,8 @@
 namespace kv
 {
 
-/** KvMvcVideoType whose defaults fit a stream of so many views. */
-int32_t fittingPreset(int32_t views);
+/** KvMvcVideoType whose defaults fit the stream's views and the profile that they are coded in. */
+int32_t fittingPreset(const KvMediaInfo& info);
 
 /**
  * Puts the facts of a stream over a preset's defaults, in both view sub-records. What is not known

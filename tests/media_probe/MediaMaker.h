@@ -35,6 +35,13 @@ inline QByteArray makeMedia(const QString& arguments, const QString& file)
     return good ? QByteArray() : "ffmpeg failed: " + process.readAllStandardError();
 }
 
+/** Whether the file could be written. */
+inline bool writeFile(const QString& name, const QByteArray& content)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
 /** The first video stream in ffprobe's words. */
 inline QJsonObject probeMedia(const QString& file)
 {

@@ -93,7 +93,7 @@ private Q_SLOTS:
 private:
     KvMvcSettings settingsOf(const KvMediaInfo& info)
     {
-        KvMvcSettings settings = m_encoder.defaults(kv::fittingPreset(info.num_views));
+        KvMvcSettings settings = m_encoder.defaults(kv::fittingPreset(info));
         kv::applyMedia(info, settings);
         return settings;
     }

@@ -211,7 +211,7 @@ void TestMediaImport::viewsChooseThePreset_data()
     QTest::addColumn<int>("preset");
     QTest::addColumn<int>("taken");
     QTest::newRow("two, Stereo High") << 128 << 2 << 2 << 2;
-    QTest::newRow("two, Multiview High") << 118 << 2 << 2 << 2;
+    QTest::newRow("two, Multiview High") << 118 << 2 << 1 << 2;
     QTest::newRow("three") << 118 << 3 << 1 << 3;
     QTest::newRow("eight, more than the encoder has") << 118 << 8 << 1 << 4;
 }
