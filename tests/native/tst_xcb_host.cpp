@@ -295,22 +295,21 @@ void TestXcbHost::windowTakesNoInputUnderTheDialog()
     QCOMPARE(example.nextLine(), QStringLiteral("settings: ") + asBefore);
     // The button is in the window's corner, where the dialog does not hide it.
     const QPoint button(60, 40);
-    click(example.window, button);
-    QVERIFY(example.waitForDialog());
+    for (int round = 0; round < 2; ++round) {
+        click(example.window, button);
+        QVERIFY(example.waitForDialog());
 
-    // The window would open another dialog for each of these as soon as the call has returned.
-    click(example.window, button);
-    click(example.window, button);
-    press({QStringLiteral("s")});
-    QVERIFY(example.waitForDialog());
-    press({QStringLiteral("Escape")});
-    QCOMPARE(example.nextLine(), QStringLiteral("cancelled: ") + asBefore);
-    QVERIFY(example.hasFocusAgain());
-    QTest::qWait(1000);
-    QVERIFY(!windowTitled("Encoder settings of an xcb program"));
-
-    click(example.window, button);
-    QVERIFY(example.waitForDialog());
+        // The window would open another dialog for each of these as soon as the call has returned.
+        click(example.window, button);
+        click(example.window, button);
+        press({QStringLiteral("s")});
+        QVERIFY(example.waitForDialog());
+        press({QStringLiteral("Escape")});
+        QCOMPARE(example.nextLine(), QStringLiteral("cancelled: ") + asBefore);
+        QVERIFY(example.hasFocusAgain());
+    }
+    // Input is dealt with in its order, so what had been kept would come before this key.
+    QVERIFY(example.end());
 }
 
 QTEST_GUILESS_MAIN(TestXcbHost)
