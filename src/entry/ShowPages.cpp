@@ -107,6 +107,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     // Both outlive the application object, which keeps references to them.
     static int argumentCount = 0;
     static char* arguments[] = {nullptr};
+    // The version that the application says it was compiled for, 4.7.2: the interface fixes it.
     constexpr int versionCode = 0x40702;
     const ProcessLocale hostLocale;
     const ApplicationName name;
