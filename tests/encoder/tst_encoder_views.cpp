@@ -5,12 +5,66 @@
 #include <cstring>
 
 #include "Encoder.h"
+#include "SettingsLedger.h"
 
 namespace
 {
 
 using V = KvMvcViewSettings;
 using encoder::setBoth;
+using ledger::Group;
+using ledger::Setting;
+
+/** What is said when view 1 differs from the base view in a setting of the group. */
+struct Sharing {
+    Group group;
+    const char* rule;
+    const char* text;
+};
+
+constexpr Sharing aligned[] = {
+    {Group::Picture, "views.picture",
+     "View 1 now has the base view's picture format, which all views share."},
+    {Group::Stream, "views.stream",
+     "View 1 now has the base view's preset, profile and level, which all views share."},
+    {Group::Gop, "views.gop",
+     "View 1 now has the base view's GOP structure, which all views share."},
+};
+constexpr Sharing tools = {Group::Coding, "views.tools",
+                           "The advanced settings of view 1 differ from those of the base view."};
+
+bool isTool(const Setting& setting)
+{
+    // Follows the number of slices.
+    return !setting.is("multi_slice") &&
+           (setting.group == Group::Motion || setting.group == Group::Distortion ||
+            setting.group == Group::Coding);
+}
+
+/** A stereo record whose view 1 differs from the base view in this setting only. */
+struct Differing {
+    explicit Differing(const Setting& setting) : record(encoder::preset(2))
+    {
+        base = ledger::get(record, setting, 0);
+        own = setting.first.code == base ? setting.second.code : setting.first.code;
+        ledger::put(record, setting, 1, own);
+    }
+
+    KvMvcSettings record;
+    double base;
+    double own;
+};
+
+QByteArrayList alignments(const QByteArrayList& warnings)
+{
+    QByteArrayList found;
+    for (const Sharing& row : aligned) {
+        if (warnings.contains(row.text)) {
+            found += row.rule;
+        }
+    }
+    return found;
+}
 
 } // namespace
 
@@ -19,6 +73,13 @@ class TestEncoderViews : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void sharedSettingIsAligned_data();
+    void sharedSettingIsAligned();
+    void toolOfAViewIsToldAndKept_data();
+    void toolOfAViewIsToldAndKept();
+    void rateControlIsEachViewsOwn_data();
+    void rateControlIsEachViewsOwn();
+    void everySettingOfAViewIsLookedAt();
     void viewOneGetsWhatAllViewsShare();
     void whatViewsShareIsCorrectedOnce();
     void correctionsNameTheOtherView_data();
@@ -29,6 +90,93 @@ private Q_SLOTS:
     void judgementsNameTheView();
     void anUnusedViewIsLeftAlone();
 };
+
+void TestEncoderViews::sharedSettingIsAligned_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QByteArray>("warning");
+    for (const Sharing& row : aligned) {
+        for (const Setting& setting : ledger::settings()) {
+            if (setting.group == row.group) {
+                QTest::newRow(setting.member)
+                    << QString::fromLatin1(setting.member) << QString::fromLatin1(row.rule)
+                    << QByteArray(row.text);
+            }
+        }
+    }
+}
+
+void TestEncoderViews::sharedSettingIsAligned()
+{
+    QFETCH(const QString, member);
+    QFETCH(const QString, rule);
+    QFETCH(const QByteArray, warning);
+    const Setting& setting = ledger::setting(member);
+    Differing given(setting);
+    const Outcome outcome = encoder::check(given.record);
+    QVERIFY2(outcome.accepted(), outcome.all().constData());
+    QCOMPARE(outcome.warnings(), QByteArrayList{warning});
+    QCOMPARE(outcome.rules.count(rule), 1);
+    QVERIFY(ledger::get(given.record, setting, 0) == given.base);
+    QVERIFY(ledger::get(given.record, setting, 1) == given.base);
+}
+
+void TestEncoderViews::toolOfAViewIsToldAndKept_data()
+{
+    QTest::addColumn<QString>("member");
+    for (const Setting& setting : ledger::settings()) {
+        if (isTool(setting)) {
+            QTest::newRow(setting.member) << QString::fromLatin1(setting.member);
+        }
+    }
+}
+
+void TestEncoderViews::toolOfAViewIsToldAndKept()
+{
+    QFETCH(const QString, member);
+    const Setting& setting = ledger::setting(member);
+    Differing given(setting);
+    const Outcome outcome = encoder::check(given.record);
+    QCOMPARE(outcome.warnings(), QByteArrayList());
+    QCOMPARE(outcome.notes().count(tools.text), 1);
+    QCOMPARE(outcome.rules.count(QLatin1String(tools.rule)), 1);
+    QVERIFY(ledger::get(given.record, setting, 0) == given.base);
+    QVERIFY(ledger::get(given.record, setting, 1) == given.own);
+}
+
+void TestEncoderViews::rateControlIsEachViewsOwn_data()
+{
+    QTest::addColumn<QString>("member");
+    for (const Setting& setting : ledger::settings()) {
+        if (setting.group == Group::RateControl) {
+            QTest::newRow(setting.member) << QString::fromLatin1(setting.member);
+        }
+    }
+}
+
+void TestEncoderViews::rateControlIsEachViewsOwn()
+{
+    QFETCH(const QString, member);
+    const Setting& setting = ledger::setting(member);
+    Differing given(setting);
+    const Outcome outcome = encoder::check(given.record);
+    QCOMPARE(alignments(outcome.warnings()), QByteArrayList());
+    QVERIFY2(!outcome.said(QLatin1String(tools.rule)), outcome.all().constData());
+    QVERIFY(ledger::get(given.record, setting, 0) == given.base);
+    QVERIFY(ledger::get(given.record, setting, 1) == given.own);
+}
+
+void TestEncoderViews::everySettingOfAViewIsLookedAt()
+{
+    int rows = 0;
+    for (const Setting& setting : ledger::settings()) {
+        rows += setting.isOfRecord() ? 0 : 1;
+    }
+    // 13 of the picture, 3 of the stream, 9 of the GOP, 18 tools, 17 of rate control, and the
+    // switch for several slices.
+    QCOMPARE(rows, 13 + 3 + 9 + 18 + 17 + 1);
+}
 
 void TestEncoderViews::viewOneGetsWhatAllViewsShare()
 {

@@ -170,7 +170,7 @@ const QVector<Setting> rows = {
     {"quant_b", 68, Number, RateControl, "B Quantizer", noLock, view, "quantBSpin",
      "quantBLabel", "Quantizer B-frames", none, 32, 5, 2, 62, 26},
     {"quant_max", 2920, Number, RateControl, "Max Quantizer", noLock, view, "maxQuantSpin",
-     "maxQuantLabel", "Maximum quantizer", none, 51, 62, 2, 62, 51},
+     "maxQuantLabel", "Maximum quantizer", none, 45, 62, 2, 62, 51},
     {"quant_min", 2916, Number, RateControl, "Min Quantizer", noLock, view, "minQuantSpin",
      "minQuantLabel", "Minimum quantizer", none, 10, 61, 2, 62, 2},
 };

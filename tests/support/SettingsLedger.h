@@ -82,6 +82,7 @@ struct Setting {
     std::optional<double> preset;
 
     int width() const { return kind == Kind::FrameRate ? 8 : 4; }
+    bool is(const char* name) const { return QLatin1String(name) == QLatin1String(member); }
     bool isOfRecord() const { return group == Group::Record; }
     bool isOfEachView() const { return group == Group::RateControl; }
     /// What the field has more than the key's number.
