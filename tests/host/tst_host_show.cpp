@@ -1,6 +1,6 @@
 #include "ExampleSettings.h"
 #include "HostProgram.h"
-#include "RecordFields.h"
+#include "SettingsLedger.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -16,15 +16,21 @@ class HostShowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void tableShowsBothViewsSideBySide();
-    void valuesHaveNames_data();
-    void valuesHaveNames();
+    void namedValuesAreShownByName_data();
+    void namedValuesAreShownByName();
+    void otherValuesAreShownAsNumbers_data();
+    void otherValuesAreShownAsNumbers();
     void jsonHoldsEveryField();
     void frameRatesWithoutANumberAreNull_data();
     void frameRatesWithoutANumberAreNull();
     void frameRatesKeepTheirDigits_data();
     void frameRatesKeepTheirDigits();
     void namesBeyondAsciiAreOpened();
+
+private:
+    QVector<QJsonObject> m_shown;
 };
 
 namespace
@@ -76,7 +82,52 @@ void HostShowTest::tableShowsBothViewsSideBySide()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostShowTest::valuesHaveNames_data()
+void HostShowTest::initTestCase()
+{
+    // One program for the first named value of every setting, one for the second, and so on.
+    bool isMore = true;
+    for (int at = 0; isMore; ++at) {
+        isMore = false;
+        KvMvcSettings settings = exampleSettings();
+        for (const ledger::Setting& setting : ledger::settings()) {
+            const auto& values = ledger::namedValues(QString::fromLatin1(setting.member));
+            if (at < values.size()) {
+                ledger::put(settings, setting, 1, values[at].code);
+            }
+            isMore = isMore || at + 1 < values.size();
+        }
+        const HostProgram program;
+        program.writeSettings(fileName, settings);
+        m_shown.append(shownJson(program));
+    }
+}
+
+void HostShowTest::namedValuesAreShownByName_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<int>("at");
+    for (const ledger::Setting& setting : ledger::settings()) {
+        const QString member = QString::fromLatin1(setting.member);
+        const auto& values = ledger::namedValues(member);
+        for (int at = 0; at < values.size(); ++at) {
+            QTest::addRow("%s %d", setting.member, values[at].code) << member << at;
+        }
+    }
+}
+
+void HostShowTest::namedValuesAreShownByName()
+{
+    QFETCH(QString, member);
+    QFETCH(int, at);
+    const ledger::NamedValue& value = ledger::namedValues(member).at(at);
+    const QJsonObject& all = m_shown.at(at);
+    const QJsonObject shown =
+        (ledger::setting(member).isOfRecord() ? all : viewOf(all, 1))[member].toObject();
+    QCOMPARE(shown[QStringLiteral("text")].toString(), QString::fromLatin1(value.text));
+    QCOMPARE(shown[QStringLiteral("value")].toInt(-12345), value.code);
+}
+
+void HostShowTest::otherValuesAreShownAsNumbers_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("value");
@@ -87,96 +138,25 @@ void HostShowTest::valuesHaveNames_data()
         int value;
         const char* text;
     };
+    // What has no name of its own; see namedValuesAreShownByName().
     static const Row rows[] = {
-        {"profile", 0, "Baseline"},
-        {"profile", 1, "Main"},
         {"profile", 2, "2 (unknown)"},
-        {"profile", 3, "High"},
-        {"profile", 4, "High 10"},
-        {"profile", 5, "High 422"},
-        {"level", 10, "1.0"},
-        {"level", 11, "1.1"},
-        {"level", 12, "1.2"},
-        {"level", 13, "1.3"},
         {"level", 14, "14 (unknown)"},
-        {"level", 16, "1.6"},
-        {"level", 20, "2.0"},
-        {"level", 21, "2.1"},
-        {"level", 22, "2.2"},
-        {"level", 30, "3.0"},
-        {"level", 31, "3.1"},
-        {"level", 32, "3.2"},
-        {"level", 40, "4.0"},
-        {"level", 41, "4.1"},
-        {"level", 42, "4.2"},
-        {"level", 50, "5.0"},
-        {"level", 51, "5.1"},
-        {"level", 52, "5.2"},
-        {"level", 100, "Auto"},
-        {"video_type", 0, "None"},
-        {"video_type", 1, "Multivew High"},
-        {"video_type", 2, "Stereo High"},
-        {"video_type", 3, "Blu-ray 3D"},
         {"video_type", 4, "4 (unknown)"},
-        {"interlace_mode", 0, "Progressive"},
-        {"interlace_mode", 1, "Interlaced"},
-        {"interlace_mode", 2, "MBAFF"},
-        {"field_order", 0, "Top Field First"},
-        {"field_order", 1, "Bot Field First"},
-        {"pulldown", 0, "Off"},
-        {"pulldown", 1, "2:3"},
-        {"pulldown", 2, "3:2"},
         {"pulldown", 3, "3 (unknown)"},
-        {"pulldown", 4, "2:3 P"},
-        {"pulldown", 5, "3:2 P"},
-        {"pulldown", 6, "Auto"},
-        {"pulldown", 7, "2:2"},
-        {"pulldown", 8, "3:3"},
         {"chroma_format", 0, "0 (unknown)"},
-        {"chroma_format", 1, "4:0:0"},
-        {"chroma_format", 2, "4:2:0"},
-        {"chroma_format", 3, "4:2:2"},
-        {"chroma_format", 4, "unnamed format"},
-        {"bitrate_mode", 0, "Constant Bitrate"},
-        {"bitrate_mode", 1, "Const. Quality - Constant Quantizer"},
-        {"bitrate_mode", 2, "Variable Bitrate"},
-        {"bitrate_mode", 3, "Const. Quality - Average Quantizer"},
-        {"bitrate_units", 0, "Bytes and percent"},
-        {"bitrate_units", 1, "Bits"},
-        {"bitrate_units", 2, "Bits and 90 kHz"},
-        {"min_partition", 0, "16 x 16"},
-        {"min_partition", 1, "8 x 8"},
-        {"subpixel_mode", 0, "Full"},
-        {"subpixel_mode", 1, "Half"},
-        {"subpixel_mode", 2, "Quarter"},
-        {"entropy_mode", 0, "CAVLC"},
-        {"entropy_mode", 1, "CABAC"},
-        {"display_aspect_x", -1, "Custom"},
-        {"display_aspect_y", -1, "Custom"},
+        {"deblocking", 2, "2 (unknown)"},
         {"display_aspect_y", 9, "9"},
-        {"pixel_aspect_x", -1, "derived"},
-        {"pixel_aspect_y", -1, "derived"},
         {"pixel_aspect_y", 11, "11"},
-        {"i_interval", 0, "0 (first only)"},
         {"i_interval", 1, "1"},
         {"ref_distance", 1, "0"},
         {"ref_distance", 3, "2"},
         {"ref_distance", 0, "-1"},
         {"ref_distance", -2147483647 - 1, "-2147483649"},
-        {"bit_depth_luma", 8, "8 bits"},
-        {"bit_depth_chroma", 10, "10 bits"},
-        {"idr_marker", 0, "0 (first only)"},
-        {"num_threads", 0, "Auto"},
-        {"frame_size_i", 0, "0 (no limit)"},
-        {"frame_size_p", 0, "0 (no limit)"},
-        {"frame_size_b", 0, "0 (no limit)"},
-        {"frame_size_bref", 0, "0 (no limit)"},
+        {"bit_depth_luma", 9, "9 bits"},
         {"frame_size_bref", 1, "1 bytes"},
         {"bitrate", 2147483647, "2147483647"},
         {"max_bitrate", -1, "-1"},
-        {"deblocking", 0, "off"},
-        {"deblocking", 1, "on"},
-        {"deblocking", 2, "2 (unknown)"},
     };
     for (const Row& row : rows) {
         const QString key = QString::fromLatin1(row.key);
@@ -185,13 +165,13 @@ void HostShowTest::valuesHaveNames_data()
     }
 }
 
-void HostShowTest::valuesHaveNames()
+void HostShowTest::otherValuesAreShownAsNumbers()
 {
     QFETCH(QString, key);
     QFETCH(int, value);
     QFETCH(QString, text);
     KvMvcSettings settings = exampleSettings();
-    setField(settings, 1, fieldOffset(key), value);
+    ledger::put(settings, ledger::setting(key), 1, value);
     const HostProgram program;
     program.writeSettings(fileName, settings);
     const QJsonObject second = viewOf(shownJson(program), 1);
@@ -205,9 +185,10 @@ void HostShowTest::jsonHoldsEveryField()
     settings.num_views = 1001;
     settings.split_views = 1002;
     int value = 2000;
-    for (const RecordField& field : viewFields) {
-        setField(settings, 0, field.offset, value);
-        setField(settings, 1, field.offset, value + 1000);
+    const QVector<ledger::Setting> fields = ledger::viewNumbers();
+    for (const ledger::Setting& field : fields) {
+        ledger::put(settings, field, 0, value);
+        ledger::put(settings, field, 1, value + 1000);
         ++value;
     }
     settings.views[0].frame_rate = 12.5;
@@ -224,10 +205,10 @@ void HostShowTest::jsonHoldsEveryField()
     for (int view = 0; view < 2; ++view) {
         const QJsonObject object = viewOf(shown, view);
         // And the frame rate, which is no whole number.
-        QCOMPARE(object.size(), static_cast<int>(std::size(viewFields)) + 1);
+        QCOMPARE(object.size(), int(fields.size()) + 1);
         value = 2000 + 1000 * view;
-        for (const RecordField& field : viewFields) {
-            QVERIFY2(valueOf(object, QLatin1String(field.name)) == value, field.name);
+        for (const ledger::Setting& field : fields) {
+            QVERIFY2(valueOf(object, QLatin1String(field.member)) == value, field.member);
             ++value;
         }
     }

@@ -1,5 +1,5 @@
 // Settings files as text: every record comes back byte for byte, every error names its line.
-#include "RecordFields.h"
+#include "SettingsLedger.h"
 #include "SettingsLibrary.h"
 
 #include <settings_text.h>
@@ -20,89 +20,6 @@ namespace
 QByteArray inViewZero(const QByteArray& lines)
 {
     return "[record]\n[view 0]\n" + lines;
-}
-
-struct Named {
-    const char* key;
-    const char* name;
-    int value;
-};
-
-constexpr Named kNames[] = {
-    {"profile", "baseline", 0},
-    {"profile", "main", 1},
-    {"profile", "high", 3},
-    {"profile", "high 10", 4},
-    {"profile", "high 4:2:2", 5},
-    {"level", "1.0", 10},
-    {"level", "1.1", 11},
-    {"level", "1.2", 12},
-    {"level", "1.3", 13},
-    {"level", "1.6", 16},
-    {"level", "2.0", 20},
-    {"level", "2.1", 21},
-    {"level", "2.2", 22},
-    {"level", "3.0", 30},
-    {"level", "3.1", 31},
-    {"level", "3.2", 32},
-    {"level", "4.0", 40},
-    {"level", "4.1", 41},
-    {"level", "4.2", 42},
-    {"level", "5.0", 50},
-    {"level", "5.1", 51},
-    {"level", "5.2", 52},
-    {"level", "auto", 100},
-    {"interlace_mode", "progressive", 0},
-    {"interlace_mode", "interlaced", 1},
-    {"interlace_mode", "mbaff", 2},
-    {"field_order", "top field first", 0},
-    {"field_order", "bottom field first", 1},
-    {"bitrate_mode", "constant bitrate", 0},
-    {"bitrate_mode", "constant quantizer", 1},
-    {"bitrate_mode", "variable bitrate", 2},
-    {"bitrate_mode", "average quantizer", 3},
-    {"bitrate_units", "bytes and percent", 0},
-    {"bitrate_units", "bits", 1},
-    {"bitrate_units", "bits and 90 kHz", 2},
-    {"min_partition", "16x16", 0},
-    {"min_partition", "8x8", 1},
-    {"subpixel_mode", "full", 0},
-    {"subpixel_mode", "half", 1},
-    {"subpixel_mode", "quarter", 2},
-    {"entropy_mode", "cavlc", 0},
-    {"entropy_mode", "cabac", 1},
-    {"video_type", "none", 0},
-    {"video_type", "multiview high", 1},
-    {"video_type", "stereo high", 2},
-    {"video_type", "blu-ray 3d", 3},
-    {"pulldown", "off", 0},
-    {"pulldown", "2:3", 1},
-    {"pulldown", "3:2", 2},
-    {"pulldown", "2:3 progressive", 4},
-    {"pulldown", "3:2 progressive", 5},
-    {"pulldown", "auto", 6},
-    {"pulldown", "2:2", 7},
-    {"pulldown", "3:3", 8},
-    {"chroma_format", "4:0:0", 1},
-    {"chroma_format", "4:2:0", 2},
-    {"chroma_format", "4:2:2", 3},
-    {"pixel_aspect_x", "from display", -1},
-    {"pixel_aspect_y", "from display", -1},
-    {"display_aspect_x", "custom", -1},
-    {"display_aspect_y", "custom", -1},
-    {"hrd_mode", "off", 0},
-    {"hrd_mode", "on", 1},
-    {"deblocking", "on", 1},
-    {"scene_detection", "on", 1},
-    {"multi_slice", "on", 1},
-    {"hadamard", "on", 1},
-};
-
-int32_t numberAt(const KvMvcSettings& settings, std::size_t offset)
-{
-    int32_t number = 0;
-    std::memcpy(&number, reinterpret_cast<const char*>(&settings) + offset, sizeof number);
-    return number;
 }
 
 std::string firstProblem(const QByteArray& text)
@@ -184,9 +101,10 @@ void TestSettingsText::numbersGoToTheirOffset_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<int>("offset");
-    for (const RecordField& field : viewFields) {
-        if (QByteArray(field.name) != "level") // see levels()
-            QTest::newRow(field.name) << QByteArray(field.name) << static_cast<int>(field.offset);
+    for (const ledger::Setting& setting : ledger::viewNumbers()) {
+        if (!setting.is("level")) { // see levels()
+            QTest::newRow(setting.member) << QByteArray(setting.member) << setting.offset;
+        }
     }
 }
 
@@ -209,11 +127,14 @@ void TestSettingsText::viewsAndRecordAreApart()
                               "split_views=on\n[view 0]\nwidth=4\n",
                               settings)
                 .empty());
-    QCOMPARE(numberAt(settings, 0), 2);
-    QCOMPARE(numberAt(settings, 4), 1);
-    QCOMPARE(numberAt(settings, 256 + 24), 4);
-    QCOMPARE(numberAt(settings, 256 + 8316 + 24), 3);
-    QCOMPARE(numberAt(settings, 256 + 8316 + 4320), 1);
+    const auto numberOf = [&settings](const char* member, int view = 0) {
+        return ledger::get(settings, ledger::setting(QString::fromLatin1(member)), view);
+    };
+    QCOMPARE(numberOf("num_views"), 2.0);
+    QCOMPARE(numberOf("split_views"), 1.0);
+    QCOMPARE(numberOf("width", 0), 4.0);
+    QCOMPARE(numberOf("width", 1), 3.0);
+    QCOMPARE(numberOf("fast_subblock", 1), 1.0);
 }
 
 void TestSettingsText::namesStandForTheirCodes_data()
@@ -221,9 +142,14 @@ void TestSettingsText::namesStandForTheirCodes_data()
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("value");
-    for (const Named& row : kNames)
-        QTest::addRow("%s = %s", row.key, row.name)
-            << QByteArray(row.key) << QByteArray(row.name) << row.value;
+    for (const ledger::Setting& setting : ledger::viewNumbers()) {
+        for (const auto& value : ledger::namedValues(QString::fromLatin1(setting.member))) {
+            const QByteArray name =
+                value.spelling ? QByteArray(value.spelling) : QByteArray::number(value.code);
+            QTest::addRow("%s = %s", setting.member, name.constData())
+                << QByteArray(setting.member) << name << value.code;
+        }
+    }
 }
 
 void TestSettingsText::namesStandForTheirCodes()
@@ -232,7 +158,7 @@ void TestSettingsText::namesStandForTheirCodes()
     QFETCH(QByteArray, name);
     QFETCH(int, value);
     KvMvcSettings expected{};
-    setField(expected, 0, fieldOffset(QString::fromLatin1(key)), value);
+    ledger::put(expected, ledger::setting(QString::fromLatin1(key)), 0, value);
     QVERIFY(same(readLine(key + " = " + name), expected));
     QVERIFY(same(readLine(key + "=" + name.toUpper()), expected));
     QVERIFY(same(readLine(key + " = " + QByteArray::number(value)), expected));

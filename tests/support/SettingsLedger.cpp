@@ -311,6 +311,14 @@ const Setting& setting(const QString& member)
     return *row;
 }
 
+QVector<Setting> viewNumbers()
+{
+    QVector<Setting> found;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(found),
+                 [](const Setting& each) { return !each.isOfRecord() && each.kind != FrameRate; });
+    return found;
+}
+
 QVector<Setting> settingsOn(const char* page)
 {
     QVector<Setting> found;

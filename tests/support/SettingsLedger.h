@@ -100,6 +100,8 @@ struct Setting {
 const QVector<Setting>& settings();
 /// The one row of that member; a test that asks for another stops.
 const Setting& setting(const QString& member);
+/// The rows of a view that hold a whole number: all but the frame rate.
+QVector<Setting> viewNumbers();
 /// The rows with a key on the page; all pages without one. View pages are named "View%1Page".
 QVector<Setting> settingsOn(const char* page);
 
