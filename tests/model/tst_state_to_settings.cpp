@@ -5,7 +5,8 @@
 #include <climits>
 
 /// An edit finds its way into the record: exactly the bytes of the edited setting, in the right
-/// views, and no other byte. Every expectation is a place in the record, written down here.
+/// views, and no other byte. Every expectation is a place in the record, by the ledger or, for
+/// rules of one setting, written down here.
 class StateToSettingsTest : public QObject
 {
     Q_OBJECT
@@ -37,83 +38,48 @@ private Q_SLOTS:
     void numberOfViews0StoresOneView();
 };
 
+using ledger::Kind;
+using ledger::Setting;
+
 namespace
 {
 
-struct NumberKey {
-    const char* key;
-    int offset;
-    int added = 0;
-};
+bool isNumber(const Setting& setting)
+{
+    return setting.kind == Kind::Number || setting.kind == Kind::Switch ||
+           setting.kind == Kind::Radio;
+}
 
-struct TextKey {
-    const char* key;
-    int offset;
-    QVector<QPair<const char*, int>> codes;
-};
+/// Those that a key of their own stands for and that have no rule of their own beside it.
+QVector<Setting> plainSettings(bool (*isMeant)(const Setting&))
+{
+    QVector<Setting> found;
+    for (const Setting& setting : ledger::settings())
+        if (setting.key && isMeant(setting))
+            found += setting;
+    return found;
+}
 
-// Of the current view.
-const QVector<NumberKey> generalNumbers = {
-    {"Horizontal Size", 24}, {"Vertical Size", 28},     {"Pixel X", 100},
-    {"Pixel Y", 104},        {"Scene Detection", 2836}, {"Interval I", 8},
-    {"Force I", 4100},       {"IDR Marker", 4108},      {"Fixed I Position", 4116},
-    {"Adaptive B", 4104},    {"Piramyd B", 2856},       {"B Between", 12, 1},
-    {"Reference B", 2852},   {"Num Reference", 40},     {"Motion Search", 44},
-    {"Weighted P", 2872},    {"Fast Reference", 4316},  {"Fast Subblock", 4320},
-    {"Fast Intra", 2880},    {"Fast Inter", 2884},      {"Simple RD", 5116},
-    {"Hadamard", 96},        {"Brightness", 5492},      {"Contrast", 5496},
-    {"Complexity", 5500},    {"Deblocking", 256},       {"Threads", 2904},
-};
+QVector<Setting> generalNumbers()
+{
+    return plainSettings([](const Setting& setting) {
+        return isNumber(setting) && !setting.isOfRecord() && !setting.isOfEachView() &&
+               !setting.is("num_slices");
+    });
+}
 
-const QVector<TextKey> generalTexts = {
-    {"Interlace", 20, {{"Progressive", 0}, {"Interlaced", 1}, {"MBAFF", 2}}},
-    {"Field Order", 4112, {{"Top Field First", 0}, {"Bot Field First", 1}}},
-    {"Pulldown",
-     1808,
-     {{"Off", 0},
-      {"2:3", 1},
-      {"3:2", 2},
-      {"2:3 P", 4},
-      {"3:2 P", 5},
-      {"Auto", 6},
-      {"2:2", 7},
-      {"3:3", 8}}},
-    {"Chroma Format", 2252, {{"4:0:0", 1}, {"4:2:0", 2}, {"4:2:2", 3}, {"", 4}}},
-    {"Bit-depth Luma", 2244, {{"8 bits", 8}, {"10 bits", 10}}},
-    {"Bit-depth Chroma", 2248, {{"8 bits", 8}, {"10 bits", 10}}},
-    {"Profile", 0, {{"Baseline", 0}, {"Main", 1}, {"High", 3}, {"High 10", 4}}},
-    {"Level",
-     4,
-     {{"1.0", 10},
-      {"1.1", 11},
-      {"1.2", 12},
-      {"1.3", 13},
-      {"1.6", 16},
-      {"2.0", 20},
-      {"2.1", 21},
-      {"2.2", 22},
-      {"3.0", 30},
-      {"3.1", 31},
-      {"3.2", 32},
-      {"4.0", 40},
-      {"4.1", 41},
-      {"4.2", 42},
-      {"5.0", 50},
-      {"5.1", 51},
-      {"5.2", 52},
-      {"Auto", 100}}},
-    {"Macroblock Search", 88, {{"16 x 16", 0}, {"8 x 8", 1}}},
-    {"Subpixel Search", 2868, {{"Full", 0}, {"Half", 1}, {"Quarter", 2}}},
-    {"Entropy", 92, {{"CAVLC", 0}, {"CABAC", 1}}},
-};
+QVector<Setting> generalLists()
+{
+    return plainSettings([](const Setting& setting) {
+        return setting.kind == Kind::List && !setting.isOfEachView() && !setting.is("video_type");
+    });
+}
 
-// Of the view that the key's suffix names.
-const QVector<NumberKey> viewNumbers = {
-    {"Target Bitrate", 80}, {"Max Bitrate", 84},     {"Bitrate Buffer", 76},  {"Units", 132},
-    {"VBV Initial", 124},   {"VBV Target", 128},     {"I Size", 160},         {"P Size", 164},
-    {"B Size", 168},        {"Br Size", 172},        {"I Quantizer", 60},     {"P Quantizer", 64},
-    {"B Quantizer", 68},    {"Max Quantizer", 2920}, {"Min Quantizer", 2916}, {"HRD", 176},
-};
+QVector<Setting> viewNumbers()
+{
+    return plainSettings(
+        [](const Setting& setting) { return isNumber(setting) && setting.isOfEachView(); });
+}
 
 struct RateCase {
     const char* text;
@@ -201,12 +167,15 @@ void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount_data()
         const QString text = QLatin1String(key);
         QTest::newRow(rowName(text, value).constData()) << text << value << cells;
     };
-    for (const NumberKey& number : generalNumbers)
+    for (const Setting& number : generalNumbers())
         for (const Shown& shown : shownNumbers())
-            row(number.key, shown.value, {{0, number.offset, wrapped(shown.number, number.added)}});
-    for (const TextKey& text : generalTexts)
-        for (const auto& code : text.codes)
-            row(text.key, QString(QLatin1String(code.first)), {{0, text.offset, code.second}});
+            row(number.key, shown.value,
+                {{0, number.offset, wrapped(shown.number, number.added())}});
+    for (const Setting& list : generalLists())
+        for (const auto& item : ledger::listedValues(QString::fromLatin1(list.member)))
+            row(list.key, QString(QLatin1String(item.text)), {{0, list.offset, item.code}});
+    // The fourth format has an empty text.
+    row("Chroma Format", QString(QLatin1String("")), {{0, 2252, 4}});
     for (const RateCase& rate : rates)
         row("Frame Rate", QString(QLatin1String(rate.text)), {{0, 32, rate.rate}});
 
@@ -253,7 +222,7 @@ void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount_data()
         QTest::newRow(rowName(key, value).constData()) << key << value << cells;
     };
     for (int view = 0; view < 4; ++view) {
-        for (const NumberKey& number : viewNumbers)
+        for (const Setting& number : viewNumbers())
             for (const Shown& shown : shownNumbers())
                 row(number.key, view, shown.value, {{view, number.offset, shown.number}});
         const char* const mode = "Bitrate Mode";
@@ -311,14 +280,20 @@ void StateToSettingsTest::unknownTextChangesNothing_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("text");
-    for (const char* key :
-         {"Interlace", "Field Order", "Pulldown", "Bit-depth Luma", "Bit-depth Chroma",
-          "Macroblock Search", "Subpixel Search", "Entropy", "Picture Aspect Ratio", "Frame Rate",
-          "Bitrate Mode V0", "Bitrate Mode V1", "Bitrate Mode V2", "Bitrate Mode V3"}) {
-        for (const char* text : {"", "no such item", "3", "progressive", "mbaff", "Off ", "25"})
-            QTest::newRow(qPrintable(
-                QStringLiteral("%1 = '%2'").arg(QLatin1String(key), QLatin1String(text))))
-                << QString(QLatin1String(key)) << QString(QLatin1String(text));
+    // Those that take one for 4:2:0, or for the code 0.
+    const QStringList others = {QStringLiteral("Chroma Format"), QStringLiteral("Profile"),
+                                QStringLiteral("Level"), QStringLiteral("Video Type")};
+    const QVector<Setting> all =
+        plainSettings([](const Setting& setting) { return !isNumber(setting); });
+    for (const Setting& setting : all) {
+        for (int view = 0; view < (setting.isOfEachView() ? 4 : 1); ++view) {
+            const QString key = setting.keyOf(view);
+            if (others.contains(key))
+                continue;
+            for (const char* text : {"", "no such item", "3", "progressive", "mbaff", "Off ", "25"})
+                QTest::newRow(qPrintable(QStringLiteral("%1 = '%2'").arg(key, QLatin1String(text))))
+                    << key << QString(QLatin1String(text));
+        }
     }
 }
 

@@ -1,3 +1,5 @@
+#include "SettingsLedger.h"
+
 #include "model/ValueLists.h"
 #include "model/Vocabulary.h"
 
@@ -48,6 +50,15 @@ QStringList written(const Coded& items)
     for (const auto& item : items)
         lines += QStringLiteral("%1=%2").arg(QLatin1String(item.first)).arg(item.second);
     return lines;
+}
+
+/// What the ledger lists for the setting.
+Coded itemsOf(const char* member)
+{
+    Coded items;
+    for (const auto& value : ledger::listedValues(QString::fromLatin1(member)))
+        items += {value.text, value.code};
+    return items;
 }
 
 template <class Texts>
@@ -104,53 +115,18 @@ void ValueListsTest::listHasItsItemsInOrder_data()
     const auto row = [](const char* name, ListName list, const Coded& items) {
         QTest::newRow(name) << list << items;
     };
-    row("field orders", ListName::FieldOrders, {{"Top Field First", 0}, {"Bot Field First", 1}});
-    row("interlace modes", ListName::InterlaceModes,
-        {{"Progressive", 0}, {"Interlaced", 1}, {"MBAFF", 2}});
-    row("bit depths", ListName::BitDepths, {{"8 bits", 8}, {"10 bits", 10}});
-    row("pulldown modes", ListName::PulldownModes,
-        {{"Off", 0},
-         {"2:3", 1},
-         {"3:2", 2},
-         {"2:3 P", 4},
-         {"3:2 P", 5},
-         {"Auto", 6},
-         {"2:2", 7},
-         {"3:3", 8}});
-    row("chroma formats", ListName::ChromaFormats,
-        {{"4:0:0", 1}, {"4:2:0", 2}, {"4:2:2", 3}, {"", 4}});
-    row("bitrate modes", ListName::BitrateModes,
-        {{"Constant Bitrate", 0},
-         {"Variable Bitrate", 2},
-         {"Const. Quality - Constant Quantizer", 1},
-         {"Const. Quality - Average Quantizer", 3}});
-    row("macroblock partitions", ListName::MacroblockPartitions, {{"16 x 16", 0}, {"8 x 8", 1}});
-    row("subpixel precisions", ListName::SubpixelPrecisions,
-        {{"Full", 0}, {"Half", 1}, {"Quarter", 2}});
-    row("entropy coders", ListName::EntropyCoders, {{"CAVLC", 0}, {"CABAC", 1}});
-    row("video types", ListName::VideoTypes,
-        {{"Blu-ray 3D", 3}, {"Multivew High", 1}, {"Stereo High", 2}});
-    row("profiles", ListName::Profiles,
-        {{"Baseline", 0}, {"High", 3}, {"High 10", 4}, {"Main", 1}});
-    row("levels", ListName::Levels,
-        {{"1.0", 10},
-         {"1.1", 11},
-         {"1.2", 12},
-         {"1.3", 13},
-         {"1.6", 16},
-         {"2.0", 20},
-         {"2.1", 21},
-         {"2.2", 22},
-         {"3.0", 30},
-         {"3.1", 31},
-         {"3.2", 32},
-         {"4.0", 40},
-         {"4.1", 41},
-         {"4.2", 42},
-         {"5.0", 50},
-         {"5.1", 51},
-         {"5.2", 52},
-         {"Auto", 100}});
+    row("field orders", ListName::FieldOrders, itemsOf("field_order"));
+    row("interlace modes", ListName::InterlaceModes, itemsOf("interlace_mode"));
+    row("bit depths", ListName::BitDepths, itemsOf("bit_depth_luma"));
+    row("pulldown modes", ListName::PulldownModes, itemsOf("pulldown"));
+    row("chroma formats", ListName::ChromaFormats, itemsOf("chroma_format") + Coded{{"", 4}});
+    row("bitrate modes", ListName::BitrateModes, itemsOf("bitrate_mode"));
+    row("macroblock partitions", ListName::MacroblockPartitions, itemsOf("min_partition"));
+    row("subpixel precisions", ListName::SubpixelPrecisions, itemsOf("subpixel_mode"));
+    row("entropy coders", ListName::EntropyCoders, itemsOf("entropy_mode"));
+    row("video types", ListName::VideoTypes, itemsOf("video_type"));
+    row("profiles", ListName::Profiles, itemsOf("profile"));
+    row("levels", ListName::Levels, itemsOf("level"));
 }
 
 void ValueListsTest::listHasItsItemsInOrder()
@@ -230,18 +206,9 @@ void ValueListsTest::namesComeInTheOrderOfTheirTexts_data()
     QTest::addColumn<NameMap>("map");
     QTest::addColumn<Coded>("names");
     const Vocabulary vocabulary;
-    QTest::newRow("video types") << vocabulary.videoTypes()
-                                 << Coded{{"Blu-ray 3D", 3},
-                                          {"Multivew High", 1},
-                                          {"Stereo High", 2}};
-    QTest::newRow("profiles") << vocabulary.profiles()
-                              << Coded{{"Baseline", 0}, {"High", 3}, {"High 10", 4}, {"Main", 1}};
-    QTest::newRow("levels") << vocabulary.levels()
-                            << Coded{{"1.0", 10}, {"1.1", 11},  {"1.2", 12}, {"1.3", 13},
-                                     {"1.6", 16}, {"2.0", 20},  {"2.1", 21}, {"2.2", 22},
-                                     {"3.0", 30}, {"3.1", 31},  {"3.2", 32}, {"4.0", 40},
-                                     {"4.1", 41}, {"4.2", 42},  {"5.0", 50}, {"5.1", 51},
-                                     {"5.2", 52}, {"Auto", 100}};
+    QTest::newRow("video types") << vocabulary.videoTypes() << itemsOf("video_type");
+    QTest::newRow("profiles") << vocabulary.profiles() << itemsOf("profile");
+    QTest::newRow("levels") << vocabulary.levels() << itemsOf("level");
 }
 
 void ValueListsTest::namesComeInTheOrderOfTheirTexts()

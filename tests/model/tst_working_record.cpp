@@ -155,9 +155,9 @@ void WorkingRecordTest::followingViewsKeepTheirRateControlOnly()
     QByteArray expected = before.left(16888);
     for (const int view : {2, 3}) {
         QByteArray bytes = before.mid(8572, 8316);
-        for (const int offset :
-             {60, 64, 68, 72, 76, 80, 84, 124, 128, 132, 160, 164, 168, 172, 176, 2916, 2920})
-            bytes.replace(offset, 4, before.mid(256 + view * 8316 + offset, 4));
+        for (const ledger::Setting& setting : ledger::settings())
+            if (setting.isOfEachView())
+                bytes.replace(setting.offset, 4, before.mid(setting.position(view), 4));
         expected += bytes;
     }
     followSecondView(record);

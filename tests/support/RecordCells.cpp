@@ -1,5 +1,7 @@
 #include "RecordCells.h"
 
+#include <QHash>
+
 #include <cstring>
 
 namespace
@@ -42,6 +44,14 @@ Cell::Cell(int view_, int offset_, int number)
 
 Cell::Cell(int view_, int offset_, double number)
     : view(view_), offset(offset_), bytes(littleEndian(number))
+{
+}
+
+Cell::Cell(int view_, const ledger::Setting& setting, double value)
+    : view(setting.isOfRecord() ? int(Record) : view_),
+      offset(setting.offset),
+      bytes(setting.kind == ledger::Kind::FrameRate ? littleEndian(value)
+                                                    : littleEndian(qint32(value)))
 {
 }
 
@@ -91,24 +101,28 @@ KvMvcSettings exampleSettings()
     for (size_t i = 0; i < sizeof settings; ++i)
         bytes[i] = static_cast<unsigned char>(i * 31 + i / 256 * 7 + 1);
 
-    put(settings, {{Cell::Record, 0, 2}, {Cell::Record, 4, 0}});
-    for (int view = 0; view < 2; ++view)
-        put(settings,
-            {{view, 0, 3},        {view, 4, 40},      {view, 8, 12},      {view, 12, 3},
-             {view, 20, 1},       {view, 24, 720},    {view, 28, 576},    {view, 32, 25.0},
-             {view, 40, 3},       {view, 44, 64},     {view, 60, 28},     {view, 64, 30},
-             {view, 68, 32},      {view, 72, 2},      {view, 76, 500000}, {view, 80, 4000000},
-             {view, 84, 6000000}, {view, 88, 1},      {view, 92, 1},      {view, 96, 0},
-             {view, 100, 12},     {view, 104, 11},    {view, 124, 70},    {view, 128, 80},
-             {view, 132, 0},      {view, 160, 90000}, {view, 164, 60000}, {view, 168, 30000},
-             {view, 172, 40000},  {view, 176, 1},     {view, 256, 0},     {view, 1804, 1},
-             {view, 1808, 0},     {view, 2244, 8},    {view, 2248, 8},    {view, 2252, 2},
-             {view, 2836, 0},     {view, 2844, 1},    {view, 2848, 4},    {view, 2852, 0},
-             {view, 2856, 0},     {view, 2868, 2},    {view, 2872, 0},    {view, 2880, 0},
-             {view, 2884, 0},     {view, 2888, -1},   {view, 2892, -1},   {view, 2904, 2},
-             {view, 2916, 10},    {view, 2920, 50},   {view, 4100, 2},    {view, 4104, 0},
-             {view, 4108, 3},     {view, 4112, 0},    {view, 4116, 0},    {view, 4316, 0},
-             {view, 4320, 0},     {view, 5116, 0},    {view, 5492, 0},    {view, 5496, 0},
-             {view, 5500, 0}});
+    // What tests rely on; all else is the ledger's first value, and switches are off.
+    const QHash<QString, double> own = {
+        {QStringLiteral("num_views"), 2},      {QStringLiteral("profile"), 3},
+        {QStringLiteral("level"), 40},         {QStringLiteral("interlace_mode"), 1},
+        {QStringLiteral("frame_rate"), 25},    {QStringLiteral("num_ref_frames"), 3},
+        {QStringLiteral("motion_search"), 64}, {QStringLiteral("max_bitrate"), 6000000},
+        {QStringLiteral("min_partition"), 1},  {QStringLiteral("entropy_mode"), 1},
+        {QStringLiteral("bitrate_units"), 0},  {QStringLiteral("bit_depth_chroma"), 8},
+        {QStringLiteral("chroma_format"), 2},  {QStringLiteral("num_slices"), 4},
+        {QStringLiteral("multi_slice"), 1},    {QStringLiteral("subpixel_mode"), 2},
+        {QStringLiteral("num_threads"), 2},    {QStringLiteral("quant_max"), 50},
+        {QStringLiteral("force_i"), 2},        {QStringLiteral("idr_marker"), 3},
+        {QStringLiteral("hrd_mode"), 1},       {QStringLiteral("brightness"), 0},
+        {QStringLiteral("contrast"), 0},       {QStringLiteral("complexity"), 0},
+    };
+    for (const ledger::Setting& setting : ledger::settings()) {
+        const bool isSwitch = setting.kind == ledger::Kind::Switch;
+        const double value =
+            own.value(QString::fromLatin1(setting.member), isSwitch ? 0 : setting.first.code);
+        for (int view = 0; view < 2; ++view) {
+            ledger::put(settings, setting, view, value);
+        }
+    }
     return settings;
 }

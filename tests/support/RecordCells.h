@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SettingsLedger.h"
+
 #include "model/WorkingRecord.h"
 
 #include <QByteArray>
@@ -8,7 +10,8 @@
 #include <QVector>
 
 /// One field of the working record by where it lies, with what it holds. Written down in tests as
-/// literals, so that neither the record's names nor the key table decide what is expected.
+/// literals or by the ledger, so that neither the record's names nor the key table decide what is
+/// expected.
 struct Cell {
     enum : int { Record = -1 };
 
@@ -16,6 +19,8 @@ struct Cell {
     Cell(int view_, int offset_, int number);
     /// A 64-bit double.
     Cell(int view_, int offset_, double number);
+    /// A setting of a view, or of the record.
+    Cell(int view_, const ledger::Setting& setting, double value);
     Cell() = default;
 
     /// View slot 0 to 3, or Record for the record's own fields.
