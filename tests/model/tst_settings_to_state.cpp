@@ -112,12 +112,6 @@ std::optional<Part> partOf(const Setting& setting)
     return setting.isOfRecord() || setting.isOfEachView() ? Views : Advanced;
 }
 
-/// Views that have the setting, for themselves or for all.
-int viewsOf(const Setting& setting)
-{
-    return setting.isOfEachView() ? 4 : 1;
-}
-
 /// What lists show for codes that they have no item for.
 struct OtherCodes {
     Part part;
@@ -165,7 +159,7 @@ void SettingsToStateTest::fieldIsDescribedAs_data()
         // The order of fields and the number of views have tests of their own.
         if (!part || setting.is("field_order") || setting.is("num_views"))
             continue;
-        for (int view = 0; view < viewsOf(setting); ++view) {
+        for (int view = 0; view < setting.viewCount(); ++view) {
             const auto row = [&](int code, const QVariant& value) {
                 addRow(*part, setting.keyOf(view), Cell(view, setting, code), code, value);
             };
@@ -210,7 +204,7 @@ void SettingsToStateTest::unknownCodeHasNoEntry_data()
             codes += code;
         for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member)))
             codes.removeAll(item.code);
-        for (int view = 0; view < viewsOf(setting); ++view)
+        for (int view = 0; view < setting.viewCount(); ++view)
             for (const int code : codes)
                 addRow(*partOf(setting), setting.keyOf(view), Cell(view, setting, code), code,
                        QVariant());
@@ -267,7 +261,7 @@ void SettingsToStateTest::fieldIsSeenByItsKeyAlone_data()
     const QStringList aspectKeys = list({"Picture Aspect Ratio", "Pixel X", "Pixel Y"});
     const KvMvcSettings before = exampleSettings();
     for (const Setting& setting : ledger::settings()) {
-        for (int view = 0; view < viewsOf(setting); ++view) {
+        for (int view = 0; view < setting.viewCount(); ++view) {
             // Views 2 and 3 are like the first two.
             const double now = ledger::get(before, setting, view % 2);
             const double other =
@@ -324,7 +318,7 @@ void SettingsToStateTest::descriptionHasItsKeys_data()
     for (const Part part : {Basic, Advanced, Views}) {
         QStringList keys;
         for (const Setting& setting : ledger::settings())
-            for (int view = 0; partOf(setting) == part && view < viewsOf(setting); ++view)
+            for (int view = 0; partOf(setting) == part && view < setting.viewCount(); ++view)
                 keys += setting.keyOf(view);
         keys.sort();
         QTest::newRow(names[part]) << int(part) << keys;

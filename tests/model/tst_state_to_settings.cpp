@@ -286,7 +286,7 @@ void StateToSettingsTest::unknownTextChangesNothing_data()
     const QVector<Setting> all =
         plainSettings([](const Setting& setting) { return !isNumber(setting); });
     for (const Setting& setting : all) {
-        for (int view = 0; view < (setting.isOfEachView() ? 4 : 1); ++view) {
+        for (int view = 0; view < setting.viewCount(); ++view) {
             const QString key = setting.keyOf(view);
             if (others.contains(key))
                 continue;

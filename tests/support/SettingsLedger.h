@@ -92,6 +92,8 @@ struct Setting {
     /// The key and page, with the view's number where each view has its own.
     QString keyOf(int view = 0) const;
     QString pageOf(int view = 0) const;
+    /// How many keys and controls it has: one, or one in each view.
+    int viewCount() const { return isOfEachView() ? 4 : 1; }
     /// From the start of the record; views lie one behind the other.
     int position(int view = 0) const;
 };
