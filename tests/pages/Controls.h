@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SettingsLedger.h"
+
 #include "model/ConfigState.h"
 
 #include <QVariant>
@@ -22,7 +24,7 @@ struct Control {
     QVariant absent;
 };
 
-/// Every control that has a key, written down here a second time, independently of the pages.
+/// Every control of the pages that has a key, by the ledger and so independently of the pages.
 const QVector<Control>& controls();
 
 /// "VideoFormatPage.widthSpin"

@@ -98,18 +98,8 @@ void CodingPagesTest::intervalOf400Shows300AndReportsNothing()
 void CodingPagesTest::disabledEntryGreysOneControlOfTheGopPage_data()
 {
     QTest::addColumn<QString>("key");
-    const auto row = [](const char* name, const char* key) {
-        QTest::newRow(name) << QString(QLatin1String(key));
-    };
-    row("sceneDetectCheck", "Scene Detection");
-    row("iFrameIntervalSpin", "Interval I");
-    row("iFrameForceSpin", "Force I");
-    row("idrSpin", "IDR Marker");
-    row("fixedICheck", "Fixed I Position");
-    row("adaptiveBCheck", "Adaptive B");
-    row("piramydBCheck", "Piramyd B");
-    row("bBetweenIPSpin", "B Between");
-    row("bAsReferenceCheck", "Reference B");
+    for (const ledger::Setting& setting : ledger::settingsOn("GOPStructurePage"))
+        QTest::newRow(setting.control) << setting.keyOf();
 }
 
 void CodingPagesTest::disabledEntryGreysOneControlOfTheGopPage()

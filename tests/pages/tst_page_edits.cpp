@@ -70,6 +70,13 @@ bool isQuantizer(const QString& name)
     return name.contains(QLatin1String("quant"), Qt::CaseInsensitive);
 }
 
+/// Whether a number is reported while it is typed.
+bool isTracked(const ledger::Setting& setting)
+{
+    return !setting.isOfEachView() && !setting.is("width") && !setting.is("height") &&
+           !setting.is("ref_distance");
+}
+
 /// Rows of all controls whose two values are of this type.
 void addControls(int type)
 {
@@ -172,63 +179,35 @@ void PageEditsTest::typedNumberIsReported_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QStringList>("states");
-    const auto row = [](const char* page, const char* name, const char* typed,
+    const auto row = [](const QString& page, const char* name, const QString& typed,
                         const QStringList& states) {
-        QTest::newRow(
-            qPrintable(QStringLiteral("%1.%2").arg(QLatin1String(page), QLatin1String(name))))
-            << QString(QLatin1String(page)) << QString(QLatin1String(name))
-            << QString(QLatin1String(typed)) << states;
+        QTest::addRow("%s.%s = %s", qPrintable(page), name, qPrintable(typed))
+            << page << QString(QLatin1String(name)) << typed << states;
     };
-    // Once, when editing ends.
-    row("VideoFormatPage", "widthSpin", "1024", lines({"Horizontal Size=1024"}));
-    row("VideoFormatPage", "heightSpin", "768", lines({"Vertical Size=768"}));
-    row("GOPStructurePage", "bBetweenIPSpin", "1", lines({"B Between=1"}));
-    // With every key.
-    row("VideoFormatPage", "pixelXSpin", "345", lines({"Pixel X=3", "Pixel X=34", "Pixel X=345"}));
-    row("VideoFormatPage", "pixelYSpin", "33", lines({"Pixel Y=3", "Pixel Y=33"}));
-    row("GOPStructurePage", "iFrameIntervalSpin", "250",
-        lines({"Interval I=2", "Interval I=25", "Interval I=250"}));
-    row("GOPStructurePage", "iFrameForceSpin", "12", lines({"Force I=1", "Force I=12"}));
-    row("GOPStructurePage", "idrSpin", "42", lines({"IDR Marker=4", "IDR Marker=42"}));
-    row("MotionEstimationPage", "refFramesSpin", "16",
-        lines({"Num Reference=1", "Num Reference=16"}));
-    row("MotionEstimationPage", "searchRangeSpin", "64",
-        lines({"Motion Search=6", "Motion Search=64"}));
-    row("MiscPage", "slicesSpin", "12", lines({"Slices=1", "Slices=12"}));
-    row("MiscPage", "threadsSpin", "16", lines({"Threads=1", "Threads=16"}));
-    row("ViewsPage", "numViewsSpin", "1", lines({"Number of views=1"}));
-
-    const struct {
-        const char* name;
-        const char* typed;
-        QStringList states;
-    } viewRows[] = {
-        {"targetRateSpin", "4500000", lines({"Target Bitrate V%1=4500000"})},
-        {"maxRateSpin", "4500000", lines({"Max Bitrate V%1=4500000"})},
-        {"bitrateBufferSpin", "123456", lines({"Bitrate Buffer V%1=123456"})},
-        // Both slots of the fullness hang on this control, ...
-        {"vbvInitialSpin", "12345", lines({"VBV Initial V%1=12345", "VBV Initial V%1=12345"})},
-        // ... and none on this one.
-        {"vbvTargetSpin", "12345", {}},
-        {"iSizeSpin", "100000", lines({"I Size V%1=100000"})},
-        {"pSizeSpin", "200000", lines({"P Size V%1=200000"})},
-        {"bSizeSpin", "300000", lines({"B Size V%1=300000"})},
-        {"brSizeSpin", "2147483647", lines({"Br Size V%1=2147483647"})},
-        {"quantISpin", "20", lines({"I Quantizer V%1=20"})},
-        {"quantPSpin", "21", lines({"P Quantizer V%1=21"})},
-        {"quantBSpin", "62", lines({"B Quantizer V%1=62"})},
-        {"maxQuantSpin", "2", lines({"Max Quantizer V%1=2"})},
-        {"minQuantSpin", "11", lines({"Min Quantizer V%1=11"})},
-    };
-    for (int view = 0; view < 4; ++view) {
-        for (const auto& viewRow : viewRows) {
+    for (const ledger::Setting& setting : ledger::settings()) {
+        if (setting.kind != ledger::Kind::Number || !QByteArray(setting.control).endsWith("Spin"))
+            continue;
+        for (int view = 0; view < setting.viewCount(); ++view) {
+            const QString typed = setting.second.state.toString();
+            const QString key = setting.keyOf(view);
             QStringList states;
-            for (const QString& state : viewRow.states)
-                states += state.arg(view);
-            row(qPrintable(QStringLiteral("View%1Page").arg(view)), viewRow.name, viewRow.typed,
-                states);
+            // With every key, or once, when editing ends.
+            for (int length = isTracked(setting) ? 1 : int(typed.size()); length <= typed.size();
+                 ++length)
+                if (typed.left(length) != QLatin1String("-"))
+                    states += key + QLatin1Char('=') + typed.left(length);
+            // Both slots of the fullness hang on the initial one, none on the target.
+            if (setting.is("vbv_initial"))
+                states += states;
+            if (setting.is("vbv_target"))
+                states.clear();
+            row(setting.pageOf(view), setting.control, typed, states);
         }
     }
+    const QString video = QStringLiteral("VideoFormatPage");
+    row(video, "pixelXSpin", QStringLiteral("345"),
+        lines({"Pixel X=3", "Pixel X=34", "Pixel X=345"}));
+    row(video, "pixelYSpin", QStringLiteral("33"), lines({"Pixel Y=3", "Pixel Y=33"}));
 }
 
 void PageEditsTest::typedNumberIsReported()

@@ -362,9 +362,11 @@ void PageLayoutsTest::layoutHoldsInOrder_data()
     row(misc, "vboxLayout", lines({"gridLayout", below}));
 
     const char* const distortion = "RateDistortionPage";
-    row(distortion, "vboxLayout",
-        lines({"fastIntraCheck", "fastInterCheck", "simpleRDCheck", "hadamardCheck", "line",
-               "adaptiveGroup", below}));
+    QStringList switches;
+    for (const ledger::Setting& setting : ledger::settingsOn(distortion))
+        if (setting.kind == ledger::Kind::Switch)
+            switches += QString::fromLatin1(setting.control);
+    row(distortion, "vboxLayout", switches + lines({"line", "adaptiveGroup", below}));
     row(distortion, "vboxLayout1", lines({"vboxLayout2", "vboxLayout4", "vboxLayout6"}));
     row(distortion, "vboxLayout2", lines({"label", "hboxLayout"}));
     row(distortion, "hboxLayout", lines({"vboxLayout3", "hboxLayout1"}));

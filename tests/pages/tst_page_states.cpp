@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QTest>
 
+#include <climits>
+
 /// A state that comes to the pages sets every control, switches off what is off, and is not echoed.
 class PageStatesTest : public QObject
 {
@@ -200,31 +202,22 @@ void PageStatesTest::numberOutOfRangeIsShownAsTheNearest_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("number");
     QTest::addColumn<int>("shownNumber");
-    const auto row = [](const char* key, int number, int shownNumber) {
-        QTest::newRow(qPrintable(QStringLiteral("%1 = %2").arg(QLatin1String(key)).arg(number)))
-            << QString(QLatin1String(key)) << number << shownNumber;
+    const auto row = [](const QString& key, int number, int shownNumber) {
+        QTest::newRow(qPrintable(QStringLiteral("%1 = %2").arg(key).arg(number)))
+            << key << number << shownNumber;
     };
-    row("Horizontal Size", 7281, 4096);
-    row("Horizontal Size", 15, 16);
-    row("Vertical Size", 0, 16);
-    row("Pixel X", -2, -1);
-    row("Pixel Y", 1001, 1000);
-    row("Interval I", 400, 300);
-    row("Force I", 1000, 999);
-    row("IDR Marker", -1, 0);
-    row("B Between", 4, 3);
-    row("Num Reference", 100, 99);
-    row("Motion Search", 128, 99);
-    row("Brightness", 150, 100);
-    row("Contrast", -101, -100);
-    row("Slices", 0, 1);
-    row("Slices", 100000, 99999);
-    row("Threads", 17, 16);
-    row("Number of views", 5, 3);
-    row("Number of views", -1, 0);
-    row("Target Bitrate V0", -1, 0);
-    row("I Quantizer V1", 0, 2);
-    row("Max Quantizer V2", 63, 62);
+    for (const ledger::Setting& setting : ledger::settings()) {
+        if (setting.kind != ledger::Kind::Number)
+            continue;
+        for (int view = 0; view < setting.viewCount(); ++view) {
+            row(setting.keyOf(view), setting.least - 1, setting.least);
+            row(setting.keyOf(view), INT_MIN, setting.least);
+            if (setting.most < INT_MAX) {
+                row(setting.keyOf(view), setting.most + 1, setting.most);
+                row(setting.keyOf(view), INT_MAX, setting.most);
+            }
+        }
+    }
 }
 
 void PageStatesTest::numberOutOfRangeIsShownAsTheNearest()

@@ -70,37 +70,34 @@ void PageTextsTest::textIsAskedForInItsContext_data()
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
-    const auto row = [](const char* page, const char* name, const char* text) {
-        QTest::newRow(text) << QString(QLatin1String(page)) << QString(QLatin1String(name))
-                            << QString(QLatin1String(text));
+    const auto row = [](const QString& page, const char* name, const QString& text) {
+        QTest::addRow("%s of %s", qPrintable(text), name)
+            << page << QString(QLatin1String(name)) << text;
     };
-    row("BasicPage", "deviceLabel", "IBasicPage|CUDA Devices:");
-    row("VideoFormatPage", "resolutionLabel", "IVideoFormatPage|Resolution");
-    row("VideoFormatPage", "aspectRatioCheck", "IVideoFormatPage|Keep aspect ratio");
-    row("VideoFormatPage", "aspectRatioList", "VideoFormatPage|Custom");
-    row("VideoFormatPage", "framerateList", "VideoFormatPage|7.60");
-    row("VideoFormatPage", "interlaceList", "VideoFormatPage|Progressive");
-    row("VideoFormatPage", "fieldOrderList", "VideoFormatPage|Top Field First");
-    row("VideoFormatPage", "pulldownList", "VideoFormatPage|Off");
-    row("VideoFormatPage", "chromaList", "VideoFormatPage|4:0:0");
-    row("VideoFormatPage", "bitdepthLList", "VideoFormatPage|8 bits");
-    row("AdvancedPage", "profileLabel", "IAdvancedPage|Profile:");
-    row("GOPStructurePage", "sceneDetectCheck", "IGOPStructurePage|Enable scene detection");
-    row("MotionEstimationPage", "label_3", "IMotionEstimationPage|Reference frames");
-    row("MotionEstimationPage", "macroSearchList", "MotionEstimationPage|16 x 16");
-    row("MotionEstimationPage", "subSearchList", "MotionEstimationPage|Full");
-    row("RateDistortionPage", "fastIntraCheck", "IRateDistortionPage|Fast intra decisions");
-    row("MiscPage", "deblockingCheck", "IMiscPage|Deblocking filter");
-    row("MiscPage", "entropyList", "MiscPage|CAVLC");
-    row("ViewsPage", "splitCheck", "IViewsPage|Split views");
-    row("View0Page", "hrdCheck", "IView0Page|HRD conformance");
-    row("View1Page", "hrdCheck", "IView1Page|HRD conformance");
-    row("View2Page", "hrdCheck", "IView2Page|HRD conformance");
-    row("View3Page", "hrdCheck", "IView3Page|HRD conformance");
-    row("View0Page", "bitrateModeList", "View0Page|Constant Bitrate");
-    row("View1Page", "bitrateModeList", "View1Page|Constant Bitrate");
-    row("View2Page", "bitrateModeList", "View2Page|Constant Bitrate");
-    row("View3Page", "bitrateModeList", "View3Page|Constant Bitrate");
+    const auto other = [&row](const char* page, const char* name, const char* text) {
+        row(QString::fromLatin1(page), name, QString::fromLatin1(text));
+    };
+    other("BasicPage", "deviceLabel", "IBasicPage|CUDA Devices:");
+    other("VideoFormatPage", "aspectRatioCheck", "IVideoFormatPage|Keep aspect ratio");
+    other("VideoFormatPage", "aspectRatioList", "VideoFormatPage|Custom");
+    other("VideoFormatPage", "framerateList", "VideoFormatPage|7.60");
+    other("GOPStructurePage", "label_2", "IGOPStructurePage|I-frame as IDR.");
+    for (const ledger::Setting& setting : ledger::settings()) {
+        // The presets are the dialog's own; profiles and levels are its names, too.
+        if (!setting.key || setting.is("video_type"))
+            continue;
+        const QString member = QString::fromLatin1(setting.member);
+        for (int view = 0; view < setting.viewCount(); ++view) {
+            const QString page = setting.pageOf(view);
+            if (setting.caption)
+                row(page, setting.label ? setting.label : setting.control,
+                    QStringLiteral("I%1|%2").arg(page, QLatin1String(setting.caption)));
+            if (setting.kind == ledger::Kind::List && !setting.is("profile") &&
+                !setting.is("level"))
+                row(page, setting.control,
+                    page + QLatin1Char('|') + ledger::listedTexts(member).first());
+        }
+    }
 }
 
 void PageTextsTest::textIsAskedForInItsContext()
