@@ -20,14 +20,19 @@ int collect(int kind, const char* format, va_list arguments)
     const int length = std::vsnprintf(text, sizeof text, format, arguments);
     current->formats[kind].append(format);
     current->texts[kind].append(text);
+    bool listed = false;
     for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
         for (const kv::encoder::RuleInfo* rule : group.rules) {
             for (const char* const known : {rule->format, rule->viewFormat}) {
                 if (known && std::strcmp(known, format) == 0) {
                     current->rules.append(QString::fromLatin1(rule->id));
+                    listed = true;
                 }
             }
         }
+    }
+    if (!listed) {
+        qFatal("the rule list lacks what was said: %s", format);
     }
     return length;
 }
