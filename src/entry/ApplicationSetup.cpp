@@ -3,44 +3,36 @@
 #include "Bindings.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTranslator>
 
 #include <kv_config_gui_mvc/companions.h>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
-#else
-#include <QLocale>
 #endif
 
 namespace
 {
 
-/// The user's primary language by Windows' numbers; 0 where only the listed ones matter.
-std::int32_t primaryUserLanguage()
-{
-#ifdef Q_OS_WIN
-    return GetUserDefaultLangID() & 0xFF;
-#else
-    switch (QLocale::system().language()) {
-    case QLocale::German:
-        return KV_MVC_LANGUAGE_GERMAN;
-    case QLocale::Japanese:
-        return KV_MVC_LANGUAGE_JAPANESE;
-    default:
-        return 0;
-    }
-#endif
-}
-
 struct LanguageRow {
     std::int32_t language;
+    QLocale::Language locale;
     const char* code;
 };
 
 // "jp" is no ISO 639 code, but the one in the names of the translation files.
-constexpr LanguageRow languageRows[] = {{KV_MVC_LANGUAGE_GERMAN, "de"},
-                                        {KV_MVC_LANGUAGE_JAPANESE, "jp"}};
+constexpr LanguageRow languageRows[] = {{KV_MVC_LANGUAGE_GERMAN, QLocale::German, "de"},
+                                        {KV_MVC_LANGUAGE_JAPANESE, QLocale::Japanese, "jp"}};
+
+bool isUsers(const LanguageRow& row)
+{
+#ifdef Q_OS_WIN
+    return row.language == (GetUserDefaultLangID() & 0xFF);
+#else
+    return row.locale == QLocale::system().language();
+#endif
+}
 
 /// One for the process, never destroyed: an application may outlive this module's own objects.
 QTranslator& processTranslator()
@@ -53,10 +45,10 @@ QTranslator& processTranslator()
 
 void setUpApplication(QCoreApplication& application)
 {
-    const std::int32_t language = primaryUserLanguage();
     for (const LanguageRow& row : languageRows) {
-        if (row.language != language)
+        if (!isUsers(row)) {
             continue;
+        }
         const QString file = QLatin1String("gui_mvc_") + QLatin1String(row.code);
         // No delimiters: "gui_mvc.qm" is no translation into this language.
         const QString noDelimiters(QLatin1String(""));
@@ -64,7 +56,7 @@ void setUpApplication(QCoreApplication& application)
             if (!processTranslator().load(file, directory, noDelimiters))
                 continue;
             application.installTranslator(&processTranslator());
-            bindings::loadLocalization(directory, language);
+            bindings::loadLocalization(directory, row.language);
             break;
         }
     }
