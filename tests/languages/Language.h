@@ -2,10 +2,11 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QTranslator>
 
-/// The module's translation into a language ("de", "jp") as built, installed while the object
+/// The module's translation into a language, by its code, as built, installed while the object
 /// lives. "en" installs none.
 class Language
 {
@@ -29,12 +30,17 @@ public:
         return !m_translator.translate(context, text, comment).isEmpty();
     }
 
+    /// The codes of all translations.
+    static QStringList translations() { return {QStringLiteral("de"), QStringLiteral("jp")}; }
+    static QStringList withEnglish() { return QStringList{QStringLiteral("en")} + translations(); }
+
     /// A row for each language.
-    static void addRows()
+    static void addRows(const QStringList& codes = withEnglish())
     {
         QTest::addColumn<QString>("language");
-        for (const char* language : {"en", "de", "jp"})
-            QTest::newRow(language) << QString::fromLatin1(language);
+        for (const QString& code : codes) {
+            QTest::newRow(qPrintable(code)) << code;
+        }
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "EncoderMessages.h"
 #include "ToolkitWarnings.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
@@ -96,14 +97,19 @@ private Q_SLOTS:
 void TestTextRows::everyLanguageIsTested()
 {
     QList<int> tested;
+    QStringList catalogues;
     for (const Habits& habit : habits) {
         tested += habit.language;
+        catalogues += QString::fromUtf8(habit.catalogue);
     }
     QList<int> translated;
     for (const kv::texts::Language& language : kv::texts::languages()) {
         translated += language.code;
     }
     QCOMPARE(translated, tested);
+    QCOMPARE(QDir(QStringLiteral(KV_TRANSLATIONS))
+                 .entryList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name),
+             catalogues);
 }
 
 void TestTextRows::rowsFollowTheRules()
