@@ -30,7 +30,8 @@ endfunction()
 
 # kv_add_companion(NAME EXPORTS NAME... SOURCES FILE...)
 #
-# A companion library: built on the public headers alone, and called by name only.
+# A companion library: built on the public headers alone, and called by name only. The global property
+# KV_COMPANIONS has the names of all that are built.
 function(kv_add_companion target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXPORTS;SOURCES")
     add_library(${target} MODULE ${arg_SOURCES})
@@ -39,4 +40,5 @@ function(kv_add_companion target)
     kv_library_settings(${target} EXPORTS ${arg_EXPORTS})
     kv_version_resource(${target} "Companion library of the MVC encoder settings: ${target}")
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR})
+    set_property(GLOBAL APPEND PROPERTY KV_COMPANIONS ${target})
 endfunction()
