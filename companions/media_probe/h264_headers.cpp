@@ -20,6 +20,8 @@ constexpr uint32_t kMostViews = 1024;          // H.7.4.2.1.4
 constexpr uint32_t kMostMacroblocks = 1 << 14; // in a row or column; far beyond every level
 constexpr uint32_t kMostBufferSets = 32;       // cpb_cnt_minus1 + 1 (E.2.2)
 constexpr uint32_t kExtendedAspect = 255;
+constexpr uint32_t mostOrderBits = 12; // log2_max_pic_order_cnt_lsb_minus4
+constexpr uint32_t longestCycle = 255; // num_ref_frames_in_pic_order_cnt_cycle
 
 /** aspect_ratio_idc (Table E-1). */
 constexpr uint32_t kAspects[][2] = {{0, 0},   {1, 1},    {12, 11}, {10, 11}, {16, 11}, {40, 33},
@@ -62,19 +64,26 @@ bool readColour(BitReader& reader, SequenceParameters& sequence)
            sequence.bitDepthChroma <= 14;
 }
 
-void skipPictureOrder(BitReader& reader)
+/// @return Whether the values are possible.
+bool readPictureOrder(BitReader& reader, PictureOrder& order)
 {
-    const uint32_t type = reader.unsignedGolomb();
-    if (type == 0)
-        reader.unsignedGolomb();
-    if (type != 1)
-        return;
-    reader.bits(1);
-    reader.signedGolomb();
-    reader.signedGolomb();
-    const uint32_t cycle = reader.unsignedGolomb();
-    for (uint32_t frame = 0; frame < cycle && !reader.overrun(); ++frame)
-        reader.signedGolomb();
+    order.type = reader.unsignedGolomb();
+    if (order.type == 0) {
+        const uint32_t bits = reader.unsignedGolomb();
+        order.bits = 4 + static_cast<int>(std::min(bits, mostOrderBits));
+        return bits <= mostOrderBits;
+    }
+    if (order.type != 1) {
+        return order.type == 2;
+    }
+    order.alwaysZero = reader.flag();
+    order.nonReference = reader.signedGolomb();
+    order.topToBottom = reader.signedGolomb();
+    const uint32_t frames = reader.unsignedGolomb();
+    for (uint32_t frame = 0; frame < std::min(frames, longestCycle + 1); ++frame) {
+        order.cycle.push_back(reader.signedGolomb());
+    }
+    return frames <= longestCycle;
 }
 
 /** Width and height, cropped (7.4.2.1.1, equations 7-19 to 7-22). */
@@ -107,82 +116,90 @@ bool readSize(BitReader& reader, SequenceParameters& sequence)
     return true;
 }
 
-struct BufferModel {
-    uint64_t bitRate = 0;
-    uint64_t bufferSize = 0;
-    bool constant = false;
-};
-
-/** The presence flag and hrd_parameters (E.1.2); the last of several buffers has the highest rate.
- */
-std::optional<BufferModel> readBufferModel(BitReader& reader)
+/// The presence flag and hrd_parameters (E.1.2); the last of several buffers has the highest rate.
+bool readBufferModel(BitReader& reader, Usability& usability)
 {
-    if (!reader.flag())
-        return std::nullopt;
-    BufferModel model;
+    if (!reader.flag()) {
+        return false;
+    }
     const uint32_t last = reader.unsignedGolomb();
     const int rateShift = 6 + static_cast<int>(reader.bits(4));
     const int sizeShift = 4 + static_cast<int>(reader.bits(4));
-    if (last >= kMostBufferSets)
+    if (last >= kMostBufferSets) {
         reader.fail();
-    for (uint32_t set = 0; set <= last && !reader.overrun(); ++set) {
-        model.bitRate = (uint64_t(reader.unsignedGolomb()) + 1) << rateShift;
-        model.bufferSize = (uint64_t(reader.unsignedGolomb()) + 1) << sizeShift;
-        model.constant = reader.flag();
     }
-    reader.bits(20); // four lengths
-    return model;
+    for (uint32_t set = 0; set <= last && !reader.overrun(); ++set) {
+        usability.bitRate = (uint64_t(reader.unsignedGolomb()) + 1) << rateShift;
+        usability.bufferSize = (uint64_t(reader.unsignedGolomb()) + 1) << sizeShift;
+        usability.constantRate = reader.flag();
+    }
+    reader.bits(5); // of the initial delay
+    usability.delayBits = static_cast<int>(reader.bits(5)) + 1;
+    usability.delayBits += static_cast<int>(reader.bits(5)) + 1;
+    reader.bits(5); // of a time offset
+    return true;
 }
 
-void readAspect(BitReader& reader, SequenceParameters& sequence)
+void readAspect(BitReader& reader, Usability& usability)
 {
     const uint32_t code = reader.bits(8);
     if (code == kExtendedAspect) {
-        sequence.aspectX = reader.bits(16);
-        sequence.aspectY = reader.bits(16);
+        usability.aspectX = reader.bits(16);
+        usability.aspectY = reader.bits(16);
     } else if (code < std::size(kAspects)) {
-        sequence.aspectX = kAspects[code][0];
-        sequence.aspectY = kAspects[code][1];
+        usability.aspectX = kAspects[code][0];
+        usability.aspectY = kAspects[code][1];
     }
-    if (sequence.aspectX == 0 || sequence.aspectY == 0)
-        sequence.aspectX = sequence.aspectY = 0;
+    if (usability.aspectX == 0 || usability.aspectY == 0) {
+        usability.aspectX = usability.aspectY = 0;
+    }
 }
 
-/** vui_parameters (E.1.1). */
-void readVui(BitReader& reader, SequenceParameters& sequence)
+/// The NAL model, or else the VCL model.
+void readBufferModels(BitReader& reader, Usability& usability)
 {
-    if (reader.flag())
-        readAspect(reader, sequence);
-    if (reader.flag()) // overscan_info_present_flag
+    Usability other;
+    const bool nal = readBufferModel(reader, usability);
+    const bool vcl = readBufferModel(reader, nal ? other : usability);
+    if (nal || vcl) {
+        reader.bits(1); // low_delay_hrd_flag
+    }
+}
+
+/// vui_parameters (E.1.1).
+Usability readUsability(BitReader& reader)
+{
+    Usability usability;
+    if (reader.flag()) {
+        readAspect(reader, usability);
+    }
+    if (reader.flag()) { // overscan_info_present_flag
         reader.bits(1);
+    }
     if (reader.flag()) { // video_signal_type_present_flag
         reader.bits(4);
-        if (reader.flag())
+        if (reader.flag()) {
             reader.bits(24);
+        }
     }
     if (reader.flag()) { // chroma_loc_info_present_flag
         reader.unsignedGolomb();
         reader.unsignedGolomb();
     }
     if (reader.flag()) { // timing_info_present_flag
-        reader.bits(32);
-        reader.bits(32);
+        usability.unitsInTick = reader.bits(32);
+        usability.timeScale = reader.bits(32);
         reader.bits(1);
     }
-    const auto nal = readBufferModel(reader);
-    const auto vcl = readBufferModel(reader);
-    if (nal || vcl) {
-        sequence.hrdBitRate = (nal ? nal : vcl)->bitRate;
-        sequence.hrdBufferSize = (nal ? nal : vcl)->bufferSize;
-        sequence.hrdConstant = (nal ? nal : vcl)->constant;
-        reader.bits(1); // low_delay_hrd_flag
-    }
-    reader.bits(1);      // pic_struct_present_flag
+    readBufferModels(reader, usability);
+    usability.pictureStructure = reader.flag();
     if (reader.flag()) { // bitstream_restriction_flag
         reader.bits(1);
-        for (int value = 0; value < 6; ++value)
+        for (int value = 0; value < 6; ++value) {
             reader.unsignedGolomb();
+        }
     }
+    return usability;
 }
 
 /** The number of views of seq_parameter_set_mvc_extension (H.7.3.2.1.4). */
@@ -190,7 +207,7 @@ bool readViews(BitReader& reader, SequenceParameters& sequence)
 {
     const bool one = reader.flag(); // bit_equal_to_one
     const uint64_t views = uint64_t(reader.unsignedGolomb()) + 1;
-    if (!one || views > kMostViews)
+    if (!one || reader.overrun() || views > kMostViews)
         return false;
     sequence.views = static_cast<uint32_t>(views);
     return true;
@@ -214,18 +231,27 @@ std::optional<SequenceParameters> parseSequenceParameters(Bytes payload, bool su
     if (contains(kHighProfiles, sequence.profile) && !readColour(reader, sequence))
         return std::nullopt;
     const uint32_t frameNumBits = reader.unsignedGolomb();
-    skipPictureOrder(reader);
+    const bool ordered = readPictureOrder(reader, sequence.order);
     sequence.refFrames = reader.unsignedGolomb();
     reader.bits(1); // gaps_in_frame_num_value_allowed_flag
-    if (reader.overrun() || sequence.id > 31 || frameNumBits > 12 ||
+    if (reader.overrun() || sequence.id > 31 || frameNumBits > 12 || !ordered ||
         sequence.refFrames > kMostRefFrames || !readSize(reader, sequence))
         return std::nullopt;
     sequence.frameNumBits = 4 + static_cast<int>(frameNumBits);
-    if (reader.flag())
-        readVui(reader, sequence);
-    if (subset && isMultiviewProfile(sequence.profile) && !readViews(reader, sequence))
+    if (reader.overrun()) {
         return std::nullopt;
-    return reader.overrun() ? std::nullopt : std::optional(sequence);
+    }
+    if (reader.flag()) {
+        sequence.usability = readUsability(reader);
+    }
+    if (reader.overrun()) { // some encoders end a set early; what follows is not known, then
+        sequence.usability = {};
+        return sequence;
+    }
+    if (subset && isMultiviewProfile(sequence.profile) && !readViews(reader, sequence)) {
+        return std::nullopt;
+    }
+    return sequence;
 }
 
 } // namespace kv

@@ -1,29 +1,35 @@
-// What the headers of an H.264 stream say: sequence parameter sets, those of further views, and
-// the beginning of slices. Clauses are those of Rec. ITU-T H.264.
-#ifndef KV_H264_HEADERS_H
-#define KV_H264_HEADERS_H
+// Sequence parameter sets of an H.264 stream, and those of further views. Clauses are those of
+// Rec. ITU-T H.264.
+#pragma once
 
-#include <array>
-#include <cstdint>
-#include <functional>
+#include "h264_units.h"
+
 #include <optional>
-#include <span>
-#include <vector>
 
 namespace kv
 {
 
-using Bytes = std::span<const uint8_t>;
+/// How slices tell the order of pictures (8.2.1).
+struct PictureOrder {
+    uint32_t type = 0;
+    int bits = 4;               ///< of pic_order_cnt_lsb; type 0
+    bool alwaysZero = false;    ///< no differences in slices; type 1, as all that follows
+    int32_t nonReference = 0;   ///< offset of pictures that nothing refers to
+    int32_t topToBottom = 0;    ///< offset of a frame's second field
+    std::vector<int32_t> cycle; ///< offsets from reference frame to reference frame
+};
 
-/** nal_unit_type (Table 7-1). */
-enum NalType {
-    NalSlice = 1,
-    NalIdrSlice = 5,
-    NalSequenceParameters = 7,
-    NalPictureParameters = 8,
-    NalPrefix = 14,
-    NalSubsetSequenceParameters = 15,
-    NalViewSlice = 20
+/// Video usability information (E.1.1), as far as settings know it.
+struct Usability {
+    uint32_t aspectX = 0; ///< 0: not signalled
+    uint32_t aspectY = 0;
+    uint32_t unitsInTick = 0; ///< of the clock of timeScale ticks a second; 0: not signalled
+    uint32_t timeScale = 0;
+    uint64_t bitRate = 0; ///< of the buffer model; 0: none
+    uint64_t bufferSize = 0;
+    bool constantRate = false;
+    int delayBits = 0;             ///< of both delays of a picture timing message
+    bool pictureStructure = false; ///< picture timing messages hold pic_struct
 };
 
 /** Sequence parameter set data (7.3.2.1.1), as far as settings know it. */
@@ -37,16 +43,13 @@ struct SequenceParameters {
     uint32_t bitDepthLuma = 8;
     uint32_t bitDepthChroma = 8;
     int frameNumBits = 4;
+    PictureOrder order;
     uint32_t refFrames = 0;
     uint32_t width = 0;  // cropped
     uint32_t height = 0; // cropped
     bool framesOnly = true;
     bool mbaff = false;
-    uint32_t aspectX = 0; // 0: not signalled
-    uint32_t aspectY = 0;
-    uint64_t hrdBitRate = 0; // 0: not signalled
-    uint64_t hrdBufferSize = 0;
-    bool hrdConstant = false;
+    Usability usability;
     uint32_t views = 1; // of a subset parameter set
 };
 
@@ -59,50 +62,4 @@ bool isMultiviewProfile(uint32_t profile);
  */
 std::optional<SequenceParameters> parseSequenceParameters(Bytes payload, bool subset);
 
-/** Removes the emulation prevention bytes (7.4.1.1) of at most the first `limit` bytes. */
-std::vector<uint8_t> withoutEmulationPrevention(Bytes bytes, std::size_t limit);
-
-/**
- * Calls `visit` with each NAL unit, header byte included.
- * @param lengthSize Bytes of the length before each unit; 0: start codes (Annex B).
- */
-void forEachNalUnit(Bytes stream, int lengthSize, const std::function<void(Bytes)>& visit);
-
-/** Gathers what the NAL units of one stream tell. */
-class H264Scan
-{
-public:
-    void visit(Bytes unit);
-
-    const std::optional<SequenceParameters>& base() const { return m_base; }
-    /** The subset parameter set of most views; only those of multiview profiles count. */
-    const std::optional<SequenceParameters>& subset() const { return m_subset; }
-    bool fieldPictures() const { return m_fieldPictures; }
-    /** The part of the stream's bytes that further views have: 0 to 1. */
-    double dependentShare() const;
-
-private:
-    void visitSequence(Bytes payload);
-    void visitSubset(Bytes payload);
-    void visitPictureParameters(Bytes payload);
-    void visitSlice(Bytes payload);
-
-    std::array<std::optional<SequenceParameters>, 32> m_sequences;
-    std::array<int, 256> m_sequenceOfPicture = filledWith(-1);
-    std::optional<SequenceParameters> m_base;
-    std::optional<SequenceParameters> m_subset;
-    bool m_fieldPictures = false;
-    uint64_t m_baseBytes = 0;
-    uint64_t m_dependentBytes = 0;
-
-    static constexpr std::array<int, 256> filledWith(int value)
-    {
-        std::array<int, 256> array{};
-        array.fill(value);
-        return array;
-    }
-};
-
 } // namespace kv
-
-#endif

@@ -1,94 +1,50 @@
-#include "h264_headers.h"
+#include "h264_scan.h"
 
 #include "bit_reader.h"
 
-#include <algorithm>
-#include <numeric>
-
 namespace kv
 {
-
-std::vector<uint8_t> withoutEmulationPrevention(Bytes bytes, std::size_t limit)
-{
-    std::vector<uint8_t> result;
-    int zeros = 0;
-    for (const uint8_t byte : bytes.first(std::min(bytes.size(), limit))) {
-        const bool prevention = zeros >= 2 && byte == 3;
-        zeros = byte == 0 ? zeros + 1 : 0;
-        if (!prevention)
-            result.push_back(byte);
-    }
-    return result;
-}
-
 namespace
 {
 
-void forEachLengthPrefixed(Bytes stream, std::size_t lengthSize,
-                           const std::function<void(Bytes)>& visit)
-{
-    while (stream.size() > lengthSize) {
-        const uint64_t length = std::accumulate(
-            stream.begin(), stream.begin() + static_cast<std::ptrdiff_t>(lengthSize), uint64_t(0),
-            [](uint64_t sum, uint8_t byte) { return sum << 8 | byte; });
-        stream = stream.subspan(lengthSize);
-        const auto unit = stream.first(std::min<uint64_t>(length, stream.size()));
-        if (!unit.empty())
-            visit(unit);
-        stream = stream.subspan(unit.size());
-    }
-}
+constexpr std::size_t sliceBeginning = 512; // with tables of weights
 
-/** The position of the next 00 00 01, or the stream's size. */
-std::size_t nextStartCode(Bytes stream, std::size_t from)
+std::vector<uint8_t> payloadOf(const NalUnit& unit, std::size_t header, std::size_t limit)
 {
-    for (std::size_t at = from; at + 3 <= stream.size(); ++at) {
-        if (stream[at] == 0 && stream[at + 1] == 0 && stream[at + 2] == 1)
-            return at;
-    }
-    return stream.size();
+    return withoutEmulationPrevention(unit.head.subspan(header), limit);
 }
 
 } // namespace
 
-void forEachNalUnit(Bytes stream, int lengthSize, const std::function<void(Bytes)>& visit)
+void H264Scan::visit(const NalUnit& unit)
 {
-    constexpr std::size_t kStartCode = 3;
-    if (lengthSize > 0)
-        return forEachLengthPrefixed(stream, static_cast<std::size_t>(lengthSize), visit);
-    std::size_t at = nextStartCode(stream, 0);
-    while (at < stream.size()) {
-        const std::size_t begin = at + kStartCode;
-        at = nextStartCode(stream, begin);
-        std::size_t end = at;
-        while (end > begin && stream[end - 1] == 0) // trailing_zero_8bits, or a longer start code
-            --end;
-        if (end > begin)
-            visit(stream.subspan(begin, end - begin));
-    }
-}
-
-void H264Scan::visit(Bytes unit)
-{
-    constexpr std::size_t kLongestHeader = 4096; // far more than any parameter set takes
-    constexpr std::size_t kSliceBeginning = 32;
-    const int type = unit.empty() ? 0 : unit[0] & 31;
+    const int type = unit.type();
     const bool dependent = type == NalViewSlice || type == NalSubsetSequenceParameters;
-    (dependent ? m_dependentBytes : m_baseBytes) += unit.size();
-    const bool slice = type == NalSlice || type == NalIdrSlice;
-    if (!slice && type != NalSequenceParameters && type != NalPictureParameters &&
-        type != NalSubsetSequenceParameters)
-        return;
-    const auto payload =
-        withoutEmulationPrevention(unit.subspan(1), slice ? kSliceBeginning : kLongestHeader);
-    if (slice)
-        visitSlice(payload);
-    else if (type == NalSequenceParameters)
-        visitSequence(payload);
-    else if (type == NalPictureParameters)
-        visitPictureParameters(payload);
-    else
-        visitSubset(payload);
+    (dependent ? m_dependentBytes : m_baseBytes) += unit.size;
+    switch (type) {
+    case NalSlice:
+    case NalIdrSlice:
+        visitSlice(unit.head.first(1), payloadOf(unit, 1, sliceBeginning), m_sequences,
+                   m_basePictures);
+        break;
+    case NalViewSlice:
+        visitViewSlice(unit);
+        break;
+    case NalSupplement:
+        visitSupplement(payloadOf(unit, 1, longestUnitHead));
+        break;
+    case NalSequenceParameters:
+        visitSequence(payloadOf(unit, 1, longestUnitHead));
+        break;
+    case NalSubsetSequenceParameters:
+        visitSubset(payloadOf(unit, 1, longestUnitHead));
+        break;
+    case NalPictureParameters:
+        visitPictureParameters(payloadOf(unit, 1, longestUnitHead));
+        break;
+    default:
+        break;
+    }
 }
 
 double H264Scan::dependentShare() const
@@ -100,46 +56,82 @@ double H264Scan::dependentShare() const
 void H264Scan::visitSequence(Bytes payload)
 {
     const auto sequence = parseSequenceParameters(payload, false);
-    if (!sequence)
+    if (!sequence) {
         return;
+    }
     m_sequences[sequence->id] = sequence;
-    if (!m_base)
+    if (!m_base) {
         m_base = sequence;
+    }
 }
 
 void H264Scan::visitSubset(Bytes payload)
 {
     const auto sequence = parseSequenceParameters(payload, true);
-    if (sequence && isMultiviewProfile(sequence->profile) &&
-        (!m_subset || sequence->views > m_subset->views))
+    if (!sequence || !isMultiviewProfile(sequence->profile)) {
+        return;
+    }
+    m_subsets[sequence->id] = sequence;
+    if (!m_subset || sequence->views > m_subset->views) {
         m_subset = sequence;
+    }
 }
 
 void H264Scan::visitPictureParameters(Bytes payload)
 {
-    BitReader reader(payload);
-    const uint32_t id = reader.unsignedGolomb();
-    const uint32_t sequence = reader.unsignedGolomb();
-    if (!reader.overrun() && id < m_sequenceOfPicture.size() && sequence < m_sequences.size())
-        m_sequenceOfPicture[id] = static_cast<int>(sequence);
+    if (const auto picture = parsePictureParameters(payload)) {
+        m_pictures[picture->id] = picture;
+    }
 }
 
-/** slice_header (7.3.3) as far as field_pic_flag. */
-void H264Scan::visitSlice(Bytes payload)
+/// The message's form depends on the active set, which is the one of the slices before.
+void H264Scan::visitSupplement(Bytes payload)
 {
-    BitReader reader(payload);
-    reader.unsignedGolomb(); // first_mb_in_slice
-    reader.unsignedGolomb(); // slice_type
-    const uint32_t picture = reader.unsignedGolomb();
-    if (picture >= m_sequenceOfPicture.size() || m_sequenceOfPicture[picture] < 0)
+    const auto& sequence = m_activeSequence ? m_sequences[*m_activeSequence] : m_base;
+    if (!sequence) {
         return;
-    const auto& sequence = m_sequences[static_cast<std::size_t>(m_sequenceOfPicture[picture])];
-    if (!sequence || sequence->framesOnly)
+    }
+    if (const auto structure = parsePictureStructure(payload, sequence->usability)) {
+        m_structure = structure;
+    }
+}
+
+/// nal_unit_header_mvc_extension (H.7.3.1.1), three bytes.
+void H264Scan::visitViewSlice(const NalUnit& unit)
+{
+    constexpr std::size_t header = 4;
+    if (unit.head.size() <= header || (unit.head[1] & 0x80) != 0) { // a scalable stream's
         return;
-    if (sequence->separatePlanes)
-        reader.bits(2);
-    reader.bits(sequence->frameNumBits);
-    m_fieldPictures = (reader.flag() && !reader.overrun()) || m_fieldPictures;
+    }
+    const uint32_t view = uint32_t(unit.head[2]) << 2 | unit.head[3] >> 6;
+    m_views.set(view);
+    m_secondView = m_secondView.value_or(view);
+    if (view == *m_secondView) {
+        visitSlice(unit.head.first(header), payloadOf(unit, header, sliceBeginning), m_subsets,
+                   m_secondPictures);
+    }
+}
+
+void H264Scan::visitSlice(Bytes head, Bytes payload, const Sequences& sequences,
+                          PictureTrack& track)
+{
+    const auto id = pictureParametersOfSlice(payload);
+    if (!id || !m_pictures[*id]) {
+        return;
+    }
+    const PictureParameters& picture = *m_pictures[*id];
+    const auto& sequence = sequences[picture.sequence];
+    if (!sequence) {
+        return;
+    }
+    const bool isBase = &track == &m_basePictures;
+    if (const auto slice = parseSlice(head, payload, *sequence, picture)) {
+        track.visit(*slice, *sequence, picture, isBase ? m_structure : std::nullopt);
+    }
+    if (isBase) {
+        m_activeSequence = picture.sequence;
+        m_structure.reset();
+    }
 }
 
 } // namespace kv

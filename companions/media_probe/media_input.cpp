@@ -29,8 +29,8 @@ int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary
 
 } // namespace
 
-MediaInput::MediaInput(int descriptor, std::chrono::seconds limit)
-    : m_descriptor(descriptor), m_deadline(std::chrono::steady_clock::now() + limit)
+MediaInput::MediaInput(int descriptor, TimePoint deadline)
+    : m_descriptor(descriptor), m_deadline(deadline)
 {
 }
 
@@ -44,6 +44,20 @@ MediaInput::~MediaInput()
 
 int MediaInput::open(const char* name)
 {
+    const int opened = openFile(name, 0);
+    return opened < 0 ? opened : std::min(0, avformat_find_stream_info(m_format, nullptr));
+}
+
+int MediaInput::openAsStored(const char* name)
+{
+    return openFile(name, AVFMT_FLAG_NOPARSE | AVFMT_FLAG_NOFILLIN);
+}
+
+int MediaInput::openFile(const char* name, int flags)
+{
+    if (::lseek(m_descriptor, 0, SEEK_SET) < 0) {
+        return AVERROR(errno);
+    }
     auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
     m_io = buffer ? avio_alloc_context(buffer, kBufferSize, 0, this, read, nullptr, seek) : nullptr;
     m_format = avformat_alloc_context();
@@ -53,6 +67,7 @@ int MediaInput::open(const char* name)
         return AVERROR(ENOMEM);
     }
     m_format->pb = m_io;
+    m_format->flags |= flags;
     m_format->io_open = refuseToOpen;
     m_format->interrupt_callback = {
         [](void* input) -> int { return static_cast<MediaInput*>(input)->timeIsUp(); }, this};
@@ -61,8 +76,7 @@ int MediaInput::open(const char* name)
     m_format->max_streams = kMostStreams;
     m_format->probesize = kProbeBytes;
     m_format->max_analyze_duration = kProbeTime;
-    const int opened = avformat_open_input(&m_format, name, nullptr, nullptr);
-    return opened < 0 ? opened : std::min(0, avformat_find_stream_info(m_format, nullptr));
+    return avformat_open_input(&m_format, name, nullptr, nullptr);
 }
 
 int MediaInput::read(void* opaque, uint8_t* buffer, int size)

@@ -1,6 +1,5 @@
 // A media file as FFmpeg's libraries see it: one descriptor, few formats, and a time limit.
-#ifndef KV_MEDIA_INPUT_H
-#define KV_MEDIA_INPUT_H
+#pragma once
 
 #include <chrono>
 #include <optional>
@@ -12,34 +11,37 @@ extern "C" {
 namespace kv
 {
 
-/**
- * Nothing but the descriptor is read, whatever other files or addresses the media names; only the
- * formats and decoders of recorded video are tried.
- */
+/// Nothing but the descriptor is read, whatever other files or addresses the media names; only the
+/// formats and decoders of recorded video are tried.
 class MediaInput
 {
 public:
-    MediaInput(int descriptor, std::chrono::seconds limit);
+    using TimePoint = std::chrono::steady_clock::time_point;
+
+    /// @param descriptor Of a regular file; is read from its beginning by one input at a time.
+    MediaInput(int descriptor, TimePoint deadline);
     ~MediaInput();
     MediaInput(const MediaInput&) = delete;
     MediaInput& operator=(const MediaInput&) = delete;
 
-    /** @return 0 or an AVERROR. */
+    /// Finds streams and describes them.
+    /// @return 0 or an AVERROR.
     int open(const char* name);
+    /// Finds streams only; packets come as the container has them, not a picture each.
+    int openAsStored(const char* name);
 
     AVFormatContext* format() const { return m_format; }
     bool timeIsUp() const { return std::chrono::steady_clock::now() >= m_deadline; }
 
 private:
+    int openFile(const char* name, int flags);
     static int read(void* input, uint8_t* buffer, int size);
     static int64_t seek(void* input, int64_t offset, int whence);
 
     int m_descriptor;
-    std::chrono::steady_clock::time_point m_deadline;
+    TimePoint m_deadline;
     AVFormatContext* m_format = nullptr;
     AVIOContext* m_io = nullptr;
 };
 
 } // namespace kv
-
-#endif

@@ -1,11 +1,14 @@
 #include "stream_facts.h"
 
+#include "h264_facts.h"
 #include "media_input.h"
 #include "stream_scan.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
+#include <vector>
 
 extern "C" {
 #include <libavutil/pixdesc.h>
@@ -130,69 +133,47 @@ void describeSamples(KvMediaInfo& info, int pixelFormat)
     info.bit_depth_chroma = format->comp[format->nb_components < 3 ? 0 : 1].depth;
 }
 
-/** What only the stream's own headers tell, and what they tell better. */
-void describeH264(KvMediaInfo& info, const H264Scan& scan)
+/// The streams that are shown together with the main one: all, where there are no programs.
+bool isOfProgram(AVFormatContext* format, int main, int other)
 {
-    const auto& base = scan.base();
-    info.codec = KV_MEDIA_CODEC_H264;
-    if (!base)
-        return;
-    info.profile_idc = static_cast<int32_t>(base->profile);
-    info.constraint_flags = static_cast<int32_t>(base->constraintFlags);
-    info.level_idc = static_cast<int32_t>(base->level);
-    info.num_ref_frames = static_cast<int32_t>(base->refFrames);
-    info.chroma_format = static_cast<int32_t>(base->chromaFormat);
-    info.bit_depth_luma = static_cast<int32_t>(base->bitDepthLuma);
-    info.bit_depth_chroma =
-        static_cast<int32_t>(base->chromaFormat == 0 ? base->bitDepthLuma : base->bitDepthChroma);
-    info.hrd_bit_rate = static_cast<int64_t>(base->hrdBitRate);
-    info.hrd_buffer_size = static_cast<int64_t>(base->hrdBufferSize);
-    info.hrd_constant = base->hrdConstant ? 1 : 0;
-    if (base->framesOnly)
-        info.scan = KV_MEDIA_PROGRESSIVE;
-    else if (base->mbaff)
-        info.scan = KV_MEDIA_MBAFF;
-    else if (scan.fieldPictures())
-        info.scan = KV_MEDIA_INTERLACED;
-    if (info.scan == KV_MEDIA_PROGRESSIVE)
-        info.field_order = KV_MEDIA_TOP_FIELD_FIRST;
+    const AVProgram* program = av_find_program_from_stream(format, nullptr, main);
+    if (!program) {
+        return true;
+    }
+    const auto end = program->stream_index + program->nb_stream_indexes;
+    return std::find(program->stream_index, end, static_cast<unsigned>(other)) != end;
 }
 
-/** Views may lie in the base view's stream or in streams beside it. */
-void describeViews(KvMediaInfo& info, const StreamCounts& counts)
+/// Streams of further views only, which go with the main stream.
+std::vector<const StreamCount*> dependentStreams(AVFormatContext* format, int main,
+                                                 const StreamCounts& counts)
 {
-    info.num_views = 1;
-    for (const auto& [index, count] : counts) {
-        const auto& subset = count.headers.subset();
-        if (subset && static_cast<int32_t>(subset->views) > info.num_views) {
-            info.num_views = static_cast<int32_t>(subset->views);
-            info.mvc_profile_idc = static_cast<int32_t>(subset->profile);
-            info.mvc_level_idc = static_cast<int32_t>(subset->level);
+    std::vector<const StreamCount*> dependents;
+    for (const auto& [index, count] : counts.streams) {
+        if (index != main && count.isDependent() && isOfProgram(format, main, index)) {
+            dependents.push_back(&count);
         }
     }
+    return dependents;
 }
 
-void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCounts& counts)
+void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCount& main,
+                   const std::vector<const StreamCount*>& dependents)
 {
-    const auto main = counts.find(stream.index);
     const double rate = info.frame_rate_den > 0
                             ? static_cast<double>(info.frame_rate_num) / info.frame_rate_den
                             : 0;
     info.bit_rate = stream.codecpar->bit_rate;
-    if (info.bit_rate == kVariableRate)
-        info.bit_rate = 0;
-    if (main != counts.end() && info.bit_rate <= 0)
-        info.bit_rate = main->second.bitRate(rate);
-    info.bit_rate = std::max<int64_t>(info.bit_rate, 0);
-    if (info.num_views < 2 || main == counts.end())
-        return;
-    info.dependent_bit_rate =
-        std::llround(static_cast<double>(info.bit_rate) * main->second.headers.dependentShare());
-    for (const auto& [index, count] : counts) {
-        if (index == stream.index || !count.headers.subset())
-            continue;
-        info.bit_rate += count.bitRate(rate);
-        info.dependent_bit_rate += count.bitRate(rate);
+    if (info.bit_rate <= 0 || info.bit_rate == kVariableRate) {
+        info.bit_rate = main.bitRate(rate);
+    }
+    if (info.num_views > 1) {
+        info.dependent_bit_rate =
+            std::llround(static_cast<double>(info.bit_rate) * main.headers().dependentShare());
+    }
+    for (const StreamCount* dependent : dependents) {
+        info.bit_rate += dependent->bitRate(rate);
+        info.dependent_bit_rate += dependent->bitRate(rate);
     }
 }
 
@@ -206,11 +187,26 @@ void describeSignalledBuffer(KvMediaInfo& info, const AVStream& stream)
     }
 }
 
+/// FFmpeg's parser cuts a transport stream's packets at the pictures of a base view, and finds none
+/// in a stream of further views: such a stream would come out as one packet at the end.
+StreamCounts scanPackets(MediaInput& input, int descriptor, const char* name,
+                         MediaInput::TimePoint deadline)
+{
+    if (std::strcmp(input.format()->iformat->name, "mpegts") == 0) {
+        MediaInput stored(descriptor, deadline);
+        if (stored.openAsStored(name) >= 0) {
+            return scanStreams(stored);
+        }
+    }
+    return scanStreams(input);
+}
+
 } // namespace
 
 ProbeAnswer streamFacts(int descriptor, const char* name)
 {
-    MediaInput input(descriptor, std::chrono::seconds(kSoftSeconds));
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kSoftSeconds);
+    MediaInput input(descriptor, deadline);
     const int opened = input.open(name);
     if (opened < 0)
         return refusalFor(input.timeIsUp() ? AVERROR_EXIT : opened);
@@ -225,18 +221,26 @@ ProbeAnswer streamFacts(int descriptor, const char* name)
     copyName(info.codec_name, avcodec_get_name(stream->codecpar->codec_id));
     copyName(info.container_name, input.format()->iformat->name);
     info.num_ref_frames = -1;
+    info.num_views = 1;
     describePicture(info, input.format(), stream);
     describeFields(info, stream->codecpar->field_order);
     describeSamples(info, stream->codecpar->format);
-    const StreamCounts counts = scanStreams(input);
-    const auto main = counts.find(stream->index);
-    if (stream->codecpar->codec_id == AV_CODEC_ID_H264 && main != counts.end())
-        describeH264(info, main->second.headers);
-    describeViews(info, counts);
-    describeRates(info, *stream, counts);
-    describeSignalledBuffer(info, *stream);
-    if (main == counts.end() || main->second.packets == 0)
+    const StreamCounts counts = scanPackets(input, descriptor, name, deadline);
+    const auto main = counts.streams.find(stream->index);
+    if (main == counts.streams.end() || main->second.isEmpty()) {
         return refusal(KV_MEDIA_UNREADABLE, "its video stream holds no pictures");
+    }
+    const auto dependents = dependentStreams(input.format(), stream->index, counts);
+    if (stream->codecpar->codec_id == AV_CODEC_ID_H264) {
+        describeH264(info, main->second.headers(), counts.isWhole);
+        describeViews(info, main->second.headers(), counts.isWhole);
+    }
+    for (const StreamCount* dependent : dependents) {
+        info.separate_views = 1;
+        describeViews(info, dependent->headers(), counts.isWhole);
+    }
+    describeRates(info, *stream, main->second, dependents);
+    describeSignalledBuffer(info, *stream);
     return answer;
 }
 

@@ -1,8 +1,7 @@
 // A walk over the first packets of a media file's video streams.
-#ifndef KV_STREAM_SCAN_H
-#define KV_STREAM_SCAN_H
+#pragma once
 
-#include "h264_headers.h"
+#include "h264_scan.h"
 #include "media_input.h"
 
 #include <map>
@@ -10,32 +9,49 @@
 namespace kv
 {
 
-/** What the packets of one stream amount to. */
-struct StreamCount {
-    H264Scan headers; /**< of an H.264 stream */
-    int lengthSize = 0;
-    int64_t packets = 0;
-    int64_t bytes = 0;
-    int64_t firstTime = AV_NOPTS_VALUE; /**< decoding time stamps in units of timeBase */
-    int64_t lastTime = AV_NOPTS_VALUE;
-    double timeBase = 0; /**< seconds */
+/// What the packets of one stream amount to.
+class StreamCount
+{
+public:
+    explicit StreamCount(const AVStream& stream);
 
-    /**
-     * The average in bit/s, by time stamps, else by the frame rate; 0 when neither tells.
-     * @param frameRate Frames per second, or 0.
-     */
+    void visit(const AVPacket& packet);
+    void finish();
+
+    const H264Scan& headers() const { return m_headers; } ///< of an H.264 stream
+    /// Frames of an H.264 stream's base view, or packets.
+    int64_t pictures() const;
+    bool isEmpty() const { return m_bytes == 0; }
+    /// Only what builds on a base view that is elsewhere.
+    bool isDependent() const;
+    /// The average in bit/s, by time stamps, else by the frame rate; 0 when neither tells.
+    /// @param frameRate Frames per second, or 0.
     int64_t bitRate(double frameRate) const;
+
+private:
+    void visitAddition(const AVPacket& packet);
+
+    H264Scan m_headers;
+    UnitSplitter m_splitter;
+    bool m_isH264 = false;
+    int m_lengthSize = 0;
+    double m_timeBase = 0; ///< seconds
+    int64_t m_packets = 0;
+    int64_t m_bytes = 0;
+    int64_t m_stamps = 0;
+    int64_t m_firstTime = 0; ///< decoding time stamps in units of the time base
+    int64_t m_lastTime = 0;
 };
 
-/** By stream index. */
-using StreamCounts = std::map<int, StreamCount>;
+struct StreamCounts {
+    std::map<int, StreamCount> streams; ///< by stream index
+    bool isWhole = false;               ///< the file ended within what was read
+};
 
-/** Not the cover of an audio file. */
+/// Not the cover of an audio file.
 bool isRecordedVideo(const AVStream& stream);
 
-/** Reads packets until the sample is large enough, the file ends or the time is up. */
+/// Reads packets until the sample is large enough, the file ends or the time is up.
 StreamCounts scanStreams(MediaInput& input);
 
 } // namespace kv
-
-#endif

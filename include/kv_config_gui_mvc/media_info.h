@@ -37,6 +37,37 @@ enum KvMediaScan {
 /** KvMediaInfo::field_order. */
 enum KvMediaFieldOrder { KV_MEDIA_TOP_FIELD_FIRST = 0, KV_MEDIA_BOTTOM_FIELD_FIRST = 1 };
 
+/** KvMediaInfo::pulldown: how long the frames of an H.264 stream are shown (pic_struct, D.2.3). */
+enum KvMediaPulldown {
+    KV_MEDIA_PULLDOWN_NONE = 0,       /**< each for its two fields, or not told */
+    KV_MEDIA_PULLDOWN_2_3 = 1,        /**< two and three fields in turn */
+    KV_MEDIA_PULLDOWN_3_2 = 2,        /**< three and two fields in turn */
+    KV_MEDIA_PULLDOWN_2_3_FRAMES = 3, /**< two times and three times in turn */
+    KV_MEDIA_PULLDOWN_3_2_FRAMES = 4, /**< three times and two times in turn */
+    KV_MEDIA_PULLDOWN_2_2 = 5,        /**< each two times */
+    KV_MEDIA_PULLDOWN_3_3 = 6,        /**< each for three fields, or three times */
+    KV_MEDIA_PULLDOWN_OTHER = 7       /**< in another way */
+};
+
+/**
+ * How a view of an H.264 stream is coded, as its first frames show. Never grows: what comes later
+ * is added to KvMediaInfo.
+ */
+typedef struct KvMediaCoding {
+    int32_t frames;       /**< coded frames that this was seen in; 0: nothing of it is known */
+    int32_t entropy_mode; /**< entropy_coding_mode_flag (7.4.2.2); -1: not the same in all */
+    int32_t weighted_p;   /**< weighted_pred_flag for P pictures; -1: differs, or there are none */
+    int32_t deblocking;   /**< 0: switched off in every slice (7.4.3); 1: not so; -1: not known */
+    int32_t slices;       /**< slices of a picture: their most frequent number */
+    int32_t i_distance;   /**< longest distance of I pictures in frames; 0: there is one at most */
+    int32_t idr_distance; /**< every how many I pictures one is an IDR picture; 0: only the first;
+                               -1: there is one I picture at most */
+    int32_t b_frames;     /**< most B pictures in a row; -1: there are nothing but I pictures */
+    int32_t adaptive_b;   /**< 1: rows of B pictures are of several lengths */
+    int32_t reference_b;  /**< 1: B pictures are references */
+    int32_t pyramid_b;    /**< 1: and are decoded before B pictures that are shown earlier */
+} KvMediaCoding;
+
 /** The facts of a file's main video stream. Owned by the caller. */
 typedef struct KvMediaInfo {
     uint32_t size;            /**< of this structure in bytes, as its user was compiled */
@@ -58,12 +89,12 @@ typedef struct KvMediaInfo {
     int32_t constraint_flags; /**< H.264: constraint_set0_flag in bit 7 and so on downwards */
     int32_t level_idc;        /**< H.264: of the base view (A.3); otherwise 0 */
     int32_t num_ref_frames;   /**< H.264: max_num_ref_frames of the base view; -1: not known */
-    int32_t num_views; /**< coded views: 1, or what a subset parameter set says (H.7.3.2.1.4) */
+    int32_t num_views; /**< coded views: what subset sets (H.7.3.2.1.4) and slices say, or 1 */
     int32_t mvc_profile_idc; /**< profile_idc of that subset parameter set; 0: none */
     int32_t mvc_level_idc;   /**< level_idc of that subset parameter set; 0: none */
     /**
      * Average of all views in bit/s: what container or header say, else that of the beginning,
-     * which is the first 250 pictures or 16 MiB of video, whatever ends first; 0: not known. A
+     * which is the first 620 pictures or 32 MiB of video, whatever ends first; 0: not known. A
      * beginning may exceed the signalled rate by the buffer's fill.
      */
     int64_t bit_rate;
@@ -72,6 +103,10 @@ typedef struct KvMediaInfo {
     int64_t hrd_buffer_size;    /**< signalled coded picture buffer in bits; 0: none */
     char reason[256];           /**< UTF-8: why there is no answer; empty for success */
     int32_t hrd_constant;       /**< H.264: cbr_flag of that signalled rate (E.2.2): 0 or 1 */
+    int32_t separate_views;     /**< 1: further views are in a stream of their own, such as a PID */
+    int32_t dependent_ref_frames; /**< max_num_ref_frames of a further view; 0: none or not known */
+    int32_t pulldown;        /**< KvMediaPulldown; frame_rate_num counts coded frames in any case */
+    KvMediaCoding coding[2]; /**< of the base view, and of the next view in decoding order */
 } KvMediaInfo;
 
 /**

@@ -76,6 +76,16 @@ inline QByteArray nalUnit(int refIdc, int type, const QByteArray& payload)
     return unit;
 }
 
+/// A picture parameter set of nothing but what has to be there (7.3.2.2).
+inline QByteArray pictureParameterSet(uint32_t id, uint32_t sequence)
+{
+    BitWriter set;
+    set.ue(id).ue(sequence).bits(0, 2).ue(0); // CAVLC, no further order, one slice group
+    set.ue(0).ue(0).bits(0, 3);               // a reference in each list, no weights
+    set.se(0).se(0).se(0).bits(0, 3);         // quantizers, no control of the deblocking filter
+    return nalUnit(3, 8, set.payload());
+}
+
 /** The sequence parameter set data of a subset set, frames of 16 x 16 blocks, no VUI (7.3.2.1.1).
  */
 inline BitWriter subsetSequence(int profile, int level, uint32_t columns, uint32_t rows)

@@ -1,7 +1,7 @@
 // The reader of H.264 headers against headers written bit by bit.
 #include "BitWriter.h"
 
-#include <h264_headers.h>
+#include <h264_scan.h>
 
 #include <QTest>
 
@@ -121,7 +121,9 @@ private Q_SLOTS:
     void onlyTheVclBufferModel();
     void constantRatesAreTold_data();
     void constantRatesAreTold();
-    void cutSetsAreRefused();
+    void setsCutBeforeTheirVuiAreRefused();
+    void aVuiThatRunsOverTheEndCostsNothingElse_data();
+    void aVuiThatRunsOverTheEndCostsNothingElse();
     void impossibleSetsAreRefused_data();
     void impossibleSetsAreRefused();
     void viewsOfSubsetParameterSets_data();
@@ -193,8 +195,8 @@ void TestH264Headers::aspectRatioCodes()
     writer.bits(1, 1).bits(1, 1).bits(static_cast<uint64_t>(code), 8).bits(0, 8);
     const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
     QVERIFY(read);
-    QCOMPARE(int(read->aspectX), x);
-    QCOMPARE(int(read->aspectY), y);
+    QCOMPARE(int(read->usability.aspectX), x);
+    QCOMPARE(int(read->usability.aspectY), y);
 }
 
 void TestH264Headers::bufferModels()
@@ -202,11 +204,11 @@ void TestH264Headers::bufferModels()
     BitWriter writer = setData(kSets[1]);
     const auto read = kv::parseSequenceParameters(bytesOf(appendVui(writer).payload()), false);
     QVERIFY(read);
-    QCOMPARE(read->aspectX, 40u);
-    QCOMPARE(read->aspectY, 33u);
+    QCOMPARE(read->usability.aspectX, 40u);
+    QCOMPARE(read->usability.aspectY, 33u);
     // The second set of the NAL model: 2000 << (6 + 2) bit/s, 1500 << (4 + 3) bits.
-    QCOMPARE(read->hrdBitRate, uint64_t(512000));
-    QCOMPARE(read->hrdBufferSize, uint64_t(192000));
+    QCOMPARE(read->usability.bitRate, uint64_t(512000));
+    QCOMPARE(read->usability.bufferSize, uint64_t(192000));
 }
 
 void TestH264Headers::onlyTheVclBufferModel()
@@ -217,8 +219,8 @@ void TestH264Headers::onlyTheVclBufferModel()
     writer.bits(0, 3);
     const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
     QVERIFY(read);
-    QCOMPARE(read->hrdBitRate, uint64_t(640));
-    QCOMPARE(read->hrdBufferSize, uint64_t(320));
+    QCOMPARE(read->usability.bitRate, uint64_t(640));
+    QCOMPARE(read->usability.bufferSize, uint64_t(320));
 }
 
 void TestH264Headers::constantRatesAreTold_data()
@@ -252,17 +254,44 @@ void TestH264Headers::constantRatesAreTold()
     writer.bits(0, 3);
     const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
     QVERIFY(read);
-    QCOMPARE(read->hrdConstant, constant);
+    QCOMPARE(read->usability.constantRate, constant);
 }
 
-void TestH264Headers::cutSetsAreRefused()
+void TestH264Headers::setsCutBeforeTheirVuiAreRefused()
 {
-    BitWriter writer = setData(kSets[1]);
-    const QByteArray whole = appendVui(writer).payload();
-    for (int length = 0; length < whole.size() - 1; ++length)
+    const QByteArray whole = setData(kSets[1]).bits(0, 1).payload();
+    for (int length = 0; length < whole.size() - 1; ++length) {
         QVERIFY2(!kv::parseSequenceParameters(bytesOf(whole.left(length)), false),
                  qPrintable(QString::number(length)));
+    }
     QVERIFY(kv::parseSequenceParameters(bytesOf(whole), false));
+}
+
+void TestH264Headers::aVuiThatRunsOverTheEndCostsNothingElse_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    BitWriter cut = setData(kSets[1]);
+    const auto before = cut.payload().size();
+    const QByteArray whole = appendVui(cut).payload();
+    for (auto length = before; length < whole.size() - 1; ++length) {
+        QTest::addRow("%d bytes", int(length)) << whole.left(length);
+    }
+    BitWriter sets = setData(kSets[1]); // one more buffer set than there can be
+    sets.bits(1, 1).bits(0, 5).bits(1, 1).ue(32).bits(0, 8);
+    QTest::newRow("buffer sets") << sets.payload() + QByteArray(200, '\xff');
+}
+
+void TestH264Headers::aVuiThatRunsOverTheEndCostsNothingElse()
+{
+    QFETCH(QByteArray, payload);
+    const auto read = kv::parseSequenceParameters(bytesOf(payload), false);
+    QVERIFY(read);
+    QCOMPARE(read->width, 1920u);
+    QCOMPARE(read->height, 1080u);
+    QCOMPARE(read->refFrames, 4u);
+    QCOMPARE(read->usability.aspectX, 0u);
+    QCOMPARE(read->usability.timeScale, 0u);
+    QCOMPARE(read->usability.bitRate, uint64_t(0));
 }
 
 void TestH264Headers::impossibleSetsAreRefused_data()
@@ -285,9 +314,6 @@ void TestH264Headers::impossibleSetsAreRefused_data()
     QTest::newRow("identifier") << BitWriter().bits(66, 8).bits(0, 16).ue(32).payload() +
                                        QByteArray(40, '\xff');
     QTest::newRow("endless code") << QByteArray("\x42\0\x0a", 3) + QByteArray(40, '\0');
-    BitWriter sets = setData(kSets[1]);
-    sets.bits(1, 1).bits(0, 5).bits(1, 1).ue(32).bits(0, 8);
-    QTest::newRow("buffer sets") << sets.payload() + QByteArray(200, '\xff');
 }
 
 void TestH264Headers::impossibleSetsAreRefused()
@@ -318,7 +344,7 @@ void TestH264Headers::viewsOfSubsetParameterSets()
     writer.bits(1, 1).ue(views - 1);
     const QByteArray unit = nalUnit(3, 15, writer.payload());
     kv::H264Scan scan;
-    kv::forEachNalUnit(bytesOf(unit), 0, [&](kv::Bytes found) { scan.visit(found); });
+    kv::forEachNalUnit(bytesOf(unit), 0, [&](const kv::NalUnit& found) { scan.visit(found); });
     QCOMPARE(scan.subset().has_value(), valid);
     QVERIFY(!scan.base());
     if (valid) {
@@ -347,7 +373,7 @@ void TestH264Headers::onlySubsetSetsOfMultiviewProfilesTellViews()
     for (const QByteArray& unit :
          {nalUnit(3, 15, scalable.payload()), kvtest::subsetParameterSet(118, 41, 3),
           kvtest::subsetParameterSet(118, 41, 2)})
-        kv::forEachNalUnit(bytesOf(unit), 0, [&](kv::Bytes found) { scan.visit(found); });
+        kv::forEachNalUnit(bytesOf(unit), 0, [&](const kv::NalUnit& found) { scan.visit(found); });
     QVERIFY(scan.subset());
     QCOMPARE(scan.subset()->views, 3u);
 }
@@ -397,8 +423,9 @@ void TestH264Headers::unitsAreFoundBetweenStartCodes()
     QFETCH(QByteArray, stream);
     QFETCH(QList<QByteArray>, units);
     QList<QByteArray> found;
-    kv::forEachNalUnit(bytesOf(stream), 0, [&](kv::Bytes unit) {
-        found.append(QByteArray(reinterpret_cast<const char*>(unit.data()), int(unit.size())));
+    kv::forEachNalUnit(bytesOf(stream), 0, [&](const kv::NalUnit& unit) {
+        found.append(
+            QByteArray(reinterpret_cast<const char*>(unit.head.data()), int(unit.head.size())));
     });
     QCOMPARE(found, units);
 }
@@ -432,8 +459,9 @@ void TestH264Headers::unitsAreFoundByTheirLengths()
     QFETCH(int, lengthSize);
     QFETCH(QList<QByteArray>, units);
     QList<QByteArray> found;
-    kv::forEachNalUnit(bytesOf(stream), lengthSize, [&](kv::Bytes unit) {
-        found.append(QByteArray(reinterpret_cast<const char*>(unit.data()), int(unit.size())));
+    kv::forEachNalUnit(bytesOf(stream), lengthSize, [&](const kv::NalUnit& unit) {
+        found.append(
+            QByteArray(reinterpret_cast<const char*>(unit.head.data()), int(unit.head.size())));
     });
     QCOMPARE(found, units);
 }
@@ -457,14 +485,14 @@ void TestH264Headers::fieldSlicesAreToldFromFrames()
     const int frameNumBits = int(4 + kSets[set].frameNumMinus4);
     const QByteArray stream =
         nalUnit(3, 7, setData(kSets[set]).bits(0, 1).payload()) +
-        nalUnit(3, 8, BitWriter().ue(2).ue(3).bits(0, 8).payload()) +
+        kvtest::pictureParameterSet(2, 3) +
         nalUnit(2, 1,
                 BitWriter().ue(0).ue(5).ue(2).bits(0, frameNumBits).bits(fieldFlag, 1).payload() +
                     QByteArray(10, '\x7f'));
     kv::H264Scan scan;
-    kv::forEachNalUnit(bytesOf(stream), 0, [&](kv::Bytes unit) { scan.visit(unit); });
+    kv::forEachNalUnit(bytesOf(stream), 0, [&](const kv::NalUnit& unit) { scan.visit(unit); });
     QVERIFY(scan.base());
-    QCOMPARE(scan.fieldPictures(), fields);
+    QCOMPARE(scan.basePictures().hasFields(), fields);
 }
 
 void TestH264Headers::bytesAreCountedByView()
@@ -473,7 +501,7 @@ void TestH264Headers::bytesAreCountedByView()
         nalUnit(2, 1, QByteArray(299, '\x55')) + nalUnit(2, 20, QByteArray(99, '\x55'));
     kv::H264Scan scan;
     QCOMPARE(scan.dependentShare(), 0.0);
-    kv::forEachNalUnit(bytesOf(stream), 0, [&](kv::Bytes unit) { scan.visit(unit); });
+    kv::forEachNalUnit(bytesOf(stream), 0, [&](const kv::NalUnit& unit) { scan.visit(unit); });
     QCOMPARE(scan.dependentShare(), 0.25);
 }
 
@@ -483,7 +511,7 @@ void TestH264Headers::noiseDoesNoHarm()
     BitWriter writer = setData(kSets[1]);
     const QByteArray set = nalUnit(3, 7, appendVui(writer).payload()) +
                            kvtest::subsetParameterSet(128, 41, 2) +
-                           nalUnit(3, 8, BitWriter().ue(0).ue(3).payload());
+                           kvtest::pictureParameterSet(0, 3);
     for (int round = 0; round < 20000; ++round) {
         QByteArray stream = set;
         for (int change = 0; change < 1 + round % 8; ++change)
@@ -491,7 +519,7 @@ void TestH264Headers::noiseDoesNoHarm()
         kv::H264Scan scan;
         for (const int lengthSize : {0, 1, 2, 4})
             kv::forEachNalUnit(bytesOf(stream), lengthSize,
-                               [&](kv::Bytes unit) { scan.visit(unit); });
+                               [&](const kv::NalUnit& unit) { scan.visit(unit); });
         if (scan.base())
             QVERIFY(scan.base()->width > 0 && scan.base()->refFrames <= 16);
         if (scan.subset())

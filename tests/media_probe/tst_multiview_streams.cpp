@@ -1,0 +1,140 @@
+// Multiview streams as they are in the field: one stream with all views, two streams as on discs,
+// and files that players made of discs.
+#include "ProbeLibrary.h"
+#include "ReferenceEncoder.h"
+#include "TransportStream.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using kvtest::makeMedia;
+using kvtest::picture;
+using kvtest::ProbeLibrary;
+using kvtest::ReferenceEncoder;
+using kvtest::TransportStream;
+using kvtest::ViewPictures;
+
+namespace
+{
+
+constexpr int picturesPerSecond = 25;
+constexpr qint64 ticks = 3'600; // of 90,000, a picture
+
+class TestMultiviewStreams : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void viewsInStreamsOfTheirOwn_data();
+    void viewsInStreamsOfTheirOwn();
+    void anotherProgramsViewsAreNotThisOnes();
+
+private:
+    QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_folder;
+    ProbeLibrary m_library;
+    QByteArray m_base; ///< 25 pictures of 352 x 288
+    QByteArray m_real; ///< 5 pictures of the reference encoder, two views
+};
+
+void TestMultiviewStreams::initTestCase()
+{
+    QVERIFY(m_library.isLoaded());
+    if (!kvtest::hasFfmpeg()) {
+        QSKIP("the ffmpeg program makes the media of this test");
+    }
+    const QString base = file("base.h264");
+    const QByteArray error = makeMedia(
+        picture("352x288", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), base);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QFile in(base);
+    QVERIFY(in.open(QIODevice::ReadOnly));
+    m_base = in.readAll();
+}
+
+void TestMultiviewStreams::viewsInStreamsOfTheirOwn_data()
+{
+    QTest::addColumn<bool>("timed");
+    QTest::addColumn<bool>("furtherFirst");
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<bool>("real");
+    for (const bool timed : {false, true}) {
+        for (const bool furtherFirst : {false, true}) {
+            for (const int seconds : {1, 40}) {
+                for (const bool real : {false, true}) {
+                    QTest::addRow("%s, %s first, %d s, %s", timed ? "192 bytes" : "188 bytes",
+                                  furtherFirst ? "further view" : "base view", seconds,
+                                  real ? "reference encoder" : "made up")
+                        << timed << furtherFirst << seconds << real;
+                }
+            }
+        }
+    }
+}
+
+void TestMultiviewStreams::viewsInStreamsOfTheirOwn()
+{
+    QFETCH(bool, timed);
+    QFETCH(bool, furtherFirst);
+    QFETCH(int, seconds);
+    QFETCH(bool, real);
+    if (real && !ReferenceEncoder::isThere()) {
+        QSKIP(ReferenceEncoder::absence());
+    }
+    if (real && m_real.isEmpty()) {
+        m_real = ReferenceEncoder(m_folder.path()).encode(QStringLiteral("FramesToBeEncoded=5"));
+    }
+    const QByteArray stream = real ? m_real : kvtest::withViews(m_base, 128, 30, 2, 0.5);
+    QVERIFY(!stream.isEmpty());
+    const QList<ViewPictures> once = kvtest::partedViews(stream);
+    QCOMPARE(once.size(), real ? 5 : 25);
+    QList<ViewPictures> pictures;
+    double bits[2] = {}; // of the base view and of the further one
+    while (pictures.size() < seconds * picturesPerSecond) {
+        pictures += once;
+    }
+    for (const ViewPictures& picture : pictures) {
+        bits[0] += 8.0 * double(picture.base.size());
+        bits[1] += 8.0 * double(picture.further.size());
+    }
+    const QString name = file(timed ? "disc.m2ts" : "disc.ts");
+    QVERIFY(kvtest::writeFile(name, TransportStream(timed).write(pictures, furtherFirst, ticks)));
+    QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
+    const KvMediaInfo& info = m_library.info;
+    QCOMPARE(info.num_views, 2);
+    QCOMPARE(info.separate_views, 1);
+    QCOMPARE(info.mvc_profile_idc, 128);
+    QCOMPARE(info.profile_idc, 100);
+    QCOMPARE(info.width, real ? 176 : 352);
+    QCOMPARE(info.frame_rate_num, picturesPerSecond);
+    QCOMPARE(info.frame_rate_den, 1);
+    const double further = double(info.dependent_bit_rate) * seconds / bits[1];
+    const double base = double(info.bit_rate - info.dependent_bit_rate) * seconds / bits[0];
+    QVERIFY2(further > 0.95 && further < 1.05, qPrintable(QString::number(further)));
+    QVERIFY2(base > 0.95 && base < 1.05, qPrintable(QString::number(base)));
+}
+
+/// A stream of one view beside a stream of two, in a transport stream of two programs.
+void TestMultiviewStreams::anotherProgramsViewsAreNotThisOnes()
+{
+    const QString two = file("two.h264");
+    QVERIFY(kvtest::writeFile(two, kvtest::withViews(m_base, 128, 30, 2, 0.5)));
+    const QString name = file("programs.ts");
+    const QByteArray error =
+        makeMedia(QStringLiteral("-f h264 -r 25 -i %1 -f h264 -r 25 -i %2 -map 0 -map 1 "
+                                 "-program title=one:st=0 -program title=two:st=1 -c copy "
+                                 "-bsf:v setts=ts=N*3600")
+                      .arg(file("base.h264"), two),
+                  name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
+    QCOMPARE(m_library.info.num_views, 1);
+    QCOMPARE(m_library.info.separate_views, 0);
+}
+
+} // namespace
+
+QTEST_GUILESS_MAIN(TestMultiviewStreams)
+#include "tst_multiview_streams.moc"
