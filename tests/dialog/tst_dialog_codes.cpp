@@ -7,11 +7,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
+#include <QSet>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
 
+#include <climits>
 #include <memory>
+
+using ledger::Kind;
+using ledger::Setting;
 
 namespace
 {
@@ -28,6 +33,60 @@ QString shownBy(const QWidget* widget)
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
         return button->isChecked() ? QStringLiteral("on") : QStringLiteral("off");
     return QStringLiteral("?");
+}
+
+/// A code of the record, and what its control shows for it.
+struct Coded {
+    int code;
+    QString text;
+};
+
+/// Fullness beyond 100 percent is corrected, and so is no code that is shown only.
+int mostOf(const Setting& setting)
+{
+    return setting.is("vbv_initial") || setting.is("vbv_target") ? 100 : setting.most;
+}
+
+QVector<Coded> codesOfNumber(const Setting& setting)
+{
+    QSet<int> numbers = {setting.least, mostOf(setting), setting.first.state.toInt(),
+                         setting.second.state.toInt()};
+    const bool isFullness = mostOf(setting) != setting.most;
+    if (!isFullness)
+        numbers |= {setting.least - 1, setting.least - 7};
+    if (setting.most < INT_MAX)
+        numbers |= {setting.most + 1, setting.most + 5000};
+    QVector<Coded> codes;
+    for (const int number : std::as_const(numbers)) {
+        const int shown = qBound(setting.least, number, setting.most);
+        const bool isAuto = setting.is("num_threads") && shown == 0;
+        codes +=
+            {number + setting.added(), isAuto ? QStringLiteral("Auto") : QString::number(shown)};
+    }
+    return codes;
+}
+
+QVector<Coded> codesOfList(const Setting& setting)
+{
+    // Any other format shows 4:2:0, but for the one without a name; all else shows no item.
+    const bool isChroma = setting.is("chroma_format");
+    QVector<Coded> codes;
+    QVector<int> others = {-1, 0, 1, 2, 3, 4, 5, 8, 9, 97};
+    for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member))) {
+        codes += {item.code, QString::fromLatin1(item.text)};
+        others.removeAll(item.code);
+    }
+    for (const int code : std::as_const(others))
+        codes += {code, isChroma && code != 4 ? QStringLiteral("4:2:0") : QString()};
+    return codes;
+}
+
+QVector<Coded> codesOf(const Setting& setting)
+{
+    const QString on = QStringLiteral("on");
+    if (setting.kind == Kind::Switch)
+        return {{0, QStringLiteral("off")}, {1, on}, {7, on}};
+    return setting.kind == Kind::List ? codesOfList(setting) : codesOfNumber(setting);
 }
 
 } // namespace
@@ -78,21 +137,6 @@ void TestDialogCodes::shown_data()
             << QString::fromLatin1(place.page) << QString::fromLatin1(place.name) << cells
             << QString::fromLatin1(text) << enabled;
     };
-    struct Coded {
-        int code;
-        const char* text;
-    };
-    const auto rows = [&](Place place, int offset, std::initializer_list<Coded> codes) {
-        for (const Coded& item : codes)
-            row(place, QByteArray::number(item.code).constData(), {{0, offset, item.code}},
-                item.text);
-    };
-
-    rows({"VideoFormatPage", "widthSpin"}, 24, {{16, "16"}, {4096, "4096"}, {9000, "4096"}});
-    rows({"VideoFormatPage", "heightSpin"}, 28, {{17, "17"}, {0, "16"}});
-    rows({"VideoFormatPage", "pixelXSpin"}, 100, {{-1, "-1"}, {1000, "1000"}});
-    rows({"VideoFormatPage", "pixelYSpin"}, 104, {{1, "1"}, {11, "11"}});
-
     const Place aspect = {"VideoFormatPage", "aspectRatioList"};
     const Place pixelX = {"VideoFormatPage", "pixelXSpin"};
     const Place pixelY = {"VideoFormatPage", "pixelYSpin"};
@@ -136,8 +180,6 @@ void TestDialogCodes::shown_data()
         row(frameRate, QByteArray::number(rate.rate, 'g', 12).constData(), {{0, 32, rate.rate}},
             rate.text);
 
-    rows({"VideoFormatPage", "interlaceList"}, 20,
-         {{0, "Progressive"}, {1, "Interlaced"}, {2, "MBAFF"}, {3, ""}, {-1, ""}});
     const Place fieldOrder = {"VideoFormatPage", "fieldOrderList"};
     row(fieldOrder, "top, progressive", {{0, 4112, 0}, {0, 20, 0}}, "Top Field First", false);
     row(fieldOrder, "top, interlaced", {{0, 4112, 0}, {0, 20, 1}}, "Top Field First");
@@ -146,94 +188,16 @@ void TestDialogCodes::shown_data()
     row(fieldOrder, "bottom, interlaced", {{0, 4112, 1}, {0, 20, 1}}, "Bot Field First");
     row(fieldOrder, "bottom, MBAFF", {{0, 4112, 1}, {0, 20, 2}}, "Bot Field First");
     row(fieldOrder, "other, MBAFF", {{0, 4112, 5}, {0, 20, 2}}, "Bot Field First");
-    rows({"VideoFormatPage", "pulldownList"}, 1808,
-         {{0, "Off"},
-          {1, "2:3"},
-          {2, "3:2"},
-          {3, ""},
-          {4, "2:3 P"},
-          {5, "3:2 P"},
-          {6, "Auto"},
-          {7, "2:2"},
-          {8, "3:3"},
-          {9, ""}});
-    rows({"VideoFormatPage", "chromaList"}, 2252,
-         {{1, "4:0:0"}, {2, "4:2:0"}, {3, "4:2:2"}, {4, ""}, {0, "4:2:0"}, {5, "4:2:0"}});
-    rows({"VideoFormatPage", "bitdepthLList"}, 2244, {{8, "8 bits"}, {10, "10 bits"}, {9, ""}});
-    rows({"VideoFormatPage", "bitdepthCList"}, 2248, {{8, "8 bits"}, {10, "10 bits"}, {9, ""}});
 
-    rows({"AdvancedPage", "profileList"}, 0,
-         {{0, "Baseline"}, {1, "Main"}, {3, "High"}, {4, "High 10"}, {2, ""}, {5, ""}});
-    rows({"AdvancedPage", "levelList"}, 4,
-         {{10, "1.0"},
-          {11, "1.1"},
-          {12, "1.2"},
-          {13, "1.3"},
-          {16, "1.6"},
-          {20, "2.0"},
-          {21, "2.1"},
-          {22, "2.2"},
-          {30, "3.0"},
-          {31, "3.1"},
-          {32, "3.2"},
-          {40, "4.0"},
-          {41, "4.1"},
-          {42, "4.2"},
-          {50, "5.0"},
-          {51, "5.1"},
-          {52, "5.2"},
-          {100, "Auto"},
-          {9, ""}});
-
-    const struct {
-        Place place;
-        int offset;
-    } switches[] = {{{"GOPStructurePage", "sceneDetectCheck"}, 2836},
-                    {{"GOPStructurePage", "fixedICheck"}, 4116},
-                    {{"GOPStructurePage", "adaptiveBCheck"}, 4104},
-                    {{"GOPStructurePage", "piramydBCheck"}, 2856},
-                    {{"GOPStructurePage", "bAsReferenceCheck"}, 2852},
-                    {{"MotionEstimationPage", "weightedPCheck"}, 2872},
-                    {{"MotionEstimationPage", "fastRefCheck"}, 4316},
-                    {{"MotionEstimationPage", "fastSubCheck"}, 4320},
-                    {{"RateDistortionPage", "fastIntraCheck"}, 2880},
-                    {{"RateDistortionPage", "fastInterCheck"}, 2884},
-                    {{"RateDistortionPage", "simpleRDCheck"}, 5116},
-                    {{"RateDistortionPage", "hadamardCheck"}, 96},
-                    {{"MiscPage", "deblockingCheck"}, 256}};
-    for (const auto& item : switches)
-        rows(item.place, item.offset, {{0, "off"}, {1, "on"}, {7, "on"}});
-
-    rows({"GOPStructurePage", "iFrameIntervalSpin"}, 8, {{0, "0"}, {300, "300"}, {400, "300"}});
-    rows({"GOPStructurePage", "iFrameForceSpin"}, 4100, {{999, "999"}, {1000, "999"}});
-    rows({"GOPStructurePage", "idrSpin"}, 4108, {{0, "0"}, {99, "99"}});
-    rows({"GOPStructurePage", "bBetweenIPSpin"}, 12, {{1, "0"}, {2, "1"}, {4, "3"}, {9, "3"}});
-    rows({"MotionEstimationPage", "macroSearchList"}, 88, {{0, "16 x 16"}, {1, "8 x 8"}, {2, ""}});
-    rows({"MotionEstimationPage", "subSearchList"}, 2868,
-         {{0, "Full"}, {1, "Half"}, {2, "Quarter"}, {3, ""}});
-    rows({"MotionEstimationPage", "refFramesSpin"}, 40, {{16, "16"}, {0, "0"}});
-    rows({"MotionEstimationPage", "searchRangeSpin"}, 44, {{99, "99"}, {128, "99"}});
-    const struct {
-        Place place;
-        int offset;
-    } sliders[] = {{{"RateDistortionPage", "brightnessSlider"}, 5492},
-                   {{"RateDistortionPage", "contrastSlider"}, 5496},
-                   {{"RateDistortionPage", "complexitySlider"}, 5500}};
-    for (const auto& item : sliders)
-        rows(item.place, item.offset, {{-100, "-100"}, {0, "0"}, {37, "37"}, {150, "100"}});
-    rows({"MiscPage", "entropyList"}, 92, {{0, "CAVLC"}, {1, "CABAC"}, {2, ""}});
-    rows({"MiscPage", "slicesSpin"}, 2848, {{1, "1"}, {99999, "99999"}, {0, "1"}});
-    rows({"MiscPage", "threadsSpin"}, 2904, {{0, "Auto"}, {16, "16"}, {17, "16"}});
-
-    const auto record = [&](Place place, int offset, std::initializer_list<Coded> codes) {
-        for (const Coded& item : codes)
-            row(place, QByteArray::number(item.code).constData(),
-                {{Cell::Record, offset, item.code}}, item.text);
-    };
-    record({"ViewsPage", "numViewsSpin"}, 0, {{1, "0"}, {2, "1"}, {4, "3"}, {9, "3"}, {0, "0"}});
-    record({"ViewsPage", "splitCheck"}, 4, {{0, "off"}, {1, "on"}});
-    rows({"AVCVideoEncoderDlg", "presetList"}, 1804,
-         {{1, "Multivew High"}, {2, "Stereo High"}, {3, "Blu-ray 3D"}, {0, ""}, {4, ""}});
+    for (const Setting& setting : ledger::settings()) {
+        // Those above, and those that rateControlShown() looks at.
+        if (!setting.key || setting.kind == Kind::FrameRate || setting.kind == Kind::Aspect ||
+            setting.is("field_order") || setting.isOfEachView())
+            continue;
+        for (const Coded& item : codesOf(setting))
+            row({setting.page, setting.control}, QByteArray::number(item.code).constData(),
+                {Cell(0, setting, item.code)}, item.text.toLatin1().constData());
+    }
 }
 
 void TestDialogCodes::describe(const Cells& cells)
@@ -268,45 +232,23 @@ void TestDialogCodes::rateControlShown_data()
     QTest::addColumn<Cells>("cells");
     QTest::addColumn<QString>("text");
 
-    struct Coded {
-        int code;
-        const char* text;
-    };
     // The record has two views.
     for (int view = 0; view < 2; ++view) {
-        const auto rows = [view](const char* name, int offset, std::initializer_list<Coded> codes,
-                                 const Cells& also = {}) {
-            for (const Coded& item : codes)
-                QTest::addRow("view %d %s, %d", view, name, item.code)
-                    << view << QString::fromLatin1(name)
-                    << (Cells{{view, offset, item.code}} + also) << QString::fromLatin1(item.text);
-        };
-        rows("bitrateModeList", 72,
-             {{0, "Constant Bitrate"},
-              {1, "Const. Quality - Constant Quantizer"},
-              {2, "Variable Bitrate"},
-              {3, "Const. Quality - Average Quantizer"},
-              {4, ""}});
-        const std::pair<const char*, int> numbers[] = {
-            {"targetRateSpin", 80}, {"maxRateSpin", 84}, {"bitrateBufferSpin", 76},
-            {"iSizeSpin", 160},     {"pSizeSpin", 164},  {"bSizeSpin", 168},
-            {"brSizeSpin", 172}};
-        for (const auto& number : numbers)
-            rows(number.first, number.second,
-                 {{0, "0"}, {1234567, "1234567"}, {2147483647, "2147483647"}, {-5, "0"}});
-        const std::pair<const char*, int> quantizers[] = {{"quantISpin", 60},
-                                                          {"quantPSpin", 64},
-                                                          {"quantBSpin", 68},
-                                                          {"maxQuantSpin", 2920},
-                                                          {"minQuantSpin", 2916}};
-        for (const auto& quantizer : quantizers)
-            rows(quantizer.first, quantizer.second, {{2, "2"}, {62, "62"}, {1, "2"}, {63, "62"}});
-        rows("units1Radio", 132, {{0, "on"}, {1, "off"}, {2, "off"}});
-        rows("units2Radio", 132, {{0, "off"}, {1, "on"}, {2, "off"}});
-        rows("units3Radio", 132, {{0, "off"}, {1, "off"}, {2, "on"}});
-        rows("vbvInitialSpin", 124, {{0, "0"}, {100, "100"}});
-        rows("vbvTargetSpin", 128, {{0, "0"}, {100, "100"}});
-        rows("hrdCheck", 176, {{0, "off"}, {1, "on"}});
+        for (const Setting& setting : ledger::settings()) {
+            if (!setting.isOfEachView() || setting.kind == Kind::Radio)
+                continue;
+            for (const Coded& item : codesOf(setting))
+                QTest::addRow("view %d %s, %d", view, setting.control, item.code)
+                    << view << QString::fromLatin1(setting.control)
+                    << Cells{Cell(view, setting, item.code)} << item.text;
+        }
+        const Setting& units = ledger::setting(QStringLiteral("bitrate_units"));
+        for (int radio = 0; radio < 3; ++radio)
+            for (int code = 0; code < 3; ++code)
+                QTest::addRow("view %d units%dRadio, %d", view, radio + 1, code)
+                    << view << QStringLiteral("units%1Radio").arg(radio + 1)
+                    << Cells{Cell(view, units, code)}
+                    << (code == radio ? QStringLiteral("on") : QStringLiteral("off"));
     }
 }
 

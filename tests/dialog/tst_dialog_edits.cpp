@@ -12,12 +12,51 @@
 #include <QSpinBox>
 #include <QTest>
 
+using ledger::Kind;
+using ledger::Setting;
+
 namespace
 {
 
 /// How a control is turned: `Choose` an item, `Type` a number, `Press` a switch or radio button,
 /// `Page` a slider upwards.
 enum class Turn { Choose, Type, Press, Page };
+
+/// A turn of a control from a code of the record to another.
+struct Edit {
+    Turn how;
+    QString what;
+    double given;
+    double code;
+};
+
+/// Every item of a list, both ways of a switch, a slider's page, both ends of a number.
+QVector<Edit> editsOf(const Setting& setting)
+{
+    QVector<Edit> edits;
+    if (setting.kind == Kind::Switch) {
+        edits = {{Turn::Press, QStringLiteral("on"), 0, 1},
+                 {Turn::Press, QStringLiteral("off"), 1, 0}};
+    } else if (setting.kind == Kind::List) {
+        // Given is a code that the list does not have, so that every item is a change.
+        for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member)))
+            edits += {Turn::Choose, QString::fromLatin1(item.text), 97, double(item.code)};
+    } else if (QByteArray(setting.control).endsWith("Slider")) {
+        edits = {{Turn::Page, QStringLiteral("20"), 0, 20}};
+    } else {
+        // The number of slices decides of another field, which has rows of its own.
+        const int least = setting.is("num_slices") ? 2 : setting.least;
+        // In percent.
+        const int most = setting.is("vbv_initial") ? 100 : setting.most;
+        for (const int number : {least, most}) {
+            const auto& given =
+                setting.first.state.toInt() == number ? setting.second : setting.first;
+            edits +=
+                {Turn::Type, QString::number(number), given.code, double(number) + setting.added()};
+        }
+    }
+    return edits;
+}
 
 } // namespace
 
@@ -73,14 +112,6 @@ void TestDialogEdits::control_data()
         return cells;
     };
 
-    const Place width = {"VideoFormatPage", "widthSpin"};
-    row("Horizontal Size", width, Turn::Type, "1280", inBoth({{0, 24, 1280}}));
-    row("Horizontal Size", width, Turn::Type, "16", inBoth({{0, 24, 16}}));
-    row("Vertical Size", {"VideoFormatPage", "heightSpin"}, Turn::Type, "4096",
-        inBoth({{0, 28, 4096}}));
-    row("Pixel X", {"VideoFormatPage", "pixelXSpin"}, Turn::Type, "7", inBoth({{0, 100, 7}}));
-    row("Pixel Y", {"VideoFormatPage", "pixelYSpin"}, Turn::Type, "-1", inBoth({{0, 104, -1}}));
-
     const Place aspect = {"VideoFormatPage", "aspectRatioList"};
     row("Picture Aspect Ratio", aspect, Turn::Choose, "Custom",
         inBoth({{0, 2888, -1}, {0, 2892, -1}}), inBoth({{0, 2888, 5}, {0, 2892, 4}}));
@@ -113,116 +144,22 @@ void TestDialogEdits::control_data()
         row("Frame Rate", frameRate, Turn::Choose, rate.text, inBoth({{0, 32, rate.rate}}),
             inBoth({{0, 32, 0.0}}));
 
-    struct Coded {
-        const char* text;
-        int code;
-    };
-    // Given is a code that the list does not have, so that every item is a change.
-    const auto list = [&](const char* key, Place place, int offset,
-                          const std::initializer_list<Coded>& items) {
-        for (const Coded& item : items)
-            row(key, place, Turn::Choose, item.text, inBoth({{0, offset, item.code}}),
-                inBoth({{0, offset, 97}}));
-    };
-    list("Interlace", {"VideoFormatPage", "interlaceList"}, 20,
-         {{"Progressive", 0}, {"Interlaced", 1}, {"MBAFF", 2}});
-    list("Field Order", {"VideoFormatPage", "fieldOrderList"}, 4112,
-         {{"Top Field First", 0}, {"Bot Field First", 1}});
-    list("Pulldown", {"VideoFormatPage", "pulldownList"}, 1808,
-         {{"Off", 0},
-          {"2:3", 1},
-          {"3:2", 2},
-          {"2:3 P", 4},
-          {"3:2 P", 5},
-          {"Auto", 6},
-          {"2:2", 7},
-          {"3:3", 8}});
-    list("Chroma Format", {"VideoFormatPage", "chromaList"}, 2252,
-         {{"4:0:0", 1}, {"4:2:0", 2}, {"4:2:2", 3}});
-    list("Bit-depth Luma", {"VideoFormatPage", "bitdepthLList"}, 2244,
-         {{"8 bits", 8}, {"10 bits", 10}});
-    list("Bit-depth Chroma", {"VideoFormatPage", "bitdepthCList"}, 2248,
-         {{"8 bits", 8}, {"10 bits", 10}});
-    list("Profile", {"AdvancedPage", "profileList"}, 0,
-         {{"Baseline", 0}, {"Main", 1}, {"High", 3}, {"High 10", 4}});
-    list("Level", {"AdvancedPage", "levelList"}, 4,
-         {{"1.0", 10},
-          {"1.1", 11},
-          {"1.2", 12},
-          {"1.3", 13},
-          {"1.6", 16},
-          {"2.0", 20},
-          {"2.1", 21},
-          {"2.2", 22},
-          {"3.0", 30},
-          {"3.1", 31},
-          {"3.2", 32},
-          {"4.0", 40},
-          {"4.1", 41},
-          {"4.2", 42},
-          {"5.0", 50},
-          {"5.1", 51},
-          {"5.2", 52},
-          {"Auto", 100}});
-    list("Macroblock Search", {"MotionEstimationPage", "macroSearchList"}, 88,
-         {{"16 x 16", 0}, {"8 x 8", 1}});
-    list("Subpixel Search", {"MotionEstimationPage", "subSearchList"}, 2868,
-         {{"Full", 0}, {"Half", 1}, {"Quarter", 2}});
-    list("Entropy", {"MiscPage", "entropyList"}, 92, {{"CAVLC", 0}, {"CABAC", 1}});
-
-    const struct {
-        const char* key;
-        Place place;
-        int offset;
-    } switches[] = {
-        {"Scene Detection", {"GOPStructurePage", "sceneDetectCheck"}, 2836},
-        {"Fixed I Position", {"GOPStructurePage", "fixedICheck"}, 4116},
-        {"Adaptive B", {"GOPStructurePage", "adaptiveBCheck"}, 4104},
-        {"Piramyd B", {"GOPStructurePage", "piramydBCheck"}, 2856},
-        {"Reference B", {"GOPStructurePage", "bAsReferenceCheck"}, 2852},
-        {"Weighted P", {"MotionEstimationPage", "weightedPCheck"}, 2872},
-        {"Fast Reference", {"MotionEstimationPage", "fastRefCheck"}, 4316},
-        {"Fast Subblock", {"MotionEstimationPage", "fastSubCheck"}, 4320},
-        {"Fast Intra", {"RateDistortionPage", "fastIntraCheck"}, 2880},
-        {"Fast Inter", {"RateDistortionPage", "fastInterCheck"}, 2884},
-        {"Simple RD", {"RateDistortionPage", "simpleRDCheck"}, 5116},
-        {"Hadamard", {"RateDistortionPage", "hadamardCheck"}, 96},
-        {"Deblocking", {"MiscPage", "deblockingCheck"}, 256},
-    };
-    for (const auto& item : switches)
-        row(item.key, item.place, Turn::Press, "on", inBoth({{0, item.offset, 1}}));
-
-    const struct {
-        const char* key;
-        Place place;
-        int offset;
-    } sliders[] = {{"Brightness", {"RateDistortionPage", "brightnessSlider"}, 5492},
-                   {"Contrast", {"RateDistortionPage", "contrastSlider"}, 5496},
-                   {"Complexity", {"RateDistortionPage", "complexitySlider"}, 5500}};
-    for (const auto& item : sliders)
-        row(item.key, item.place, Turn::Page, "20", inBoth({{0, item.offset, 20}}));
-
-    row("Interval I", {"GOPStructurePage", "iFrameIntervalSpin"}, Turn::Type, "250",
-        inBoth({{0, 8, 250}}));
-    row("Force I", {"GOPStructurePage", "iFrameForceSpin"}, Turn::Type, "0",
-        inBoth({{0, 4100, 0}}));
-    row("IDR Marker", {"GOPStructurePage", "idrSpin"}, Turn::Type, "99", inBoth({{0, 4108, 99}}));
-    row("B Between", {"GOPStructurePage", "bBetweenIPSpin"}, Turn::Type, "0", inBoth({{0, 12, 1}}));
-    row("B Between", {"GOPStructurePage", "bBetweenIPSpin"}, Turn::Type, "3", inBoth({{0, 12, 4}}));
-    row("Num Reference", {"MotionEstimationPage", "refFramesSpin"}, Turn::Type, "16",
-        inBoth({{0, 40, 16}}));
-    row("Motion Search", {"MotionEstimationPage", "searchRangeSpin"}, Turn::Type, "99",
-        inBoth({{0, 44, 99}}));
+    for (const Setting& setting : ledger::settings()) {
+        // Each has rows of its own.
+        if (!setting.key || setting.kind == Kind::FrameRate || setting.kind == Kind::Aspect ||
+            setting.is("video_type") || setting.isOfEachView())
+            continue;
+        const Place place = {setting.page, setting.control};
+        const auto in = [&](double code) {
+            const Cell cell(0, setting, code);
+            return setting.isOfRecord() ? Cells{cell} : inBoth({cell});
+        };
+        for (const Edit& edit : editsOf(setting))
+            row(setting.key, place, edit.how, qPrintable(edit.what), in(edit.code), in(edit.given));
+    }
     row("Slices", {"MiscPage", "slicesSpin"}, Turn::Type, "1",
         inBoth({{0, 2848, 1}, {0, 2844, 0}}));
     row("Slices", {"MiscPage", "slicesSpin"}, Turn::Type, "99999", inBoth({{0, 2848, 99999}}));
-    row("Threads", {"MiscPage", "threadsSpin"}, Turn::Type, "16", inBoth({{0, 2904, 16}}));
-    row("Threads", {"MiscPage", "threadsSpin"}, Turn::Type, "0", inBoth({{0, 2904, 0}}));
-
-    row("Number of views", {"ViewsPage", "numViewsSpin"}, Turn::Type, "0", {{Cell::Record, 0, 1}});
-    row("Number of views", {"ViewsPage", "numViewsSpin"}, Turn::Type, "3", {{Cell::Record, 0, 4}});
-    row("Split", {"ViewsPage", "splitCheck"}, Turn::Press, "on", {{Cell::Record, 4, 1}});
-
     const Place presetList = {"AVCVideoEncoderDlg", "presetList"};
     row("Video Type", presetList, Turn::Choose, "Blu-ray 3D", inBoth({{0, 1804, 3}}));
     row("Video Type", presetList, Turn::Choose, "Stereo High", inBoth({{0, 1804, 2}}));
@@ -272,35 +209,32 @@ void TestDialogEdits::rateControl_data()
 
         row("Bitrate Mode", "bitrateModeList", Turn::Choose, "Constant Bitrate",
             {{view, 72, 0}, {view, 176, 1}}, {{view, 176, 0}});
-        row("Bitrate Mode", "bitrateModeList", Turn::Choose, "Variable Bitrate", {{view, 72, 2}},
-            {{view, 72, 0}});
-        row("Bitrate Mode", "bitrateModeList", Turn::Choose, "Const. Quality - Constant Quantizer",
-            {{view, 72, 1}});
-        row("Bitrate Mode", "bitrateModeList", Turn::Choose, "Const. Quality - Average Quantizer",
-            {{view, 72, 3}});
         row("Target Bitrate", "targetRateSpin", Turn::Type, "5000000", {{view, 80, 5000000}});
         row("Target Bitrate", "targetRateSpin", Turn::Type, "7000000",
             {{view, 80, 7000000}, {view, 84, 7000000}});
         row("Max Bitrate", "maxRateSpin", Turn::Type, "2147483647", {{view, 84, 2147483647}});
         row("Max Bitrate", "maxRateSpin", Turn::Type, "3000000",
             {{view, 84, 3000000}, {view, 80, 3000000}});
-        row("Bitrate Buffer", "bitrateBufferSpin", Turn::Type, "123456", {{view, 76, 123456}});
         row("Units", "units1Radio", Turn::Press, "0", {{view, 132, 0}}, {{view, 132, 2}});
         row("Units", "units2Radio", Turn::Press, "1", {{view, 132, 1}});
         row("Units", "units3Radio", Turn::Press, "2", {{view, 132, 2}});
-        row("VBV Initial", "vbvInitialSpin", Turn::Type, "55", {{view, 124, 55}});
         row("VBV Target", "vbvTargetSpin", Turn::Type, "55", {});
-        row("HRD", "hrdCheck", Turn::Press, "off", {{view, 176, 0}});
-        row("HRD", "hrdCheck", Turn::Press, "on", {{view, 176, 1}}, {{view, 176, 0}});
-        row("I Size", "iSizeSpin", Turn::Type, "11", {{view, 160, 11}});
-        row("P Size", "pSizeSpin", Turn::Type, "12", {{view, 164, 12}});
-        row("B Size", "bSizeSpin", Turn::Type, "13", {{view, 168, 13}});
-        row("Br Size", "brSizeSpin", Turn::Type, "14", {{view, 172, 14}});
-        row("I Quantizer", "quantISpin", Turn::Type, "21", {{view, 60, 21}}, quantizerMode);
-        row("P Quantizer", "quantPSpin", Turn::Type, "22", {{view, 64, 22}}, quantizerMode);
-        row("B Quantizer", "quantBSpin", Turn::Type, "23", {{view, 68, 23}}, quantizerMode);
-        row("Max Quantizer", "maxQuantSpin", Turn::Type, "62", {{view, 2920, 62}}, quantizerMode);
-        row("Min Quantizer", "minQuantSpin", Turn::Type, "2", {{view, 2916, 2}}, quantizerMode);
+
+        for (const Setting& setting : ledger::settings()) {
+            // The target fullness is not reported; the rates pull each other.
+            if (!setting.isOfEachView() || setting.kind == Kind::Radio ||
+                setting.is("vbv_target") || setting.is("bitrate") || setting.is("max_bitrate"))
+                continue;
+            const Cells mode =
+                QByteArray(setting.control).contains("uant") ? quantizerMode : Cells();
+            for (const Edit& edit : editsOf(setting)) {
+                // It switches HRD on; see above.
+                if (edit.what != QLatin1String("Constant Bitrate"))
+                    row(setting.key, setting.control, edit.how, qPrintable(edit.what),
+                        {Cell(view, setting, edit.code)},
+                        mode + Cells{Cell(view, setting, edit.given)});
+            }
+        }
     }
 }
 
@@ -347,23 +281,34 @@ void TestDialogEdits::turn(const QWidget* dialog, const QString& page, const QSt
 
 void TestDialogEdits::everyKeyHasARow()
 {
-    // The controls of all pages, found in the dialog, each once; a new one needs its rows above.
+    // What the ledger lacks has no rows above.
     OpenDialog dialog;
-    const QStringList rowless = {QStringLiteral("aspectRatioCheck"), QStringLiteral("onesecCheck"),
-                                 QStringLiteral("deviceList")};
-    QStringList controls;
+    QStringList wanted = {QStringLiteral("deviceList"), QStringLiteral("aspectRatioCheck")};
+    for (const Setting& setting : ledger::settings()) {
+        if (!setting.key || setting.is("video_type"))
+            continue;
+        for (int view = 0; view < setting.viewCount(); ++view) {
+            if (setting.kind != Kind::Radio) {
+                wanted += QString::fromLatin1(setting.control);
+                continue;
+            }
+            for (const char* name : {"units1Radio", "units2Radio", "units3Radio", "onesecCheck"})
+                wanted += QString::fromLatin1(name);
+        }
+    }
+    QStringList found;
     const auto widgets = dialog.tabs()->findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
         const bool editable =
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QSpinBox*>(widget) ||
             qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QSlider*>(widget) ||
             qobject_cast<const QRadioButton*>(widget);
-        if (editable && !widget->objectName().isEmpty() && !rowless.contains(widget->objectName()))
-            controls += widget->objectName();
+        if (editable && !widget->objectName().isEmpty())
+            found += widget->objectName();
     }
-    // 12 video format, 2 profile and level, 9 GOP, 7 motion, 7 rate distortion, 4 miscellaneous,
-    // 2 views, and 19 of rate control (16 and three radio buttons) on each of four pages.
-    QCOMPARE(controls.size(), 12 + 2 + 9 + 7 + 7 + 4 + 2 + 4 * 19);
+    wanted.sort();
+    found.sort();
+    QCOMPARE(found, wanted);
 }
 
 void TestDialogEdits::customFrameRateIsStored()
