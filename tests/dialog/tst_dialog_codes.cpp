@@ -7,13 +7,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
-#include <QSet>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
 
 #include <climits>
 #include <memory>
+#include <set>
 
 using ledger::Kind;
 using ledger::Setting;
@@ -41,7 +41,7 @@ struct Coded {
     QString text;
 };
 
-/// Fullness beyond 100 percent is corrected, and so is no code that is shown only.
+/// Fullness beyond 100 percent is corrected, not only shown as another.
 int mostOf(const Setting& setting)
 {
     return setting.is("vbv_initial") || setting.is("vbv_target") ? 100 : setting.most;
@@ -49,15 +49,15 @@ int mostOf(const Setting& setting)
 
 QVector<Coded> codesOfNumber(const Setting& setting)
 {
-    QSet<int> numbers = {setting.least, mostOf(setting), setting.first.state.toInt(),
-                         setting.second.state.toInt()};
+    std::set<int> numbers = {setting.least, mostOf(setting), setting.first.state.toInt(),
+                             setting.second.state.toInt()};
     const bool isFullness = mostOf(setting) != setting.most;
     if (!isFullness)
-        numbers |= {setting.least - 1, setting.least - 7};
+        numbers.insert({setting.least - 1, setting.least - 7});
     if (setting.most < INT_MAX)
-        numbers |= {setting.most + 1, setting.most + 5000};
+        numbers.insert({setting.most + 1, setting.most + 5000});
     QVector<Coded> codes;
-    for (const int number : std::as_const(numbers)) {
+    for (const int number : numbers) {
         const int shown = qBound(setting.least, number, setting.most);
         const bool isAuto = setting.is("num_threads") && shown == 0;
         codes +=

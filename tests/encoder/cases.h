@@ -4,9 +4,12 @@
 
 #include <kv_config_gui_mvc/settings_record.h>
 
+#include <QList>
+
 #include <span>
 
 #include "Encoder.h"
+#include "SettingsLedger.h"
 
 struct RuleCase {
     const char* rule;
@@ -26,15 +29,13 @@ std::span<const RuleCase> rateCases();
 std::span<const RuleCase> discCases();
 std::span<const RuleCase> levelCases();
 
-/** A value that a field does not keep, and what the check makes of it. */
+/** A value of a field in both views, and what the check makes of it. */
 struct FieldCase {
-    const char* rule;
-    const char* name;
-    std::int32_t KvMvcViewSettings::*field;
+    QByteArray rule;
+    const ledger::Setting* setting;
     std::int32_t before;
     std::int32_t after;
-    bool perView; ///< the message names the view, so each of two views gets its own
 };
 
-/** Both ends of each range: what is kept, and the next value beyond. */
-std::span<const FieldCase> fieldCases();
+/** What is kept, and the next values beyond: of each range, switch and list of codes. */
+const QList<FieldCase>& fieldCases();

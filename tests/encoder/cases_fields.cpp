@@ -1,267 +1,148 @@
-// Both ends of each field's range.
+// Both ends of each field's range, and the codes that a field may hold.
 
 #include "cases.h"
+
+#include <cstdint>
+#include <optional>
 
 namespace
 {
 
-// clang-format off
-constexpr FieldCase rows[] = {
-    {"field.i-interval", "i_interval 0", &V::i_interval, 0, 0, false},
-    {"field.i-interval", "i_interval -1", &V::i_interval, -1, 0, false},
-    {"field.i-interval", "i_interval lowest", &V::i_interval, INT32_MIN, 0, false},
-    {"field.i-interval", "i_interval 300", &V::i_interval, 300, 300, false},
-    {"field.i-interval", "i_interval 301", &V::i_interval, 301, 300, false},
-    {"field.i-interval", "i_interval highest", &V::i_interval, INT32_MAX, 300, false},
-    {"field.force-i", "force_i 0", &V::force_i, 0, 0, false},
-    {"field.force-i", "force_i -1", &V::force_i, -1, 0, false},
-    {"field.force-i", "force_i lowest", &V::force_i, INT32_MIN, 0, false},
-    {"field.force-i", "force_i 999", &V::force_i, 999, 999, false},
-    {"field.force-i", "force_i 1000", &V::force_i, 1000, 999, false},
-    {"field.force-i", "force_i highest", &V::force_i, INT32_MAX, 999, false},
-    {"field.idr-marker", "idr_marker 0", &V::idr_marker, 0, 0, false},
-    {"field.idr-marker", "idr_marker -1", &V::idr_marker, -1, 0, false},
-    {"field.idr-marker", "idr_marker lowest", &V::idr_marker, INT32_MIN, 0, false},
-    {"field.idr-marker", "idr_marker 99", &V::idr_marker, 99, 99, false},
-    {"field.idr-marker", "idr_marker 100", &V::idr_marker, 100, 99, false},
-    {"field.idr-marker", "idr_marker highest", &V::idr_marker, INT32_MAX, 99, false},
-    {"field.b-frames", "ref_distance 1", &V::ref_distance, 1, 1, false},
-    {"field.b-frames", "ref_distance 0", &V::ref_distance, 0, 1, false},
-    {"field.b-frames", "ref_distance lowest", &V::ref_distance, INT32_MIN, 1, false},
-    {"field.b-frames", "ref_distance 4", &V::ref_distance, 4, 4, false},
-    {"field.b-frames", "ref_distance 5", &V::ref_distance, 5, 4, false},
-    {"field.b-frames", "ref_distance highest", &V::ref_distance, INT32_MAX, 4, false},
-    {"field.references", "num_ref_frames 0", &V::num_ref_frames, 0, 0, false},
-    {"field.references", "num_ref_frames -1", &V::num_ref_frames, -1, 0, false},
-    {"field.references", "num_ref_frames lowest", &V::num_ref_frames, INT32_MIN, 0, false},
-    {"field.references", "num_ref_frames 16", &V::num_ref_frames, 16, 16, false},
-    {"field.references", "num_ref_frames 17", &V::num_ref_frames, 17, 16, false},
-    {"field.references", "num_ref_frames highest", &V::num_ref_frames, INT32_MAX, 16, false},
-    {"field.motion-search", "motion_search 0", &V::motion_search, 0, 0, false},
-    {"field.motion-search", "motion_search -1", &V::motion_search, -1, 0, false},
-    {"field.motion-search", "motion_search lowest", &V::motion_search, INT32_MIN, 0, false},
-    {"field.motion-search", "motion_search 99", &V::motion_search, 99, 99, false},
-    {"field.motion-search", "motion_search 100", &V::motion_search, 100, 99, false},
-    {"field.motion-search", "motion_search highest", &V::motion_search, INT32_MAX, 99, false},
-    {"field.slices", "num_slices 1", &V::num_slices, 1, 1, false},
-    {"field.slices", "num_slices 0", &V::num_slices, 0, 1, false},
-    {"field.slices", "num_slices lowest", &V::num_slices, INT32_MIN, 1, false},
-    {"field.threads", "num_threads 0", &V::num_threads, 0, 0, false},
-    {"field.threads", "num_threads -1", &V::num_threads, -1, 0, false},
-    {"field.threads", "num_threads lowest", &V::num_threads, INT32_MIN, 0, false},
-    {"field.threads", "num_threads 16", &V::num_threads, 16, 16, false},
-    {"field.threads", "num_threads 17", &V::num_threads, 17, 16, false},
-    {"field.threads", "num_threads highest", &V::num_threads, INT32_MAX, 16, false},
-    {"field.brightness", "brightness -100", &V::brightness, -100, -100, false},
-    {"field.brightness", "brightness -101", &V::brightness, -101, -100, false},
-    {"field.brightness", "brightness lowest", &V::brightness, INT32_MIN, -100, false},
-    {"field.brightness", "brightness 100", &V::brightness, 100, 100, false},
-    {"field.brightness", "brightness 101", &V::brightness, 101, 100, false},
-    {"field.brightness", "brightness highest", &V::brightness, INT32_MAX, 100, false},
-    {"field.contrast", "contrast -100", &V::contrast, -100, -100, false},
-    {"field.contrast", "contrast -101", &V::contrast, -101, -100, false},
-    {"field.contrast", "contrast lowest", &V::contrast, INT32_MIN, -100, false},
-    {"field.contrast", "contrast 100", &V::contrast, 100, 100, false},
-    {"field.contrast", "contrast 101", &V::contrast, 101, 100, false},
-    {"field.contrast", "contrast highest", &V::contrast, INT32_MAX, 100, false},
-    {"field.complexity", "complexity -100", &V::complexity, -100, -100, false},
-    {"field.complexity", "complexity -101", &V::complexity, -101, -100, false},
-    {"field.complexity", "complexity lowest", &V::complexity, INT32_MIN, -100, false},
-    {"field.complexity", "complexity 100", &V::complexity, 100, 100, false},
-    {"field.complexity", "complexity 101", &V::complexity, 101, 100, false},
-    {"field.complexity", "complexity highest", &V::complexity, INT32_MAX, 100, false},
-    {"field.target-rate", "bitrate 0", &V::bitrate, 0, 0, true},
-    {"field.target-rate", "bitrate -1", &V::bitrate, -1, 0, true},
-    {"field.target-rate", "bitrate lowest", &V::bitrate, INT32_MIN, 0, true},
-    {"field.max-rate", "max_bitrate 0", &V::max_bitrate, 0, 0, true},
-    {"field.max-rate", "max_bitrate -1", &V::max_bitrate, -1, 0, true},
-    {"field.max-rate", "max_bitrate lowest", &V::max_bitrate, INT32_MIN, 0, true},
-    {"field.buffer", "bitrate_buffer 0", &V::bitrate_buffer, 0, 0, true},
-    {"field.buffer", "bitrate_buffer -1", &V::bitrate_buffer, -1, 0, true},
-    {"field.buffer", "bitrate_buffer lowest", &V::bitrate_buffer, INT32_MIN, 0, true},
-    {"field.size-i", "frame_size_i 0", &V::frame_size_i, 0, 0, true},
-    {"field.size-i", "frame_size_i -1", &V::frame_size_i, -1, 0, true},
-    {"field.size-i", "frame_size_i lowest", &V::frame_size_i, INT32_MIN, 0, true},
-    {"field.size-p", "frame_size_p 0", &V::frame_size_p, 0, 0, true},
-    {"field.size-p", "frame_size_p -1", &V::frame_size_p, -1, 0, true},
-    {"field.size-p", "frame_size_p lowest", &V::frame_size_p, INT32_MIN, 0, true},
-    {"field.size-b", "frame_size_b 0", &V::frame_size_b, 0, 0, true},
-    {"field.size-b", "frame_size_b -1", &V::frame_size_b, -1, 0, true},
-    {"field.size-b", "frame_size_b lowest", &V::frame_size_b, INT32_MIN, 0, true},
-    {"field.size-br", "frame_size_bref 0", &V::frame_size_bref, 0, 0, true},
-    {"field.size-br", "frame_size_bref -1", &V::frame_size_bref, -1, 0, true},
-    {"field.size-br", "frame_size_bref lowest", &V::frame_size_bref, INT32_MIN, 0, true},
-    {"field.quantizer-i", "quant_i 0", &V::quant_i, 0, 0, true},
-    {"field.quantizer-i", "quant_i -1", &V::quant_i, -1, 0, true},
-    {"field.quantizer-i", "quant_i lowest", &V::quant_i, INT32_MIN, 0, true},
-    {"field.quantizer-i", "quant_i 51", &V::quant_i, 51, 51, true},
-    {"field.quantizer-i", "quant_i 52", &V::quant_i, 52, 51, true},
-    {"field.quantizer-i", "quant_i highest", &V::quant_i, INT32_MAX, 51, true},
-    {"field.quantizer-p", "quant_p 0", &V::quant_p, 0, 0, true},
-    {"field.quantizer-p", "quant_p -1", &V::quant_p, -1, 0, true},
-    {"field.quantizer-p", "quant_p lowest", &V::quant_p, INT32_MIN, 0, true},
-    {"field.quantizer-p", "quant_p 51", &V::quant_p, 51, 51, true},
-    {"field.quantizer-p", "quant_p 52", &V::quant_p, 52, 51, true},
-    {"field.quantizer-p", "quant_p highest", &V::quant_p, INT32_MAX, 51, true},
-    {"field.quantizer-b", "quant_b 0", &V::quant_b, 0, 0, true},
-    {"field.quantizer-b", "quant_b -1", &V::quant_b, -1, 0, true},
-    {"field.quantizer-b", "quant_b lowest", &V::quant_b, INT32_MIN, 0, true},
-    {"field.quantizer-b", "quant_b 51", &V::quant_b, 51, 51, true},
-    {"field.quantizer-b", "quant_b 52", &V::quant_b, 52, 51, true},
-    {"field.quantizer-b", "quant_b highest", &V::quant_b, INT32_MAX, 51, true},
-    {"field.quantizer-max", "quant_max 0", &V::quant_max, 0, 0, true},
-    {"field.quantizer-max", "quant_max -1", &V::quant_max, -1, 0, true},
-    {"field.quantizer-max", "quant_max lowest", &V::quant_max, INT32_MIN, 0, true},
-    {"field.quantizer-max", "quant_max 51", &V::quant_max, 51, 51, true},
-    {"field.quantizer-max", "quant_max 52", &V::quant_max, 52, 51, true},
-    {"field.quantizer-max", "quant_max highest", &V::quant_max, INT32_MAX, 51, true},
-    {"field.quantizer-min", "quant_min 0", &V::quant_min, 0, 0, true},
-    {"field.quantizer-min", "quant_min -1", &V::quant_min, -1, 0, true},
-    {"field.quantizer-min", "quant_min lowest", &V::quant_min, INT32_MIN, 0, true},
-    {"field.quantizer-min", "quant_min 51", &V::quant_min, 51, 51, true},
-    {"field.quantizer-min", "quant_min 52", &V::quant_min, 52, 51, true},
-    {"field.quantizer-min", "quant_min highest", &V::quant_min, INT32_MAX, 51, true},
-    {"field.vbv-initial", "vbv_initial 0", &V::vbv_initial, 0, 0, true},
-    {"field.vbv-initial", "vbv_initial -1", &V::vbv_initial, -1, 0, true},
-    {"field.vbv-initial", "vbv_initial lowest", &V::vbv_initial, INT32_MIN, 0, true},
-    {"field.vbv-initial-percent", "vbv_initial 100", &V::vbv_initial, 100, 100, true},
-    {"field.vbv-initial-percent", "vbv_initial 101", &V::vbv_initial, 101, 100, true},
-    {"field.vbv-initial-percent", "vbv_initial highest", &V::vbv_initial, INT32_MAX, 100, true},
-    {"field.vbv-target", "vbv_target 0", &V::vbv_target, 0, 0, true},
-    {"field.vbv-target", "vbv_target -1", &V::vbv_target, -1, 0, true},
-    {"field.vbv-target", "vbv_target lowest", &V::vbv_target, INT32_MIN, 0, true},
-    {"field.vbv-target-percent", "vbv_target 100", &V::vbv_target, 100, 100, true},
-    {"field.vbv-target-percent", "vbv_target 101", &V::vbv_target, 101, 100, true},
-    {"field.vbv-target-percent", "vbv_target highest", &V::vbv_target, INT32_MAX, 100, true},
-    {"switch.scene-detection", "scene_detection 0", &V::scene_detection, 0, 0, false},
-    {"switch.scene-detection", "scene_detection 1", &V::scene_detection, 1, 1, false},
-    {"switch.scene-detection", "scene_detection 2", &V::scene_detection, 2, 1, false},
-    {"switch.scene-detection", "scene_detection -1", &V::scene_detection, -1, 1, false},
-    {"switch.fixed-i", "fixed_i_position 0", &V::fixed_i_position, 0, 0, false},
-    {"switch.fixed-i", "fixed_i_position 1", &V::fixed_i_position, 1, 1, false},
-    {"switch.fixed-i", "fixed_i_position 2", &V::fixed_i_position, 2, 1, false},
-    {"switch.fixed-i", "fixed_i_position -1", &V::fixed_i_position, -1, 1, false},
-    {"switch.adaptive-b", "adaptive_b 0", &V::adaptive_b, 0, 0, false},
-    {"switch.adaptive-b", "adaptive_b 1", &V::adaptive_b, 1, 1, false},
-    {"switch.adaptive-b", "adaptive_b 2", &V::adaptive_b, 2, 1, false},
-    {"switch.adaptive-b", "adaptive_b -1", &V::adaptive_b, -1, 1, false},
-    {"switch.pyramid-b", "pyramid_b 0", &V::pyramid_b, 0, 0, false},
-    {"switch.pyramid-b", "pyramid_b 1", &V::pyramid_b, 1, 1, false},
-    {"switch.pyramid-b", "pyramid_b 2", &V::pyramid_b, 2, 1, false},
-    {"switch.pyramid-b", "pyramid_b -1", &V::pyramid_b, -1, 1, false},
-    {"switch.reference-b", "reference_b 0", &V::reference_b, 0, 0, false},
-    {"switch.reference-b", "reference_b 1", &V::reference_b, 1, 1, false},
-    {"switch.reference-b", "reference_b 2", &V::reference_b, 2, 1, false},
-    {"switch.reference-b", "reference_b -1", &V::reference_b, -1, 1, false},
-    {"switch.weighted-p", "weighted_p 0", &V::weighted_p, 0, 0, false},
-    {"switch.weighted-p", "weighted_p 1", &V::weighted_p, 1, 1, false},
-    {"switch.weighted-p", "weighted_p 2", &V::weighted_p, 2, 1, false},
-    {"switch.weighted-p", "weighted_p -1", &V::weighted_p, -1, 1, false},
-    {"switch.fast-reference", "fast_reference 0", &V::fast_reference, 0, 0, false},
-    {"switch.fast-reference", "fast_reference 1", &V::fast_reference, 1, 1, false},
-    {"switch.fast-reference", "fast_reference 2", &V::fast_reference, 2, 1, false},
-    {"switch.fast-reference", "fast_reference -1", &V::fast_reference, -1, 1, false},
-    {"switch.fast-subblock", "fast_subblock 0", &V::fast_subblock, 0, 0, false},
-    {"switch.fast-subblock", "fast_subblock 1", &V::fast_subblock, 1, 1, false},
-    {"switch.fast-subblock", "fast_subblock 2", &V::fast_subblock, 2, 1, false},
-    {"switch.fast-subblock", "fast_subblock -1", &V::fast_subblock, -1, 1, false},
-    {"switch.fast-intra", "fast_intra 0", &V::fast_intra, 0, 0, false},
-    {"switch.fast-intra", "fast_intra 1", &V::fast_intra, 1, 1, false},
-    {"switch.fast-intra", "fast_intra 2", &V::fast_intra, 2, 1, false},
-    {"switch.fast-intra", "fast_intra -1", &V::fast_intra, -1, 1, false},
-    {"switch.fast-inter", "fast_inter 0", &V::fast_inter, 0, 0, false},
-    {"switch.fast-inter", "fast_inter 1", &V::fast_inter, 1, 1, false},
-    {"switch.fast-inter", "fast_inter 2", &V::fast_inter, 2, 1, false},
-    {"switch.fast-inter", "fast_inter -1", &V::fast_inter, -1, 1, false},
-    {"switch.simple-rd", "simple_rd 0", &V::simple_rd, 0, 0, false},
-    {"switch.simple-rd", "simple_rd 1", &V::simple_rd, 1, 1, false},
-    {"switch.simple-rd", "simple_rd 2", &V::simple_rd, 2, 1, false},
-    {"switch.simple-rd", "simple_rd -1", &V::simple_rd, -1, 1, false},
-    {"switch.hadamard", "hadamard 0", &V::hadamard, 0, 0, false},
-    {"switch.hadamard", "hadamard 1", &V::hadamard, 1, 1, false},
-    {"switch.hadamard", "hadamard 2", &V::hadamard, 2, 1, false},
-    {"switch.hadamard", "hadamard -1", &V::hadamard, -1, 1, false},
-    {"switch.deblocking", "deblocking 0", &V::deblocking, 0, 0, false},
-    {"switch.deblocking", "deblocking 1", &V::deblocking, 1, 1, false},
-    {"switch.deblocking", "deblocking 2", &V::deblocking, 2, 1, false},
-    {"switch.deblocking", "deblocking -1", &V::deblocking, -1, 1, false},
-    {"switch.field-order", "field_order 0", &V::field_order, 0, 0, false},
-    {"switch.field-order", "field_order 1", &V::field_order, 1, 1, false},
-    {"switch.field-order", "field_order 2", &V::field_order, 2, 1, false},
-    {"switch.field-order", "field_order -1", &V::field_order, -1, 1, false},
-    {"switch.hrd", "hrd_mode 0", &V::hrd_mode, 0, 0, true},
-    {"switch.hrd", "hrd_mode 1", &V::hrd_mode, 1, 1, true},
-    {"switch.hrd", "hrd_mode 2", &V::hrd_mode, 2, 1, true},
-    {"switch.hrd", "hrd_mode -1", &V::hrd_mode, -1, 1, true},
-    {"code.preset", "video_type 0", &V::video_type, 0, 0, false},
-    {"code.preset", "video_type 1", &V::video_type, 1, 1, false},
-    {"code.preset", "video_type 2", &V::video_type, 2, 2, false},
-    {"code.preset", "video_type 3", &V::video_type, 3, 3, false},
-    {"code.preset", "video_type 4", &V::video_type, 4, 0, false},
-    {"code.preset", "video_type -1", &V::video_type, -1, 0, false},
-    {"code.interlace", "interlace_mode 0", &V::interlace_mode, 0, 0, false},
-    {"code.interlace", "interlace_mode 1", &V::interlace_mode, 1, 1, false},
-    {"code.interlace", "interlace_mode 2", &V::interlace_mode, 2, 2, false},
-    {"code.interlace", "interlace_mode 3", &V::interlace_mode, 3, 0, false},
-    {"code.interlace", "interlace_mode -1", &V::interlace_mode, -1, 0, false},
-    {"code.pulldown", "pulldown 0", &V::pulldown, 0, 0, false},
-    {"code.pulldown", "pulldown 1", &V::pulldown, 1, 1, false},
-    {"code.pulldown", "pulldown 2", &V::pulldown, 2, 2, false},
-    {"code.pulldown", "pulldown 4", &V::pulldown, 4, 4, false},
-    {"code.pulldown", "pulldown 5", &V::pulldown, 5, 5, false},
-    {"code.pulldown", "pulldown 6", &V::pulldown, 6, 6, false},
-    {"code.pulldown", "pulldown 7", &V::pulldown, 7, 7, false},
-    {"code.pulldown", "pulldown 8", &V::pulldown, 8, 8, false},
-    {"code.pulldown", "pulldown 3", &V::pulldown, 3, 0, false},
-    {"code.pulldown", "pulldown 9", &V::pulldown, 9, 0, false},
-    {"code.pulldown", "pulldown -1", &V::pulldown, -1, 0, false},
-    {"code.pulldown", "pulldown 32", &V::pulldown, 32, 0, false},
-    {"code.chroma", "chroma_format 1", &V::chroma_format, 1, 1, false},
-    {"code.chroma", "chroma_format 2", &V::chroma_format, 2, 2, false},
-    {"code.chroma", "chroma_format 3", &V::chroma_format, 3, 3, false},
-    {"code.chroma", "chroma_format 4", &V::chroma_format, 4, 4, false},
-    {"code.chroma", "chroma_format 0", &V::chroma_format, 0, 2, false},
-    {"code.chroma", "chroma_format 5", &V::chroma_format, 5, 2, false},
-    {"code.chroma", "chroma_format -1", &V::chroma_format, -1, 2, false},
-    {"code.partition", "min_partition 0", &V::min_partition, 0, 0, false},
-    {"code.partition", "min_partition 1", &V::min_partition, 1, 1, false},
-    {"code.partition", "min_partition 2", &V::min_partition, 2, 1, false},
-    {"code.partition", "min_partition -1", &V::min_partition, -1, 1, false},
-    {"code.subpixel", "subpixel_mode 0", &V::subpixel_mode, 0, 0, false},
-    {"code.subpixel", "subpixel_mode 1", &V::subpixel_mode, 1, 1, false},
-    {"code.subpixel", "subpixel_mode 2", &V::subpixel_mode, 2, 2, false},
-    {"code.subpixel", "subpixel_mode 3", &V::subpixel_mode, 3, 2, false},
-    {"code.subpixel", "subpixel_mode -1", &V::subpixel_mode, -1, 2, false},
-    {"code.entropy", "entropy_mode 0", &V::entropy_mode, 0, 0, false},
-    {"code.entropy", "entropy_mode 1", &V::entropy_mode, 1, 1, false},
-    {"code.entropy", "entropy_mode 2", &V::entropy_mode, 2, 0, false},
-    {"code.entropy", "entropy_mode -1", &V::entropy_mode, -1, 0, false},
-    {"code.bitrate-mode", "bitrate_mode 0", &V::bitrate_mode, 0, 0, true},
-    {"code.bitrate-mode", "bitrate_mode 1", &V::bitrate_mode, 1, 1, true},
-    {"code.bitrate-mode", "bitrate_mode 2", &V::bitrate_mode, 2, 2, true},
-    {"code.bitrate-mode", "bitrate_mode 3", &V::bitrate_mode, 3, 3, true},
-    {"code.bitrate-mode", "bitrate_mode 4", &V::bitrate_mode, 4, 2, true},
-    {"code.bitrate-mode", "bitrate_mode -1", &V::bitrate_mode, -1, 2, true},
-    {"code.units", "bitrate_units 0", &V::bitrate_units, 0, 0, true},
-    {"code.units", "bitrate_units 3", &V::bitrate_units, 3, 0, true},
-    {"code.units", "bitrate_units -1", &V::bitrate_units, -1, 0, true},
-    {"field.depth-luma", "bit_depth_luma 8", &V::bit_depth_luma, 8, 8, false},
-    {"field.depth-luma", "bit_depth_luma 10", &V::bit_depth_luma, 10, 10, false},
-    {"field.depth-luma", "bit_depth_luma 7", &V::bit_depth_luma, 7, 8, false},
-    {"field.depth-luma", "bit_depth_luma 0", &V::bit_depth_luma, 0, 8, false},
-    {"field.depth-luma", "bit_depth_luma -1", &V::bit_depth_luma, -1, 8, false},
-    {"field.depth-luma", "bit_depth_luma 9", &V::bit_depth_luma, 9, 10, false},
-    {"field.depth-luma", "bit_depth_luma 14", &V::bit_depth_luma, 14, 10, false},
-    {"field.depth-chroma", "bit_depth_chroma 8", &V::bit_depth_chroma, 8, 8, false},
-    {"field.depth-chroma", "bit_depth_chroma 10", &V::bit_depth_chroma, 10, 10, false},
-    {"field.depth-chroma", "bit_depth_chroma 7", &V::bit_depth_chroma, 7, 8, false},
-    {"field.depth-chroma", "bit_depth_chroma 11", &V::bit_depth_chroma, 11, 10, false},
+using ledger::Setting;
+
+/** What a field holds at least and at most, where the rule says so. */
+struct Range {
+    const char* rule;
+    const char* member;
+    std::optional<std::int32_t> least;
+    std::optional<std::int32_t> most = {};
 };
-// clang-format on
+
+constexpr Range ranges[] = {
+    {"field.i-interval", "i_interval", 0, 300},
+    {"field.force-i", "force_i", 0, 999},
+    {"field.idr-marker", "idr_marker", 0, 99},
+    {"field.b-frames", "ref_distance", 1, 4},
+    {"field.references", "num_ref_frames", 0, 16},
+    {"field.motion-search", "motion_search", 0, 99},
+    {"field.slices", "num_slices", 1},
+    {"field.threads", "num_threads", 0, 16},
+    {"field.brightness", "brightness", -100, 100},
+    {"field.contrast", "contrast", -100, 100},
+    {"field.complexity", "complexity", -100, 100},
+    {"field.target-rate", "bitrate", 0},
+    {"field.max-rate", "max_bitrate", 0},
+    {"field.buffer", "bitrate_buffer", 0},
+    {"field.size-i", "frame_size_i", 0},
+    {"field.size-p", "frame_size_p", 0},
+    {"field.size-b", "frame_size_b", 0},
+    {"field.size-br", "frame_size_bref", 0},
+    {"field.quantizer-i", "quant_i", 0, 51},
+    {"field.quantizer-p", "quant_p", 0, 51},
+    {"field.quantizer-b", "quant_b", 0, 51},
+    {"field.quantizer-max", "quant_max", 0, 51},
+    {"field.quantizer-min", "quant_min", 0, 51},
+    {"field.vbv-initial", "vbv_initial", 0},
+    {"field.vbv-initial-percent", "vbv_initial", {}, 100},
+    {"field.vbv-target", "vbv_target", 0},
+    {"field.vbv-target-percent", "vbv_target", {}, 100},
+};
+
+/** Codes without a meaning, and what takes their place. */
+struct Codes {
+    const char* rule;
+    const char* member;
+    std::int32_t instead;
+    QList<std::int32_t> unknown;
+};
+
+const Codes codes[] = {
+    {"code.preset", "video_type", 0, {4, -1}},
+    {"code.interlace", "interlace_mode", 0, {3, -1}},
+    {"code.pulldown", "pulldown", 0, {3, 9, -1, 32}},
+    {"code.chroma", "chroma_format", 2, {0, 5, -1}},
+    {"code.partition", "min_partition", 1, {2, -1}},
+    {"code.subpixel", "subpixel_mode", 2, {3, -1}},
+    {"code.entropy", "entropy_mode", 0, {2, -1}},
+    {"code.bitrate-mode", "bitrate_mode", 2, {4, -1}},
+    {"code.units", "bitrate_units", 0, {3, -1}},
+    {"switch.field-order", "field_order", 1, {2, -1}},
+    {"field.depth-luma", "bit_depth_luma", 8, {7, 0, -1}},
+    {"field.depth-luma", "bit_depth_luma", 10, {9, 14}},
+    {"field.depth-chroma", "bit_depth_chroma", 8, {7}},
+    {"field.depth-chroma", "bit_depth_chroma", 10, {11}},
+};
+
+const Setting& named(const char* member)
+{
+    return ledger::setting(QString::fromLatin1(member));
+}
+
+void addRange(const Range& range, QList<FieldCase>& cases)
+{
+    const auto row = [&](std::int32_t before, std::int32_t after) {
+        cases.append({range.rule, &named(range.member), before, after});
+    };
+    if (range.least) {
+        row(*range.least, *range.least);
+        row(*range.least - 1, *range.least);
+        row(INT32_MIN, *range.least);
+    }
+    if (range.most) {
+        row(*range.most, *range.most);
+        row(*range.most + 1, *range.most);
+        row(INT32_MAX, *range.most);
+    }
+}
+
+void addCodes(const Codes& row, QList<FieldCase>& cases)
+{
+    const Setting& setting = named(row.member);
+    for (const auto& known : ledger::namedValues(QString::fromLatin1(row.member))) {
+        cases.append({row.rule, &setting, known.code, known.code});
+    }
+    for (const std::int32_t code : row.unknown) {
+        cases.append({row.rule, &setting, code, row.instead});
+    }
+}
+
+/** Any number but 0 is taken for 1. */
+void addSwitch(const Setting& setting, QList<FieldCase>& cases)
+{
+    QByteArray name = QByteArray(setting.member).replace('_', '-');
+    if (setting.is("fixed_i_position")) {
+        name = "fixed-i";
+    } else if (setting.is("hrd_mode")) {
+        name = "hrd";
+    }
+    for (const std::int32_t before : {0, 1, 2, -1}) {
+        cases.append({"switch." + name, &setting, before, before == 0 ? 0 : 1});
+    }
+}
+
+QList<FieldCase> makeCases()
+{
+    QList<FieldCase> cases;
+    for (const Range& range : ranges) {
+        addRange(range, cases);
+    }
+    for (const Codes& row : codes) {
+        addCodes(row, cases);
+    }
+    for (const Setting& setting : ledger::settings()) {
+        // The one follows the number of slices, the other is the record's.
+        if (setting.kind == ledger::Kind::Switch && !setting.is("multi_slice") &&
+            !setting.isOfRecord()) {
+            addSwitch(setting, cases);
+        }
+    }
+    return cases;
+}
 
 } // namespace
 
-std::span<const FieldCase> fieldCases()
+const QList<FieldCase>& fieldCases()
 {
-    return rows;
+    static const QList<FieldCase> cases = makeCases();
+    return cases;
 }

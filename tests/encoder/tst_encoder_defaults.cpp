@@ -2,81 +2,35 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <cstring>
 
 #include "Encoder.h"
+#include "SettingsLedger.h"
 
 namespace
 {
 
-using V = KvMvcViewSettings;
-
-struct Control {
-    const char* name;
-    std::int32_t V::*field;
-    int low, high;
-};
-
-// What the dialog's controls can show.
-// clang-format off
-constexpr Control controls[] = {
-    {"width", &V::width, 16, 4096}, {"height", &V::height, 16, 4096},
-    {"pixel_aspect_x", &V::pixel_aspect_x, -1, 1000}, {"pixel_aspect_y", &V::pixel_aspect_y, -1, 1000},
-    {"i_interval", &V::i_interval, 0, 300}, {"force_i", &V::force_i, 0, 999},
-    {"idr_marker", &V::idr_marker, 0, 99}, {"ref_distance", &V::ref_distance, 1, 4},
-    {"num_ref_frames", &V::num_ref_frames, 0, 99}, {"motion_search", &V::motion_search, 0, 99},
-    {"num_slices", &V::num_slices, 1, 99999}, {"num_threads", &V::num_threads, 0, 16},
-    {"quant_i", &V::quant_i, 2, 62}, {"quant_p", &V::quant_p, 2, 62}, {"quant_b", &V::quant_b, 2, 62},
-    {"quant_max", &V::quant_max, 2, 62}, {"quant_min", &V::quant_min, 2, 62},
-    {"vbv_initial", &V::vbv_initial, 0, 100}, {"vbv_target", &V::vbv_target, 0, 100},
-    {"bitrate_units", &V::bitrate_units, 0, 0}, {"brightness", &V::brightness, -100, 100},
-    {"contrast", &V::contrast, -100, 100}, {"complexity", &V::complexity, -100, 100},
-    {"entropy_mode", &V::entropy_mode, 0, 1}, {"interlace_mode", &V::interlace_mode, 0, 2},
-    {"hrd_mode", &V::hrd_mode, 0, 1}, {"scene_detection", &V::scene_detection, 0, 1},
-    {"fixed_i_position", &V::fixed_i_position, 0, 1}, {"adaptive_b", &V::adaptive_b, 0, 1},
-    {"pyramid_b", &V::pyramid_b, 0, 1}, {"reference_b", &V::reference_b, 0, 1},
-    {"weighted_p", &V::weighted_p, 0, 1}, {"fast_reference", &V::fast_reference, 0, 1},
-    {"fast_subblock", &V::fast_subblock, 0, 1}, {"fast_intra", &V::fast_intra, 0, 1},
-    {"fast_inter", &V::fast_inter, 0, 1}, {"simple_rd", &V::simple_rd, 0, 1},
-    {"hadamard", &V::hadamard, 0, 1}, {"deblocking", &V::deblocking, 0, 1},
-};
-
-// What the presets have in common, in both views.
-struct Value {
-    const char* name;
-    std::int32_t V::*field;
-    int value;
-};
-constexpr Value common[] = {
-    {"profile", &V::profile, 3}, {"level", &V::level, 41},
-    {"width", &V::width, 1920}, {"height", &V::height, 1080},
-    {"interlace_mode", &V::interlace_mode, 0}, {"field_order", &V::field_order, 0},
-    {"pulldown", &V::pulldown, 0}, {"chroma_format", &V::chroma_format, 2},
-    {"bit_depth_luma", &V::bit_depth_luma, 8}, {"bit_depth_chroma", &V::bit_depth_chroma, 8},
-    {"display_aspect_x", &V::display_aspect_x, 16}, {"display_aspect_y", &V::display_aspect_y, 9},
-    {"pixel_aspect_x", &V::pixel_aspect_x, -1}, {"pixel_aspect_y", &V::pixel_aspect_y, -1},
-    {"i_interval", &V::i_interval, 24}, {"force_i", &V::force_i, 1},
-    {"ref_distance", &V::ref_distance, 3}, {"idr_marker", &V::idr_marker, 1},
-    {"scene_detection", &V::scene_detection, 1}, {"fixed_i_position", &V::fixed_i_position, 0},
-    {"adaptive_b", &V::adaptive_b, 0}, {"reference_b", &V::reference_b, 0},
-    {"pyramid_b", &V::pyramid_b, 0}, {"min_partition", &V::min_partition, 1},
-    {"subpixel_mode", &V::subpixel_mode, 2}, {"motion_search", &V::motion_search, 64},
-    {"weighted_p", &V::weighted_p, 0}, {"fast_reference", &V::fast_reference, 1},
-    {"fast_subblock", &V::fast_subblock, 1}, {"fast_intra", &V::fast_intra, 0},
-    {"fast_inter", &V::fast_inter, 0}, {"simple_rd", &V::simple_rd, 0},
-    {"hadamard", &V::hadamard, 1}, {"brightness", &V::brightness, 0},
-    {"contrast", &V::contrast, 0}, {"complexity", &V::complexity, 0},
-    {"deblocking", &V::deblocking, 1}, {"entropy_mode", &V::entropy_mode, 1},
-    {"num_slices", &V::num_slices, 4}, {"multi_slice", &V::multi_slice, 1},
-    {"num_threads", &V::num_threads, 0}, {"bitrate_mode", &V::bitrate_mode, 2},
-    {"bitrate_units", &V::bitrate_units, 0}, {"vbv_initial", &V::vbv_initial, 50},
-    {"vbv_target", &V::vbv_target, 50}, {"hrd_mode", &V::hrd_mode, 1},
-    {"frame_size_i", &V::frame_size_i, 0}, {"frame_size_p", &V::frame_size_p, 0},
-    {"frame_size_b", &V::frame_size_b, 0}, {"frame_size_bref", &V::frame_size_bref, 0},
-    {"quant_i", &V::quant_i, 22}, {"quant_p", &V::quant_p, 24}, {"quant_b", &V::quant_b, 26},
-    {"quant_min", &V::quant_min, 2}, {"quant_max", &V::quant_max, 51},
-};
-// clang-format on
+/** Whether the setting's control can show what the record has; in percent units. */
+bool isShown(const KvMvcSettings& record, const ledger::Setting& setting, int view)
+{
+    const double value = ledger::get(record, setting, view);
+    const double shown = value - setting.added();
+    const bool isFullness = setting.is("vbv_initial") || setting.is("vbv_target");
+    const auto& named = ledger::namedValues(QString::fromLatin1(setting.member));
+    switch (setting.kind) {
+    case ledger::Kind::Number:
+        return shown >= setting.least && shown <= (isFullness ? 100 : setting.most);
+    case ledger::Kind::Radio:
+        return value == 0;
+    case ledger::Kind::FrameRate:
+    case ledger::Kind::Aspect:
+        return true; // see setEveryField()
+    default:
+        return std::any_of(named.begin(), named.end(),
+                           [value](const auto& each) { return each.code == value; });
+    }
+}
 
 void addPresets()
 {
@@ -151,18 +105,10 @@ void TestEncoderDefaults::lieInWhatControlsShow()
 {
     QFETCH(const int, number);
     const KvMvcSettings record = encoder::preset(number);
-    QVERIFY(record.num_views >= 1 && record.num_views <= 4);
-    QVERIFY(record.split_views == 0 || record.split_views == 1);
-    for (const KvMvcViewSettings& view : record.views) {
-        for (const Control& control : controls) {
-            const int value = view.*control.field;
-            QVERIFY2(value >= control.low && value <= control.high, control.name);
+    for (const ledger::Setting& setting : ledger::settings()) {
+        for (const int view : {0, 1}) {
+            QVERIFY2(isShown(record, setting, view), setting.member);
         }
-        // Listed texts: no custom rate, a named aspect ratio.
-        const double rate = view.frame_rate;
-        QVERIFY(rate == 24000.0 / 1001);
-        QCOMPARE(view.display_aspect_x, 16);
-        QCOMPARE(view.display_aspect_y, 9);
     }
 }
 
@@ -170,11 +116,13 @@ void TestEncoderDefaults::setEveryField()
 {
     QFETCH(const int, number);
     const KvMvcSettings record = encoder::preset(number);
-    for (const KvMvcViewSettings& view : record.views) {
-        for (const Value& wanted : common) {
-            QVERIFY2(view.*wanted.field == wanted.value, wanted.name);
+    for (const int view : {0, 1}) {
+        for (const ledger::Setting& setting : ledger::settings()) {
+            if (setting.preset) {
+                QVERIFY2(ledger::get(record, setting, view) == *setting.preset, setting.member);
+            }
         }
-        QCOMPARE(view.video_type, number);
+        QCOMPARE(record.views[view].video_type, number);
     }
 }
 

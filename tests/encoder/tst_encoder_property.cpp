@@ -10,20 +10,16 @@
 #include <string>
 
 #include "Encoder.h"
+#include "SettingsLedger.h"
 
 namespace
 {
 
-// Offsets in a view sub-record of the fields of four bytes.
-constexpr int fieldOffsets[] = {
-    0,    4,    8,    12,   20,   24,   28,   40,   44,   60,   64,   68,   72,   76,   80,
-    84,   88,   92,   96,   100,  104,  124,  128,  132,  160,  164,  168,  172,  176,  256,
-    1804, 1808, 2244, 2248, 2252, 2836, 2844, 2848, 2852, 2856, 2868, 2872, 2880, 2884, 2888,
-    2892, 2904, 2916, 2920, 4100, 4104, 4108, 4112, 4116, 4316, 4320, 5116, 5492, 5496, 5500,
-};
-constexpr int frameRateOffset = 32;
-constexpr int viewOffset = 256;
-constexpr int viewSize = 8316;
+const QVector<ledger::Setting>& numbers()
+{
+    static const QVector<ledger::Setting> rows = ledger::viewNumbers();
+    return rows;
+}
 
 std::string texts[3];
 
@@ -83,8 +79,8 @@ public:
         }
         record.num_views = pick(-1, 6);
         for (int v = 0; v < 2; ++v) {
-            for (const int offset : fieldOffsets) {
-                setField(record, v, offset, value());
+            for (const ledger::Setting& field : numbers()) {
+                ledger::put(record, field, v, value());
             }
             setFrameRate(record, v);
         }
@@ -124,12 +120,6 @@ private:
         }
     }
 
-    static void setField(KvMvcSettings& record, int v, int offset, int value)
-    {
-        auto* bytes = reinterpret_cast<unsigned char*>(&record);
-        std::memcpy(bytes + viewOffset + v * viewSize + offset, &value, 4);
-    }
-
     void setFrameRate(KvMvcSettings& record, int v)
     {
         static constexpr double odd[] = {0.0,  -0.0,   -1.0, 1.0,  7.6,  24.0,   25.0,  30.0,
@@ -164,13 +154,12 @@ private:
                 record.views[1].frame_rate = rate;
             }
         } else {
-            const int offset =
-                fieldOffsets[static_cast<std::size_t>(pick(0, int{std::size(fieldOffsets)} - 1))];
+            const ledger::Setting& field = numbers()[pick(0, int(numbers().size()) - 1)];
             const int now = value();
             const int which = pick(0, 3);
             for (int v = 0; v < 2; ++v) {
                 if (which >= 2 || which == v) {
-                    setField(record, v, offset, now);
+                    ledger::put(record, field, v, now);
                 }
             }
         }
@@ -202,13 +191,11 @@ bool touchesOnlyFields(const KvMvcSettings& before, const KvMvcSettings& after, 
     KvMvcSettings undone = after;
     auto* to = reinterpret_cast<unsigned char*>(&undone);
     const auto* from = reinterpret_cast<const unsigned char*>(&before);
-    std::memcpy(to, from, 8);
     for (int v = 0; v < viewsInUse; ++v) {
-        const int view = viewOffset + v * viewSize;
-        for (const int offset : fieldOffsets) {
-            std::memcpy(to + view + offset, from + view + offset, 4);
+        for (const ledger::Setting& field : ledger::settings()) {
+            const int position = field.position(v);
+            std::memcpy(to + position, from + position, std::size_t(field.width()));
         }
-        std::memcpy(to + view + frameRateOffset, from + view + frameRateOffset, 8);
     }
     return same(undone, before);
 }

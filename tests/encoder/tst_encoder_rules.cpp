@@ -50,10 +50,11 @@ void compareFields(const KvMvcSettings& before, const FieldCase& row, bool corre
     KvMvcSettings record = before;
     const Outcome outcome = encoder::check(record);
     const QString rule = QString::fromLatin1(row.rule);
-    const int wanted = !corrected ? 0 : row.perView ? 2 : 1;
+    // A message that names the view is said of each of the two.
+    const int wanted = !corrected ? 0 : row.setting->isOfEachView() ? 2 : 1;
     QVERIFY2(outcome.rules.count(rule) == wanted, outcome.all().constData());
-    for (const KvMvcViewSettings& view : record.views) {
-        QCOMPARE(view.*row.field, row.after);
+    for (const int view : {0, 1}) {
+        QCOMPARE(ledger::get(record, *row.setting, view), double(row.after));
     }
     KvMvcSettings again = record;
     QVERIFY2(!encoder::check(again).said(rule), "said again of the corrected record");
@@ -120,18 +121,22 @@ void TestEncoderRules::speaksBeyondItsLimitOnly()
 void TestEncoderRules::takesFieldsIntoTheirRange_data()
 {
     QTest::addColumn<int>("row");
-    const auto cases = fieldCases();
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-        QTest::addRow("%s", cases[i].name) << static_cast<int>(i);
+    const QList<FieldCase>& cases = fieldCases();
+    for (int i = 0; i < int(cases.size()); ++i) {
+        QTest::addRow("%s: %s %d", cases[i].rule.constData(), cases[i].setting->member,
+                      cases[i].before)
+            << i;
     }
 }
 
 void TestEncoderRules::takesFieldsIntoTheirRange()
 {
     QFETCH(const int, row);
-    const FieldCase& test = fieldCases()[static_cast<std::size_t>(row)];
+    const FieldCase& test = fieldCases().at(row);
     KvMvcSettings record = encoder::preset(2);
-    encoder::setBoth(record, test.field, test.before);
+    for (const int view : {0, 1}) {
+        ledger::put(record, *test.setting, view, test.before);
+    }
     compareFields(record, test, test.before != test.after);
 }
 
