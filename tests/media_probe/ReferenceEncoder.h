@@ -6,12 +6,13 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace kvtest
 {
 
-/// Works in the folder that the environment variable KV_JM names: `lencod` and the configuration
-/// `encoder_stereo.cfg` that comes with it.
+/// Works with the folder that the environment variable KV_JM names: `lencod` and the configurations
+/// `encoder_stereo.cfg` and `encoder_view1.cfg` that come with it.
 class ReferenceEncoder
 {
 public:
@@ -72,13 +73,15 @@ private:
                                            "-pix_fmt yuv420p -vf crop=176:144:%1:0");
         const QByteArray left = makeMedia(raw.arg(0), path("left.yuv"));
         const QByteArray right = makeMedia(raw.arg(8), path("right.yuv"));
-        QFile second(path("right.cfg"));
-        if (!left.isEmpty() || !right.isEmpty() || !second.open(QIODevice::WriteOnly)) {
+        QFile second(tool("encoder_view1.cfg"));
+        if (!left.isEmpty() || !right.isEmpty() || !second.open(QIODevice::ReadOnly)) {
             qWarning("no pictures to encode: %s%s", left.constData(), right.constData());
             return false;
         }
-        second.write("InputFile = \"right.yuv\"\nReconFile = \"right.rec\"\n");
-        return true;
+        QString settings = QString::fromUtf8(second.readAll());
+        settings.replace(QRegularExpression(QStringLiteral("(?m)^InputFile .*$")),
+                         QStringLiteral("InputFile = \"right.yuv\""));
+        return writeFile(path("right.cfg"), settings.toUtf8());
     }
 
     QString m_folder;

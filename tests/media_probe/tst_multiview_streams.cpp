@@ -1,5 +1,6 @@
 // Multiview streams as they are in the field: one stream with all views, two streams as on discs,
 // and files that players made of discs.
+#include "MatroskaFile.h"
 #include "ProbeLibrary.h"
 #include "ReferenceEncoder.h"
 #include "TransportStream.h"
@@ -29,14 +30,19 @@ private Q_SLOTS:
     void viewsInStreamsOfTheirOwn_data();
     void viewsInStreamsOfTheirOwn();
     void anotherProgramsViewsAreNotThisOnes();
+    void viewsInFilesOfPlayers_data();
+    void viewsInFilesOfPlayers();
+    void slicesAloneTellViews();
 
 private:
     QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+    /// Five pictures of the reference encoder, two views.
+    QByteArray realStream();
 
     QTemporaryDir m_folder;
     ProbeLibrary m_library;
     QByteArray m_base; ///< 25 pictures of 352 x 288
-    QByteArray m_real; ///< 5 pictures of the reference encoder, two views
+    QByteArray m_real;
 };
 
 void TestMultiviewStreams::initTestCase()
@@ -52,6 +58,14 @@ void TestMultiviewStreams::initTestCase()
     QFile in(base);
     QVERIFY(in.open(QIODevice::ReadOnly));
     m_base = in.readAll();
+}
+
+QByteArray TestMultiviewStreams::realStream()
+{
+    if (m_real.isEmpty()) {
+        m_real = ReferenceEncoder(m_folder.path()).encode(QStringLiteral("FramesToBeEncoded=5"));
+    }
+    return m_real;
 }
 
 void TestMultiviewStreams::viewsInStreamsOfTheirOwn_data()
@@ -83,10 +97,7 @@ void TestMultiviewStreams::viewsInStreamsOfTheirOwn()
     if (real && !ReferenceEncoder::isThere()) {
         QSKIP(ReferenceEncoder::absence());
     }
-    if (real && m_real.isEmpty()) {
-        m_real = ReferenceEncoder(m_folder.path()).encode(QStringLiteral("FramesToBeEncoded=5"));
-    }
-    const QByteArray stream = real ? m_real : kvtest::withViews(m_base, 128, 30, 2, 0.5);
+    const QByteArray stream = real ? realStream() : kvtest::withViews(m_base, 128, 30, 2, 0.5);
     QVERIFY(!stream.isEmpty());
     const QList<ViewPictures> once = kvtest::partedViews(stream);
     QCOMPARE(once.size(), real ? 5 : 25);
@@ -132,6 +143,66 @@ void TestMultiviewStreams::anotherProgramsViewsAreNotThisOnes()
     QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
     QCOMPARE(m_library.info.num_views, 1);
     QCOMPARE(m_library.info.separate_views, 0);
+}
+
+void TestMultiviewStreams::viewsInFilesOfPlayers_data()
+{
+    QTest::addColumn<int>("views");
+    QTest::addColumn<int>("level");
+    QTest::newRow("in the base view's blocks") << int(kvtest::MatroskaFile::Views::InBlocks) << 20;
+    // FFmpeg does not show the parameter sets of this form.
+    QTest::newRow("in additions to blocks") << int(kvtest::MatroskaFile::Views::InAdditions) << 0;
+}
+
+void TestMultiviewStreams::viewsInFilesOfPlayers()
+{
+    QFETCH(int, views);
+    QFETCH(int, level);
+    if (!ReferenceEncoder::isThere()) {
+        QSKIP(ReferenceEncoder::absence());
+    }
+    QVERIFY(!realStream().isEmpty());
+    const QList<ViewPictures> pictures = kvtest::partedViews(realStream());
+    const QString name = file("disc.mkv");
+    QVERIFY(kvtest::writeFile(
+        name, kvtest::MatroskaFile::write(pictures, kvtest::MatroskaFile::Views(views))));
+    const QJsonObject facts = kvtest::probeMedia(name);
+    QCOMPARE(facts.value(QStringLiteral("width")).toInt(), 176); // the file is one
+    QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
+    const KvMediaInfo& info = m_library.info;
+    QCOMPARE(QByteArray(info.container_name), QByteArray("matroska,webm"));
+    QCOMPARE(info.num_views, 2);
+    QCOMPARE(info.mvc_level_idc, level);
+    QCOMPARE(info.separate_views, 0);
+    QCOMPARE(info.coding[0].frames, 5);
+    QCOMPARE(info.coding[1].frames, level != 0 ? 5 : 0);
+    QVERIFY(info.dependent_bit_rate > 0);
+    QVERIFY(info.dependent_bit_rate < info.bit_rate / 2);
+}
+
+/// A multiplexer that knows no subset parameter sets leaves them out, or keeps them where nothing
+/// shows them.
+void TestMultiviewStreams::slicesAloneTellViews()
+{
+    if (!ReferenceEncoder::isThere()) {
+        QSKIP(ReferenceEncoder::absence());
+    }
+    QByteArray stream;
+    for (const QByteArray& unit : kvtest::nalUnits(realStream())) {
+        if ((unit[0] & 31) != 15) {
+            stream += QByteArray("\0\0\0\1", 4) + unit;
+        }
+    }
+    const QString raw = file("bare.h264");
+    QVERIFY(kvtest::writeFile(raw, stream));
+    const QString name = file("bare.mp4");
+    const QByteArray error = makeMedia(
+        QStringLiteral("-f h264 -r 25 -i %1 -c copy -bsf:v setts=ts=N*3600").arg(raw), name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
+    QCOMPARE(m_library.info.num_views, 2);
+    QCOMPARE(m_library.info.mvc_profile_idc, 0);
+    QVERIFY(m_library.info.dependent_bit_rate > 0);
 }
 
 } // namespace
