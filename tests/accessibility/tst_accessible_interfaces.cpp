@@ -18,6 +18,9 @@
 #include <QTest>
 #include <QToolButton>
 
+using ledger::Kind;
+using ledger::Setting;
+
 namespace
 {
 
@@ -73,6 +76,26 @@ QString announced(QWidget* widget)
     return widget->accessibleName().isEmpty() ? QString() : list->text(QAccessible::Description);
 }
 
+bool isSlider(const Setting& setting)
+{
+    return QByteArray(setting.control).endsWith("Slider");
+}
+
+/// The caption; where one stands for two controls, or for half a sentence, the setting's name.
+const char* spokenName(const Setting& setting)
+{
+    if (setting.is("display_aspect_x"))
+        return "Display aspect ratio; \"Custom\" leaves it to the pixel aspect ratio.";
+    // With the units that they are in.
+    if (setting.is("bitrate_buffer"))
+        return "Bitrate buffer (bytes)";
+    if (setting.is("vbv_initial"))
+        return "VBV buffer initial (%)";
+    if (setting.is("vbv_target"))
+        return "VBV buffer target (%)";
+    return setting.title && !isSlider(setting) ? setting.title : setting.caption;
+}
+
 } // namespace
 
 class TestAccessibleInterfaces : public QObject
@@ -109,7 +132,6 @@ void TestAccessibleInterfaces::control_data()
     const int button = QAccessible::Button;
     const int slider = QAccessible::Slider;
 
-    row("AVCVideoEncoderDlg", "presetList", "Preset:", list);
     row("AVCVideoEncoderDlg", "presetButton", "Restore preset", button);
     row("AVCVideoEncoderDlg", "buttonLoad", "Load settings", button);
     row("AVCVideoEncoderDlg", "buttonSave", "Save settings", button);
@@ -117,64 +139,26 @@ void TestAccessibleInterfaces::control_data()
     row("AVCVideoEncoderDlg", "buttonOk", "OK", button);
     row("AVCVideoEncoderDlg", "errorLog", "Message log", QAccessible::EditableText);
 
-    row("VideoFormatPage", "widthSpin", "Picture width", number);
-    row("VideoFormatPage", "heightSpin", "Picture height", number);
     row("VideoFormatPage", "aspectRatioCheck", "Keep aspect ratio", box);
-    row("VideoFormatPage", "aspectRatioList",
-        "Display aspect ratio; \"Custom\" leaves it to the pixel aspect ratio.", list);
-    row("VideoFormatPage", "framerateList", "Frame rate", list);
-    row("VideoFormatPage", "pixelXSpin", "Pixel aspect ratio, horizontal part", number);
-    row("VideoFormatPage", "pixelYSpin", "Pixel aspect ratio, vertical part", number);
-    row("VideoFormatPage", "interlaceList", "Picture structure", list);
-    row("VideoFormatPage", "fieldOrderList", "Field order", list);
-    row("VideoFormatPage", "pulldownList", "Pulldown", list);
-    row("VideoFormatPage", "chromaList", "Chroma format", list);
-    row("VideoFormatPage", "bitdepthLList", "Bit-depth luma", list);
-    row("VideoFormatPage", "bitdepthCList", "Bit-depth chroma", list);
-
-    row("AdvancedPage", "profileList", "Profile:", list);
-    row("AdvancedPage", "levelList", "Level:", list);
     row("AdvancedPage", "toggleIGOPStructurePage", "GOP Structure", box);
     row("AdvancedPage", "toggleIMotionEstimationPage", "Motion Estimation", box);
     row("AdvancedPage", "toggleIRateDistortionPage", "Rate Distortion", box);
     row("AdvancedPage", "toggleIMiscPage", "Miscellaneous", box);
-
-    row("GOPStructurePage", "sceneDetectCheck", "Enable scene detection", box);
-    row("GOPStructurePage", "iFrameIntervalSpin", "I-frame interval", number);
-    row("GOPStructurePage", "iFrameForceSpin", "Min. I-frame distance", number);
-    row("GOPStructurePage", "idrSpin", "Mark every so many I-frames as IDR", number);
-    row("GOPStructurePage", "fixedICheck", "Fixed I-frames distance", box);
-    row("GOPStructurePage", "adaptiveBCheck", "Adaptive B-frame placement", box);
-    row("GOPStructurePage", "piramydBCheck", "Pyramidal structure for B-frames", box);
-    row("GOPStructurePage", "bBetweenIPSpin", "Number of B-frames", number);
-    row("GOPStructurePage", "bAsReferenceCheck", "B-frames as reference frames", box);
-
-    row("MotionEstimationPage", "macroSearchList", "Macroblock search block size", list);
-    row("MotionEstimationPage", "subSearchList", "Subpixel search depth", list);
-    row("MotionEstimationPage", "refFramesSpin", "Reference frames", number);
-    row("MotionEstimationPage", "searchRangeSpin", "Motion vector search range", number);
-    row("MotionEstimationPage", "weightedPCheck", "Weighted prediction for P-frames", box);
-
-    row("RateDistortionPage", "hadamardCheck", " Hadamard transformation", box);
-    row("RateDistortionPage", "brightnessSlider", "Brightness based", slider);
-    row("RateDistortionPage", "contrastSlider", "Contrast based", slider);
-    row("RateDistortionPage", "complexitySlider", "Complexity based", slider);
-
-    row("MiscPage", "deblockingCheck", "Deblocking filter", box);
-    row("MiscPage", "entropyList", "Entropy coding mode", list);
-    row("MiscPage", "threadsSpin", "Threads", number);
-    row("MiscPage", "slicesSpin", "Slices per picture", number);
-
-    row("ViewsPage", "numViewsSpin", "Number of additional views:", number);
-    row("ViewsPage", "splitCheck", "Split views", box);
-    row("View1Page", "bitrateModeList", "Bitrate mode", list);
-    row("View1Page", "targetRateSpin", "Target bitrate (bps)", number);
-    row("View1Page", "units1Radio", "Bitrate buffer (bytes), VBV buffers (%)",
-        QAccessible::RadioButton);
-    row("View1Page", "bitrateBufferSpin", "Bitrate buffer (bytes)", number);
-    row("View1Page", "vbvInitialSpin", "VBV buffer initial (%)", number);
-    row("View1Page", "onesecCheck", "Force bitrate buffer length to 1 second", box);
-    row("View1Page", "minQuantSpin", "Minimum quantizer", number);
+    for (const char* page : {"View0Page", "View1Page", "View2Page", "View3Page"}) {
+        row(page, "units1Radio", "Bitrate buffer (bytes), VBV buffers (%)",
+            QAccessible::RadioButton);
+        row(page, "onesecCheck", "Force bitrate buffer length to 1 second", box);
+    }
+    for (const Setting& setting : ledger::settings()) {
+        if (!setting.key || setting.kind == Kind::Radio)
+            continue;
+        for (int view = 0; view < setting.viewCount(); ++view)
+            row(qPrintable(setting.pageOf(view)), setting.control, spokenName(setting),
+                setting.kind == Kind::Switch   ? box
+                : setting.kind != Kind::Number ? list
+                : isSlider(setting)            ? slider
+                                               : number);
+    }
 }
 
 void TestAccessibleInterfaces::control()
@@ -184,8 +168,8 @@ void TestAccessibleInterfaces::control()
     QFETCH(QString, name);
     QFETCH(int, role);
     OpenDialog dialog;
-    for (KvMvcViewSettings& view : dialog.probe().record().settings.views)
-        view.bitrate_units = KV_MVC_UNITS_BYTES_PERCENT;
+    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view)
+        dialog.probe().record().view(view).bitrate_units = KV_MVC_UNITS_BYTES_PERCENT;
     dialog.probe().settingsToState();
     auto* widget = findControl<QWidget>(dialog.get(), page.toLatin1().constData(),
                                         control.toLatin1().constData());

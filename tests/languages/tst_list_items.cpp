@@ -14,42 +14,44 @@
 namespace
 {
 
-using Field = qint32 KvMvcViewSettings::*;
+using ledger::Setting;
 
-/// A list whose items have a fixed order.
-struct OrderedList {
-    const char* page;
-    const char* control;
-    Field field;
-    /// By item.
+/// The codes of a list, by item.
+QVector<qint32> codesOf(const Setting& setting)
+{
     QVector<qint32> codes;
-};
+    for (const auto& value : ledger::listedValues(QString::fromLatin1(setting.member)))
+        codes += value.code;
+    return codes;
+}
 
-const QVector<OrderedList> orderedLists = {
-    {"VideoFormatPage", "interlaceList", &KvMvcViewSettings::interlace_mode, {0, 1, 2}},
-    {"VideoFormatPage", "pulldownList", &KvMvcViewSettings::pulldown, {0, 1, 2, 4, 5, 6, 7, 8}},
-    {"VideoFormatPage", "chromaList", &KvMvcViewSettings::chroma_format, {1, 2, 3}},
-    {"VideoFormatPage", "bitdepthLList", &KvMvcViewSettings::bit_depth_luma, {8, 10}},
-    {"VideoFormatPage", "bitdepthCList", &KvMvcViewSettings::bit_depth_chroma, {8, 10}},
-    {"MotionEstimationPage", "macroSearchList", &KvMvcViewSettings::min_partition, {0, 1}},
-    {"MotionEstimationPage", "subSearchList", &KvMvcViewSettings::subpixel_mode, {0, 1, 2}},
-    {"MiscPage", "entropyList", &KvMvcViewSettings::entropy_mode, {0, 1}},
-};
+/// Lists of the general settings; those with names are in the order of their translations.
+QVector<Setting> lists(bool named)
+{
+    QVector<Setting> found;
+    for (const Setting& setting : ledger::settings())
+        if (setting.kind == ledger::Kind::List && !setting.isOfEachView() &&
+            !setting.is("field_order") && (setting.group == ledger::Group::Stream) == named)
+            found += setting;
+    return found;
+}
+
+const Setting& named(const char* member)
+{
+    return ledger::setting(QString::fromLatin1(member));
+}
+
+QComboBox* listOf(const OpenDialog& dialog, const Setting& setting, int view = 0)
+{
+    return findControl<QComboBox>(dialog.get(), setting.pageOf(view).toLatin1().constData(),
+                                  setting.control);
+}
 
 const QVector<double> frameRates = {
     7.6, 9.1, 10, 12.5, 12.8, 15, 24000.0 / 1001, 24, 25, 30000.0 / 1001, 30, 50, 60000.0 / 1001,
     60};
 
 const QVector<QPair<qint32, qint32>> aspectRatios = {{-1, -1}, {1, 1}, {4, 3}, {16, 9}};
-
-/// By item: constant and variable bit rate, constant and average quantizer.
-const QVector<qint32> bitrateModes = {0, 2, 1, 3};
-
-/// Lists in the order of their texts: every code has an item of its own.
-const QVector<qint32> profiles = {0, 1, 3, 4};
-const QVector<qint32> levels = {10, 11, 12, 13, 16, 20, 21, 22, 30,
-                                31, 32, 40, 41, 42, 50, 51, 52, 100};
-const QVector<qint32> videoTypes = {1, 2, 3};
 
 } // namespace
 
@@ -75,14 +77,20 @@ private Q_SLOTS:
 
 private:
     /// Sets the field in every view, as a check does that corrects it.
-    static void put(const OpenDialog& dialog, Field field, qint32 code);
+    static void put(const OpenDialog& dialog, const Setting& setting, qint32 code);
+    static qint32 stored(const OpenDialog& dialog, const Setting& setting, int view = 0);
 };
 
-void TestListItems::put(const OpenDialog& dialog, Field field, qint32 code)
+void TestListItems::put(const OpenDialog& dialog, const Setting& setting, qint32 code)
 {
-    for (KvMvcViewSettings& view : dialog.probe().record().settings.views)
-        view.*field = code;
+    for (const int view : {0, 1})
+        ledger::put(dialog.probe().record().settings, setting, view, code);
     dialog.probe().settingsToState();
+}
+
+qint32 TestListItems::stored(const OpenDialog& dialog, const Setting& setting, int view)
+{
+    return qint32(ledger::get(dialog.probe().record().settings, setting, view));
 }
 
 void TestListItems::orderedItems()
@@ -91,20 +99,19 @@ void TestListItems::orderedItems()
     const Language installed(language);
     QVERIFY(installed.isReady());
     OpenDialog dialog;
-    const WorkingRecord& record = dialog.probe().record();
-
-    for (const OrderedList& row : orderedLists) {
-        auto* list = findControl<QComboBox>(dialog.get(), row.page, row.control);
-        QVERIFY2(list, row.control);
-        QCOMPARE(list->count(), int(row.codes.size()));
+    for (const Setting& setting : lists(false)) {
+        const QVector<qint32> codes = codesOf(setting);
+        auto* list = listOf(dialog, setting);
+        QVERIFY2(list, setting.control);
+        QCOMPARE(list->count(), int(codes.size()));
         for (int item = 0; item < list->count(); ++item) {
-            put(dialog, row.field, row.codes[item]);
-            QVERIFY2(list->currentIndex() == item, row.control);
-            QVERIFY2(!list->currentText().isEmpty(), row.control);
+            put(dialog, setting, codes[item]);
+            QVERIFY2(list->currentIndex() == item, setting.control);
+            QVERIFY2(!list->currentText().isEmpty(), setting.control);
         }
         for (int item = 0; item < list->count(); ++item) {
-            QVERIFY2(user::choose(list, list->itemText(item)), row.control);
-            QCOMPARE(record.settings.views[0].*row.field, row.codes[item]);
+            QVERIFY2(user::choose(list, list->itemText(item)), setting.control);
+            QCOMPARE(stored(dialog, setting), codes[item]);
             QCOMPARE(list->currentIndex(), item);
         }
     }
@@ -119,9 +126,9 @@ void TestListItems::fieldOrders()
     auto* list = findControl<QComboBox>(dialog.get(), "VideoFormatPage", "fieldOrderList");
     QCOMPARE(list->count(), 2);
     // The list is empty for a bottom field first in progressive pictures, and locked otherwise.
-    put(dialog, &KvMvcViewSettings::interlace_mode, KV_MVC_INTERLACED);
+    put(dialog, named("interlace_mode"), KV_MVC_INTERLACED);
     for (const qint32 order : {0, 1}) {
-        put(dialog, &KvMvcViewSettings::field_order, order);
+        put(dialog, named("field_order"), order);
         QCOMPARE(list->currentIndex(), order);
         QVERIFY(!list->currentText().isEmpty());
     }
@@ -166,8 +173,8 @@ void TestListItems::aspectRatioItems()
     auto* height = findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "heightSpin");
     QCOMPARE(list->count(), int(aspectRatios.size()));
     for (int item = 0; item < list->count(); ++item) {
-        put(dialog, &KvMvcViewSettings::display_aspect_x, aspectRatios[item].first);
-        put(dialog, &KvMvcViewSettings::display_aspect_y, aspectRatios[item].second);
+        put(dialog, named("display_aspect_x"), aspectRatios[item].first);
+        put(dialog, named("display_aspect_y"), aspectRatios[item].second);
         QCOMPARE(list->currentIndex(), item);
     }
     for (int item = 0; item < list->count(); ++item) {
@@ -194,6 +201,8 @@ void TestListItems::bitrateModeItems()
     dialog.probe().record().settings.num_views = KV_MVC_MAX_VIEWS;
     dialog.probe().settingsToState();
 
+    // Constant and variable bit rate, constant and average quantizer.
+    const QVector<qint32> bitrateModes = codesOf(named("bitrate_mode"));
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
         const QByteArray page = "View" + QByteArray::number(view) + "Page";
         auto* list = findControl<QComboBox>(dialog.get(), page.constData(), "bitrateModeList");
@@ -224,35 +233,25 @@ void TestListItems::namedItems()
     const Language installed(language);
     QVERIFY(installed.isReady());
     OpenDialog dialog;
-    const struct {
-        QComboBox* list;
-        Field field;
-        const QVector<qint32>& codes;
-    } rows[] = {
-        {findControl<QComboBox>(dialog.get(), "AdvancedPage", "profileList"),
-         &KvMvcViewSettings::profile, profiles},
-        {findControl<QComboBox>(dialog.get(), "AdvancedPage", "levelList"),
-         &KvMvcViewSettings::level, levels},
-        {dialog.presetList(), &KvMvcViewSettings::video_type, videoTypes},
-    };
-    for (const auto& row : rows) {
-        QVERIFY(row.list);
-        QCOMPARE(row.list->count(), int(row.codes.size()));
+    for (const Setting& setting : lists(true)) {
+        const QVector<qint32> codes = codesOf(setting);
+        auto* list = listOf(dialog, setting);
+        QVERIFY(list);
+        QCOMPARE(list->count(), int(codes.size()));
         QSet<QString> shown;
-        for (const qint32 code : row.codes) {
-            put(dialog, row.field, code);
-            QVERIFY(row.list->currentIndex() >= 0);
-            QVERIFY(!row.list->currentText().isEmpty());
-            shown += row.list->currentText();
+        for (const qint32 code : codes) {
+            put(dialog, setting, code);
+            QVERIFY(list->currentIndex() >= 0);
+            QVERIFY(!list->currentText().isEmpty());
+            shown += list->currentText();
         }
-        QCOMPARE(shown.size(), row.codes.size());
-        for (const qint32 code : row.codes) {
-            put(dialog, row.field, code);
-            const QString text = row.list->currentText();
-            put(dialog, row.field,
-                row.codes.first() == code ? row.codes.last() : row.codes.first());
-            QVERIFY(user::choose(row.list, text));
-            QCOMPARE(dialog.probe().record().settings.views[0].*row.field, code);
+        QCOMPARE(shown.size(), codes.size());
+        for (const qint32 code : codes) {
+            put(dialog, setting, code);
+            const QString text = list->currentText();
+            put(dialog, setting, codes.first() == code ? codes.last() : codes.first());
+            QVERIFY(user::choose(list, text));
+            QCOMPARE(stored(dialog, setting), code);
         }
     }
 }
