@@ -258,11 +258,7 @@ bool AVCVideoEncoderDlg::check()
         return false;
     m_record.settings = settings;
     followSecondView(m_record);
-
-    // A page may clamp what it is told and report that; the verdict is on the record as checked.
-    const WorkingRecord checked = m_record;
     settingsToState();
-    m_record = checked;
 
     m_suppressNextAccept = false;
     messageLog().rewriteWidget();

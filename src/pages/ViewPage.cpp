@@ -40,6 +40,11 @@ constexpr UnitRow unitRows[] = {
      QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (90 kHz)"), unlimited, 8192, 1},
 };
 
+bool isKnown(int units)
+{
+    return units >= 0 && units < int(std::size(unitRows));
+}
+
 void showAll(const QVector<QWidget*>& widgets, bool visible)
 {
     for (QWidget* widget : widgets)
@@ -221,10 +226,17 @@ void ViewPage::slotChangeOneSec(bool onesec)
 
 void ViewPage::receiveState(const ConfigState& state)
 {
+    const int units = state.value(key(keys::units)).toInt();
+    if (isKnown(units)) {
+        // The limit of the units before would cut what is told, in silence.
+        limitFullness(unlimited);
+    }
     SettingsPage::receiveState(state);
     showFor(state.value(key(keys::bitrateMode)).toString(),
             state.value(key(keys::hrd)).toInt() == 1);
-    setUnits(state.value(key(keys::units)).toInt());
+    if (isKnown(units)) {
+        setUnits(units);
+    }
     m_buffer->setEnabled(!m_oneSecond->isChecked());
 }
 
@@ -244,16 +256,19 @@ void ViewPage::showFor(const QString& mode, bool hrd)
 
 void ViewPage::setUnits(int units)
 {
-    if (units < 0 || units >= int(std::size(unitRows)))
-        return;
     const UnitRow& row = unitRows[units];
     m_bufferLabel->setText(tr(row.bufferLabel));
     m_vbvInitialLabel->setText(tr(row.initialLabel));
     m_vbvTargetLabel->setText(tr(row.targetLabel));
     m_buffer->setSingleStep(row.bufferStep);
+    m_vbvInitial->setSingleStep(row.vbvStep);
+    m_vbvTarget->setSingleStep(row.vbvStep);
     // With signals on: a fullness beyond 100 % is clamped, and the clamp is reported like an edit.
-    for (QSpinBox* fullness : {m_vbvInitial, m_vbvTarget}) {
-        fullness->setMaximum(row.vbvMaximum);
-        fullness->setSingleStep(row.vbvStep);
-    }
+    limitFullness(row.vbvMaximum);
+}
+
+void ViewPage::limitFullness(int maximum)
+{
+    m_vbvInitial->setMaximum(maximum);
+    m_vbvTarget->setMaximum(maximum);
 }

@@ -54,7 +54,10 @@ private:
     /// Finds what a mode or a choice of units changes; once, when the layout has been built.
     void findRows();
     void showFor(const QString& mode, bool hrd);
+    /// Labels, steps and limits of the units, whose code must be a known one.
     void setUnits(int units);
+    /// The largest fullness, initial and target, that the page takes.
+    void limitFullness(int maximum);
 
     QString key(QLatin1String base) const;
     template <class Control>

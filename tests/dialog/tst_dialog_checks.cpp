@@ -30,6 +30,8 @@ private Q_SLOTS:
     void checkWhilePagesAreToldReturnsFalse();
     void editWhilePagesAreToldIsAppliedButNotChecked();
     void clampInsideADescriptionIsReportedLikeAnEdit();
+    void fullnessAbove100PercentIsClampedInTheRecord_data();
+    void fullnessAbove100PercentIsClampedInTheRecord();
     void insistingCheckNeitherRecursesNorHangs_data();
     void insistingCheckNeitherRecursesNorHangs();
     void hostDeletesTheDialogWhileAMessageIsShown();
@@ -37,6 +39,9 @@ private Q_SLOTS:
 
 using Edit = std::function<void(OpenDialog&)>;
 Q_DECLARE_METATYPE(Edit)
+/// Opens a dialog and does what shall be looked at.
+using Open = std::function<std::unique_ptr<OpenDialog>()>;
+Q_DECLARE_METATYPE(Open)
 
 namespace
 {
@@ -233,6 +238,103 @@ void TestDialogChecks::clampInsideADescriptionIsReportedLikeAnEdit()
     QCOMPARE(on<QSpinBox>(dialog, "View0Page", "vbvTargetSpin")->value(), 100);
 }
 
+namespace
+{
+
+/// Percent units and this initial fullness, in the two views of the record.
+void putPercent(KvMvcSettings& settings, int fullness)
+{
+    put(settings, {{0, 132, 0}, {0, 124, fullness}, {1, 132, 0}, {1, 124, fullness}});
+}
+
+std::function<int(KvMvcLookup, KvMvcSettings&)> checkThatSetsPercent(int fullness)
+{
+    return [fullness](KvMvcLookup, KvMvcSettings& settings) {
+        putPercent(settings, fullness);
+        return 0;
+    };
+}
+
+} // namespace
+
+void TestDialogChecks::fullnessAbove100PercentIsClampedInTheRecord_data()
+{
+    QTest::addColumn<Open>("open");
+    QTest::addColumn<int>("checks");
+    const auto row = [](const char* name, int checks, Open open) {
+        QTest::newRow(name) << open << checks;
+    };
+    const auto opened = [](qint32 flags) {
+        KvMvcSettings settings = exampleSettings();
+        putPercent(settings, 150);
+        return std::make_unique<OpenDialog>(flags, settings);
+    };
+    const auto example = [] { return std::make_unique<OpenDialog>(); };
+
+    row("host's record", 0, [=] { return opened(usualFlags); });
+    row("host's record, checked at once", 1,
+        [=] { return opened(usualFlags & ~KV_MVC_GUI_NO_INITIAL_CHECK); });
+    row("host's record, rate control alone", 0, [=] { return opened(0); });
+    row("left by the first check", 1, [] {
+        return std::make_unique<OpenDialog>(usualFlags & ~KV_MVC_GUI_NO_INITIAL_CHECK,
+                                            exampleSettings(), [](RecordingCompanions& companions) {
+                                                companions.onCheck = checkThatSetsPercent(150);
+                                            });
+    });
+    row("file, after percent", 1, [=] {
+        auto dialog = example();
+        KvMvcSettings settings = exampleSettings();
+        putPercent(settings, 150);
+        dialog->dropSettings(settings);
+        return dialog;
+    });
+    row("file, after bits", 1, [=] {
+        auto dialog = example();
+        dialog->put({{0, 132, 1}, {1, 132, 1}});
+        KvMvcSettings settings = exampleSettings();
+        putPercent(settings, 150);
+        dialog->dropSettings(settings);
+        return dialog;
+    });
+    row("preset", 1, [=] {
+        auto dialog = example();
+        dialog->companions.onDefaults = [](KvMvcSettings& settings, int) {
+            putPercent(settings, 150);
+        };
+        user::click(dialog->button("presetButton"));
+        return dialog;
+    });
+    row("left by the check of an edit", 1, [=] {
+        auto dialog = example();
+        dialog->companions.onCheck = checkThatSetsPercent(150);
+        user::click(on<QCheckBox>(*dialog, "MiscPage", "deblockingCheck"));
+        return dialog;
+    });
+}
+
+void TestDialogChecks::fullnessAbove100PercentIsClampedInTheRecord()
+{
+    QFETCH(Open, open);
+    QFETCH(int, checks);
+    const std::unique_ptr<OpenDialog> dialog = open();
+    QCOMPARE(dialog->companions.count(QStringLiteral("check")), checks);
+    QVERIFY(!dialog->probe().updating());
+    for (const char* page : {"View0Page", "View1Page"}) {
+        QCOMPARE(on<QSpinBox>(*dialog, page, "vbvInitialSpin")->value(), 100);
+    }
+    for (const auto& view : dialog->probe().record().settings.views) {
+        QCOMPARE(int(view.vbv_initial), 100);
+    }
+    QVERIFY(bytesOf(dialog->caller) == dialog->given);
+
+    user::click(dialog->button("buttonOk"));
+    QVERIFY(!(*dialog)->isVisible());
+    for (const auto& view : dialog->caller.views) {
+        QCOMPARE(int(view.vbv_initial), 100);
+    }
+    QVERIFY(bytesOf(dialog->caller) == dialog->bytes());
+}
+
 void TestDialogChecks::insistingCheckNeitherRecursesNorHangs_data()
 {
     QTest::addColumn<bool>("changesUnits");
@@ -246,28 +348,36 @@ void TestDialogChecks::insistingCheckNeitherRecursesNorHangs()
     OpenDialog dialog;
     int units = 0;
     dialog.companions.onCheck = [&](KvMvcLookup, KvMvcSettings& settings) {
-        if (changesUnits)
+        if (changesUnits) {
             units = 1 - units;
-        for (int view = 0; view < 2; ++view)
+        }
+        for (int view = 0; view < 2; ++view) {
             put(settings, {{view, 132, units}, {view, 124, 5000}, {view, 128, -3}});
+        }
         return 0;
     };
 
     for (int edit = 1; edit <= 6; ++edit) {
         user::click(on<QCheckBox>(dialog, "MiscPage", "deblockingCheck"));
         QCOMPARE(dialog.companions.count(QStringLiteral("check")), edit);
+        const int fullness = units == 0 ? 100 : 5000;
         for (const auto& view : dialog.probe().record().settings.views) {
-            QCOMPARE(int(view.vbv_initial), 5000);
+            QCOMPARE(int(view.vbv_initial), fullness);
+            // The page shows 0 and reports nothing: the target is never reported.
             QCOMPARE(int(view.vbv_target), -3);
             QCOMPARE(int(view.bitrate_units), units);
         }
+        for (const char* page : {"View0Page", "View1Page"}) {
+            QCOMPARE(on<QSpinBox>(dialog, page, "vbvInitialSpin")->value(), fullness);
+        }
     }
-    // Still of use: other settings may be edited, and OK gives what the check left.
+    // Still of use: other settings may be edited, and OK gives what the controls show.
     user::type(on<QSpinBox>(dialog, "VideoFormatPage", "heightSpin"), QStringLiteral("480"));
     user::click(dialog.button("buttonOk"));
     QVERIFY(!dialog->isVisible());
     QCOMPARE(int(dialog.caller.views[0].height), 480);
-    QCOMPARE(int(dialog.caller.views[0].vbv_initial), 5000);
+    QCOMPARE(int(dialog.caller.views[0].bitrate_units), 0);
+    QCOMPARE(int(dialog.caller.views[0].vbv_initial), 100);
 }
 
 void TestDialogChecks::hostDeletesTheDialogWhileAMessageIsShown()

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void cancelledFileDialogDoesNothing_data();
     void cancelledFileDialogDoesNothing();
     void saveChecksAndThenWrites();
+    void savedFullnessIsTheOneThatTheControlShows();
     void refusingCheckDoesNotStopTheSave();
     void withoutWriterNothingIsSaved();
     void suffixOfSavedFiles_data();
@@ -292,6 +293,19 @@ void TestDialogFiles::saveChecksAndThenWrites()
              QStringList(QStringLiteral("view 1 +80: 92100000")));
     // A copy: a writer may use its record as it likes.
     QVERIFY(dialog.companions.writtenFrom != &dialog.probe().record());
+}
+
+void TestDialogFiles::savedFullnessIsTheOneThatTheControlShows()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = [](KvMvcLookup, KvMvcSettings& settings) {
+        // 150 in percent units.
+        put(settings, {{1, 132, 0}, {1, 124, 150}});
+        return 0;
+    };
+    useFileDialog(dialog, "buttonSave", path("stereo.cfg"));
+    QCOMPARE(differences(dialog.given, dialog.companions.written.value(0)),
+             QStringList(QStringLiteral("view 1 +124: 64000000")));
 }
 
 void TestDialogFiles::refusingCheckDoesNotStopTheSave()
