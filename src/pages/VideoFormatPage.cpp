@@ -126,11 +126,14 @@ void VideoFormatPage::slotChangeAspectRatio(const QString& text)
     Q_EMIT stateChanged(state);
 }
 
-void VideoFormatPage::slotChangeAspectRatioCheck(bool on)
+void VideoFormatPage::slotChangeAspectRatioCheck(bool)
 {
     ConfigState state;
-    if (on)
+    // The box itself, whoever calls.
+    if (ui.aspectRatioCheck->isChecked()) {
         addWidthFromHeight(state);
-    if (!state.entries().isEmpty())
+    }
+    if (!state.entries().isEmpty()) {
         Q_EMIT stateChanged(state);
+    }
 }

@@ -37,7 +37,7 @@ public Q_SLOTS:
     void slotChangeChroma(const QString& text) { reportEdit(text); }
     void slotChangeBitdepthChroma(const QString& text) { reportEdit(text); }
     void slotChangeBitdepthLuma(const QString& text) { reportEdit(text); }
-    void slotChangeAspectRatioCheck(bool on);
+    void slotChangeAspectRatioCheck(bool);
 
 private:
     bool isCustomAspect() const;

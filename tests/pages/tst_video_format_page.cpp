@@ -29,6 +29,7 @@ private Q_SLOTS:
     void unknownRatioMayLoseALineByTruncation();
     void switchingKeepOnReportsTheWidthAndOffNothing();
     void switchingKeepOnReportsNothingWithoutARatio();
+    void keepSlotAsksTheBoxNotItsArgument();
     void otherSizeIsNotSetByThePage();
     void computedWidthBeyondTheRangeIsReportedAsComputed();
     void widthAndHeightAreReportedOnceEditingEnds();
@@ -217,6 +218,17 @@ void VideoFormatPageTest::switchingKeepOnReportsNothingWithoutARatio()
         QVERIFY(page.keepRatio()->isChecked());
         QCOMPARE(page.spy.take(), QStringList());
     }
+}
+
+void VideoFormatPageTest::keepSlotAsksTheBoxNotItsArgument()
+{
+    OpenPage page("1:1", false, 352, 480);
+    page.page.slotChangeAspectRatioCheck(true);
+    QCOMPARE(page.spy.take(), QStringList());
+    user::click(page.keepRatio());
+    page.spy.take();
+    page.page.slotChangeAspectRatioCheck(false);
+    QCOMPARE(page.spy.take(), lines({"Horizontal Size=480"}));
 }
 
 void VideoFormatPageTest::otherSizeIsNotSetByThePage()
