@@ -24,9 +24,15 @@ void ContainerPage::receiveState(const ConfigState& state)
 {
     SettingsPage::receiveState(state);
     m_toolBox->keepFocusInPlace([&] {
-        for (SettingsPage* page : std::as_const(m_pages))
-            page->receiveState(state);
+        for (SettingsPage* page : std::as_const(m_pages)) {
+            tellPage(page, state);
+        }
     });
+}
+
+void ContainerPage::tellPage(SettingsPage* page, const ConfigState& state)
+{
+    page->receiveState(state);
 }
 
 void ContainerPage::makeToolBox(QFrame* collectionFrame)

@@ -21,6 +21,8 @@ protected:
     void makeToolBox(QFrame* collectionFrame);
     /// Appends a section that shows the child page.
     void addPage(SettingsPage* page, const QString& title);
+    /// Hands a received state to one of the pages.
+    virtual void tellPage(SettingsPage* page, const ConfigState& state);
 
 private:
     ToolBox* m_toolBox = nullptr;

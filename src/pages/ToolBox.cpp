@@ -132,8 +132,10 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
     }
     const int before = placeOf(control);
     change();
-    if (!control || !control->isVisible())
+    // Disabled, it has passed the focus on, and what has it now is in view.
+    if (!control || !control->isVisible() || control != window()->focusWidget()) {
         return;
+    }
     // Now, not when the event loop comes to it, which would show the control elsewhere first.
     layOutNow(m_scrollArea->viewport());
     QScrollBar* const bar = m_scrollArea->verticalScrollBar();

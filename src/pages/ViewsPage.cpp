@@ -25,11 +25,13 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
     m_additionalViews = {views[1], views[2], views[3]};
 }
 
-void ViewsPage::receiveState(const ConfigState& state)
+void ViewsPage::tellPage(SettingsPage* page, const ConfigState& state)
 {
-    ContainerPage::receiveState(state);
-    // Unsigned: a count out of range enables all.
-    const auto count = quint32(state.value(keys::numberOfViews).toInt());
-    for (int i = 0; i < m_additionalViews.size(); ++i)
-        m_additionalViews[i]->setEnabled(count > quint32(i));
+    ContainerPage::tellPage(page, state);
+    const auto additional = m_additionalViews.indexOf(page);
+    if (additional >= 0) {
+        // Unsigned: a count out of range enables all.
+        const auto count = quint32(state.value(keys::numberOfViews).toInt());
+        page->setEnabled(count > quint32(additional));
+    }
 }

@@ -12,14 +12,15 @@ class ViewsPage : public ContainerPage
 public:
     explicit ViewsPage(QWidget* parent = nullptr);
 
-    /// Also greys out the pages of views that are not coded; the base view's never is.
-    void receiveState(const ConfigState& state) override;
-
 public Q_SLOTS:
     void slotChangeNumLayers(int additionalViews) { reportEdit(additionalViews); }
     void slotChangeSplit(bool on) { reportEdit(on); }
 
+protected:
+    /// Also greys out the page of a view that is not coded; the base view's never is.
+    void tellPage(SettingsPage* page, const ConfigState& state) override;
+
 private:
     Ui::IViewsPage ui;
-    QVector<QWidget*> m_additionalViews;
+    QVector<SettingsPage*> m_additionalViews;
 };

@@ -7,6 +7,8 @@
 #include "pages/ToolBox.h"
 
 #include <QAbstractButton>
+#include <QEvent>
+#include <QHash>
 #include <QLabel>
 #include <QSpinBox>
 #include <QTest>
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void numberOutOfRangeIsComparedUnsigned_data();
     void numberOutOfRangeIsComparedUnsigned();
     void absentNumberEnablesTheBaseViewOnly();
+    void eachPageIsToldAndThenEnabled_data();
+    void eachPageIsToldAndThenEnabled();
     void changingTheNumberReportsItAloneAndEnablesNothingYet();
     void splitIsReported();
     void editOfAnyViewIsForwardedUnchanged_data();
@@ -49,6 +53,45 @@ QStringList enabledPages(AllPages& pages)
     }
     return names;
 }
+
+/// Writes down which view pages are told a state that switches HRD, and which change to enabled or
+/// disabled, in order: "View1Page told", "View1Page enabled".
+class OrderSpy : public QObject
+{
+public:
+    explicit OrderSpy(AllPages& pages)
+    {
+        for (int view = 0; view < 4; ++view) {
+            const QString page = QStringLiteral("View%1Page").arg(view);
+            // HRD shows and hides it, whether or not the page is enabled.
+            QWidget* const row = findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"));
+            m_told.insert(row, page + QLatin1String(" told"));
+            m_enabled.insert(pageOf(row), page);
+            row->installEventFilter(this);
+            pageOf(row)->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool shown =
+            event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent;
+        if (shown && m_told.contains(watched)) {
+            order += m_told.value(watched);
+        }
+        if (event->type() == QEvent::EnabledChange && m_enabled.contains(watched)) {
+            const bool on = qobject_cast<QWidget*>(watched)->isEnabled();
+            order += m_enabled.value(watched) + QLatin1String(on ? " enabled" : " disabled");
+        }
+        return false;
+    }
+
+    QStringList order;
+
+private:
+    QHash<QObject*, QString> m_told;
+    QHash<QObject*, QString> m_enabled;
+};
 
 ConfigState withNumber(int number)
 {
@@ -117,6 +160,43 @@ void ViewsPageTest::absentNumberEnablesTheBaseViewOnly()
     pages.receive(withNumber(3));
     pages.receive({});
     QCOMPARE(enabledPages(pages), lines({"View0Page"}));
+}
+
+void ViewsPageTest::eachPageIsToldAndThenEnabled_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QStringList>("order");
+    QTest::newRow("one to four views")
+        << 0 << 3
+        << lines({"View0Page told", "View1Page told", "View1Page enabled", "View2Page told",
+                  "View2Page enabled", "View3Page told", "View3Page enabled"});
+    QTest::newRow("four views to one")
+        << 3 << 0
+        << lines({"View0Page told", "View1Page told", "View1Page disabled", "View2Page told",
+                  "View2Page disabled", "View3Page told", "View3Page disabled"});
+}
+
+void ViewsPageTest::eachPageIsToldAndThenEnabled()
+{
+    QFETCH(int, before);
+    QFETCH(int, number);
+    AllPages pages;
+    ConfigState state = withNumber(before);
+    const auto setHrd = [&state](int hrd) {
+        for (const char* view : {"V0", "V1", "V2", "V3"}) {
+            state.insert(QLatin1String("Bitrate Mode ") + QLatin1String(view),
+                         QStringLiteral("Variable Bitrate"));
+            state.insert(QLatin1String("HRD ") + QLatin1String(view), hrd);
+        }
+    };
+    setHrd(1);
+    pages.receive(state);
+    OrderSpy spy(pages);
+    setHrd(0);
+    state.insert(QStringLiteral("Number of views"), number);
+    pages.receive(state);
+    QTEST(spy.order, "order");
 }
 
 void ViewsPageTest::changingTheNumberReportsItAloneAndEnablesNothingYet()
