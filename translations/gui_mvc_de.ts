@@ -2806,6 +2806,38 @@ Soll die Datei trotzdem gelöscht werden?</translation>
         <source>Const. Quality - Average Quantizer</source>
         <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>Puffer (Byte)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV-Anfangsfüllung (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV-Zielfüllung (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>Puffer (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV-Anfangsfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV-Zielfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV-Anfangsfüllung (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV-Zielfüllung (90 kHz)</translation>
+    </message>
 </context>
 <context>
     <name>View1Page</name>
@@ -2824,6 +2856,38 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <message>
         <source>Const. Quality - Average Quantizer</source>
         <translation>Qualität – mittlerer Quantisierer</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>Puffer (Byte)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV-Anfangsfüllung (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV-Zielfüllung (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>Puffer (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV-Anfangsfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV-Zielfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV-Anfangsfüllung (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV-Zielfüllung (90 kHz)</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +2908,38 @@ Soll die Datei trotzdem gelöscht werden?</translation>
         <source>Const. Quality - Average Quantizer</source>
         <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>Puffer (Byte)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV-Anfangsfüllung (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV-Zielfüllung (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>Puffer (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV-Anfangsfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV-Zielfüllung (Bit)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV-Anfangsfüllung (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV-Zielfüllung (90 kHz)</translation>
+    </message>
 </context>
 <context>
     <name>View3Page</name>
@@ -2863,9 +2959,6 @@ Soll die Datei trotzdem gelöscht werden?</translation>
         <source>Const. Quality - Average Quantizer</source>
         <translation>Qualität – mittlerer Quantisierer</translation>
     </message>
-</context>
-<context>
-    <name>ViewPage</name>
     <message>
         <source>Bitrate buffer (bytes)</source>
         <translation>Puffer (Byte)</translation>

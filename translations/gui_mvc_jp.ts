@@ -2806,6 +2806,38 @@ Do you want to delete it anyway?</source>
         <source>Const. Quality - Average Quantizer</source>
         <translation>固定品質: 平均量子化</translation>
     </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>ビットレートバッファ (バイト)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV 初期値 (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV 目標値 (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>ビットレートバッファ (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV 初期値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV 目標値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV 初期値 (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV 目標値 (90 kHz)</translation>
+    </message>
 </context>
 <context>
     <name>View1Page</name>
@@ -2824,6 +2856,38 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Const. Quality - Average Quantizer</source>
         <translation>固定品質: 平均量子化</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>ビットレートバッファ (バイト)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV 初期値 (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV 目標値 (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>ビットレートバッファ (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV 初期値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV 目標値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV 初期値 (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV 目標値 (90 kHz)</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +2908,38 @@ Do you want to delete it anyway?</source>
         <source>Const. Quality - Average Quantizer</source>
         <translation>固定品質: 平均量子化</translation>
     </message>
+    <message>
+        <source>Bitrate buffer (bytes)</source>
+        <translation>ビットレートバッファ (バイト)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (%)</source>
+        <translation>VBV 初期値 (%)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (%)</source>
+        <translation>VBV 目標値 (%)</translation>
+    </message>
+    <message>
+        <source>Bitrate buffer (bits)</source>
+        <translation>ビットレートバッファ (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (bits)</source>
+        <translation>VBV 初期値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (bits)</source>
+        <translation>VBV 目標値 (ビット)</translation>
+    </message>
+    <message>
+        <source>VBV buffer initial (90 kHz)</source>
+        <translation>VBV 初期値 (90 kHz)</translation>
+    </message>
+    <message>
+        <source>VBV buffer target (90 kHz)</source>
+        <translation>VBV 目標値 (90 kHz)</translation>
+    </message>
 </context>
 <context>
     <name>View3Page</name>
@@ -2863,9 +2959,6 @@ Do you want to delete it anyway?</source>
         <source>Const. Quality - Average Quantizer</source>
         <translation>固定品質: 平均量子化</translation>
     </message>
-</context>
-<context>
-    <name>ViewPage</name>
     <message>
         <source>Bitrate buffer (bytes)</source>
         <translation>ビットレートバッファ (バイト)</translation>

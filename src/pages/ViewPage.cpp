@@ -18,27 +18,14 @@ enum Units { BytesAndPercent, Bits, BitsAndClock };
 
 constexpr int unlimited = std::numeric_limits<int>::max();
 
-/// What a choice of units sets.
+/// What a choice of units sets, beside the labels.
 struct UnitRow {
-    const char* bufferLabel;
-    const char* initialLabel;
-    const char* targetLabel;
     int vbvMaximum;
     int bufferStep;
     int vbvStep;
 };
 
-constexpr UnitRow unitRows[] = {
-    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bytes)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (%)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (%)"), 100, 1024, 1},
-    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bits)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (bits)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (bits)"), unlimited, 8192, 8192},
-    {QT_TRANSLATE_NOOP("ViewPage", "Bitrate buffer (bits)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer initial (90 kHz)"),
-     QT_TRANSLATE_NOOP("ViewPage", "VBV buffer target (90 kHz)"), unlimited, 8192, 1},
-};
+constexpr UnitRow unitRows[] = {{100, 1024, 1}, {unlimited, 8192, 8192}, {unlimited, 8192, 1}};
 
 bool isKnown(int units)
 {
@@ -150,6 +137,7 @@ void ViewPage::findRows()
     m_bufferLabel = control<QLabel>("bitrateBufferLabel");
     m_vbvInitialLabel = control<QLabel>("vbvInitialLabel");
     m_vbvTargetLabel = control<QLabel>("vbvTargetLabel");
+    m_unitTexts = unitTexts();
 }
 
 void ViewPage::fillBitrateModes()
@@ -256,10 +244,11 @@ void ViewPage::showFor(const QString& mode, bool hrd)
 
 void ViewPage::setUnits(int units)
 {
+    const UnitTexts& texts = m_unitTexts[units];
+    m_bufferLabel->setText(texts.buffer);
+    m_vbvInitialLabel->setText(texts.vbvInitial);
+    m_vbvTargetLabel->setText(texts.vbvTarget);
     const UnitRow& row = unitRows[units];
-    m_bufferLabel->setText(tr(row.bufferLabel));
-    m_vbvInitialLabel->setText(tr(row.initialLabel));
-    m_vbvTargetLabel->setText(tr(row.targetLabel));
     m_buffer->setSingleStep(row.bufferStep);
     m_vbvInitial->setSingleStep(row.vbvStep);
     m_vbvTarget->setSingleStep(row.vbvStep);

@@ -47,6 +47,15 @@ protected:
     /// The items of the mode list, in the context of the page's own class.
     virtual QStringList bitrateModeTexts() const = 0;
 
+    /// The labels that tell the units.
+    struct UnitTexts {
+        QString buffer;
+        QString vbvInitial;
+        QString vbvTarget;
+    };
+    /// By the units' codes, in the context of the page's own class.
+    virtual QVector<UnitTexts> unitTexts() const = 0;
+
 private:
     /// Keeps the buffer as large as one second at `rate` (bit/s) while the box for it is checked.
     void applyOneSecondBuffer(ConfigState& state, int rate);
@@ -75,6 +84,7 @@ private:
     QLabel* m_bufferLabel = nullptr;
     QLabel* m_vbvInitialLabel = nullptr;
     QLabel* m_vbvTargetLabel = nullptr;
+    QVector<UnitTexts> m_unitTexts;
     QVector<QWidget*> m_targetRateRow;
     QVector<QWidget*> m_maxRateRow;
     QVector<QWidget*> m_bufferRows;

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void everyListTextIsFound_data();
     void everyListTextIsFound();
     void visibilityFollowsTheTranslatedMode();
+    void unitLabelsAreAskedForInThePagesContext_data();
+    void unitLabelsAreAskedForInThePagesContext();
 };
 
 namespace
@@ -229,6 +231,43 @@ void PageTextsTest::visibilityFollowsTheTranslatedMode()
     state.insert(QStringLiteral("Bitrate Mode V0"), QStringLiteral("Variable Bitrate"));
     pages.receive(state);
     QVERIFY(!findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"))->isVisible());
+}
+
+void PageTextsTest::unitLabelsAreAskedForInThePagesContext_data()
+{
+    QTest::addColumn<int>("view");
+    QTest::addColumn<int>("units");
+    QTest::addColumn<QStringList>("labels");
+    for (int view = 0; view < 4; ++view) {
+        const auto row = [view](int units, std::initializer_list<const char*> texts) {
+            QStringList labels;
+            for (const char* text : texts) {
+                labels += QStringLiteral("View%1Page|").arg(view) + QLatin1String(text);
+            }
+            QTest::addRow("view %d, units %d", view, units) << view << units << labels;
+        };
+        row(0, {"Bitrate buffer (bytes)", "VBV buffer initial (%)", "VBV buffer target (%)"});
+        row(1, {"Bitrate buffer (bits)", "VBV buffer initial (bits)", "VBV buffer target (bits)"});
+        row(2,
+            {"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)", "VBV buffer target (90 kHz)"});
+    }
+}
+
+void PageTextsTest::unitLabelsAreAskedForInThePagesContext()
+{
+    QFETCH(int, view);
+    QFETCH(int, units);
+    const Translator translator(true);
+    AllPages pages;
+    ConfigState state;
+    state.insert(QStringLiteral("Units V%1").arg(view), units);
+    pages.receive(state);
+    QStringList labels;
+    for (const char* name : {"bitrateBufferLabel", "vbvInitialLabel", "vbvTargetLabel"}) {
+        labels += textOf(findOnPage(pages.window(), QStringLiteral("View%1Page").arg(view),
+                                    QLatin1String(name)));
+    }
+    QTEST(labels, "labels");
 }
 
 QTEST_MAIN(PageTextsTest)
