@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
+#include <QTextFrame>
 
 #include <cstdarg>
 #include <cstdio>
@@ -124,6 +126,15 @@ QTextBlockFormat hangingIndent()
     return format;
 }
 
+/// Lightens what is behind the messages: a skin's background may end dark, where red is hard to
+/// read.
+void layVeil(QTextDocument* document)
+{
+    QTextFrameFormat format = document->rootFrame()->frameFormat();
+    format.setBackground(QColor(255, 255, 255, 100));
+    document->rootFrame()->setFrameFormat(format);
+}
+
 } // namespace
 
 MessageLog& messageLog()
@@ -157,6 +168,7 @@ void MessageLog::rewriteWidget() const
     const QTextBlockFormat paragraph = hangingIndent();
 
     widget->clear();
+    layVeil(widget->document());
     QTextCursor cursor(widget->document());
     cursor.beginEditBlock();
     cursor.setBlockFormat(paragraph);
