@@ -48,7 +48,8 @@ QByteArray readText(std::FILE* stream, const QString& name)
     }
     // What comes in a stream has no name that says so.
     if (!fromUtf8(text)) {
-        refuse(name, QStringLiteral("no text of a settings file"));
+        refuse(name, text.contains('\0') ? QStringLiteral("no text of a settings file")
+                                         : QStringLiteral("not valid UTF-8 text"));
     }
     return text;
 }

@@ -17,7 +17,7 @@ constexpr int64_t kProbeTime = 5 * AV_TIME_BASE;
 
 /** Playlists, capture devices, still pictures and text are no recordings. */
 constexpr char kFormats[] = "mpeg,mpegts,mpegvideo,m4v,h264,hevc,mov,mxf,avi,matroska,flv,asf,mp3,"
-                            "aac,ac3,wav,vc1";
+                            "aac,ac3,wav,vc1,yuv4mpegpipe";
 
 constexpr char kDecoders[] =
     "h264,hevc,mpeg1video,mpeg2video,mpeg4,h263,vc1,wmv3,mjpeg,dvvideo,dnxhd,prores,vp8,vp9";
@@ -81,12 +81,14 @@ int MediaInput::openFile(const char* name, int flags)
 
 int MediaInput::read(void* opaque, uint8_t* buffer, int size)
 {
-    const auto* input = static_cast<MediaInput*>(opaque);
+    auto* input = static_cast<MediaInput*>(opaque);
     if (input->timeIsUp())
         return AVERROR_EXIT;
     const ssize_t count = ::read(input->m_descriptor, buffer, static_cast<std::size_t>(size));
-    if (count < 0)
+    if (count < 0) {
+        input->m_readError = errno;
         return AVERROR(errno);
+    }
     return count == 0 ? AVERROR_EOF : static_cast<int>(count);
 }
 

@@ -31,6 +31,8 @@ public:
     int openAsStored(const char* name);
 
     AVFormatContext* format() const { return m_format; }
+    /// Why reading the file failed, an error number; 0: it did not.
+    int readError() const { return m_readError; }
     bool timeIsUp() const { return std::chrono::steady_clock::now() >= m_deadline; }
 
 private:
@@ -40,6 +42,7 @@ private:
 
     int m_descriptor;
     TimePoint m_deadline;
+    int m_readError = 0;
     AVFormatContext* m_format = nullptr;
     AVIOContext* m_io = nullptr;
 };

@@ -2,17 +2,16 @@
 
 #include "h264_facts.h"
 #include "media_input.h"
+#include "sample_format.h"
 #include "stream_scan.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <span>
+#include <system_error>
 #include <vector>
-
-extern "C" {
-#include <libavutil/pixdesc.h>
-}
 
 namespace kv
 {
@@ -30,22 +29,20 @@ void copyName(char (&to)[32], const char* from)
     std::snprintf(to, sizeof to, "%s", from);
 }
 
-ProbeAnswer refusalFor(int error)
+/// Formats end with error numbers of all kinds, so only those of reading itself are told.
+ProbeAnswer refusalFor(int error, const MediaInput& input)
 {
-    switch (error) {
-    case AVERROR(ENOMEM):
+    if (error == AVERROR(ENOMEM)) {
         return refusal(KV_MEDIA_LIMIT, "describing it takes too much memory");
-    case AVERROR_EXIT:
+    }
+    if (input.timeIsUp() || error == AVERROR_EXIT) {
         return refusal(KV_MEDIA_LIMIT, "describing it takes too long");
-    case AVERROR_INVALIDDATA:
-    case AVERROR(EINVAL): // a format that is not among those tried
-        return refusal(KV_MEDIA_UNREADABLE, "no media format, or damaged");
-    default: {
-        char text[AV_ERROR_MAX_STRING_SIZE] = "";
-        av_strerror(error, text, sizeof text);
-        return refusal(KV_MEDIA_UNREADABLE, text);
     }
+    if (input.readError() != 0) {
+        return refusal(KV_MEDIA_UNREADABLE,
+                       std::generic_category().message(input.readError()).c_str());
     }
+    return refusal(KV_MEDIA_UNREADABLE, "no media format, or damaged");
 }
 
 bool isDescribed(const AVStream& stream)
@@ -78,11 +75,20 @@ bool isTruncated(AVFormatContext* format, AVStream* stream)
     return false;
 }
 
-/** Where no stream is described at all, the descriptions were in a part that is lost. */
+/// Where no stream is described at all, the descriptions were in a part that is lost.
 ProbeAnswer refusalWithoutVideo(const AVFormatContext& format)
 {
-    const auto end = format.streams + format.nb_streams;
-    const bool audio = std::any_of(format.streams, end, [](const AVStream* stream) {
+    const std::span<AVStream* const> streams(format.streams, format.nb_streams);
+    const auto video = std::ranges::find_if(
+        streams, [](const AVStream* stream) { return isRecordedVideo(*stream); });
+    if (video != streams.end()) {
+        const std::string codec = avcodec_get_name((*video)->codecpar->codec_id);
+        return refusal(KV_MEDIA_NO_VIDEO, ("its video (" + codec +
+                                           ") cannot be described: damaged, or of a kind that is "
+                                           "not read here")
+                                              .c_str());
+    }
+    const bool audio = std::ranges::any_of(streams, [](const AVStream* stream) {
         return stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
     });
     return audio ? refusal(KV_MEDIA_NO_VIDEO, "no video in it")
@@ -114,25 +120,6 @@ void describeFields(KvMediaInfo& info, AVFieldOrder order)
                                                                     : KV_MEDIA_TOP_FIELD_FIRST;
 }
 
-void describeSamples(KvMediaInfo& info, int pixelFormat)
-{
-    const auto* format = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(pixelFormat));
-    info.chroma_format = -1;
-    info.bit_depth_luma = info.bit_depth_chroma = 8;
-    if (!format)
-        return;
-    const int shifts = format->log2_chroma_w * 2 + format->log2_chroma_h;
-    const bool rgb = (format->flags & AV_PIX_FMT_FLAG_RGB) != 0;
-    info.chroma_format = rgb                         ? -1
-                         : format->nb_components < 3 ? 0
-                         : shifts == 3               ? 1
-                         : shifts == 2               ? 2
-                         : shifts == 0               ? 3
-                                                     : -1;
-    info.bit_depth_luma = format->comp[0].depth;
-    info.bit_depth_chroma = format->comp[format->nb_components < 3 ? 0 : 1].depth;
-}
-
 /// The streams that are shown together with the main one: all, where there are no programs.
 bool isOfProgram(AVFormatContext* format, int main, int other)
 {
@@ -157,12 +144,23 @@ std::vector<const StreamCount*> dependentStreams(AVFormatContext* format, int ma
     return dependents;
 }
 
+/// Its rate is what comes out, and no aim.
+bool isLossless(AVCodecID codec)
+{
+    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(codec);
+    return descriptor && (descriptor->props & AV_CODEC_PROP_LOSSLESS) != 0 &&
+           (descriptor->props & AV_CODEC_PROP_LOSSY) == 0;
+}
+
 void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCount& main,
                    const std::vector<const StreamCount*>& dependents)
 {
     const double rate = info.frame_rate_den > 0
                             ? static_cast<double>(info.frame_rate_num) / info.frame_rate_den
                             : 0;
+    if (isLossless(stream.codecpar->codec_id)) {
+        return;
+    }
     info.bit_rate = stream.codecpar->bit_rate;
     if (info.bit_rate <= 0 || info.bit_rate == kVariableRate) {
         info.bit_rate = main.bitRate(rate);
@@ -209,7 +207,7 @@ ProbeAnswer streamFacts(int descriptor, const char* name)
     MediaInput input(descriptor, deadline);
     const int opened = input.open(name);
     if (opened < 0)
-        return refusalFor(input.timeIsUp() ? AVERROR_EXIT : opened);
+        return refusalFor(opened, input);
     AVStream* stream = mainStream(input.format());
     if (!stream)
         return refusalWithoutVideo(*input.format());
@@ -224,7 +222,7 @@ ProbeAnswer streamFacts(int descriptor, const char* name)
     info.num_views = 1;
     describePicture(info, input.format(), stream);
     describeFields(info, stream->codecpar->field_order);
-    describeSamples(info, stream->codecpar->format);
+    describeSamples(info, *stream->codecpar);
     const StreamCounts counts = scanPackets(input, descriptor, name, deadline);
     const auto main = counts.streams.find(stream->index);
     if (main == counts.streams.end() || main->second.isEmpty()) {

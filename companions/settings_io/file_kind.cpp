@@ -1,6 +1,7 @@
 #include "file_kind.h"
 
 #include "field_value.h"
+#include "utf8.h"
 
 #include <algorithm>
 
@@ -22,6 +23,12 @@ constexpr Suffix kSuffixes[] = {
     {"trp", FileKind::Media},    {"ts", FileKind::Media},     {"vob", FileKind::Media},
     {"ifo", FileKind::Media}};
 
+/// What no line of a text holds.
+bool isControl(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x20 && byte != '\t' && byte != '\r' && byte != '\n';
+}
+
 } // namespace
 
 FileKind kindByName(std::string_view name)
@@ -31,6 +38,25 @@ FileKind kindByName(std::string_view name)
     const auto known = std::ranges::find_if(
         kSuffixes, [&](const Suffix& suffix) { return equalIgnoringCase(suffix.text, end); });
     return known == std::end(kSuffixes) ? FileKind::Unknown : known->kind;
+}
+
+bool looksLikeSettings(std::string_view content)
+{
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (!isUtf8(content) || std::ranges::any_of(content, isControl)) {
+        return false;
+    }
+    if (content.starts_with(byteOrderMark)) {
+        content.remove_prefix(byteOrderMark.size());
+    }
+    bool lineBegins = true;
+    for (const char byte : content) {
+        if (byte == '[' && lineBegins) {
+            return true;
+        }
+        lineBegins = byte == '\n' || byte == '\r' || (lineBegins && (byte == ' ' || byte == '\t'));
+    }
+    return lineBegins && content.find_first_not_of(" \t\r\n") == content.npos;
 }
 
 } // namespace kv

@@ -1,4 +1,4 @@
-// What a file is by its name.
+// What a file is by its name, and by its content.
 #ifndef KV_FILE_KIND_H
 #define KV_FILE_KIND_H
 
@@ -11,6 +11,9 @@ enum class FileKind { Settings, Media, Unknown };
 
 /** By what follows the last dot, without regard to case. */
 FileKind kindByName(std::string_view name);
+
+/// Whether it is text with the heading of a section, or no text at all.
+bool looksLikeSettings(std::string_view content);
 
 } // namespace kv
 

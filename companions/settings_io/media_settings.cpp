@@ -99,21 +99,37 @@ void applyPicture(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     view.display_aspect_x = view.display_aspect_y = KV_MVC_ASPECT_UNSET;
 }
 
+/// What is not known of the samples, and what is taken for it.
+const char* unknownSamples(bool chromaKnown, bool depthKnown)
+{
+    return chromaKnown && depthKnown ? nullptr
+           : depthKnown              ? "its chroma format is not known, 4:2:0 is taken"
+           : chromaKnown             ? "its bit depth is not known, 8 bits are taken"
+                                     : "its chroma format and bit depth are not known, 4:2:0 with "
+                                       "8 bits is taken";
+}
+
 void applySamples(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
 {
-    constexpr int32_t kDeepest = 10;
-    constexpr int32_t kFullChroma = 3; // chroma_format_idc of 4:4:4
+    constexpr int32_t deepest = 10;
+    constexpr int32_t fullChroma = 3; // chroma_format_idc of 4:4:4
     const auto* chroma = find(kChromaFormats, info.chroma_format);
-    view.chroma_format = chroma                              ? chroma->setting
-                         : info.chroma_format == kFullChroma ? KV_MVC_CHROMA_422
-                                                             : KV_MVC_CHROMA_420;
-    if (!chroma)
+    const bool chromaKnown = info.chroma_format != KV_MEDIA_CHROMA_NOT_KNOWN;
+    view.chroma_format = chroma                             ? chroma->setting
+                         : info.chroma_format == fullChroma ? KV_MVC_CHROMA_422
+                                                            : KV_MVC_CHROMA_420;
+    if (!chroma && chromaKnown) {
         notes.push_back("its chroma format is not among the settings, the nearest is taken");
-    const auto depth = [](int32_t bits) { return bits > 8 ? kDeepest : 8; };
+    }
+    if (const char* note = unknownSamples(chromaKnown, info.bit_depth_luma > 0)) {
+        notes.push_back(note);
+    }
+    const auto depth = [](int32_t bits) { return bits > 8 ? deepest : 8; };
     view.bit_depth_luma = depth(info.bit_depth_luma);
     view.bit_depth_chroma = depth(info.bit_depth_chroma);
-    if (std::max(info.bit_depth_luma, info.bit_depth_chroma) > kDeepest)
+    if (std::max(info.bit_depth_luma, info.bit_depth_chroma) > deepest) {
         notes.push_back("its samples have more than 10 bits, 10 are taken");
+    }
 }
 
 /** The smallest profile that has the picture's chroma format and bit depths (A.2). */
@@ -134,6 +150,18 @@ void leaveOutMainTools(KvMvcViewSettings& view)
     view.adaptive_b = view.reference_b = view.pyramid_b = view.weighted_p = 0;
 }
 
+/// Signalled by a level of its own, or as 1.1 with constraint_set3_flag (A.3.1, A.3.2).
+bool isLevel1b(const KvMediaInfo& info)
+{
+    constexpr int32_t ownLevel = 9;
+    constexpr int32_t level11 = 11;
+    constexpr int32_t constraintSet3 = 0x10;
+    constexpr int32_t high = 100;
+    const int32_t level = std::max(info.level_idc, info.mvc_level_idc);
+    return level == ownLevel || (level == level11 && info.profile_idc < high &&
+                                 (info.constraint_flags & constraintSet3) != 0);
+}
+
 void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
 {
     const bool h264 = info.codec == KV_MEDIA_CODEC_H264;
@@ -148,6 +176,8 @@ void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     const auto* level =
         h264 ? find(kLevels, std::max(info.level_idc, info.mvc_level_idc)) : nullptr;
     view.level = level ? level->setting : int32_t(KV_MVC_LEVEL_AUTO);
+    if (level && isLevel1b(info))
+        notes.push_back("its level 1b is not among the settings, 1.1 is taken");
     if (h264 && !level)
         notes.push_back("its level is not among the settings, Auto is taken");
     if (info.num_ref_frames >= 0)
@@ -183,8 +213,11 @@ void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
                       static_cast<double>(view.bitrate_buffer) / former.bitrate_buffer, view);
 }
 
-void applyRates(const KvMediaInfo& info, KvMvcSettings& settings)
+void applyRates(const KvMediaInfo& info, KvMvcSettings& settings, Notes& notes)
 {
+    if (info.bit_rate <= 0) {
+        notes.push_back("its bit rate is not known or no aim, the preset's is taken");
+    }
     const double others = std::max(info.num_views - 1, 1);
     const auto dependent = static_cast<double>(info.dependent_bit_rate);
     const double base = static_cast<double>(info.bit_rate) - dependent;
@@ -237,7 +270,7 @@ std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& sett
         applySamples(info, view, notes);
         applyProfile(info, view, notes);
     }
-    applyRates(info, settings);
+    applyRates(info, settings, notes);
     return notes;
 }
 

@@ -3,7 +3,6 @@
 #include "file_store.h"
 #include "media_import.h"
 #include "settings_text.h"
-#include "utf8.h"
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -49,18 +48,21 @@ int32_t readText(const std::string& name, const std::string& text, KvMvcSettings
     return problems.empty() ? Succeeded : Failed;
 }
 
-/** A name that tells nothing leaves it to the content: text is settings, everything else media. */
+/// A name that tells nothing leaves it to the content.
 int32_t readFile(const std::filesystem::path& file, KvMvcSettings& settings)
 {
     const std::string name = kv::displayName(file);
     const kv::FileKind kind = kv::kindByName(name);
-    if (kind == kv::FileKind::Media)
+    if (kind == kv::FileKind::Media) {
         return readMedia(file, settings);
+    }
     std::string text;
     const std::string reason = kv::readFile(file, kLargestFile, text);
-    const bool noText = text.size() > kLargestFile || (reason.empty() && !kv::isUtf8(text));
-    if (kind == kv::FileKind::Unknown && noText)
+    const bool isRead = reason.empty() || text.size() > kLargestFile;
+    const bool isSettings = text.size() <= kLargestFile && kv::looksLikeSettings(text);
+    if (kind == kv::FileKind::Unknown && isRead && !isSettings) {
         return readMedia(file, settings);
+    }
     return reason.empty() ? readText(name, text, settings) : fail(name, reason);
 }
 

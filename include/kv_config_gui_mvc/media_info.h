@@ -27,6 +27,9 @@ enum KvMediaResult {
 /** KvMediaInfo::codec. */
 enum KvMediaCodec { KV_MEDIA_CODEC_OTHER = 0, KV_MEDIA_CODEC_H264 = 1 };
 
+/** KvMediaInfo::chroma_format, beside chroma_format_idc: neither stream nor container tell. */
+enum { KV_MEDIA_CHROMA_NOT_KNOWN = -2 };
+
 /** KvMediaInfo::scan. */
 enum KvMediaScan {
     KV_MEDIA_PROGRESSIVE = 0,
@@ -82,9 +85,10 @@ typedef struct KvMediaInfo {
     int32_t field_order;      /**< KvMediaFieldOrder; top first when progressive */
     int32_t pixel_aspect_num; /**< sample aspect ratio, horizontal part; 0: not known */
     int32_t pixel_aspect_den; /**< sample aspect ratio, vertical part */
-    int32_t chroma_format;    /**< chroma_format_idc: 0 4:0:0, 1 4:2:0, 2 4:2:2, 3 4:4:4, -1 else */
-    int32_t bit_depth_luma;   /**< bits of a luma sample */
-    int32_t bit_depth_chroma; /**< bits of a chroma sample; that of luma for 4:0:0 */
+    int32_t chroma_format;    /**< chroma_format_idc: 0 4:0:0, 1 4:2:0, 2 4:2:2, 3 4:4:4; -1 none of
+                                   them; KV_MEDIA_CHROMA_NOT_KNOWN */
+    int32_t bit_depth_luma;   /**< bits of a luma sample; 0: not known */
+    int32_t bit_depth_chroma; /**< bits of a chroma sample; that of luma for 4:0:0; 0: not known */
     int32_t profile_idc;      /**< H.264: of the base view (A.2); otherwise 0 */
     int32_t constraint_flags; /**< H.264: constraint_set0_flag in bit 7 and so on downwards */
     int32_t level_idc;        /**< H.264: of the base view (A.3); otherwise 0 */
@@ -94,8 +98,8 @@ typedef struct KvMediaInfo {
     int32_t mvc_level_idc;   /**< level_idc of that subset parameter set; 0: none */
     /**
      * Average of all views in bit/s: what container or header say, else that of the beginning,
-     * which is the first 620 pictures or 32 MiB of video, whatever ends first; 0: not known. A
-     * beginning may exceed the signalled rate by the buffer's fill.
+     * which is the first 620 pictures or 32 MiB of video, whatever ends first; 0: not known,
+     * or of a lossless codec. A beginning may exceed the signalled rate by the buffer's fill.
      */
     int64_t bit_rate;
     int64_t dependent_bit_rate; /**< what the views other than the base view have of it */

@@ -123,6 +123,10 @@ void HostStreamsTest::badInputIsRefused_data()
     QTest::newRow("no text") << QByteArray("\x00\x00\x01\xB3", 4)
                              << prefix + QStringLiteral(
                                              "cannot read '<stdin>': no text of a settings file\n");
+    QTest::newRow("text of another encoding")
+        << QByteArray("[record]\n# Gr\xF6\xDF"
+                      "e\n")
+        << prefix + QStringLiteral("cannot read '<stdin>': not valid UTF-8 text\n");
     QTest::newRow("no end") << QByteArray(2 * 1024 * 1024, '#')
                             << prefix + QStringLiteral("cannot read '<stdin>': too large\n");
 }

@@ -17,6 +17,7 @@ struct Medium {
     const char* arguments;
     int width, height, rateNum, rateDen, scan, order, aspectNum, aspectDen;
     int chroma, luma, profile, level, references;
+    bool lossless = false; // its rate is no aim
 };
 
 inline constexpr int P = KV_MEDIA_PROGRESSIVE;
@@ -49,6 +50,20 @@ inline constexpr Medium kMedia[] = {
     {"dvd.vob",           "720x576",   "25",         "-target pal-dvd -aspect 16:9",        720, 576, 25, 1,      P, T, 64, 45, 1, 8,  0, 0, -1},
     {"svcd.m2p",          "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, 30000, 1001, P, T, 4, 3, 1, 8, 0, 0, -1},
     {"studio.mxf",        "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, I, T, 1, 1, 2, 8, 0, 0, -1},
+    {"player.mkv",        "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 1, P, T, 1, 1, 1, 8, 100, 13, 2},
+    {"timed.m2ts",        "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 1, P, T, 1, 1, 1, 8, 100, 13, 2},
+    {"flash.flv",         "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 1, P, T, 1, 1, 1, 8, 100, 13, 2},
+    {"web.webm",          "320x240",   "25",         "-c:v libvpx -pix_fmt yuv420p",       320, 240, 25, 1,      P, T, 1, 1,   1, 8,  0, 0, -1},
+    {"four.m4v",          "320x240",   "25",         "-f m4v -c:v mpeg4 -pix_fmt yuv420p", 320, 240, 25, 1,      P, T, 1, 1,   1, 8,  0, 0, -1},
+    {"lossless.y4m",      "320x240",   "30000/1001", "-c:v wrapped_avframe -pix_fmt yuv422p -aspect 8:5", 320, 240, 30000, 1001, P, T, 6, 5, 2, 8, 0, 0, -1, true},
+    {"ten.y4m",           "320x240",   "24",         "-c:v wrapped_avframe -strict -1 -pix_fmt yuv420p10le", 320, 240, 24, 1, P, T, 1, 1, 1, 10, 0, 0, -1, true},
+    {"v210.mov",          "320x240",   "25",         "-c:v v210 -pix_fmt yuv422p10le",     320, 240, 25, 1,      P, T, 1, 1,   2, 10, 0, 0, -1, true},
+    {"planar.avi",        "320x240",   "25",         "-c:v rawvideo -pix_fmt yuv422p",     320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
+    {"packed.mov",        "320x240",   "25",         "-c:v rawvideo -pix_fmt uyvy422",     320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
+    {"huffman.avi",       "320x240",   "25",         "-c:v huffyuv -pix_fmt yuv422p",      320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
+    {"windows.wmv",       "320x240",   "25",         "-c:v wmv2 -pix_fmt yuv420p",         320, 240, 25, 1,      P, T, 1, 1,   1, 8,  0, 0, -1},
+    {"av1.mp4",           "320x240",   "25",         "-c:v libaom-av1 -cpu-used 8 -pix_fmt yuv420p10le", 320, 240, 25, 1, P, T, 1, 1, 1, 10, 0, 0, -1},
+    {"av1.mkv",           "320x240",   "25",         "-c:v libaom-av1 -cpu-used 8 -profile:v 1 -pix_fmt yuv444p", 320, 240, 25, 1, P, T, 1, 1, 3, 8, 0, 0, -1},
     {"hevc.mp4",          "320x240",   "25",         "-c:v libx265 -x265-params log-level=0 -pix_fmt yuv420p10le", 320, 240, 25, 1, P, T, 1, 1, 1, 10, 0, 0, -1},
 };
 // clang-format on

@@ -198,6 +198,10 @@ void TestMediaLimits::filesWithoutMediaAreRefused_data()
                                                         "0100000001080600000")
                                  << none;
     QTest::newRow("head.mp4") << atom("ftyp", QByteArray("isom\0\0\2\0isom", 12)) << none;
+    QTest::newRow("flash.mp4") << QByteArray("FLV\1\5\0\0\0\x09\0\0\0\0", 13) +
+                                      QByteArray(400, '\xb7')
+                               << none;
+    QTest::newRow("nothing.y4m") << QByteArray("YUV4MPEG2 W0 H0\nFRAME\n") << none;
     QTest::newRow("wave.mpg") << QByteArray("RIFF\x24\x08\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x44\xac\0\0"
                                             "\x88\x58\1\0\2\0\x10\0data\0\x08\0\0",
                                             44) +

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void viewsChooseThePreset();
     void signalledBuffersAreTaken();
     void whatHasNoSettingIsNoted();
+    void whatIsNotKnownIsNoted_data();
+    void whatIsNotKnownIsNoted();
     void namesBeyondAscii();
     void refusedMediaLeaveTheRecord_data();
     void refusedMediaLeaveTheRecord();
@@ -276,6 +278,40 @@ void TestMediaImport::whatHasNoSettingIsNoted()
                  name.toUtf8() + ": note: its samples have more than 10 bits, 10 are taken\n");
     QCOMPARE(settings.views[0].chroma_format, int(KV_MVC_CHROMA_422));
     QCOMPARE(settings.views[0].bit_depth_luma, 10);
+}
+
+void TestMediaImport::whatIsNotKnownIsNoted_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QByteArray>("note");
+    QTest::newRow("codec without a fixed format, ffv1.mkv")
+        << "-c:v ffv1 -pix_fmt yuv422p10le"
+        << QByteArray("its chroma format and bit depth are not known, 4:2:0 with 8 bits is taken");
+    QTest::newRow("lossless rate, v210.mov")
+        << "-c:v v210 -pix_fmt yuv422p10le"
+        << QByteArray("its bit rate is not known or no aim, the preset's is taken");
+    QTest::newRow("level 1b of Baseline, 1b.mp4")
+        << "-s 176x144 -c:v libx264 -profile:v baseline -level 1b -pix_fmt yuv420p"
+        << QByteArray("its level 1b is not among the settings, 1.1 is taken");
+    QTest::newRow("level 1b of High, 1b.ts")
+        << "-s 176x144 -c:v libx264 -profile:v high -level 1b -refs 1 -bf 0 -pix_fmt yuv420p "
+           "-x264-params 8x8dct=1"
+        << QByteArray("its level 1b is not among the settings, 1.1 is taken");
+}
+
+void TestMediaImport::whatIsNotKnownIsNoted()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QByteArray, note);
+    const QString tag = QString::fromUtf8(QTest::currentDataTag());
+    const QString name = m_folder.filePath(tag.mid(tag.lastIndexOf(QLatin1Char(' ')) + 1));
+    const QByteArray error = makeMedia(picture("320x240", "15") + arguments, name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library->read(settings, name.toUtf8()) == 0, m_library->messages.constData());
+    QVERIFY2(m_library->messages.contains(name.toUtf8() + ": note: " + note + '\n'),
+             m_library->messages.constData());
+    QCOMPARE(kvtest::EncoderLibrary().complaintsOf(settings), QByteArray());
 }
 
 void TestMediaImport::namesBeyondAscii()
