@@ -3,6 +3,7 @@
 #include "DialogProbe.h"
 #include "RecordCells.h"
 #include "RecordingCompanions.h"
+#include "UserInput.h"
 
 #include <kv_config_gui_mvc/config_gui.h>
 
@@ -64,3 +65,10 @@ public:
 private:
     std::unique_ptr<AVCVideoEncoderDlg> m_dialog;
 };
+
+/// A control of one of the dialog's pages, by the page's class and its own name.
+template <class Control>
+Control* on(const OpenDialog& dialog, const char* page, const char* name)
+{
+    return findControl<Control>(dialog.get(), page, name);
+}
