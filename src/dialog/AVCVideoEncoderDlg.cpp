@@ -66,7 +66,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     buildPresetRow();
     m_caller = settings;
     takeSettings(*settings);
-    messageLog().widget = ui.errorLog;
+    messageLog().showIn(ui.errorLog);
     ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
     connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
     connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);

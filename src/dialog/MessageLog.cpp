@@ -143,6 +143,12 @@ MessageLog& messageLog()
     return log;
 }
 
+void MessageLog::showIn(QTextEdit* log)
+{
+    widget = log;
+    layVeil(log->document());
+}
+
 void MessageLog::clearMessages()
 {
     for (QString* messages : {&errors, &warnings, &notes})

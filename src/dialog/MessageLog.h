@@ -21,6 +21,8 @@ struct MessageLog {
     /// The log of the dialog that is open. While it is hidden, messages are shown in boxes instead.
     QPointer<QTextEdit> widget;
 
+    /// Makes it the log.
+    void showIn(QTextEdit* log);
     void clearMessages();
     /// Gives errors and warnings the colour of notes, for the rest of the process.
     void dropDistinctColours();

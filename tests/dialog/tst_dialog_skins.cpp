@@ -35,6 +35,7 @@ private Q_SLOTS:
     void bannerIsSetAgainEachTime_data();
     void bannerIsSetAgainEachTime();
     void editsSurviveASkin();
+    void logIsAsLightBeforeTheFirstCheck();
     void bannerFillsItsFrame_data();
     void bannerFillsItsFrame();
 };
@@ -122,6 +123,16 @@ void TestDialogSkins::editsSurviveASkin()
     QTest::keyClick(dialog.get(), Qt::Key_F6);
     QCOMPARE(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin")->value(), 640);
     QCOMPARE(int(dialog.probe().record().settings.views[0].width), 640);
+}
+
+void TestDialogSkins::logIsAsLightBeforeTheFirstCheck()
+{
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key_F6);
+    const auto background = [&dialog] { return dialog.log()->viewport()->grab().toImage(); };
+    const QImage before = background();
+    dialog.probe().check();
+    QCOMPARE(background(), before);
 }
 
 void TestDialogSkins::bannerFillsItsFrame_data()
