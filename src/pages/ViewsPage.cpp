@@ -17,9 +17,11 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
     ViewPage* const views[] = {new View0Page(this), new View1Page(this), new View2Page(this),
                                new View3Page(this)};
     const QString titles[] = {tr("Base View"), tr("View 1"), tr("View 2"), tr("View 3")};
+    for (ViewPage* view : views) {
+        view->fillBitrateModes();
+    }
     makeToolBox(ui.collectionFrame);
     for (std::size_t i = 0; i < std::size(views); ++i) {
-        views[i]->fillBitrateModes();
         addPage(views[i], titles[i]);
     }
     m_additionalViews = {views[1], views[2], views[3]};
