@@ -67,8 +67,8 @@ void describePulldown(KvMediaInfo& info, const SequenceParameters& sequence,
         return;
     }
     const auto named = std::ranges::find_if(namedCadences, [&](const NamedCadence& known) {
-        return cadence.regular && known.fields == cadence.fields &&
-               known.frames == cadence.frames && known.firstFields == cadence.firstFields;
+        return known.fields == cadence.fields && known.frames == cadence.frames &&
+               known.firstFields == cadence.firstFields;
     });
     info.pulldown =
         named == std::end(namedCadences) ? int32_t(KV_MEDIA_PULLDOWN_OTHER) : int32_t(named->name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <tuple>
 #include <vector>
 
@@ -149,6 +150,16 @@ int mostFrequentSlices(Frames frames)
     return most == counts.end() ? 0 : most->first;
 }
 
+std::vector<int>::const_iterator at(const std::vector<int>& values, std::size_t place)
+{
+    return values.begin() + static_cast<std::ptrdiff_t>(place);
+}
+
+bool repeats(const std::vector<int>& values, std::size_t period)
+{
+    return std::equal(at(values, period), values.end(), values.begin());
+}
+
 } // namespace
 
 CodingFacts factsOfFrames(std::span<const CodedFrame> all, bool isWhole)
@@ -177,21 +188,15 @@ Cadence cadenceOf(std::span<const CodedFrame> all, bool isWhole)
     if (std::ranges::all_of(shown, [](int fields) { return fields == shownFields[0]; })) {
         return {};
     }
+    // Seen twice at least, or else the whole.
+    std::size_t period = 1;
+    while (period < shown.size() && !repeats(shown, period)) {
+        period = period < std::max<std::size_t>(2, shown.size() / 2) ? period + 1 : shown.size();
+    }
     Cadence cadence;
-    for (const int fields : shown) {
-        cadence.fields += fields;
-    }
-    cadence.frames = static_cast<int>(shown.size());
+    cadence.fields = std::accumulate(shown.cbegin(), at(shown, period), 0);
+    cadence.frames = static_cast<int>(period);
     cadence.firstFields = shown[0];
-    for (std::size_t period = 1; period <= 2 && period < shown.size(); ++period) {
-        if (std::equal(shown.begin() + static_cast<std::ptrdiff_t>(period), shown.end(),
-                       shown.begin())) {
-            cadence.fields = period == 1 ? shown[0] : shown[0] + shown[1];
-            cadence.frames = static_cast<int>(period);
-            return cadence;
-        }
-    }
-    cadence.regular = false;
     return cadence;
 }
 

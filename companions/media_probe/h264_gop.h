@@ -37,12 +37,11 @@ struct CodingFacts {
     bool pyramidB = false;   ///< ... and are decoded before B pictures that are shown earlier
 };
 
-/// Fields shown in turn of each frame, when they repeat others in a regular way (Table D-1).
+/// The shortest row of frames whose repetition shows fields more than once (Table D-1).
 struct Cadence {
-    int fields = 0; ///< of `frames` frames; 0: none is repeated
+    int fields = 0; ///< shown of `frames` frames; 0: none is repeated
     int frames = 1;
     int firstFields = 0; ///< of the first frame
-    bool regular = true; ///< every frame, or every other frame, is shown as long
 };
 
 /// @param frames  In the order of decoding.

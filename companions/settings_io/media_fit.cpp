@@ -1,5 +1,6 @@
 #include "media_fit.h"
 
+#include "media_coding.h"
 #include "media_settings.h"
 
 #include <algorithm>
@@ -53,7 +54,7 @@ bool lowerBFrames(const KvMediaInfo&, KvMvcSettings& settings, int step)
     return settings.views[0].ref_distance >= 1;
 }
 
-/** The file tells them of the base view only, and other codecs than H.264 not at all. */
+/** Those of further views; of all views where the file does not tell them. */
 bool lowerUntoldReferences(const KvMediaInfo& info, KvMvcSettings& settings, int step)
 {
     const auto views = viewsInUse(settings).subspan(info.num_ref_frames < 0 ? 0 : 1);
@@ -115,15 +116,22 @@ bool lowerRates(const KvMediaInfo&, KvMvcSettings& settings, int step)
 struct Remedy {
     /** Takes so many steps at once, from 1 on; false when there is no such step. */
     bool (*take)(const KvMediaInfo&, KvMvcSettings&, int step);
-    const char* note; /**< what of the file is lost; null for what the file does not say */
+    const char* note; /**< what of the file is lost; null for what no file says */
+    bool (*isTold)(const KvMediaInfo&) = [](const KvMediaInfo&) { return true; };
 };
+
+bool tellsFurtherReferences(const KvMediaInfo& info)
+{
+    return info.num_views > 1 && info.dependent_ref_frames > 0;
+}
 
 /** What costs least comes first. */
 constexpr Remedy kRemedies[] = {
     {lowerMaximum, nullptr},
-    {raiseSlices, nullptr},
-    {lowerBFrames, nullptr},
-    {lowerUntoldReferences, nullptr},
+    {raiseSlices, "more slices are taken than it has", showsCoding},
+    {lowerBFrames, "fewer B-frames, and no references to them, are taken than it has", showsCoding},
+    {lowerUntoldReferences, "fewer reference frames are taken in further views than it has",
+     tellsFurtherReferences},
     {leaveLevelOpen, "its level is not kept, Auto is taken"},
     {cutPicture, "its picture is cut to a size that can be coded"},
     {roundAspect, "its pixel aspect ratio is rounded"},
@@ -153,7 +161,7 @@ bool improve(KvMvcCheck check, const KvMediaInfo& info, std::size_t distance, At
         for (int step = 1; remedy.take(info, tried, step); ++step) {
             Verdict verdict = checkSettings(check, tried);
             if (verdict.distance() <= distance) {
-                if (remedy.note)
+                if (remedy.note && remedy.isTold(info))
                     attempt.notes.push_back(noteOf(remedy, attempt.verdict));
                 attempt.settings = tried;
                 attempt.verdict = std::move(verdict);

@@ -1,5 +1,7 @@
 #include "media_settings.h"
 
+#include "media_coding.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -270,6 +272,7 @@ std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& sett
         applySamples(info, view, notes);
         applyProfile(info, view, notes);
     }
+    applyCoding(info, settings, notes);
     applyRates(info, settings, notes);
     return notes;
 }

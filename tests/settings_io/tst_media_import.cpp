@@ -163,10 +163,13 @@ void TestMediaImport::whatTheStreamDoesNotTellIsThePresets()
 {
     const QString name = file("plain.ts");
     const QByteArray error = makeMedia(
-        picture("640x480", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), name);
+        picture("640x480", "20") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), name);
     QVERIFY2(error.isEmpty(), error.constData());
     KvMvcSettings settings{};
     QCOMPARE(m_library->read(settings, name.toUtf8()), 0);
+    QCOMPARE(m_library->messages,
+             name.toUtf8() + ": note: it does not tell the I-frame interval, the distance of IDR "
+                             "pictures: kept as in the preset\n");
     KvMvcSettings expected = presetDefaults(KV_MVC_VIDEO_TYPE_NONE);
     const double ratio = double(expected.views[0].max_bitrate) / expected.views[0].bitrate;
     const double seconds = double(expected.views[0].bitrate_buffer) / expected.views[0].max_bitrate;
@@ -176,14 +179,27 @@ void TestMediaImport::whatTheStreamDoesNotTellIsThePresets()
     for (int index = 0; index < 2; ++index) {
         KvMvcViewSettings& to = expected.views[index];
         const KvMvcViewSettings& from = settings.views[index];
-        for (auto field :
-             {&KvMvcViewSettings::profile, &KvMvcViewSettings::level, &KvMvcViewSettings::width,
-              &KvMvcViewSettings::height, &KvMvcViewSettings::num_ref_frames,
-              &KvMvcViewSettings::bitrate, &KvMvcViewSettings::max_bitrate,
-              &KvMvcViewSettings::bitrate_buffer, &KvMvcViewSettings::pixel_aspect_x,
-              &KvMvcViewSettings::pixel_aspect_y, &KvMvcViewSettings::display_aspect_x,
-              &KvMvcViewSettings::display_aspect_y, &KvMvcViewSettings::interlace_mode,
-              &KvMvcViewSettings::field_order})
+        for (auto field : {&KvMvcViewSettings::profile,
+                           &KvMvcViewSettings::level,
+                           &KvMvcViewSettings::width,
+                           &KvMvcViewSettings::height,
+                           &KvMvcViewSettings::num_ref_frames,
+                           &KvMvcViewSettings::bitrate,
+                           &KvMvcViewSettings::max_bitrate,
+                           &KvMvcViewSettings::bitrate_buffer,
+                           &KvMvcViewSettings::pixel_aspect_x,
+                           &KvMvcViewSettings::pixel_aspect_y,
+                           &KvMvcViewSettings::display_aspect_x,
+                           &KvMvcViewSettings::display_aspect_y,
+                           &KvMvcViewSettings::interlace_mode,
+                           &KvMvcViewSettings::field_order,
+                           &KvMvcViewSettings::ref_distance,
+                           &KvMvcViewSettings::adaptive_b,
+                           &KvMvcViewSettings::reference_b,
+                           &KvMvcViewSettings::pyramid_b,
+                           &KvMvcViewSettings::weighted_p,
+                           &KvMvcViewSettings::num_slices,
+                           &KvMvcViewSettings::multi_slice})
             to.*field = from.*field;
         to.frame_rate = from.frame_rate;
     }
@@ -194,7 +210,8 @@ QByteArray TestMediaImport::makeViews(int profile, int views, const QString& nam
 {
     const QString base = file("base.h264");
     const QByteArray error = makeMedia(
-        picture("352x288", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p -level 3"), base);
+        picture("352x288", "25") + QStringLiteral("-c:v libx264 -g 10 -pix_fmt yuv420p -level 3"),
+        base);
     QFile in(base);
     QFile out(file("views.h264"));
     if (!error.isEmpty() || !in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
@@ -275,7 +292,10 @@ void TestMediaImport::whatHasNoSettingIsNoted()
     QCOMPARE(m_library->messages,
              name.toUtf8() +
                  ": note: its chroma format is not among the settings, the nearest is taken\n" +
-                 name.toUtf8() + ": note: its samples have more than 10 bits, 10 are taken\n");
+                 name.toUtf8() + ": note: its samples have more than 10 bits, 10 are taken\n" +
+                 name.toUtf8() +
+                 ": note: its groups of pictures and coding tools are not known, the preset's are "
+                 "kept\n");
     QCOMPARE(settings.views[0].chroma_format, int(KV_MVC_CHROMA_422));
     QCOMPARE(settings.views[0].bit_depth_luma, 10);
 }
