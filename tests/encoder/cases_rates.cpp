@@ -224,6 +224,15 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::vbv_initial, 3754);
      },
      false},
+    {"hrd.initial-short", "exactly one frame time at 25 frames/s", 0,
+     [](Record& r) {
+         setFrameRate(r, 25);
+         setBoth(r, &V::bitrate_units, 2);
+         setBoth(r, &V::bitrate_buffer, 30000000);
+         setBoth(r, &V::vbv_target, 45000);
+         setBoth(r, &V::vbv_initial, 3600);
+     },
+     false},
     {"hrd.initial-short", "less, 3753", 0,
      [](Record& r) {
          setBoth(r, &V::bitrate_units, 2);
@@ -376,6 +385,12 @@ constexpr RuleCase rows[] = {
     {"summary.bitrate-unknown", "rates only", 2, [](Record&) {}, false},
     {"summary.buffer", "HRD", 0, [](Record&) {}, true},
     {"summary.buffer", "no HRD", 0, [](Record& r) { setBoth(r, &V::hrd_mode, 0); }, false},
+    {"summary.buffer", "a constant rate of 0, whatever the maximum", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate_mode, 0);
+         setBoth(r, &V::bitrate, 0);
+     },
+     false},
 };
 
 } // namespace

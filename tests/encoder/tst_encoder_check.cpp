@@ -61,6 +61,9 @@ private Q_SLOTS:
     void constantBitrateLeavesTheHrdSwitchAlone();
     void changingUnitsKeepsTheInitialFullness();
     void messagesOfALevelThatIsTooLowAreFew();
+    void streamIsToldWithItsProfile_data();
+    void streamIsToldWithItsProfile();
+    void predefinedAspectsAreNotWrittenOut();
 };
 
 void TestEncoderCheck::worksWithoutSinks_data()
@@ -229,6 +232,55 @@ void TestEncoderCheck::messagesOfALevelThatIsTooLowAreFew()
     setBoth(record, &V::level, 10);
     const Outcome outcome = encoder::check(record);
     QVERIFY2(outcome.errors().size() <= 4, outcome.all().constData());
+}
+
+void TestEncoderCheck::streamIsToldWithItsProfile_data()
+{
+    QTest::addColumn<int>("preset");
+    QTest::addColumn<int>("profile");
+    QTest::addColumn<QByteArray>("note");
+    const auto add = [](const char* name, int preset, int profile, const char* note) {
+        QTest::newRow(name) << preset << profile << QByteArray(note);
+    };
+    add("Baseline", 0, 0, "One view, profile Baseline (profile_idc 66).");
+    add("Main", 0, 1, "One view, profile Main (profile_idc 77).");
+    add("High", 0, 3, "One view, profile High (profile_idc 100).");
+    add("High 10", 0, 4, "One view, profile High 10 (profile_idc 110).");
+    add("High 422", 0, 5, "One view, profile High 422 (profile_idc 122).");
+    add("Multiview High", 1, 3,
+        "2 views, profile Multiview High (profile_idc 118); the base view has profile High.");
+    add("Stereo High", 2, 1,
+        "2 views, profile Stereo High (profile_idc 128); the base view has profile Main.");
+    add("Blu-ray 3D", 3, 3,
+        "2 views, profile Stereo High (profile_idc 128); the base view has profile High.");
+}
+
+void TestEncoderCheck::streamIsToldWithItsProfile()
+{
+    QFETCH(const int, preset);
+    QFETCH(const int, profile);
+    QFETCH(const QByteArray, note);
+    KvMvcSettings record = encoder::preset(preset);
+    setBoth(record, &V::profile, profile);
+    const Outcome outcome = encoder::check(record);
+    QVERIFY2(outcome.notes().contains(note), outcome.all().constData());
+}
+
+void TestEncoderCheck::predefinedAspectsAreNotWrittenOut()
+{
+    // Table E-1 of H.264.
+    const int aspects[][2] = {{1, 1},    {12, 11}, {10, 11}, {16, 11}, {40, 33}, {24, 11},
+                              {20, 11},  {32, 11}, {80, 33}, {18, 11}, {15, 11}, {64, 33},
+                              {160, 99}, {4, 3},   {3, 2},   {2, 1}};
+    for (const auto& aspect : aspects) {
+        KvMvcSettings record = encoder::preset(0);
+        setBoth(record, &V::display_aspect_x, -1);
+        setBoth(record, &V::display_aspect_y, -1);
+        setBoth(record, &V::pixel_aspect_x, aspect[0]);
+        setBoth(record, &V::pixel_aspect_y, aspect[1]);
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(!outcome.said(QStringLiteral("aspect.extended")), outcome.all().constData());
+    }
 }
 
 QTEST_GUILESS_MAIN(TestEncoderCheck)

@@ -143,6 +143,7 @@ private Q_SLOTS:
     void automaticLevel_data();
     void automaticLevel();
     void automaticLevelKeepsItsCode();
+    void automaticLevelThatNothingFitsTellsTheHighest();
     void lowestLevelIsTold_data();
     void lowestLevelIsTold();
     void lowestLevelCanBeChosen();
@@ -471,6 +472,18 @@ void TestEncoderLevels::automaticLevelKeepsItsCode()
         QVERIFY(
             outcome.said(disc ? QStringLiteral("level.auto-disc") : QStringLiteral("level.auto")));
     }
+}
+
+void TestEncoderLevels::automaticLevelThatNothingFitsTellsTheHighest()
+{
+    // A picture one row too high for 5.1, and then for 5.2, which has the same limit.
+    KvMvcSettings record = modest(levelRows[15]);
+    setBoth(record, &V::level, int{KV_MVC_LEVEL_AUTO});
+    setSize(record, 192, 193);
+    QCOMPARE(encoder::check(record).errors(),
+             (QByteArrayList{"These settings fit no level from 1.0 to 5.2.",
+                             "Level 5.2 allows at most 36864 macroblocks in a picture (now "
+                             "37056): choose a higher level."}));
 }
 
 void TestEncoderLevels::lowestLevelIsTold_data()
