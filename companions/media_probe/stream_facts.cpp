@@ -175,6 +175,18 @@ void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCount&
     }
 }
 
+bool isContainer(const MediaInput& input, const char* name)
+{
+    return std::strcmp(input.format()->iformat->name, name) == 0;
+}
+
+/// FFmpeg takes 25 pictures a second for an elementary stream that does not tell a number.
+bool isRateMadeUp(const MediaInput& input, const H264Scan& scan)
+{
+    const Usability usability = scan.base() ? scan.base()->usability : Usability{};
+    return isContainer(input, "h264") && (usability.timeScale == 0 || usability.unitsInTick == 0);
+}
+
 void describeSignalledBuffer(KvMediaInfo& info, const AVStream& stream)
 {
     const auto* buffer = reinterpret_cast<const AVCPBProperties*>(
@@ -190,7 +202,7 @@ void describeSignalledBuffer(KvMediaInfo& info, const AVStream& stream)
 StreamCounts scanPackets(MediaInput& input, int descriptor, const char* name,
                          MediaInput::TimePoint deadline)
 {
-    if (std::strcmp(input.format()->iformat->name, "mpegts") == 0) {
+    if (isContainer(input, "mpegts")) {
         MediaInput stored(descriptor, deadline);
         if (stored.openAsStored(name) >= 0) {
             return scanStreams(stored);
@@ -239,6 +251,9 @@ ProbeAnswer streamFacts(int descriptor, const char* name)
     }
     describeRates(info, *stream, main->second, dependents);
     describeSignalledBuffer(info, *stream);
+    if (isRateMadeUp(input, main->second.headers())) {
+        info.frame_rate_num = info.frame_rate_den = 0;
+    }
     return answer;
 }
 

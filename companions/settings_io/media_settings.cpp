@@ -215,17 +215,25 @@ void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
                       static_cast<double>(view.bitrate_buffer) / former.bitrate_buffer, view);
 }
 
+/// Bits a second at the frame rate that is taken; what is measured without one is at another.
+double atFrameRate(int64_t bits, const KvMediaInfo& info, const KvMvcViewSettings& view)
+{
+    constexpr double assumedRate = 25; // of KvMediaInfo::bit_rate
+    const double factor = info.frame_rate_num > 0 ? 1 : view.frame_rate / assumedRate;
+    return static_cast<double>(bits) * factor;
+}
+
 void applyRates(const KvMediaInfo& info, KvMvcSettings& settings, Notes& notes)
 {
     if (info.bit_rate <= 0) {
         notes.push_back("its bit rate is not known or no aim, the preset's is taken");
     }
-    const double others = std::max(info.num_views - 1, 1);
-    const auto dependent = static_cast<double>(info.dependent_bit_rate);
-    const double base = static_cast<double>(info.bit_rate) - dependent;
+    const int32_t others = std::max(info.num_views - 1, 1);
+    const int64_t base = info.bit_rate - info.dependent_bit_rate;
     const bool single = info.num_views < 2;
-    applyBitRate(base, settings.views[0]);
-    applyBitRate(single ? base : dependent / others, settings.views[1]);
+    const int64_t second = single ? base : info.dependent_bit_rate / others;
+    applyBitRate(atFrameRate(base, info, settings.views[0]), settings.views[0]);
+    applyBitRate(atFrameRate(second, info, settings.views[1]), settings.views[1]);
     if (!hasSignalledBuffer(info))
         return;
     applySignalledBuffer(info, settings.views[0]);

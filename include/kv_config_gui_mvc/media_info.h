@@ -99,7 +99,8 @@ typedef struct KvMediaInfo {
     /**
      * Average of all views in bit/s: what container or header say, else that of the beginning,
      * which is the first 620 pictures or 32 MiB of video, whatever ends first; 0: not known,
-     * or of a lossless codec. A beginning may exceed the signalled rate by the buffer's fill.
+     * or of a lossless codec. Where the frame rate is not known, 25 frames a second are taken for
+     * it. A beginning may exceed the signalled rate by the buffer's fill.
      */
     int64_t bit_rate;
     int64_t dependent_bit_rate; /**< what the views other than the base view have of it */

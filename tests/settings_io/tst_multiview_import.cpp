@@ -110,6 +110,7 @@ void TestMultiviewImport::streamsBecomeSettings()
         QCOMPARE(kvtest::EncoderLibrary().complaintsOf(settings), QByteArray());
         QCOMPARE(settings.num_views, 2);
         QCOMPARE(settings.split_views, file.isSplit);
+        QCOMPARE(m_library.messages.contains("its frame rate is not known"), file.isSplit == 0);
         for (int index = 0; index < 2; ++index) {
             const KvMvcViewSettings& view = settings.views[index];
             const auto compare = [&](int32_t KvMvcViewSettings::*field, int value) {
@@ -134,8 +135,10 @@ void TestMultiviewImport::streamsBecomeSettings()
             if (expected.weighted != kept) {
                 compare(&KvMvcViewSettings::weighted_p, expected.weighted);
             }
+            // Units alone have no times, and the stream tells none.
             const double rate = view.frame_rate;
-            QCOMPARE(rate, 25.0);
+            const double presetRate = preset.views[index].frame_rate;
+            QCOMPARE(rate, file.isSplit != 0 ? 25.0 : presetRate);
         }
     }
 }
@@ -145,11 +148,13 @@ void TestMultiviewImport::buffersOfStreams()
 {
     const QByteArray stream =
         ReferenceEncoder(m_folder.path())
-            .encode(QStringLiteral("FramesToBeEncoded=3 EnableVUISupport=1 "
-                                   "VUI_aspect_ratio_info_present_flag=1 "
-                                   "VUI_aspect_ratio_idc=2 VUI_nal_hrd_parameters_present_flag=1 "
-                                   "VUI_nal_bit_rate_scale=4 VUI_nal_bit_rate_value_minus1=299 "
-                                   "VUI_nal_cpb_size_scale=6 VUI_nal_cpb_size_value_minus1=199"));
+            .encode(QStringLiteral(
+                "FramesToBeEncoded=3 EnableVUISupport=1 "
+                "VUI_timing_info_present_flag=1 VUI_num_units_in_tick=1001 VUI_time_scale=60000 "
+                "VUI_aspect_ratio_info_present_flag=1 "
+                "VUI_aspect_ratio_idc=2 VUI_nal_hrd_parameters_present_flag=1 "
+                "VUI_nal_bit_rate_scale=4 VUI_nal_bit_rate_value_minus1=299 "
+                "VUI_nal_cpb_size_scale=6 VUI_nal_cpb_size_value_minus1=199"));
     QVERIFY(!stream.isEmpty());
     const QString name = m_folder.filePath(QStringLiteral("buffer.264"));
     QVERIFY(kvtest::writeFile(name, stream));
@@ -158,6 +163,8 @@ void TestMultiviewImport::buffersOfStreams()
     QCOMPARE(settings.views[0].max_bitrate, 307'200);
     QCOMPARE(settings.views[0].bitrate_buffer, 25'600); // bytes
     QCOMPARE(settings.views[0].hrd_mode, 1);
+    const double rate = settings.views[0].frame_rate;
+    QCOMPARE(rate, 30000 / 1001.0);
     QCOMPARE(settings.views[0].pixel_aspect_x, 12);
     QCOMPARE(settings.views[0].pixel_aspect_y, 11);
 }
