@@ -324,7 +324,7 @@ void TestSettingsText::filesAreWrittenAsThePatternFile()
     view.reserved_260[5] = 7;
     view.reserved_5504[2811] = 0xFE;
     settings.views[1].frame_rate = 12.5;
-    QFile pattern(QFINDTESTDATA("data/pattern.ini"));
+    QFile pattern(QStringLiteral(KV_SETTINGS_DATA "/pattern.ini"));
     QVERIFY(pattern.open(QIODevice::ReadOnly));
     const QByteArray expected = pattern.readAll();
     const QByteArray written = QByteArray::fromStdString(kv::formatSettings(settings));
