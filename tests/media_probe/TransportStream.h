@@ -4,6 +4,7 @@
 
 #include "MediaMaker.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kvtest
@@ -55,13 +56,31 @@ public:
         qint64 time = 90'000;
         for (const ViewPictures& picture : pictures) {
             if ((time - 90'000) % (ticks * 10) == 0) {
-                writeTables(furtherFirst);
+                writeTables({furtherFirst, !furtherFirst});
             }
             for (const bool further : {furtherFirst, !furtherFirst}) {
                 writePicture(further ? furtherPid : basePid, further ? 0xE2 : 0xE0,
                              further ? picture.further : picture.base, time);
             }
             time += ticks;
+        }
+        return m_bytes;
+    }
+
+    /// As a file of both views' files in turn, each with tables of its own: ten pictures of the
+    /// further view, then those of the base view.
+    QByteArray writeInterleaved(const QList<ViewPictures>& pictures, qint64 ticks)
+    {
+        constexpr qsizetype extent = 10;
+        for (qsizetype begin = 0; begin < pictures.size(); begin += extent) {
+            for (const bool further : {true, false}) {
+                writeTables({further});
+                for (qsizetype at = begin; at < std::min(begin + extent, pictures.size()); ++at) {
+                    writePicture(further ? furtherPid : basePid, further ? 0xE2 : 0xE0,
+                                 further ? pictures[at].further : pictures[at].base,
+                                 90'000 + at * ticks);
+                }
+            }
         }
         return m_bytes;
     }
@@ -107,13 +126,14 @@ private:
         return field;
     }
 
-    void writeTables(bool furtherFirst)
+    /// @param views Whether each stream in the table is the further one.
+    void writeTables(const QList<bool>& views)
     {
         const QByteArray version("\xC1\0\0", 3);
         writeSection(0, 0,
                      QByteArray("\0\1", 2) + version + QByteArray("\0\1", 2) + pidField(tablePid));
         QByteArray streams;
-        for (const bool further : {furtherFirst, !furtherFirst}) {
+        for (const bool further : views) {
             streams += QByteArray(1, further ? '\x20' : '\x1B') +
                        pidField(further ? furtherPid : basePid) + QByteArray("\xF0\0", 2);
         }

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void initTestCase();
     void viewsInStreamsOfTheirOwn_data();
     void viewsInStreamsOfTheirOwn();
+    void filesOfEachViewInterleaved();
     void anotherProgramsViewsAreNotThisOnes();
     void viewsInFilesOfPlayers_data();
     void viewsInFilesOfPlayers();
@@ -125,6 +126,28 @@ void TestMultiviewStreams::viewsInStreamsOfTheirOwn()
     const double base = double(info.bit_rate - info.dependent_bit_rate) * seconds / bits[0];
     QVERIFY2(further > 0.95 && further < 1.05, qPrintable(QString::number(further)));
     QVERIFY2(base > 0.95 && base < 1.05, qPrintable(QString::number(base)));
+}
+
+/// Discs have a file of each view, and one of both in turn.
+void TestMultiviewStreams::filesOfEachViewInterleaved()
+{
+    const QList<ViewPictures> once =
+        kvtest::partedViews(kvtest::withViews(m_base, 128, 30, 2, 0.5));
+    for (const int seconds : {1, 20}) {
+        QList<ViewPictures> pictures;
+        for (int second = 0; second < seconds; ++second) {
+            pictures += once;
+        }
+        const QString name = file("both.ssif");
+        QVERIFY(kvtest::writeFile(name, TransportStream(true).writeInterleaved(pictures, ticks)));
+        QVERIFY2(m_library.probe(name) == KV_MEDIA_OK, m_library.info.reason);
+        QCOMPARE(m_library.info.num_views, 2);
+        QCOMPARE(m_library.info.separate_views, 1);
+        QCOMPARE(m_library.info.width, 352);
+        const double share =
+            double(m_library.info.dependent_bit_rate) / double(m_library.info.bit_rate);
+        QVERIFY2(share > 0.3 && share < 0.4, qPrintable(QString::number(share)));
+    }
 }
 
 /// A stream of one view beside a stream of two, in a transport stream of two programs.
