@@ -1,5 +1,5 @@
-// The named fields of the settings record: one row drives the reading and the writing of settings
-// files and the tables of their documentation.
+// The public field table as settings files need it: it drives their reading and writing, and the
+// tables of their documentation.
 #ifndef KV_SETTINGS_FIELDS_H
 #define KV_SETTINGS_FIELDS_H
 
@@ -11,7 +11,11 @@
 namespace kv
 {
 
-enum class FieldKind { Integer, Rate, Level };
+/// As the public table settings_fields.def has them.
+enum class FieldKind {
+#define KV_MVC_KIND(kind) kind,
+#include <kv_config_gui_mvc/settings_fields.def>
+};
 
 /** The readable form of one value of a field. */
 struct NamedValue {
@@ -23,7 +27,7 @@ struct Field {
     std::string_view name; /**< as in settings_record.h, and the key in a file */
     std::size_t offset;    /**< in bytes from the start of the section's structure */
     FieldKind kind;
-    std::span<const NamedValue> values; /**< empty for a plain number */
+    std::span<const NamedValue> values; /**< in the order of their numbers; may be empty */
 
     constexpr std::size_t size() const { return kind == FieldKind::Rate ? 8 : 4; }
 };
