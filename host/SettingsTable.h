@@ -16,12 +16,10 @@ struct ValueName {
     QLatin1String text;
 };
 
+/// As the public table settings_fields.def has them.
 enum class SettingKind {
-    Number,     ///< a whole number; its names are special values
-    Code,       ///< its names are all the values that there are
-    Rate,       ///< a double, frames per second
-    BufferSize, ///< a whole number whose unit the field bitrate_units selects
-    Fullness    ///< likewise
+#define KV_MVC_KIND(kind) kind,
+#include <kv_config_gui_mvc/settings_fields.def>
 };
 
 /// One setting: a field of the record or of a view, and how people read it.
@@ -32,17 +30,21 @@ struct Setting {
     SettingKind kind;
     /// In bytes, from the start of the record or of the view.
     std::size_t offset;
-    std::span<const ValueName> names = {};
+    /// Of a number: special values. Of a code: all the values that there are.
+    std::span<const ValueName> names;
     /// Follows a number; may be empty.
-    QLatin1String unit = {};
+    QLatin1String unit;
     /// The dialog shows that much less than the field holds.
-    qint64 shownLess = 0;
+    qint64 shownLess;
+    /// The place among the settings as the dialog has them.
+    int place;
 
     /// @return Bytes of the field.
     [[nodiscard]] std::size_t size() const;
 };
 
-/// The settings of the whole record, and those that every view has. No field is left out.
+/// The settings of the whole record, and those that every view has, in the dialog's order. No field
+/// is left out.
 std::span<const Setting> recordSettings();
 std::span<const Setting> viewSettings();
 
