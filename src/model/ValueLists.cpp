@@ -35,102 +35,12 @@ const std::array<RateText, 14> frameRates{{
     {QT_TRANSLATE_NOOP("QObject", "60.00"), 60, 0},
 }};
 
-const std::array<CodedText, 2> fieldOrders{{
-    {QT_TRANSLATE_NOOP("QObject", "Top Field First"), KV_MVC_TOP_FIELD_FIRST},
-    {QT_TRANSLATE_NOOP("QObject", "Bot Field First"), KV_MVC_BOTTOM_FIELD_FIRST},
-}};
-
-const std::array<CodedText, 3> interlaceModes{{
-    {QT_TRANSLATE_NOOP("QObject", "Progressive"), KV_MVC_PROGRESSIVE},
-    {QT_TRANSLATE_NOOP("QObject", "Interlaced"), KV_MVC_INTERLACED},
-    {QT_TRANSLATE_NOOP("QObject", "MBAFF"), KV_MVC_MBAFF},
-}};
-
-const std::array<CodedText, 2> bitDepths{{
-    {QT_TRANSLATE_NOOP("QObject", "8 bits"), 8},
-    {QT_TRANSLATE_NOOP("QObject", "10 bits"), 10},
-}};
-
-const std::array<CodedText, 8> pulldownModes{{
-    {QT_TRANSLATE_NOOP("QObject", "Off"), KV_MVC_PULLDOWN_OFF},
-    {QT_TRANSLATE_NOOP("QObject", "2:3"), KV_MVC_PULLDOWN_2_3},
-    {QT_TRANSLATE_NOOP("QObject", "3:2"), KV_MVC_PULLDOWN_3_2},
-    {QT_TRANSLATE_NOOP("QObject", "2:3 P"), KV_MVC_PULLDOWN_2_3_PROGRESSIVE},
-    {QT_TRANSLATE_NOOP("QObject", "3:2 P"), KV_MVC_PULLDOWN_3_2_PROGRESSIVE},
-    {QT_TRANSLATE_NOOP("QObject", "Auto"), KV_MVC_PULLDOWN_AUTO},
-    {QT_TRANSLATE_NOOP("QObject", "2:2"), KV_MVC_PULLDOWN_2_2},
-    {QT_TRANSLATE_NOOP("QObject", "3:3"), KV_MVC_PULLDOWN_3_3},
-}};
-
-const std::array<CodedText, 4> chromaFormats{{
-    {QT_TRANSLATE_NOOP("QObject", "4:0:0"), KV_MVC_CHROMA_400},
-    {QT_TRANSLATE_NOOP("QObject", "4:2:0"), KV_MVC_CHROMA_420},
-    {QT_TRANSLATE_NOOP("QObject", "4:2:2"), KV_MVC_CHROMA_422},
-    {"", KV_MVC_CHROMA_UNNAMED},
-}};
-
-const std::array<CodedText, 4> bitrateModes{{
-    {QT_TRANSLATE_NOOP("QObject", "Constant Bitrate"), KV_MVC_CONSTANT_BITRATE},
-    {QT_TRANSLATE_NOOP("QObject", "Variable Bitrate"), KV_MVC_VARIABLE_BITRATE},
-    {QT_TRANSLATE_NOOP("QObject", "Const. Quality - Constant Quantizer"),
-     KV_MVC_CONSTANT_QUANTIZER},
-    {QT_TRANSLATE_NOOP("QObject", "Const. Quality - Average Quantizer"), KV_MVC_AVERAGE_QUANTIZER},
-}};
-
-const std::array<CodedText, 2> macroblockPartitions{{
-    {QT_TRANSLATE_NOOP("QObject", "16 x 16"), KV_MVC_PARTITION_16X16},
-    {QT_TRANSLATE_NOOP("QObject", "8 x 8"), KV_MVC_PARTITION_8X8},
-}};
-
-const std::array<CodedText, 3> subpixelPrecisions{{
-    {QT_TRANSLATE_NOOP("QObject", "Full"), KV_MVC_SUBPIXEL_FULL},
-    {QT_TRANSLATE_NOOP("QObject", "Half"), KV_MVC_SUBPIXEL_HALF},
-    {QT_TRANSLATE_NOOP("QObject", "Quarter"), KV_MVC_SUBPIXEL_QUARTER},
-}};
-
-const std::array<CodedText, 2> entropyCoders{{
-    {QT_TRANSLATE_NOOP("QObject", "CAVLC"), KV_MVC_CAVLC},
-    {QT_TRANSLATE_NOOP("QObject", "CABAC"), KV_MVC_CABAC},
-}};
-
-// "Multivew High" is the name as shown and as matched, on the command line, too.
-const std::array<CodedText, 3> videoTypes{{
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Multivew High"), KV_MVC_MULTIVIEW_HIGH},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Stereo High"), KV_MVC_STEREO_HIGH},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Blu-ray 3D"), KV_MVC_BLURAY_3D},
-}};
-
-const std::array<CodedText, 4> profiles{{
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Baseline"), KV_MVC_PROFILE_BASELINE},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Main"), KV_MVC_PROFILE_MAIN},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "High"), KV_MVC_PROFILE_HIGH},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "High 10"), KV_MVC_PROFILE_HIGH_10},
-}};
-
-const CodedText profile422{QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "High 422"),
-                           KV_MVC_PROFILE_HIGH_422};
-
-// "1.6" is the encoder family's own name; H.264 has no such level.
-const std::array<CodedText, 18> levels{{
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "1.0"), 10},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "1.1"), 11},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "1.2"), 12},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "1.3"), 13},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "1.6"), 16},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "2.0"), 20},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "2.1"), 21},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "2.2"), 22},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "3.0"), 30},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "3.1"), 31},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "3.2"), 32},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "4.0"), 40},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "4.1"), 41},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "4.2"), 42},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "5.0"), 50},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "5.1"), 51},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "5.2"), 52},
-    {QT_TRANSLATE_NOOP("AVCVideoEncoderDlg", "Auto"), KV_MVC_LEVEL_AUTO},
-}};
+// clang-format off
+#define KV_MVC_LIST(list) const std::initializer_list<CodedText> itemsOf##list = {
+#define KV_MVC_ITEM(code, key, text) {text, code},
+#define KV_MVC_LIST_END };
+#include <kv_config_gui_mvc/settings_fields.def>
+// clang-format on
 
 const std::array<const char*, 4> sceneDetectionModes{"Off", "SCD Fast", "SCD Refined",
                                                      "SCD Regular"};

@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <initializer_list>
 
 /// The fixed item texts of the encoder family's settings, untranslated, with the values behind
 /// them. Vocabulary holds them translated.
@@ -30,23 +31,11 @@ struct RateText {
 
 extern const std::array<RatioText, 4> aspectRatios;
 extern const std::array<RateText, 14> frameRates;
-extern const std::array<CodedText, 2> fieldOrders;
-extern const std::array<CodedText, 3> interlaceModes;
-extern const std::array<CodedText, 2> bitDepths;
-extern const std::array<CodedText, 8> pulldownModes;
-/// The last item is the unnamed fourth format.
-extern const std::array<CodedText, 4> chromaFormats;
-extern const std::array<CodedText, 4> bitrateModes;
-extern const std::array<CodedText, 2> macroblockPartitions;
-extern const std::array<CodedText, 3> subpixelPrecisions;
-extern const std::array<CodedText, 2> entropyCoders;
 
-// Names that the dialog offers in the order of their translated texts.
-extern const std::array<CodedText, 3> videoTypes;
-extern const std::array<CodedText, 4> profiles;
-/// Offered only while the 4:2:2 switch is on.
-extern const CodedText profile422;
-extern const std::array<CodedText, 18> levels;
+// The items of the lists in the public field table, `itemsOf` and the list's name; none for a list
+// that the dialog does not show.
+#define KV_MVC_LIST(list) extern const std::initializer_list<CodedText> itemsOf##list;
+#include <kv_config_gui_mvc/settings_fields.def>
 
 // The rest of the encoder family's vocabulary, which no setting of this dialog uses.
 extern const std::array<const char*, 4> sceneDetectionModes;

@@ -3,29 +3,31 @@
 #include "ValueLists.h"
 
 #include <QCoreApplication>
-#include <QObject>
+
+#include <kv_config_gui_mvc/settings_record.h>
 
 namespace
 {
 
-QString displayText(const char* context, const char* text)
+using Items = std::initializer_list<value_lists::CodedText>;
+
+QString displayText(const char* text)
 {
-    // The empty text is an item of its own and has no translation.
-    return *text ? QCoreApplication::translate(context, text) : QString();
+    return QCoreApplication::translate("QObject", text);
 }
 
-template <class Texts>
-void fill(ItemList& list, const Texts& texts)
+void fill(ItemList& list, const Items& items)
 {
-    for (const value_lists::CodedText& item : texts)
-        list.append(displayText("QObject", item.text), item.code);
+    for (const value_lists::CodedText& item : items) {
+        list.append(displayText(item.text), item.code);
+    }
 }
 
-template <class Texts>
-void fill(NameMap& map, const Texts& texts)
+void fill(NameMap& map, const Items& items)
 {
-    for (const value_lists::CodedText& item : texts)
-        map.insert(displayText("AVCVideoEncoderDlg", item.text), item.code);
+    for (const value_lists::CodedText& item : items) {
+        map.insert(QCoreApplication::translate("AVCVideoEncoderDlg", item.text), item.code);
+    }
 }
 
 void fill(ItemList& list, const NameMap& map)
@@ -55,25 +57,28 @@ std::optional<QString> ItemList::textOf(qint32 code) const
 Vocabulary::Vocabulary(bool offer422)
 {
     for (const auto& item : value_lists::aspectRatios)
-        m_aspectRatios.append({displayText("QObject", item.text), item.x, item.y});
+        m_aspectRatios.append({displayText(item.text), item.x, item.y});
     for (const auto& item : value_lists::frameRates)
-        m_frameRates.append({displayText("QObject", item.text), item.rate, item.tolerance});
+        m_frameRates.append({displayText(item.text), item.rate, item.tolerance});
 
-    fill(at(ListName::FieldOrders), value_lists::fieldOrders);
-    fill(at(ListName::InterlaceModes), value_lists::interlaceModes);
-    fill(at(ListName::BitDepths), value_lists::bitDepths);
-    fill(at(ListName::PulldownModes), value_lists::pulldownModes);
-    fill(at(ListName::ChromaFormats), value_lists::chromaFormats);
-    fill(at(ListName::BitrateModes), value_lists::bitrateModes);
-    fill(at(ListName::MacroblockPartitions), value_lists::macroblockPartitions);
-    fill(at(ListName::SubpixelPrecisions), value_lists::subpixelPrecisions);
-    fill(at(ListName::EntropyCoders), value_lists::entropyCoders);
+    fill(at(ListName::FieldOrders), value_lists::itemsOfFieldOrder);
+    fill(at(ListName::InterlaceModes), value_lists::itemsOfInterlaceMode);
+    fill(at(ListName::BitDepths), value_lists::itemsOfBitDepth);
+    fill(at(ListName::PulldownModes), value_lists::itemsOfPulldown);
+    fill(at(ListName::ChromaFormats), value_lists::itemsOfChromaFormat);
+    // The unnamed fourth format is an item without a text.
+    at(ListName::ChromaFormats).append(QString(), KV_MVC_CHROMA_UNNAMED);
+    fill(at(ListName::BitrateModes), value_lists::itemsOfBitrateMode);
+    fill(at(ListName::MacroblockPartitions), value_lists::itemsOfMinPartition);
+    fill(at(ListName::SubpixelPrecisions), value_lists::itemsOfSubpixelMode);
+    fill(at(ListName::EntropyCoders), value_lists::itemsOfEntropyMode);
 
-    fill(m_videoTypes, value_lists::videoTypes);
-    fill(m_profiles, value_lists::profiles);
-    if (offer422)
-        fill(m_profiles, std::array{value_lists::profile422});
-    fill(m_levels, value_lists::levels);
+    fill(m_videoTypes, value_lists::itemsOfVideoType);
+    fill(m_profiles, value_lists::itemsOfProfile);
+    if (!offer422) {
+        m_profiles.remove(m_profiles.key(KV_MVC_PROFILE_HIGH_422));
+    }
+    fill(m_levels, value_lists::itemsOfLevel);
     fill(at(ListName::VideoTypes), m_videoTypes);
     fill(at(ListName::Profiles), m_profiles);
     fill(at(ListName::Levels), m_levels);
