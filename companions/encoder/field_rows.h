@@ -9,6 +9,7 @@
 #include <limits>
 #include <span>
 
+#include "field_table.h"
 #include "report.h"
 #include "rule.h"
 #include "stream.h"
@@ -16,59 +17,85 @@
 namespace kv::encoder
 {
 
-using Field = std::int32_t KvMvcViewSettings::*;
+using V = KvMvcViewSettings;
+using Field = std::int32_t V::*;
+inline constexpr Severity corrected = Severity::Warning;
 
-inline constexpr const char* encoderRange = "range of the encoder";
-inline constexpr const char* switchRange =
-    "range of the encoder: a switch is 0 or 1, any other value is on";
-inline constexpr const char* codeRange = "codes of the encoder";
+template <class... Args, class Row>
+consteval ViewRule<Args...> ruleOf(const Row& row)
+{
+    const FieldMessage& message = row.message;
+    return {message.id.at, corrected, message.texts(), message.basis};
+}
 
-// The kinds of rows. The rule is a Rule where all views have the same value of the field, and a
-// ViewRule where each has its own.
+// The kinds of rows.
 
 /** A whole number: old value, new value, range. */
-template <class RangeRule>
+template <class Owner>
 struct Range {
-    Field field;
+    std::int32_t Owner::*field;
     int low;
     int high;
-    RangeRule rule;
-    int shownOffset = 0; ///< what the user sees is the field plus this
+    int shownLess; ///< what the user sees is the field less this
+    ViewRule<int, int, int, int> rule;
+
+    consteval explicit Range(const FieldRow<Owner>& row)
+        : field(row.field),
+          low(row.low),
+          high(row.high),
+          shownLess(row.less),
+          rule(ruleOf<int, int, int, int>(row))
+    {
+    }
 };
 
 /** A number of which only the lower end means anything: below 0 it is 0. */
 struct NotNegative {
     Field field;
     ViewRule<int> rule;
+
+    consteval explicit NotNegative(const FieldRow<V>& row)
+        : field(row.field), rule(ruleOf<int>(row))
+    {
+    }
 };
 
 /** A switch: any value but 0 is on. */
-template <class SwitchRule>
+template <class Owner>
 struct Switch {
-    Field field;
-    SwitchRule rule;
+    std::int32_t Owner::*field;
+    ViewRule<int> rule;
+
+    consteval explicit Switch(const FieldRow<Owner>& row) : field(row.field), rule(ruleOf<int>(row))
+    {
+    }
 };
 
-/** An enumerated field: codes that are not in the mask become the fallback. */
-template <class CodeRule>
+/** An enumerated field: codes that its list does not have become the fallback. */
 struct Code {
     Field field;
-    unsigned allowed;
+    std::span<const ListValue> values;
     int fallback;
-    CodeRule rule;
+    ViewRule<int> rule;
+
+    consteval explicit Code(const FieldRow<V>& row)
+        : field(row.field),
+          values(row.values),
+          fallback(fallbackOf(row.list).code),
+          rule(ruleOf<int>(row))
+    {
+    }
 };
 
-/// What is said of a switch, by its name in the dialog.
-#define KV_SWITCH(name) "The switch \"" name "\" was %d; it is now on (1)."
+/** Bits of a sample: 8 or 10. */
+struct Depth {
+    Field field;
+    ViewRule<int, int> rule;
 
-template <class... Codes>
-constexpr unsigned codes(Codes... code)
-{
-    return (... | (1u << code));
-}
-
-using V = KvMvcViewSettings;
-inline constexpr Severity corrected = Severity::Warning;
+    consteval explicit Depth(const FieldRow<V>& row) : field(row.field), rule(ruleOf<int, int>(row))
+    {
+    }
+};
 
 inline int offsetValue(int value, int offset)
 {
@@ -82,31 +109,26 @@ struct Speaker {
     int view;
 
     template <class... Args>
-    void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args) const
-    {
-        report.say(rule, args...);
-    }
-    template <class... Args>
     void say(const ViewRule<Args...>& rule, std::type_identity_t<Args>... args) const
     {
         report.sayOf(view, rule, args...);
     }
 };
 
-// Each of these corrects one field of one view.
+// Each of these corrects one field of one view, or of the record.
 
-template <class RangeRule>
-void correctRange(const Range<RangeRule>& row, int low, int high, KvMvcViewSettings& view,
-                  const Speaker& speaker)
+template <class Owner>
+void correctRange(const Range<Owner>& row, int low, Owner& owner, const Speaker& speaker)
 {
-    const int old = view.*row.field;
+    const int old = owner.*row.field;
+    const int high = row.high;
     const int now = std::clamp(old, low, high);
     if (now == old) {
         return;
     }
-    view.*row.field = now;
-    const int shift = row.shownOffset;
-    speaker.say(row.rule, offsetValue(old, shift), now + shift, low + shift, high + shift);
+    owner.*row.field = now;
+    const int less = row.shownLess;
+    speaker.say(row.rule, offsetValue(old, -less), now - less, low - less, high - less);
 }
 
 inline void correctNegative(const NotNegative& row, KvMvcViewSettings& view, const Speaker& speaker)
@@ -118,23 +140,32 @@ inline void correctNegative(const NotNegative& row, KvMvcViewSettings& view, con
     }
 }
 
-template <class SwitchRule>
-void correctSwitch(const Switch<SwitchRule>& row, KvMvcViewSettings& view, const Speaker& speaker)
+template <class Owner>
+void correctSwitch(const Switch<Owner>& row, Owner& owner, const Speaker& speaker)
 {
-    const int old = view.*row.field;
+    const int old = owner.*row.field;
     if (old != 0 && old != 1) {
-        view.*row.field = 1;
+        owner.*row.field = 1;
         speaker.say(row.rule, old);
     }
 }
 
-template <class CodeRule>
-void correctCode(const Code<CodeRule>& row, KvMvcViewSettings& view, const Speaker& speaker)
+inline void correctCode(const Code& row, KvMvcViewSettings& view, const Speaker& speaker)
 {
     const int old = view.*row.field;
-    if (old < 0 || old >= 32 || (row.allowed >> old & 1u) == 0) {
+    if (!findValue(row.values, old)) {
         view.*row.field = row.fallback;
         speaker.say(row.rule, old);
+    }
+}
+
+inline void correctDepth(const Depth& row, KvMvcViewSettings& view, const Speaker& speaker)
+{
+    const int old = view.*row.field;
+    const int now = old <= 8 ? 8 : 10; // of 9 bits none is lost in 10
+    if (now != old) {
+        view.*row.field = now;
+        speaker.say(row.rule, old, now);
     }
 }
 

@@ -13,7 +13,6 @@ namespace kv::encoder
 
 /** A row of Table A-1, with the columns of Table A-4 that a setting can break. */
 struct Level {
-    const char* name;      ///< as lists of levels spell it
     int code;              ///< KvMvcViewSettings::level; 0: only the automatic level can give it
     std::int64_t mbRate;   ///< MaxMBPS, macroblocks per second
     std::int64_t frameMbs; ///< MaxFS, macroblocks
@@ -24,6 +23,7 @@ struct Level {
     int minCompression;    ///< MinCR
     int sliceRate;         ///< SliceRate; 0: no limit
     bool framesOnly;       ///< frame_mbs_only_flag is 1
+    const char* name = ""; ///< as lists of levels spell it
 };
 
 /** Every level from 1 to 5.2, in the order in which the automatic level tries them. */
@@ -41,7 +41,6 @@ int maxSideMbs(const Level& level);
 /** What a profile may use (A.2) and its factors (Tables A-2, A.3.1, H.10.2.1). */
 struct Profile {
     int code; ///< KvMvcViewSettings::profile; -1 for a multiview profile, which the preset chooses
-    const char* name;
     int idc;
     int vclFactor; ///< cpbBrVclFactor
     int nalFactor; ///< cpbBrNalFactor
@@ -56,6 +55,7 @@ struct Profile {
     bool limitsSliceCount;   ///< SliceRate applies (A.3.3 a, b)
     bool limitsSliceSize;    ///< no slice beyond MaxFS / 4 (A.3.3 k, H.10.2.1 w)
     bool baseOfViews;        ///< may be the base view's profile of a multiview stream (H.10.1)
+    const char* name = "";   ///< as the list of profiles spells it
 };
 
 /** @return The row of a profile code, or null when it is not assigned. */

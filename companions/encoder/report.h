@@ -36,7 +36,7 @@ public:
     template <class... Args>
     void sayOf(int view, const ViewRule<Args...>& rule, std::type_identity_t<Args>... args)
     {
-        if (view == 0) {
+        if (view == 0 || !rule.viewFormat) {
             send(rule.severity, rule.format, args...);
         } else {
             send(rule.severity, rule.viewFormat, view, args...);

@@ -96,7 +96,7 @@ struct Rule : RuleInfo {
 /** A message about the base view, or about all views, and the same about another view. */
 struct ViewText {
     const char* base;
-    const char* other;
+    const char* other; ///< null: all views have the same value
 };
 
 /// A message about a setting that each view has for itself.
@@ -118,7 +118,8 @@ struct ViewRule : RuleInfo {
     consteval ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
         : RuleInfo{ruleId, kind, message.base, message.other, restsOn}
     {
-        if (!formatTakes<Args...>(message.base) || !formatTakes<int, Args...>(message.other)) {
+        if (!formatTakes<Args...>(message.base) ||
+            (message.other && !formatTakes<int, Args...>(message.other))) {
             throw "the conversions of the format do not match the argument types";
         }
     }
@@ -131,9 +132,10 @@ struct RuleGroup {
 };
 
 /** The rules of a table whose rows hold one each in `rule`. */
-template <class Row, std::size_t size>
-constexpr std::array<const RuleInfo*, size> rulesOf(const Row (&rows)[size])
+template <class Rows>
+constexpr auto rulesOf(const Rows& rows)
 {
+    constexpr std::size_t size = sizeof(Rows) / sizeof(rows[0]);
     std::array<const RuleInfo*, size> list{};
     for (std::size_t i = 0; i < size; ++i) {
         list[i] = &rows[i].rule;

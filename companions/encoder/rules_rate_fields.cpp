@@ -9,89 +9,49 @@ namespace kv::encoder
 namespace
 {
 
-// What is said of a field, by what the dialog calls it.
-#define KV_NEGATIVE(name) KV_EACH_VIEW(name " was %d; it cannot be negative and is now 0.")
-#define KV_VIEW_RANGE(name) KV_EACH_VIEW("The " name " was %d; it is now %d (%d to %d).")
+/// The rules of some kinds about fields that each view has for itself.
+template <class Row, FieldKind... kinds>
+consteval auto eachViewRules()
+{
+    return rulesOfFields<Row, viewFields, [](auto& row) {
+        return (... || (row.kind == kinds)) && row.shared == Sharing::RateControl;
+    }>();
+}
 
-constexpr NotNegative numbers[] = {
-    {&V::bitrate,
-     {"field.target-rate", corrected, KV_NEGATIVE("The target bitrate"), encoderRange}},
-    {&V::max_bitrate, {"field.max-rate", corrected, KV_NEGATIVE("The max bitrate"), encoderRange}},
-    {&V::bitrate_buffer,
-     {"field.buffer", corrected, KV_NEGATIVE("The bitrate buffer"), encoderRange}},
-    {&V::vbv_initial,
-     {"field.vbv-initial", corrected, KV_NEGATIVE("VBV buffer initial"), encoderRange}},
-    {&V::vbv_target,
-     {"field.vbv-target", corrected, KV_NEGATIVE("VBV buffer target"), encoderRange}},
-    {&V::frame_size_i,
-     {"field.size-i", corrected, KV_NEGATIVE("The maximum I-frame size"), encoderRange}},
-    {&V::frame_size_p,
-     {"field.size-p", corrected, KV_NEGATIVE("The maximum P-frame size"), encoderRange}},
-    {&V::frame_size_b,
-     {"field.size-b", corrected, KV_NEGATIVE("The maximum B-frame size"), encoderRange}},
-    {&V::frame_size_bref,
-     {"field.size-br", corrected, KV_NEGATIVE("The maximum Br-frame size"), encoderRange}},
+constexpr auto codes = eachViewRules<Code, FieldKind::Code>();
+constexpr auto switches = eachViewRules<Switch<V>, FieldKind::Switch>();
+constexpr auto numbers =
+    eachViewRules<NotNegative, FieldKind::Amount, FieldKind::Buffer, FieldKind::Fullness>();
+constexpr auto quantizers = eachViewRules<Range<V>, FieldKind::Quantizer>();
+
+/// A fullness in percent; in other units the buffer is its end.
+struct PercentMessage {
+    Field field;
+    FieldMessage message;
+
+    consteval explicit PercentMessage(const FieldRow<V>& row)
+        : field(row.field),
+          message(row.shared, {row.message.id.at, "-percent"},
+                  Text{row.name, " was %d %%; it is now 100 %%."}.at, "percent end at 100")
+    {
+    }
 };
+constexpr auto percentMessages = eachViewRules<PercentMessage, FieldKind::Fullness>();
 
-/** A fullness in percent; in other units the buffer is its end. */
 struct Percentage {
     Field field;
     ViewRule<int> rule;
-};
-constexpr Percentage percentages[] = {
-    {&V::vbv_initial,
-     {"field.vbv-initial-percent", corrected,
-      KV_EACH_VIEW("VBV buffer initial was %d %%; it is now 100 %%."), "percent end at 100"}},
-    {&V::vbv_target,
-     {"field.vbv-target-percent", corrected,
-      KV_EACH_VIEW("VBV buffer target was %d %%; it is now 100 %%."), "percent end at 100"}},
-};
 
-// The lower end falls by 6 a bit beyond 8 (quantizerLow below).
-constexpr const char* quantizerClause = "7.4.2.2: -6 * (bit depth - 8) to 51";
-constexpr Range<ViewRule<int, int, int, int>> quantizers[] = {
-    {&V::quant_i,
-     0,
-     51,
-     {"field.quantizer-i", corrected, KV_VIEW_RANGE("quantizer of I-frames"), quantizerClause}},
-    {&V::quant_p,
-     0,
-     51,
-     {"field.quantizer-p", corrected, KV_VIEW_RANGE("quantizer of P-frames"), quantizerClause}},
-    {&V::quant_b,
-     0,
-     51,
-     {"field.quantizer-b", corrected, KV_VIEW_RANGE("quantizer of B-frames"), quantizerClause}},
-    {&V::quant_max,
-     0,
-     51,
-     {"field.quantizer-max", corrected, KV_VIEW_RANGE("maximum quantizer"), quantizerClause}},
-    {&V::quant_min,
-     0,
-     51,
-     {"field.quantizer-min", corrected, KV_VIEW_RANGE("minimum quantizer"), quantizerClause}},
+    consteval explicit Percentage(const PercentMessage& row)
+        : field(row.field), rule(ruleOf<int>(row))
+    {
+    }
 };
+constexpr Percentage percentages[] = {Percentage(percentMessages[0]),
+                                      Percentage(percentMessages[1])};
+static_assert(std::size(percentages) == percentMessages.size());
 
-constexpr Switch<ViewRule<int>> viewSwitches[] = {
-    {&V::hrd_mode,
-     {"switch.hrd", corrected, KV_EACH_VIEW(KV_SWITCH("HRD conformance")), switchRange}},
-};
-
-constexpr Code<ViewRule<int>> viewCodes[] = {
-    {&V::bitrate_mode,
-     codes(0, 1, 2, 3),
-     KV_MVC_VARIABLE_BITRATE,
-     {"code.bitrate-mode", corrected,
-      KV_EACH_VIEW("The bitrate mode code %d is unknown; it is now Variable Bitrate."), codeRange}},
-    {&V::bitrate_units,
-     codes(0, 1, 2),
-     KV_MVC_UNITS_BYTES_PERCENT,
-     {"code.units", corrected,
-      KV_EACH_VIEW("The units code %d is unknown; the units are now bytes and percent."),
-      codeRange}},
-};
-
-int quantizerLow(const KvMvcViewSettings& view)
+int quantizerShift(const KvMvcViewSettings& view)
 {
     return view.bit_depth_luma > 8 ? -6 * (view.bit_depth_luma - 8) : 0;
 }
@@ -105,7 +65,7 @@ void correctPercentage(const Percentage& row, KvMvcViewSettings& view, const Spe
     }
 }
 
-constexpr auto rules = joinRules(rulesOf(viewCodes), rulesOf(viewSwitches), rulesOf(numbers),
+constexpr auto rules = joinRules(rulesOf(codes), rulesOf(switches), rulesOf(numbers),
                                  rulesOf(percentages), rulesOf(quantizers));
 
 } // namespace
@@ -115,10 +75,10 @@ void correctRateFields(KvMvcSettings& record, Report& report)
     int index = 0;
     for (KvMvcViewSettings& view : viewsInUse(record)) {
         const Speaker speaker{report, index};
-        for (const auto& row : viewCodes) {
+        for (const auto& row : codes) {
             correctCode(row, view, speaker);
         }
-        for (const auto& row : viewSwitches) {
+        for (const auto& row : switches) {
             correctSwitch(row, view, speaker);
         }
         for (const NotNegative& row : numbers) {
@@ -128,7 +88,7 @@ void correctRateFields(KvMvcSettings& record, Report& report)
             correctPercentage(row, view, speaker);
         }
         for (const auto& row : quantizers) {
-            correctRange(row, quantizerLow(view), row.high, view, speaker);
+            correctRange(row, row.low + quantizerShift(view), view, speaker);
         }
         ++index;
     }

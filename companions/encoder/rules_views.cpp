@@ -1,7 +1,9 @@
 // What several views have in common, and what a multiview profile allows.
 
+#include <algorithm>
 #include <cmath>
 
+#include "field_table.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -11,7 +13,6 @@ namespace
 {
 
 using V = KvMvcViewSettings;
-using Field = std::int32_t V::*;
 
 constexpr Rule<> alignedPicture = {
     "views.picture", Severity::Warning,
@@ -63,44 +64,31 @@ constexpr ViewRule<int, int, int> listSize = {
                  "views included."),
     "H.7.4.3: active references in a list, inter-view pictures included"};
 
-// clang-format off
-constexpr Field pictureFields[] = {
-    &V::interlace_mode, &V::width, &V::height, &V::field_order, &V::pulldown,
-    &V::pixel_aspect_x, &V::pixel_aspect_y, &V::display_aspect_x, &V::display_aspect_y,
-    &V::chroma_format, &V::bit_depth_luma, &V::bit_depth_chroma,
-};
-constexpr Field streamFields[] = {&V::video_type, &V::profile, &V::level};
-constexpr Field gopFields[] = {
-    &V::i_interval, &V::force_i, &V::idr_marker, &V::fixed_i_position, &V::scene_detection,
-    &V::ref_distance, &V::adaptive_b, &V::pyramid_b, &V::reference_b,
-};
-constexpr Field toolFields[] = {
-    &V::num_ref_frames, &V::motion_search, &V::min_partition, &V::subpixel_mode, &V::weighted_p,
-    &V::fast_reference, &V::fast_subblock, &V::fast_intra, &V::fast_inter, &V::simple_rd,
-    &V::hadamard, &V::brightness, &V::contrast, &V::complexity, &V::deblocking,
-    &V::entropy_mode, &V::num_slices, &V::num_threads,
-};
-// clang-format on
+using Fields = std::span<const FieldRow<V>* const>;
+
+template <Sharing shared>
+constexpr auto fieldsOf = selectFields<viewFields, [](const FieldRow<V>& row) {
+    return row.shared == shared && row.field;
+}>();
+
+// The frame rate of the picture is the one field that is no whole number; alignViews knows it.
+static_assert(std::ranges::count_if(viewFields, [](const auto& row) { return !row.field; }) == 1);
 
 /** @return Whether a field had to be copied. */
-bool copyFields(std::span<const Field> fields, const V& from, V& to)
+bool copyFields(Fields fields, const V& from, V& to)
 {
     bool changed = false;
-    for (const Field field : fields) {
-        changed = changed || to.*field != from.*field;
-        to.*field = from.*field;
+    for (const FieldRow<V>* row : fields) {
+        changed = changed || to.*row->field != from.*row->field;
+        to.*row->field = from.*row->field;
     }
     return changed;
 }
 
-bool sameFields(std::span<const Field> fields, const V& a, const V& b)
+bool sameFields(Fields fields, const V& a, const V& b)
 {
-    for (const Field field : fields) {
-        if (a.*field != b.*field) {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::all_of(
+        fields, [&](const FieldRow<V>* row) { return a.*row->field == b.*row->field; });
 }
 
 /** Pictures of other views that a list may name (H.7.4.2.1.4); the base view uses none. */
@@ -134,7 +122,7 @@ void alignViews(KvMvcSettings& record, Report& report)
     }
     const V& base = record.views[0];
     V& second = record.views[1];
-    bool picture = copyFields(pictureFields, base, second);
+    bool picture = copyFields(fieldsOf<Sharing::Picture>, base, second);
     const double rate = base.frame_rate;
     const double own = second.frame_rate;
     const bool neitherIsANumber = std::isnan(rate) && std::isnan(own);
@@ -145,10 +133,10 @@ void alignViews(KvMvcSettings& record, Report& report)
     if (picture) {
         report.say(alignedPicture);
     }
-    if (copyFields(streamFields, base, second)) {
+    if (copyFields(fieldsOf<Sharing::Stream>, base, second)) {
         report.say(alignedStream);
     }
-    if (copyFields(gopFields, base, second)) {
+    if (copyFields(fieldsOf<Sharing::Gop>, base, second)) {
         report.say(alignedGop);
     }
 }
@@ -161,7 +149,7 @@ void judgeViews(const Stream& stream, Report& report)
         }
         return;
     }
-    if (!sameFields(toolFields, stream.base, stream.record.views[1])) {
+    if (!sameFields(fieldsOf<Sharing::Tools>, stream.base, stream.record.views[1])) {
         report.say(otherTools);
     }
     if (stream.views > KV_MVC_RECORD_VIEWS) {
