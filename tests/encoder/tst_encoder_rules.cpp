@@ -305,7 +305,7 @@ void TestEncoderRules::documentIsTheRuleList()
     const QByteArray written = outputOf({});
     QVERIFY(!written.isEmpty());
     QVERIFY2(text == written, "docs/check-rules.md is not what kv_check_rules_doc writes: "
-                              "build the target check_rules_doc");
+                              "./dev docs mends it");
 }
 
 void TestEncoderRules::formatsAreListedOneALine()
