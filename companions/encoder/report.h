@@ -16,8 +16,8 @@ namespace kv::encoder
 {
 
 /**
- * Sends messages, format and arguments apart, to the sinks "err_printf", "wrn_printf" and
- * "inf_printf" of a lookup, and counts the errors. A missing lookup or sink swallows its messages.
+ * Sends messages, format and arguments apart, to a lookup's sinks for errors, warnings and notes,
+ * and counts the errors. A missing lookup or sink swallows its messages.
  */
 class Report
 {

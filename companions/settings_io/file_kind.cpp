@@ -3,6 +3,8 @@
 #include "field_value.h"
 #include "utf8.h"
 
+#include <kv_config_gui_mvc/companions.h>
+
 #include <algorithm>
 
 namespace kv
@@ -10,18 +12,8 @@ namespace kv
 namespace
 {
 
-struct Suffix {
-    std::string_view text;
-    FileKind kind;
-};
-
-constexpr Suffix kSuffixes[] = {
-    {"cfg", FileKind::Settings}, {"ini", FileKind::Settings}, {"m2p", FileKind::Media},
-    {"m2t", FileKind::Media},    {"m2v", FileKind::Media},    {"m4p", FileKind::Media},
-    {"mp2", FileKind::Media},    {"mp4", FileKind::Media},    {"mpeg", FileKind::Media},
-    {"mpg", FileKind::Media},    {"mpv", FileKind::Media},    {"mxf", FileKind::Media},
-    {"trp", FileKind::Media},    {"ts", FileKind::Media},     {"vob", FileKind::Media},
-    {"ifo", FileKind::Media}};
+constexpr std::string_view settingsSuffixes[] = {KV_MVC_SETTINGS_SUFFIXES};
+constexpr std::string_view mediaSuffixes[] = {KV_MVC_MEDIA_SUFFIXES};
 
 /// What no line of a text holds.
 bool isControl(char byte)
@@ -35,9 +27,10 @@ FileKind kindByName(std::string_view name)
 {
     const auto dot = name.rfind('.');
     const std::string_view end = dot == name.npos ? std::string_view() : name.substr(dot + 1);
-    const auto known = std::ranges::find_if(
-        kSuffixes, [&](const Suffix& suffix) { return equalIgnoringCase(suffix.text, end); });
-    return known == std::end(kSuffixes) ? FileKind::Unknown : known->kind;
+    const auto isEnd = [&](std::string_view suffix) { return equalIgnoringCase(suffix, end); };
+    return std::ranges::any_of(settingsSuffixes, isEnd) ? FileKind::Settings
+           : std::ranges::any_of(mediaSuffixes, isEnd)  ? FileKind::Media
+                                                        : FileKind::Unknown;
 }
 
 bool looksLikeSettings(std::string_view content)

@@ -1,20 +1,16 @@
 /**
  * @file companions.h
- * The functions of the companion libraries, as the settings dialog calls them.
+ * The companion libraries: their names, and their functions as the settings dialog calls them.
  *
- * Companion libraries are found by file name: base name plus ".so" on Linux
- * and ".dll" on Windows, without a "lib" prefix. Their functions have C
- * linkage and the platform's default calling convention, and are called on the
- * thread that runs the dialog. No exception may leave them.
+ * Companion libraries are found by file name: base name plus KV_MVC_LIBRARY_SUFFIX, without a "lib"
+ * prefix. Of two base names the first that can be loaded is used. Their functions have C linkage
+ * and the platform's default calling convention, and are called on the thread that runs the dialog.
+ * No exception may leave them.
  *
- * - Encoder library, "kv_mvcenc_b", else "kv_mvcenc"; required:
- *   mvcOutVideoDefaults, mvcOutVideoChkSettings.
- * - Settings file library, "kv_mvc_settings_io"; required:
- *   MVCConfigGetAPIExt.
- * - Stream information library, "kv_media_probe_x", else "kv_media_probe":
- *   mpegInInfoInit, mpegInGetInfo.
- * - Localization library, "mvc_gui_texts" beside the translation file:
- *   localizeSetLanguage, localizeConvertStr.
+ * - Encoder library, KV_MVC_ENCODER_LIBRARIES; required, with both functions.
+ * - Settings file library, KV_MVC_SETTINGS_IO_LIBRARY; required, with its function.
+ * - Stream information library, KV_MVC_PROBE_LIBRARIES.
+ * - Localization library, KV_MVC_LOCALIZE_LIBRARY, beside the translation file.
  */
 #ifndef KV_CONFIG_GUI_MVC_COMPANIONS_H
 #define KV_CONFIG_GUI_MVC_COMPANIONS_H
@@ -29,13 +25,25 @@
 #define KV_MVC_COMPANION_API __attribute__((visibility("default")))
 #endif
 
+/** What a library's file name has behind the base name. */
+#if defined(_WIN32)
+#define KV_MVC_LIBRARY_SUFFIX ".dll"
+#else
+#define KV_MVC_LIBRARY_SUFFIX ".so"
+#endif
+
 #ifdef __cplusplus
 extern "C" {
 #endif
 
 /* --- Encoder library ----------------------------------------------------- */
 
-/** "mvcOutVideoDefaults", "mvcOutVideoChkSettings". */
+/** The base names in the order in which they are tried, as an array's initializers. */
+#define KV_MVC_ENCODER_LIBRARIES "kv_mvcenc_b", KV_MVC_ENCODER_LIBRARY
+/** The one that messages to the user name. */
+#define KV_MVC_ENCODER_LIBRARY "kv_mvcenc"
+
+/** The functions: a KvMvcDefaults and a KvMvcCheck. */
 #define KV_MVC_ENCODER_DEFAULTS "mvcOutVideoDefaults"
 #define KV_MVC_ENCODER_CHECK "mvcOutVideoChkSettings"
 
@@ -58,10 +66,16 @@ typedef int (*KvMvcPrintf)(const char* format, ...);
 /** What a lookup yields, to be cast to the function's own type. */
 typedef void (*KvMvcFunction)(void);
 
+/** The names that a check's lookup knows: the C library's functions, and four KvMvcPrintf. */
+#define KV_MVC_MALLOC "malloc"
+#define KV_MVC_FREE "free"
+#define KV_MVC_ERROR_SINK "err_printf"
+#define KV_MVC_WARNING_SINK "wrn_printf"
+#define KV_MVC_NOTE_SINK "inf_printf"
+#define KV_MVC_PROGRESS_SINK "prg_printf"
+
 /**
- * The function lookup that the check receives. Known names: "malloc", "free",
- * "err_printf", "wrn_printf", "inf_printf" and "prg_printf" (progress). The
- * last four are KvMvcPrintf.
+ * The function lookup that the check receives. It knows KV_MVC_MALLOC, KV_MVC_FREE and the sinks.
  * @return The function, or null for any other name.
  */
 typedef KvMvcFunction (*KvMvcLookup)(const char* name);
@@ -81,7 +95,9 @@ typedef int32_t (*KvMvcCheck)(KvMvcLookup lookup, KvMvcSettings* settings, int32
 
 /* --- Settings file library ----------------------------------------------- */
 
-/** "MVCConfigGetAPIExt". */
+#define KV_MVC_SETTINGS_IO_LIBRARY "kv_mvc_settings_io"
+
+/** The function: a KvMvcSettingsIoGetApi. */
 #define KV_MVC_SETTINGS_IO_GET_API "MVCConfigGetAPIExt"
 
 /** Codes of MVCConfigGetAPIExt. */
@@ -110,15 +126,30 @@ typedef int32_t (*KvMvcReadSettings)(KvMvcSettings* settings, const char* path);
  */
 typedef int32_t (*KvMvcWriteSettings)(KvMvcSettings* settings, const char* path);
 
+/**
+ * Suffixes of the files that the dialog lets a user drop, without a dot and in lower case, though
+ * case does not count; as an array's initializers. The reader takes settings from either kind.
+ */
+#define KV_MVC_SETTINGS_SUFFIXES "cfg", "ini"
+#define KV_MVC_MEDIA_SUFFIXES                                                                      \
+    "m2p", "m2t", "m2v", "m4p", "mp2", "mp4", "mpeg", "mpg", "mpv", "mxf", "trp", "ts", "vob", "ifo"
+
 /* --- Stream information library ------------------------------------------ */
 
-/** "mpegInInfoInit", "mpegInGetInfo": resolved and kept, never called by the dialog. */
+/** The base names in the order in which they are tried, as an array's initializers. */
+#define KV_MVC_PROBE_LIBRARIES "kv_media_probe_x", KV_MVC_PROBE_LIBRARY
+/** The one that messages to the user name. */
+#define KV_MVC_PROBE_LIBRARY "kv_media_probe"
+
+/** The functions, as media_info.h has them; resolved and kept, never called by the dialog. */
 #define KV_MVC_PROBE_INIT "mpegInInfoInit"
 #define KV_MVC_PROBE_GET_INFO "mpegInGetInfo"
 
 /* --- Localization library ------------------------------------------------ */
 
-/** "localizeSetLanguage", "localizeConvertStr". */
+#define KV_MVC_LOCALIZE_LIBRARY "mvc_gui_texts"
+
+/** The functions: a KvMvcLocalizeSetLanguage and a KvMvcLocalizeConvert. */
 #define KV_MVC_LOCALIZE_SET_LANGUAGE "localizeSetLanguage"
 #define KV_MVC_LOCALIZE_CONVERT "localizeConvertStr"
 

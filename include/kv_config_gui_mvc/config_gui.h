@@ -99,6 +99,10 @@ typedef struct KvMvcHosting {
 KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags,
                                                   void* ext);
 
+/** The module's base name, as companions.h has those of its companions, and its function. */
+#define KV_MVC_GUI_LIBRARY "kv_config_gui_mvc"
+#define KV_MVC_GUI_SHOW_PAGES "showMVCEncoderPages"
+
 /** Type of showMVCEncoderPages(), for hosts that load the module at run time. */
 typedef int32_t (*KvShowMvcEncoderPages)(KvMvcSettings* settings, int32_t flags, void* ext);
 

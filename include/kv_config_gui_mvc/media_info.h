@@ -2,8 +2,8 @@
  * @file media_info.h
  * The stream information library: what a media file's video is like.
  *
- * The library is optional. Its file name is "kv_media_probe_x" or "kv_media_probe"; its two
- * functions are found by the names KV_MVC_PROBE_INIT and KV_MVC_PROBE_GET_INFO of companions.h.
+ * The library is optional. companions.h has its names, KV_MVC_PROBE_LIBRARIES, and those of its two
+ * functions, KV_MVC_PROBE_INIT and KV_MVC_PROBE_GET_INFO.
  */
 #ifndef KV_CONFIG_GUI_MVC_MEDIA_INFO_H
 #define KV_CONFIG_GUI_MVC_MEDIA_INFO_H

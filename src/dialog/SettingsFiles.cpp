@@ -3,7 +3,8 @@
 #include "Companions.h"
 
 #include <QFileInfo>
-#include <QStringList>
+
+#include <algorithm>
 
 namespace
 {
@@ -14,6 +15,8 @@ Function settingsIoFunction(KvMvcSettingsIoCode code)
     const auto getApi = companionFunctions().settingsIoGetApi;
     return getApi ? reinterpret_cast<Function>(getApi(code)) : nullptr;
 }
+
+constexpr const char* droppableSuffixes[] = {KV_MVC_SETTINGS_SUFFIXES, KV_MVC_MEDIA_SUFFIXES};
 
 } // namespace
 
@@ -39,14 +42,10 @@ void write(const KvMvcSettings& settings, const QString& path)
 
 bool isDroppable(const QString& path)
 {
-    static const QStringList suffixes = {
-        QStringLiteral("cfg"), QStringLiteral("ini"), QStringLiteral("m2p"),
-        QStringLiteral("m2t"), QStringLiteral("m2v"), QStringLiteral("m4p"),
-        QStringLiteral("mp2"), QStringLiteral("mp4"), QStringLiteral("mpeg"),
-        QStringLiteral("mpg"), QStringLiteral("mpv"), QStringLiteral("mxf"),
-        QStringLiteral("trp"), QStringLiteral("ts"),  QStringLiteral("vob"),
-        QStringLiteral("ifo")};
-    return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+    const QString suffix = QFileInfo(path).suffix();
+    return std::ranges::any_of(droppableSuffixes, [&](const char* droppable) {
+        return suffix.compare(QLatin1String(droppable), Qt::CaseInsensitive) == 0;
+    });
 }
 
 QString withSuffix(const QString& name)

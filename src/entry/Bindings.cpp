@@ -40,12 +40,14 @@ Slots& processSlots()
 }
 
 /// Loads the first library of the names; later names are not tried once one has loaded.
-bool loadFirst(std::unique_ptr<LibraryLoader>& loader, std::initializer_list<const wchar_t*> names)
+bool loadFirst(std::unique_ptr<LibraryLoader>& loader, std::initializer_list<const char*> names)
 {
     loader = std::make_unique<LibraryLoader>();
-    for (const wchar_t* name : names)
-        if (loader->load(name))
+    for (const char* name : names) {
+        if (loader->load(wideName(name))) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -77,7 +79,7 @@ bool loadSettingsIo()
 {
     releaseSettingsIo();
     auto& loader = processSlots().settingsIo;
-    if (!loadFirst(loader, {L"kv_mvc_settings_io"}))
+    if (!loadFirst(loader, {KV_MVC_SETTINGS_IO_LIBRARY}))
         return false;
     auto& function = companionFunctions().settingsIoGetApi;
     function = loader->resolve<KvMvcSettingsIoGetApi>(KV_MVC_SETTINGS_IO_GET_API);
@@ -91,7 +93,7 @@ bool loadEncoder()
 
     auto& encoder = processSlots().encoder;
     CompanionFunctions& functions = companionFunctions();
-    if (loadFirst(encoder, {L"kv_mvcenc_b", L"kv_mvcenc"})) {
+    if (loadFirst(encoder, {KV_MVC_ENCODER_LIBRARIES})) {
         functions.defaults = encoder->resolve<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
         functions.check = encoder->resolve<KvMvcCheck>(KV_MVC_ENCODER_CHECK);
     }
@@ -99,7 +101,7 @@ bool loadEncoder()
         return false;
 
     auto& probe = processSlots().probe;
-    if (loadFirst(probe, {L"kv_media_probe_x", L"kv_media_probe"})) {
+    if (loadFirst(probe, {KV_MVC_PROBE_LIBRARIES})) {
         processSlots().probeFunctions = {probe->resolve<KvMvcFunction>(KV_MVC_PROBE_INIT),
                                          probe->resolve<KvMvcFunction>(KV_MVC_PROBE_GET_INFO)};
     }
@@ -112,9 +114,10 @@ void loadLocalization(const QString& directory, std::int32_t language)
     if (loader)
         return;
     loader = std::make_unique<LibraryLoader>();
-    if (!loader->load(
-            QDir::toNativeSeparators(directory + QLatin1String("/mvc_gui_texts")).toStdWString()))
+    const QString file = directory + QLatin1String("/" KV_MVC_LOCALIZE_LIBRARY);
+    if (!loader->load(QDir::toNativeSeparators(file).toStdWString())) {
         return;
+    }
     CompanionFunctions& functions = companionFunctions();
     functions.localizeConvert = loader->resolve<KvMvcLocalizeConvert>(KV_MVC_LOCALIZE_CONVERT);
     processSlots().localizeSetLanguage =

@@ -1,5 +1,9 @@
 #include "LibraryLoader.h"
 
+#include <kv_config_gui_mvc/companions.h>
+
+#include <string_view>
+
 namespace
 {
 
@@ -8,13 +12,13 @@ constexpr std::size_t maximumErrorText = 2048;
 /// The system's code for a function that a library does not have.
 constexpr std::uint32_t functionNotFound = 127;
 
-#ifdef _WIN32
-constexpr const wchar_t* platformExtension = L"dll";
-#else
-constexpr const wchar_t* platformExtension = L"so";
-#endif
-
 } // namespace
+
+std::wstring wideName(const char* ascii)
+{
+    const std::string_view name(ascii);
+    return {name.begin(), name.end()};
+}
 
 void LibraryLoader::reset()
 {
@@ -29,7 +33,9 @@ bool LibraryLoader::load(const std::wstring& baseName, const wchar_t* extension)
 {
     unload();
     reset();
-    const std::wstring fileName = baseName + L'.' + (extension ? extension : platformExtension);
+    const std::wstring suffix =
+        extension ? L'.' + std::wstring(extension) : wideName(KV_MVC_LIBRARY_SUFFIX);
+    const std::wstring fileName = baseName + suffix;
     m_handle = openSystemLibrary(fileName);
     m_loaded = m_handle != nullptr;
     if (m_loaded)

@@ -4,6 +4,9 @@
 #include <string>
 #include <type_traits>
 
+/// A library's name, which is of ASCII letters, as the loader takes it.
+std::wstring wideName(const char* ascii);
+
 /// One companion library: loads it by name, resolves functions, and remembers the system's last
 /// error, which nothing shows but a debugger.
 class LibraryLoader

@@ -111,12 +111,9 @@ void HostDocumentsTest::suffixesAreTheSameEverywhere_data()
                             << QString::fromLatin1(place) << QString::fromLatin1(suffix)
                             << expected;
     };
-    const char* const library = "companions/settings_io/file_kind.cpp";
-    row("library, settings", library, "kSuffixes\\[\\].*?;", R"x("(\w+)", FileKind::Settings)x",
-        settings);
-    row("library, media", library, "kSuffixes\\[\\].*?;", R"x("(\w+)", FileKind::Media)x", media);
-    row("dialog, dropped files", "src/dialog/SettingsFiles.cpp", "QStringList suffixes.*?;",
-        R"x("(\w+)")x", settings + media);
+    const char* const header = "include/kv_config_gui_mvc/companions.h";
+    row("header, settings", header, "KV_MVC_SETTINGS_SUFFIXES [^\\n]*", R"x("(\w+)")x", settings);
+    row("header, media", header, "KV_MVC_MEDIA_SUFFIXES [^\"]*[^\\n]*", R"x("(\w+)")x", media);
     const char* const completion = "host/completion/kv-mvc-settings.bash";
     row("completion, settings", completion, "settings='[^']*'", "['|](\\w+)", settings);
     row("completion, media", completion, "media='[^']*'", "['|](\\w+)", media);
