@@ -11,6 +11,10 @@
  * - Settings file library, KV_MVC_SETTINGS_IO_LIBRARY; required, with its function.
  * - Stream information library, KV_MVC_PROBE_LIBRARIES.
  * - Localization library, KV_MVC_LOCALIZE_LIBRARY, beside the translation file.
+ *
+ * Programs and libraries that use companions themselves find the code for it in
+ * companion_library.h (opening one by the dialog's rules) and companion_check.h (an encoder's check
+ * and its messages).
  */
 #ifndef KV_CONFIG_GUI_MVC_COMPANIONS_H
 #define KV_CONFIG_GUI_MVC_COMPANIONS_H
