@@ -156,7 +156,7 @@ DialogCall dialogCall(const Invocation& call)
 /// @return KvMvcGuiResult.
 int32_t showDialog(const Library& module, const DialogCall& call, KvMvcSettings& settings)
 {
-    const auto show = module.function<KvShowMvcEncoderPages>("showMVCEncoderPages");
+    const auto show = module.function<KvShowMvcEncoderPages>(KV_MVC_GUI_SHOW_PAGES);
     int32_t flags = call.flags;
     KvMvcHosting hosting = {};
     hosting.parent = call.parent;
@@ -284,7 +284,7 @@ Outcome runEdit(const Invocation& call)
     KvMvcSettings after = before;
     int32_t result = 0;
     {
-        const Library module(call.directory, {QStringLiteral("kv_config_gui_mvc")});
+        const Library module(call.directory, {KV_MVC_GUI_LIBRARY});
         const FatalMessages noDisplay;
         result = showDialog(module, dialog, after);
     }

@@ -4,13 +4,17 @@
 
 #include <QString>
 
-#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/companion_check.h>
 
 #include <vector>
 
 /// A message of the encoder's check.
 struct CheckMessage {
-    enum Kind { Error, Warning, Note };
+    enum Kind {
+        Error = KV_MVC_MESSAGE_ERROR,
+        Warning = KV_MVC_MESSAGE_WARNING,
+        Note = KV_MVC_MESSAGE_NOTE
+    };
     Kind kind;
     QString text;
 };
@@ -33,7 +37,6 @@ public:
     /// @param preset KvMvcVideoType.
     [[nodiscard]] KvMvcSettings defaults(qint32 preset) const;
 
-    /// One check at a time in a process: the encoder's sinks carry no context.
     [[nodiscard]] CheckResult check(const KvMvcSettings& settings) const;
 
 private:

@@ -1,56 +1,68 @@
 #include "Library.h"
 
 #include "Failure.h"
-#include "FileState.h"
 
 #include <QDir>
+
+#include <string>
 
 namespace
 {
 
+QString fileOf(const KvMvcLibrary& library)
+{
+    return QDir::fromNativeSeparators(QString::fromUtf8(library.file));
+}
+
+QString reasonOf(const KvMvcLibrary& library)
+{
+    const QString words = QString::fromUtf8(library.reason);
 #ifdef Q_OS_WIN
-const QLatin1String suffix(".dll");
+    // The system's words do not name the file there.
+    return QStringLiteral("cannot load '%1': %2").arg(fileOf(library), words);
 #else
-const QLatin1String suffix(".so");
+    return words;
 #endif
+}
 
 } // namespace
 
-Library::Library(const QString& directory, const QStringList& baseNames)
+Library::Library(const QString& directory, std::vector<const char*> baseNames)
 {
-    QString reasonBeside;
-    for (const QString& baseName : baseNames) {
-        const QString fileName = baseName + suffix;
-        const QString beside = QDir(directory).filePath(fileName);
-        const bool isBeside = fileState(beside).kind != FileState::Missing;
-        m_file = isBeside ? beside : fileName;
-        QString reason;
-        m_handle = load(m_file, reason);
-        if (m_handle != nullptr) {
-            return;
-        }
-        // The loader's own words are worth more than ours only when there is something to load.
-        if (isBeside) {
-            reasonBeside = reason;
-        }
+    const QLatin1String lastName(baseNames.back());
+    baseNames.push_back(nullptr);
+    if (kvMvcOpenLibrary(&m_library, directory.toUtf8().constData(), baseNames.data(),
+                         KV_MVC_LIBRARY_WINDOWS_PATH)) {
+        return;
     }
-    throw Failure(!reasonBeside.isEmpty()
-                      ? reasonBeside
+    // The loader's own words are worth more than ours only when there is something to load.
+    throw Failure(m_library.isBeside
+                      ? reasonOf(m_library)
                       : QStringLiteral("cannot find the library %1, neither in '%2' "
                                        "nor where the system looks")
-                            .arg(baseNames.last() + suffix, directory));
+                            .arg(lastName + QLatin1String(KV_MVC_LIBRARY_SUFFIX), directory));
 }
 
-Library::~Library()
+KvMvcFunction Library::resolve(const char* name) const
 {
-    unload(m_handle);
-}
-
-Library::Address Library::resolve(const char* name) const
-{
-    const Address address = find(m_handle, name);
-    if (address == nullptr) {
-        throw Failure(QStringLiteral("%1 has no function %2").arg(m_file, QLatin1String(name)));
+    const KvMvcFunction function = kvMvcFindFunction(&m_library, name);
+    if (function == nullptr) {
+        throw Failure(
+            QStringLiteral("%1 has no function %2").arg(fileOf(m_library), QLatin1String(name)));
     }
-    return address;
+    return function;
+}
+
+void Library::ignoreCurrentFolder()
+{
+#ifdef Q_OS_WIN
+    // The folder given takes the current one's place in the search.
+    std::wstring folder(32 * 1024, L'\0');
+    folder.resize(GetModuleFileNameW(nullptr, folder.data(), static_cast<DWORD>(folder.size())));
+    folder.erase(folder.find_last_of(L'\\') + 1);
+    SetDllDirectoryW(folder.c_str());
+    // And a library that cannot be loaded is an error to print, not one to show in a box.
+    SetErrorMode(SEM_FAILCRITICALERRORS);
+#endif
+    // Elsewhere the loader never looks there on its own.
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <kv_config_gui_mvc/companion_library.h>
+
 #include <QString>
-#include <QStringList>
+
+#include <vector>
 
 /// A shared library found at run time, by its file name without "lib" and suffix; unloaded with
 /// the object.
@@ -13,8 +16,8 @@ public:
     /// Takes the first of the names that loads. What lies in the directory counts, even when it
     /// cannot be loaded; otherwise the system looks for the name by its own rules.
     /// @throws Failure with the loader's reason.
-    Library(const QString& directory, const QStringList& baseNames);
-    ~Library();
+    Library(const QString& directory, std::vector<const char*> baseNames);
+    ~Library() { kvMvcCloseLibrary(&m_library); }
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
 
@@ -30,18 +33,7 @@ public:
     static void ignoreCurrentFolder();
 
 private:
-    using Address = void (*)();
+    [[nodiscard]] KvMvcFunction resolve(const char* name) const;
 
-    [[nodiscard]] Address resolve(const char* name) const;
-
-    // The system's calls; each platform has a file of its own.
-
-    /// @param file A full path, or a name to look for.
-    /// @param reason Set in case of failure.
-    static void* load(const QString& file, QString& reason);
-    static Address find(void* handle, const char* name);
-    static void unload(void* handle);
-
-    QString m_file;
-    void* m_handle = nullptr;
+    KvMvcLibrary m_library;
 };

@@ -88,7 +88,7 @@ void callLibrary(const NamedFile& file, const QString& failed, const Call& call)
 } // namespace
 
 SettingsFiles::SettingsFiles(const QString& directory)
-    : m_library(directory, {QStringLiteral("kv_mvc_settings_io")}),
+    : m_library(directory, {KV_MVC_SETTINGS_IO_LIBRARY}),
       m_read(apiFunction<KvMvcReadSettings>(m_library, KV_MVC_SETTINGS_IO_READER)),
       m_write(apiFunction<KvMvcWriteSettings>(m_library, KV_MVC_SETTINGS_IO_WRITER))
 {

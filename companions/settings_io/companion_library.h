@@ -1,47 +1,48 @@
 // Libraries that are loaded for one call.
-#ifndef KV_COMPANION_LIBRARY_H
-#define KV_COMPANION_LIBRARY_H
+#pragma once
 
-#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/companion_library.h>
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 namespace kv
 {
 
-/** Released with the object. */
+/// Closed with the object.
 class CompanionLibrary
 {
 public:
-    /**
-     * Loads the first that can be loaded: each base name in the host program's directory, else in
-     * that of this library, else by the system loader's rules, the current directory left out. That
-     * is the dialog's order, too, so that both meet the same library.
-     */
-    explicit CompanionLibrary(std::initializer_list<const char*> names);
-    ~CompanionLibrary();
+    /// Opens the first that can be loaded, in the dialog's order, so that both meet the same one.
+    explicit CompanionLibrary(std::initializer_list<const char*> names)
+    {
+        std::vector<const char*> ended(names);
+        ended.push_back(nullptr);
+        kvMvcOpenLibrary(&m_library, nullptr, ended.data(), 0);
+    }
+    ~CompanionLibrary() { kvMvcCloseLibrary(&m_library); }
     CompanionLibrary(const CompanionLibrary&) = delete;
     CompanionLibrary& operator=(const CompanionLibrary&) = delete;
 
-    bool isLoaded() const { return m_handle != nullptr; }
-    /** The system's words on the last name that was tried. */
-    const std::string& reason() const { return m_reason; }
+    bool isLoaded() const { return m_library.handle != nullptr; }
 
-    /** @return Null when the library is not loaded or lacks the function. */
+    /// Why none is loaded, as a message's end, which has no full stop.
+    std::string reason() const
+    {
+        const std::string words = m_library.reason;
+        return words.substr(0, words.find_last_not_of('.') + 1);
+    }
+
+    /// @return Null when the library is not loaded or lacks the function.
     template <typename Function>
     Function find(const char* name) const
     {
-        return reinterpret_cast<Function>(resolve(name));
+        return reinterpret_cast<Function>(kvMvcFindFunction(&m_library, name));
     }
 
 private:
-    KvMvcFunction resolve(const char* name) const;
-
-    void* m_handle = nullptr;
-    std::string m_reason;
+    KvMvcLibrary m_library;
 };
 
 } // namespace kv
-
-#endif

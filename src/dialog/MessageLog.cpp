@@ -10,26 +10,20 @@
 #include <QTextDocument>
 #include <QTextFrame>
 
+#include <kv_config_gui_mvc/companion_check.h>
+
 #include <cstdarg>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <memory>
 
 namespace
 {
 
 QByteArray formatted(const char* format, va_list arguments)
 {
-    va_list measured;
-    va_copy(measured, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, measured);
-    va_end(measured);
-    if (length < 0)
-        return format;
-    QByteArray message(length + 1, Qt::Uninitialized);
-    std::vsnprintf(message.data(), size_t(message.size()), format, arguments);
-    message.chop(1);
-    return message;
+    const std::unique_ptr<char, void (*)(void*)> text(kvMvcFormatMessage(format, arguments),
+                                                      &std::free);
+    return text ? QByteArray(text.get()) : QByteArray(format);
 }
 
 void showBox(QMessageBox::Icon icon, const QString& message)
@@ -213,19 +207,6 @@ void MessageLog::pointOutError() const
 
 KvMvcFunction lookUpCheckFunction(const char* name)
 {
-    const struct {
-        const char* name;
-        KvMvcFunction function;
-    } rows[] = {
-        {"malloc", reinterpret_cast<KvMvcFunction>(&std::malloc)},
-        {"free", reinterpret_cast<KvMvcFunction>(&std::free)},
-        {"err_printf", reinterpret_cast<KvMvcFunction>(&printError)},
-        {"prg_printf", reinterpret_cast<KvMvcFunction>(&printProgress)},
-        {"wrn_printf", reinterpret_cast<KvMvcFunction>(&printWarning)},
-        {"inf_printf", reinterpret_cast<KvMvcFunction>(&printNote)},
-    };
-    for (const auto& row : rows)
-        if (name && std::strcmp(name, row.name) == 0)
-            return row.function;
-    return nullptr;
+    const KvMvcSinks sinks = {&printError, &printWarning, &printNote, &printProgress};
+    return kvMvcLookUpIn(&sinks, name);
 }

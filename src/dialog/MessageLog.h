@@ -35,6 +35,6 @@ struct MessageLog {
 
 MessageLog& messageLog();
 
-/// The function lookup for the check: "malloc", "free", and the sinks "err_printf", "wrn_printf",
-/// "inf_printf" and "prg_printf" (which does nothing). Null for any other name.
+/// The lookup for the check; its sinks print to the log, but for that of progress, which does
+/// nothing.
 KvMvcFunction lookUpCheckFunction(const char* name);

@@ -2,48 +2,23 @@
 #ifndef KV_TEST_ENCODER_LIBRARY_H
 #define KV_TEST_ENCODER_LIBRARY_H
 
-#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/companion_check.h>
 
 #include <QByteArray>
 #include <QLibrary>
 #include <QString>
 
-#include <cstdarg>
-#include <cstdlib>
-
 namespace kvtest
 {
 
-/** What the check complains of; empty for settings that it takes as they are. */
-inline QByteArray complaints;
-
-template <char kind>
-int complain(const char* format, ...)
+/// Appends errors and warnings to a QByteArray.
+inline int complain(void* complaints, int32_t kind, const char* text)
 {
-    std::va_list arguments;
-    va_start(arguments, format);
-    complaints += kind + QByteArray(": ") + QString::vasprintf(format, arguments).toUtf8() + '\n';
-    va_end(arguments);
-    return 0;
-}
-
-inline int sayNothing(const char*, ...)
-{
-    return 0;
-}
-
-inline KvMvcFunction findForEncoder(const char* name)
-{
-    const QByteArray wanted(name);
-    if (wanted == "malloc")
-        return reinterpret_cast<KvMvcFunction>(&std::malloc);
-    if (wanted == "free")
-        return reinterpret_cast<KvMvcFunction>(&std::free);
-    if (wanted == "err_printf")
-        return reinterpret_cast<KvMvcFunction>(&complain<'E'>);
-    if (wanted == "wrn_printf")
-        return reinterpret_cast<KvMvcFunction>(&complain<'W'>);
-    return wanted.endsWith("_printf") ? reinterpret_cast<KvMvcFunction>(&sayNothing) : nullptr;
+    if (kind != KV_MVC_MESSAGE_NOTE) {
+        const QByteArray mark = kind == KV_MVC_MESSAGE_ERROR ? "E: " : "W: ";
+        *static_cast<QByteArray*>(complaints) += mark + text + '\n';
+    }
+    return 1;
 }
 
 class EncoderLibrary
@@ -69,8 +44,9 @@ public:
     /** Errors as "E: ...", warnings as "W: ...", one a line; empty for settings that are taken. */
     QByteArray complaintsOf(KvMvcSettings settings) const
     {
-        complaints.clear();
-        const bool accepted = m_check && m_check(findForEncoder, &settings, 3, 0) == 0;
+        QByteArray complaints;
+        KvMvcListener listener = {&complain, &complaints, nullptr, 0};
+        const bool accepted = m_check && kvMvcRunCheck(m_check, &settings, &listener) == 0;
         return accepted ? complaints : complaints + "refused";
     }
 
