@@ -11,15 +11,11 @@
  * The module and its companion libraries lie beside the program, or where Windows looks for DLLs.
  * PRESET is a KvMvcVideoType; without one it is KV_MVC_STEREO_HIGH.
  */
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-
-#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/companion_library.h>
 #include <kv_config_gui_mvc/config_gui.h>
 
 #include <stdio.h>
 #include <stdlib.h>
-#include <string.h>
 
 enum { MENU_SETTINGS = 100, MENU_EXIT, CONTROL_NAME, CONTROL_RESULT };
 
@@ -36,52 +32,49 @@ static void complain(HWND window, const wchar_t* what)
     MessageBoxW(window, what, L"Encoder", MB_OK | MB_ICONERROR);
 }
 
-/** Says what went wrong, with the system's own words for `error`, its last error code then. */
-static void complain_of(HWND window, const wchar_t* what, DWORD error)
+/** Says that a library cannot be used, and why. @param reason UTF-8, like the library's name. */
+static void complain_of(const KvMvcLibrary* library, const char* reason)
 {
-    wchar_t reason[512] = L"";
-    wchar_t text[1024];
-    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, NULL, error, 0,
-                   reason, ARRAYSIZE(reason), NULL);
-    _snwprintf(text, ARRAYSIZE(text) - 1, L"%ls\n\n%ls", what, reason);
-    text[ARRAYSIZE(text) - 1] = L'\0';
-    complain(window, text);
+    char words[2 * KV_MVC_LIBRARY_TEXT + 64];
+    wchar_t text[ARRAYSIZE(words)] = L"";
+    snprintf(words, sizeof words, "The library %s could not be used.\n\n%s", library->file, reason);
+    MultiByteToWideChar(CP_UTF8, 0, words, -1, text, ARRAYSIZE(text));
+    complain(NULL, text);
 }
 
-/**
- * A function of a library, copied to `function`, a pointer to a function pointer.
- * @return The library, which is the caller's to free; null after a message that says why.
- */
-static HMODULE load_function(const wchar_t* file, const char* name, void* function)
+/** Opens a library and finds its function. @return Null after a message that says why. */
+static KvMvcFunction load_function(KvMvcLibrary* library, const char* const* names,
+                                   const char* function_name)
 {
-    const HMODULE library = LoadLibraryW(file);
-    const FARPROC address = library ? GetProcAddress(library, name) : NULL;
-    if (!address) {
-        const DWORD error = GetLastError();
-        wchar_t what[128];
-        _snwprintf(what, ARRAYSIZE(what) - 1, L"The library %ls could not be used.", file);
-        what[ARRAYSIZE(what) - 1] = L'\0';
-        complain_of(NULL, what, error);
-        if (library)
-            FreeLibrary(library);
+    KvMvcFunction function = NULL;
+    if (!kvMvcOpenLibrary(library, NULL, names, KV_MVC_LIBRARY_WINDOWS_PATH)) {
+        complain_of(library, library->reason);
         return NULL;
     }
-    memcpy(function, &address, sizeof address);
-    return library;
+    function = kvMvcFindFunction(library, function_name);
+    if (!function) {
+        complain_of(library, "It lacks a function that it should have.");
+        kvMvcCloseLibrary(library);
+    }
+    return function;
 }
 
 /** Fills the record with the encoder's defaults of a preset. @return Whether that worked. */
 static BOOL fill_with_defaults(int32_t preset, KvMvcSettings* settings)
 {
-    KvMvcDefaults defaults = NULL;
+    static const char* const names[] = {KV_MVC_ENCODER_LIBRARIES, NULL};
+    KvMvcLibrary encoder;
     BOOL filled;
-    const HMODULE encoder = load_function(L"kv_mvcenc.dll", KV_MVC_ENCODER_DEFAULTS, &defaults);
-    if (!encoder)
+    const KvMvcDefaults defaults =
+        (KvMvcDefaults)load_function(&encoder, names, KV_MVC_ENCODER_DEFAULTS);
+    if (!defaults) {
         return FALSE;
+    }
     filled = defaults(settings, 0, preset, 0) == 0;
-    FreeLibrary(encoder);
-    if (!filled)
+    kvMvcCloseLibrary(&encoder);
+    if (!filled) {
         complain(NULL, L"The encoder has no defaults for this preset.");
+    }
     return filled;
 }
 
@@ -184,10 +177,11 @@ static HWND create_window(Host* host)
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, int show)
 {
+    static const char* const names[] = {KV_MVC_GUI_LIBRARY, NULL};
     static Host host;
+    KvMvcLibrary module;
     MSG message;
     HWND window;
-    HMODULE module;
     (void)instance;
     (void)previous;
     (void)command_line;
@@ -197,13 +191,14 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, i
     if (!fill_with_defaults(__argc > 1 ? (int32_t)atoi(__argv[1]) : KV_MVC_STEREO_HIGH,
                             &host.settings))
         return 2;
-    module = load_function(L"kv_config_gui_mvc.dll", "showMVCEncoderPages", &host.show_pages);
-    if (!module)
+    host.show_pages = (KvShowMvcEncoderPages)load_function(&module, names, KV_MVC_GUI_SHOW_PAGES);
+    if (!host.show_pages) {
         return 2;
+    }
 
     window = create_window(&host);
     if (!window) {
-        complain_of(NULL, L"The window could not be made.", GetLastError());
+        complain(NULL, L"The window could not be made.");
         return 2;
     }
     show_result(window, &host.settings, L"Settings");
@@ -214,6 +209,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, i
             DispatchMessageW(&message);
         }
     }
-    FreeLibrary(module);
+    kvMvcCloseLibrary(&module);
     return 0;
 }

@@ -11,12 +11,9 @@
  * FOLDER holds the module and its companion libraries. PRESET is a KvMvcVideoType; without one it
  * is KV_MVC_STEREO_HIGH. What comes of each dialog is printed as well as shown.
  */
-#define _POSIX_C_SOURCE 200809L
-
-#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/companion_library.h>
 #include <kv_config_gui_mvc/config_gui.h>
 
-#include <dlfcn.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -39,49 +36,44 @@ typedef struct Host {
 
 /* --- The module ----------------------------------------------------------- */
 
-/** A library of the folder. @return Null, after a line that says why. */
-static void* open_library(const char* folder, const char* name)
+/** Opens the first of the names, else prints why not. @return Whether one is open. */
+static int open_library(KvMvcLibrary* library, const char* folder, const char* const* names)
 {
-    char path[4096];
-    void* library;
-    const int length = snprintf(path, sizeof path, "%s/%s.so", folder, name);
-    if (length < 0 || (size_t)length >= sizeof path) {
-        fprintf(stderr, "xcb-host: the path of %s is too long\n", name);
-        return NULL;
+    if (kvMvcOpenLibrary(library, folder, names, 0)) {
+        return 1;
     }
-    library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
-    if (library == NULL)
-        fprintf(stderr, "xcb-host: %s\n", dlerror());
-    return library;
+    fprintf(stderr, "xcb-host: cannot open a library of %s: %s\n", folder, library->reason);
+    return 0;
 }
 
-/** A function of the library, copied to `function`, a pointer to a function pointer. */
-static int find_function(void* library, const char* name, void* function)
+/** A function of the library. @return Null, after a line that says why. */
+static KvMvcFunction find_function(const KvMvcLibrary* library, const char* name)
 {
-    /* ISO C has no conversion from object to function pointers; POSIX makes their bytes alike. */
-    void* address = dlsym(library, name);
-    if (address == NULL) {
-        fprintf(stderr, "xcb-host: %s\n", dlerror());
-        return 0;
+    const KvMvcFunction function = kvMvcFindFunction(library, name);
+    if (function == NULL) {
+        fprintf(stderr, "xcb-host: %s has no function %s\n", library->file, name);
     }
-    memcpy(function, &address, sizeof address);
-    return 1;
+    return function;
 }
 
 /** Fills the record with the encoder's defaults of a preset. @return Whether that worked. */
 static int fill_with_defaults(const char* folder, int32_t preset, KvMvcSettings* settings)
 {
-    KvMvcDefaults defaults = NULL;
+    static const char* const names[] = {KV_MVC_ENCODER_LIBRARIES, NULL};
+    KvMvcLibrary encoder;
+    KvMvcDefaults defaults;
     int filled = 0;
-    void* encoder = open_library(folder, "kv_mvcenc");
-    if (encoder == NULL)
+    if (!open_library(&encoder, folder, names)) {
         return 0;
-    if (find_function(encoder, KV_MVC_ENCODER_DEFAULTS, &defaults)) {
-        filled = defaults(settings, 0, preset, 0) == 0;
-        if (!filled)
-            fprintf(stderr, "xcb-host: the encoder has no defaults for preset %d\n", (int)preset);
     }
-    dlclose(encoder);
+    defaults = (KvMvcDefaults)find_function(&encoder, KV_MVC_ENCODER_DEFAULTS);
+    if (defaults != NULL) {
+        filled = defaults(settings, 0, preset, 0) == 0;
+        if (!filled) {
+            fprintf(stderr, "xcb-host: the encoder has no defaults for preset %d\n", (int)preset);
+        }
+    }
+    kvMvcCloseLibrary(&encoder);
     return filled;
 }
 
@@ -261,8 +253,9 @@ static int run(Host* host)
 
 int main(int argc, char** argv)
 {
+    static const char* const names[] = {KV_MVC_GUI_LIBRARY, NULL};
     static Host host;
-    void* module;
+    KvMvcLibrary module;
     int status = 2;
 
     if (argc < 2 || argc > 3) {
@@ -270,13 +263,14 @@ int main(int argc, char** argv)
         return 2;
     }
     if (!fill_with_defaults(argv[1], argc > 2 ? (int32_t)atoi(argv[2]) : KV_MVC_STEREO_HIGH,
-                            &host.settings))
+                            &host.settings) ||
+        !open_library(&module, argv[1], names)) {
         return 2;
-    module = open_library(argv[1], "kv_config_gui_mvc");
-    if (module == NULL)
-        return 2;
-    if (find_function(module, "showMVCEncoderPages", &host.show_pages))
+    }
+    host.show_pages = (KvShowMvcEncoderPages)find_function(&module, KV_MVC_GUI_SHOW_PAGES);
+    if (host.show_pages != NULL) {
         status = run(&host);
-    dlclose(module);
+    }
+    kvMvcCloseLibrary(&module);
     return status;
 }
