@@ -15,8 +15,9 @@ void mustComeBack(const KvMvcSettings& settings)
     KvMvcSettings back;
     std::memset(static_cast<void*>(&back), 0x5A, sizeof back);
     if (!kv::parseSettings(kv::formatSettings(settings), back).empty() ||
-        std::memcmp(&settings, &back, sizeof back) != 0)
+        std::memcmp(&settings, &back, sizeof back) != 0) {
         std::abort();
+    }
 }
 
 } // namespace
@@ -25,8 +26,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
 {
     KvMvcSettings settings{};
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    if (kv::parseSettings(text, settings).empty())
+    if (kv::parseSettings(text, settings).empty()) {
         mustComeBack(settings);
+    }
     KvMvcSettings record{};
     std::copy_n(data, std::min(size, sizeof record), reinterpret_cast<uint8_t*>(&record));
     mustComeBack(record);

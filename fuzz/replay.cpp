@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size);
 namespace
 {
 
-constexpr std::size_t kMostBeginnings = 500;
-constexpr int kChangedCopies = 500;
-constexpr int kMostChanges = 8;
+constexpr std::size_t mostBeginnings = 500;
+constexpr int changedCopies = 500;
+constexpr int mostChanges = 8;
 
 using Input = std::vector<uint8_t>;
 
@@ -31,12 +31,14 @@ void run(const Input& input, std::size_t size)
 void replay(const Input& input, std::mt19937& random)
 {
     run(input, input.size());
-    for (std::size_t size = 0; size < std::min(input.size(), kMostBeginnings); ++size)
+    for (std::size_t size = 0; size < std::min(input.size(), mostBeginnings); ++size) {
         run(input, size);
-    for (int copy = 0; copy < kChangedCopies && !input.empty(); ++copy) {
+    }
+    for (int copy = 0; copy < changedCopies && !input.empty(); ++copy) {
         Input changed = input;
-        for (int change = 0; change <= copy % kMostChanges; ++change)
+        for (int change = 0; change <= copy % mostChanges; ++change) {
             changed[random() % changed.size()] = static_cast<uint8_t>(random());
+        }
         run(changed, changed.size());
     }
 }

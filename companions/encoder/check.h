@@ -1,6 +1,5 @@
-/** @file check.h The whole check, and the defaults. */
-#ifndef KV_ENCODER_CHECK_H
-#define KV_ENCODER_CHECK_H
+// The whole check, and the defaults.
+#pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
 
@@ -9,16 +8,12 @@
 namespace kv::encoder
 {
 
-/**
- * Corrects the record where that is safe, then judges it. Writes listed fields of the views in use
- * and the two counts of the record; never a reserved byte.
- * @return Whether the settings are acceptable.
- */
+/// Corrects the record where that is safe, then judges it. Writes listed fields of the views in use
+/// and the two counts of the record; never a reserved byte.
+/// @return Whether the settings are acceptable.
 bool checkSettings(KvMvcSettings& record, Report& report);
 
-/** Overwrites the whole record with a preset's defaults; unknown numbers are 0. */
+/// Overwrites the whole record with a preset's defaults; unknown numbers are 0.
 void setDefaults(KvMvcSettings& record, int preset);
 
 } // namespace kv::encoder
-
-#endif

@@ -10,7 +10,7 @@ namespace kv::encoder
 namespace
 {
 
-/** A number of thousandths, millionths, ...; zeros at the end are left out down to two decimals. */
+/// A number of thousandths, millionths, ...; zeros at the end are left out down to two decimals.
 Decimal decimal(std::int64_t units, int digits)
 {
     std::int64_t one = 1;
@@ -25,7 +25,7 @@ Decimal decimal(std::int64_t units, int digits)
     return {static_cast<int>(whole), digits, static_cast<int>(fraction)};
 }
 
-/** Beyond what a message can print, the highest number that it can. */
+/// Beyond what a message can print, the highest number that it can.
 Decimal rounded(double number, int digits)
 {
     const double highest = std::numeric_limits<int>::max();

@@ -1,34 +1,28 @@
-/**
- * @file decimal.h
- * Numbers with decimals as messages print them.
- *
- * Where the decimal sign stands in a format, a translation can replace it, and the locale of the
- * process has no say. So such a number is printed by "%d.%0*d".
- */
-#ifndef KV_ENCODER_DECIMAL_H
-#define KV_ENCODER_DECIMAL_H
+// Numbers with decimals as messages print them.
+//
+// Where the decimal sign stands in a format, a translation can replace it, and the locale of the
+// process has no say. So such a number is printed by "%d.%0*d".
+#pragma once
 
 #include <cstdint>
 
 namespace kv::encoder
 {
 
-/** The three arguments of "%d.%0*d", in this order. */
+/// The three arguments of "%d.%0*d", in this order.
 struct Decimal {
     int whole;
     int digits; ///< decimals that are printed
     int fraction;
 };
 
-/** Bits, or bits per second, as millions of them: exact, with two decimals or more. */
+/// Bits, or bits per second, as millions of them: exact, with two decimals or more.
 Decimal millions(std::int64_t number);
 
-/** Frames per second with two decimals, or with three where they differ: 59.94, 23.976. */
+/// Frames per second with two decimals, or with three where they differ: 59.94, 23.976.
 Decimal frameRateText(double rate);
 
-/** Seconds, likewise: 0.50, 0.003. */
+/// Seconds, likewise: 0.50, 0.003.
 Decimal seconds(double time);
 
 } // namespace kv::encoder
-
-#endif

@@ -8,7 +8,7 @@ namespace kv::encoder
 namespace
 {
 
-/** What the presets differ in. */
+/// What the presets differ in.
 struct Preset {
     int number;
     int views;

@@ -1,6 +1,5 @@
-/** @file field_rows.h The kinds of rows that hold a field's range, and their correction. */
-#ifndef KV_ENCODER_FIELD_ROWS_H
-#define KV_ENCODER_FIELD_ROWS_H
+// The kinds of rows that hold a field's range, and their correction.
+#pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
 
@@ -30,7 +29,7 @@ consteval ViewRule<Args...> ruleOf(const Row& row)
 
 // The kinds of rows.
 
-/** A whole number: old value, new value, range. */
+/// A whole number: old value, new value, range.
 template <class Owner>
 struct Range {
     std::int32_t Owner::*field;
@@ -49,7 +48,7 @@ struct Range {
     }
 };
 
-/** A number of which only the lower end means anything: below 0 it is 0. */
+/// A number of which only the lower end means anything: below 0 it is 0.
 struct NotNegative {
     Field field;
     ViewRule<int> rule;
@@ -60,7 +59,7 @@ struct NotNegative {
     }
 };
 
-/** A switch: any value but 0 is on. */
+/// A switch: any value but 0 is on.
 template <class Owner>
 struct Switch {
     std::int32_t Owner::*field;
@@ -71,7 +70,7 @@ struct Switch {
     }
 };
 
-/** An enumerated field: codes that its list does not have become the fallback. */
+/// An enumerated field: codes that its list does not have become the fallback.
 struct Code {
     Field field;
     std::span<const ListValue> values;
@@ -87,7 +86,7 @@ struct Code {
     }
 };
 
-/** Bits of a sample: 8 or 10. */
+/// Bits of a sample: 8 or 10.
 struct Depth {
     Field field;
     ViewRule<int, int> rule;
@@ -103,7 +102,7 @@ inline int offsetValue(int value, int offset)
                                                    std::numeric_limits<std::int32_t>::min()));
 }
 
-/** Speaks of one view of the record. */
+/// Speaks of one view of the record.
 struct Speaker {
     Report& report;
     int view;
@@ -174,10 +173,8 @@ inline std::span<KvMvcViewSettings> viewsInUse(KvMvcSettings& record)
     return {record.views, static_cast<std::size_t>(countSubRecords(record))};
 }
 
-/**
- * Corrects a field of all views in use. The dialog writes such a setting into all of them: one
- * message is enough for those that had the base view's value.
- */
+/// Corrects a field of all views in use. The dialog writes such a setting into all of them: one
+/// message is enough for those that had the base view's value.
 template <class Correct>
 void correctAllViews(KvMvcSettings& record, Field field, Report& report, Correct correct)
 {
@@ -192,5 +189,3 @@ void correctAllViews(KvMvcSettings& record, Field field, Report& report, Correct
 }
 
 } // namespace kv::encoder
-
-#endif

@@ -1,8 +1,5 @@
-/**
- * @file field_table.h
- * The public field table as the check needs it: the message about each field that is corrected by
- * itself, and which fields the views share.
- */
+// The public field table as the check needs it: the message about each field that is corrected by
+// itself, and which fields the views share.
 #pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
@@ -31,7 +28,7 @@ enum class Sharing {
 #include <kv_config_gui_mvc/settings_fields.def>
 };
 
-/** A text put together by the compiler. */
+/// A text put together by the compiler.
 struct Text {
     char at[128] = {};
 
@@ -47,7 +44,7 @@ struct Text {
     }
 };
 
-/** A rule about one field: its name, and what it says. */
+/// A rule about one field: its name, and what it says.
 struct FieldMessage {
     Text id;
     Text base;  ///< of the base view, or of all views
@@ -67,7 +64,7 @@ struct FieldMessage {
     constexpr ViewText texts() const { return {base.at, *other.at ? other.at : nullptr}; }
 };
 
-/** The columns of the table. */
+/// The columns of the table.
 struct FieldFacts {
     FieldKind kind;
     List list;
@@ -83,7 +80,7 @@ struct FieldFacts {
     const char* basis;
 };
 
-/** What stands for a code that its list does not have, and how the message tells. */
+/// What stands for a code that its list does not have, and how the message tells.
 struct Fallback {
     List list;
     int code;
@@ -115,7 +112,7 @@ consteval Text idOf(const FieldFacts& facts)
     return {code ? "code." : facts.kind == FieldKind::Switch ? "switch." : "field.", facts.rule};
 }
 
-/** What is said of a field that had to be corrected. */
+/// What is said of a field that had to be corrected.
 consteval Text sentenceOf(const FieldFacts& facts)
 {
     if (facts.rule.empty()) {
@@ -171,7 +168,7 @@ consteval const char* basisOf(const FieldFacts& facts)
     }
 }
 
-/** A field of the record or of a view, and its rule. */
+/// A field of the record or of a view, and its rule.
 template <class Owner>
 struct FieldRow : FieldFacts {
     std::int32_t Owner::*field; ///< null: a double
@@ -207,7 +204,7 @@ inline constexpr FieldRow<KvMvcViewSettings> viewFields[] = {
 };
 #undef KV_FIELD
 
-/** Pointers to those rows of a table that `wanted` takes. */
+/// Pointers to those rows of a table that `wanted` takes.
 template <const auto& table, auto wanted>
 consteval auto selectFields()
 {
@@ -221,15 +218,14 @@ consteval auto selectFields()
     return selected;
 }
 
-/** The rows with a rule that `wanted` takes, each as a Row, in the order of their messages. */
+/// The rows with a rule that `wanted` takes, each as a Row, in the order of their messages.
 template <class Row, const auto& table, auto wanted>
 consteval auto rulesOfFields()
 {
     auto selected =
         selectFields<table, [](const auto& row) { return row.hasRule() && wanted(row); }>();
     std::ranges::sort(selected, {}, [](const auto* row) { return row->said; });
-    const auto make = [&]<std::size_t... at>(std::index_sequence<at...>) consteval
-    {
+    const auto make = [&]<std::size_t... at>(std::index_sequence<at...>) consteval {
         return std::array{Row(*selected[at])...};
     };
     return make(std::make_index_sequence<std::tuple_size_v<decltype(selected)>>());

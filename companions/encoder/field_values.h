@@ -1,4 +1,4 @@
-/** @file field_values.h The lists of values in the public field table. */
+// The lists of values in the public field table.
 #pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
@@ -9,7 +9,7 @@
 namespace kv::encoder
 {
 
-/** Names the lists; `Plain` is none. */
+/// Names the lists; `Plain` is none.
 enum class List {
     Plain,
 #define KV_MVC_LIST(list) list,
@@ -31,7 +31,7 @@ inline constexpr std::span<const ListValue> valuesOfPlain;
 #include <kv_config_gui_mvc/settings_fields.def>
 // clang-format on
 
-/** @return The row of a code, or null. */
+/// @return The row of a code, or null.
 constexpr const ListValue* findValue(std::span<const ListValue> values, int code)
 {
     for (const ListValue& value : values) {

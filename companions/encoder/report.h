@@ -1,9 +1,5 @@
-/**
- * @file report.h
- * The road of a message to the caller's sinks.
- */
-#ifndef KV_ENCODER_REPORT_H
-#define KV_ENCODER_REPORT_H
+// The road of a message to the caller's sinks.
+#pragma once
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -15,14 +11,12 @@
 namespace kv::encoder
 {
 
-/**
- * Sends messages, format and arguments apart, to a lookup's sinks for errors, warnings and notes,
- * and counts the errors. A missing lookup or sink swallows its messages.
- */
+/// Sends messages, format and arguments apart, to a lookup's sinks for errors, warnings and notes,
+/// and counts the errors. A missing lookup or sink swallows its messages.
 class Report
 {
 public:
-    /** A silent report: it only counts. */
+    /// A silent report: it only counts.
     Report() = default;
     explicit Report(KvMvcLookup lookup);
 
@@ -32,7 +26,7 @@ public:
         send(rule.severity, rule.format, args...);
     }
 
-    /** Says it of a view of the record: 0 for the base view, or for all views. */
+    /// Says it of a view of the record: 0 for the base view, or for all views.
     template <class... Args>
     void sayOf(int view, const ViewRule<Args...>& rule, std::type_identity_t<Args>... args)
     {
@@ -73,5 +67,3 @@ private:
 };
 
 } // namespace kv::encoder
-
-#endif

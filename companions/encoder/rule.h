@@ -1,9 +1,5 @@
-/**
- * @file rule.h
- * What a rule of the check is: a name, a kind, a message format and what it rests on.
- */
-#ifndef KV_ENCODER_RULE_H
-#define KV_ENCODER_RULE_H
+// What a rule of the check is: a name, a kind, a message format and what it rests on.
+#pragma once
 
 #include <array>
 #include <cstddef>
@@ -33,7 +29,7 @@ struct RuleInfo {
     const char* basis; ///< clause of H.264 (08/2021), or who else sets the limit
 };
 
-/** The conversions that an argument of a message needs; a "*" is a "d" of its own. */
+/// The conversions that an argument of a message needs; a "*" is a "d" of its own.
 template <class Arg>
 constexpr std::string_view conversionsOf()
 {
@@ -45,7 +41,7 @@ constexpr std::string_view conversionsOf()
                                           : "s";
 }
 
-/** Whether the conversions of a printf format take exactly the argument types, in this order. */
+/// Whether the conversions of a printf format take exactly the argument types, in this order.
 template <class... Args>
 constexpr bool formatTakes(std::string_view format)
 {
@@ -81,7 +77,7 @@ constexpr bool formatTakes(std::string_view format)
     return taken == count;
 }
 
-/** A rule with the argument types of its message: int, double, const char* or Decimal. */
+/// A rule with the argument types of its message: int, double, const char* or Decimal.
 template <class... Args>
 struct Rule : RuleInfo {
     consteval Rule(const char* ruleId, Severity kind, const char* message, const char* restsOn)
@@ -93,7 +89,7 @@ struct Rule : RuleInfo {
     }
 };
 
-/** A message about the base view, or about all views, and the same about another view. */
+/// A message about the base view, or about all views, and the same about another view.
 struct ViewText {
     const char* base;
     const char* other; ///< null: all views have the same value
@@ -112,7 +108,7 @@ struct ViewText {
         sentence, "View %d: " sentence                                                             \
     }
 
-/** A rule whose message names the view, except for what is said of the base view or of all. */
+/// A rule whose message names the view, except for what is said of the base view or of all.
 template <class... Args>
 struct ViewRule : RuleInfo {
     consteval ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
@@ -125,13 +121,13 @@ struct ViewRule : RuleInfo {
     }
 };
 
-/** The rules of one subject, as they stand in the rule list. */
+/// The rules of one subject, as they stand in the rule list.
 struct RuleGroup {
     const char* title;
     std::span<const RuleInfo* const> rules;
 };
 
-/** The rules of a table whose rows hold one each in `rule`. */
+/// The rules of a table whose rows hold one each in `rule`.
 template <class Rows>
 constexpr auto rulesOf(const Rows& rows)
 {
@@ -143,7 +139,7 @@ constexpr auto rulesOf(const Rows& rows)
     return list;
 }
 
-/** One list of several. */
+/// One list of several.
 template <class... Lists>
 constexpr auto joinRules(const Lists&... lists)
 {
@@ -160,5 +156,3 @@ constexpr auto joinRules(const Lists&... lists)
 }
 
 } // namespace kv::encoder
-
-#endif

@@ -1,12 +1,8 @@
-/**
- * @file rules.h
- * The rules of the check, by subject: what each subject corrects or judges, and its rule list.
- *
- * Corrections come first, in the order below; a corrected record is a fixed point of them. What a
- * user may be in the middle of changing is never corrected, only judged.
- */
-#ifndef KV_ENCODER_RULES_H
-#define KV_ENCODER_RULES_H
+// The rules of the check, by subject: what each subject corrects or judges, and its rule list.
+//
+// Corrections come first, in the order below; a corrected record is a fixed point of them. What a
+// user may be in the middle of changing is never corrected, only judged.
+#pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
 
@@ -20,15 +16,15 @@
 namespace kv::encoder
 {
 
-/** The number of views, and whether they are split. */
+/// The number of views, and whether they are split.
 void correctCounts(KvMvcSettings& record, Report& report);
-/** Gives the second view what all views have in common. */
+/// Gives the second view what all views have in common.
 void alignViews(KvMvcSettings& record, Report& report);
-/** Takes the general fields of the views in use into their ranges. */
+/// Takes the general fields of the views in use into their ranges.
 void correctFields(KvMvcSettings& record, Report& report);
-/** The rate control's fields; quantizers need the bit depth that all views have. */
+/// The rate control's fields; quantizers need the bit depth that all views have.
 void correctRateFields(KvMvcSettings& record, Report& report);
-/** Fits settings that follow from others: slices, aspect pairs, rates, fullness. */
+/// Fits settings that follow from others: slices, aspect pairs, rates, fullness.
 void correctSlices(KvMvcSettings& record, Report& report);
 void correctAspect(KvMvcSettings& record, Report& report);
 void correctRates(KvMvcSettings& record, Report& report);
@@ -38,9 +34,9 @@ void judgeProfile(const Stream& stream, Report& report);
 void judgeViews(const Stream& stream, Report& report);
 void judgeGop(const Stream& stream, Report& report);
 void judgeRates(const Stream& stream, Report& report);
-/** @return The chosen level, or what "Auto" comes to; null when there is none. */
+/// @return The chosen level, or what "Auto" comes to; null when there is none.
 const Level* judgeLevel(const Stream& stream, Report& report);
-/** The part of it for a picture whose size the level takes. */
+/// The part of it for a picture whose size the level takes.
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
 void judgeDisc(const Stream& stream, const Level* level, Report& report);
 void tellSummary(const Stream& stream, const Level* level, Report& report);
@@ -57,9 +53,7 @@ RuleGroup rateRules();
 RuleGroup discRules();
 RuleGroup summaryRules();
 
-/** All of the above, in the order of the documentation. */
+/// All of the above, in the order of the documentation.
 std::span<const RuleGroup> ruleGroups();
 
 } // namespace kv::encoder
-
-#endif

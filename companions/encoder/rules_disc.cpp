@@ -95,7 +95,7 @@ constexpr int maxViewRate = 40'000'000;
 constexpr int maxBothRate = 60'000'000;
 constexpr int maxBuffer = 30'000'000;
 
-/** A picture format of the disc: its longest I interval, and its aspect ratios. */
+/// A picture format of the disc: its longest I interval, and its aspect ratios.
 struct Format {
     int width;
     int height;

@@ -45,7 +45,7 @@ void replaceAll(std::string& text, std::string_view from, std::string_view to)
     }
 }
 
-/** A message as a reader wants it: one text for all views, and no arguments of arguments. */
+/// A message as a reader wants it: one text for all views, and no arguments of arguments.
 std::string messageOf(const RuleInfo& rule)
 {
     std::string message = rule.format;

@@ -96,7 +96,7 @@ constexpr Rule<const char*> fitsDisc = {"level.fits-disc", Severity::Note,
                                         "These settings fit level %s, which Blu-ray 3D requires.",
                                         discClause};
 
-/** @return Whether the picture has a size that the level knows; else nothing else needs a look. */
+/// @return Whether the picture has a size that the level knows; else nothing else needs a look.
 bool judgeSize(const Stream& stream, const Level& level, Report& report)
 {
     if (stream.frameMbs > level.frameMbs) {
@@ -128,7 +128,7 @@ void judgeMbRate(const Stream& stream, const Level& level, Report& report)
     }
 }
 
-/** Holds one sum, of rates or of buffers, against the base view's limit and that of all views. */
+/// Holds one sum, of rates or of buffers, against the base view's limit and that of all views.
 struct Sum {
     std::int64_t base;
     std::int64_t all;
@@ -212,7 +212,7 @@ Search searchLevels(const Stream& stream, bool isAuto)
     return found;
 }
 
-/** Judges the level and tells which one would do. @return The level that the stream has. */
+/// Judges the level and tells which one would do. @return The level that the stream has.
 const Level* judgeAnyLevel(const Stream& stream, const Level* chosen, bool isAuto, bool tell,
                            Report& report)
 {
@@ -235,7 +235,7 @@ const Level* judgeAnyLevel(const Stream& stream, const Level* chosen, bool isAut
     return level;
 }
 
-/** The same for a disc, which has level 4.1 also when the stream needs less. */
+/// The same for a disc, which has level 4.1 also when the stream needs less.
 const Level* judgeDiscLevel(const Stream& stream, const Level* chosen, bool isAuto, bool tell,
                             Report& report)
 {
@@ -255,7 +255,7 @@ const Level* judgeDiscLevel(const Stream& stream, const Level* chosen, bool isAu
     return level;
 }
 
-/** A level code as the list of levels spells it. */
+/// A level code as the list of levels spells it.
 struct LevelCode {
     char text[16];
 

@@ -90,20 +90,20 @@ void judgeReferences(const Stream& stream, const Level& level, Report& report)
     }
 }
 
-/** Pictures that a frame is coded as: field pictures have half the size and half the time. */
+/// Pictures that a frame is coded as: field pictures have half the size and half the time.
 int picturesAFrame(const Stream& stream)
 {
     return stream.base.interlace_mode == KV_MVC_INTERLACED ? 2 : 1;
 }
 
-/** Macroblocks that the time before the first picture is worth, at least one picture. */
+/// Macroblocks that the time before the first picture is worth, at least one picture.
 double firstPictureMbs(const Stream& stream, const Level& level)
 {
     return std::max(static_cast<double>(stream.pictureMbs),
                     static_cast<double>(level.mbRate) / (maxFrameRate * picturesAFrame(stream)));
 }
 
-/** Macroblocks that the time from one picture to the next is worth; no limit without a rate. */
+/// Macroblocks that the time from one picture to the next is worth; no limit without a rate.
 double laterPictureMbs(const Stream& stream, const Level& level)
 {
     if (stream.frameRate == 0) {
@@ -112,7 +112,7 @@ double laterPictureMbs(const Stream& stream, const Level& level)
     return static_cast<double>(level.mbRate) / (stream.frameRate * picturesAFrame(stream));
 }
 
-/** @return No less than 1; a huge number where nothing limits the slices. */
+/// @return No less than 1; a huge number where nothing limits the slices.
 int mostSlices(const Stream& stream, const Level& level)
 {
     constexpr double unlimited = std::numeric_limits<std::int32_t>::max();

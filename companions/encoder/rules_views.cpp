@@ -74,7 +74,7 @@ constexpr auto fieldsOf = selectFields<viewFields, [](const FieldRow<V>& row) {
 // The frame rate of the picture is the one field that is no whole number; alignViews knows it.
 static_assert(std::ranges::count_if(viewFields, [](const auto& row) { return !row.field; }) == 1);
 
-/** @return Whether a field had to be copied. */
+/// @return Whether a field had to be copied.
 bool copyFields(Fields fields, const V& from, V& to)
 {
     bool changed = false;
@@ -91,7 +91,7 @@ bool sameFields(Fields fields, const V& a, const V& b)
         fields, [&](const FieldRow<V>* row) { return a.*row->field == b.*row->field; });
 }
 
-/** Pictures of other views that a list may name (H.7.4.2.1.4); the base view uses none. */
+/// Pictures of other views that a list may name (H.7.4.2.1.4); the base view uses none.
 int interViewReferences(const Stream& stream, int subRecord)
 {
     return subRecord == 0 ? 0 : stream.views - 1;

@@ -39,7 +39,7 @@ const Profile* multiviewProfile(const KvMvcSettings& record, int views)
     }
 }
 
-/** How much faster than coded a pulldown cadence outputs two frames at its closest (C.4.5.2). */
+/// How much faster than coded a pulldown cadence outputs two frames at its closest (C.4.5.2).
 double outputFactor(int pulldown)
 {
     switch (pulldown) {

@@ -1,9 +1,5 @@
-/**
- * @file stream.h
- * What follows from a settings record: sizes in macroblocks, rates, buffers, aspect.
- */
-#ifndef KV_ENCODER_STREAM_H
-#define KV_ENCODER_STREAM_H
+// What follows from a settings record: sizes in macroblocks, rates, buffers, aspect.
+#pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
 
@@ -14,48 +10,44 @@
 namespace kv::encoder
 {
 
-/** Views of a record that count: 1 to KV_MVC_MAX_VIEWS, whatever the field says. */
+/// Views of a record that count: 1 to KV_MVC_MAX_VIEWS, whatever the field says.
 int countViews(const KvMvcSettings& record);
 
-/** Sub-records of a record that are in use: 1 or 2. */
+/// Sub-records of a record that are in use: 1 or 2.
 int countSubRecords(const KvMvcSettings& record);
 
-/** Rows that a slice can begin at: macroblock rows of a field or frame, or rows of MBAFF pairs. */
+/// Rows that a slice can begin at: macroblock rows of a field or frame, or rows of MBAFF pairs.
 int sliceRows(const KvMvcViewSettings& view);
 
-/** Whether the view's rate control aims at a bit rate (constant or variable bitrate). */
+/// Whether the view's rate control aims at a bit rate (constant or variable bitrate).
 bool aimsAtRate(const KvMvcViewSettings& view);
 
-/** Whether buffer and fullness are in effect: HRD conformance with a bit rate. */
+/// Whether buffer and fullness are in effect: HRD conformance with a bit rate.
 bool keepsBuffer(const KvMvcViewSettings& view);
 
-/**
- * Bit rate that limits hold for, in bit/s; 0 when the quantizer rules. The maximum is the rate at
- * which the buffer is filled (C.1.1): without HRD conformance it has no effect, and the dialog does
- * not show it, so the target stands for it.
- */
+/// Bit rate that limits hold for, in bit/s; 0 when the quantizer rules. The maximum is the rate at
+/// which the buffer is filled (C.1.1): without HRD conformance it has no effect, and the dialog
+/// does not show it, so the target stands for it.
 std::int64_t limitRate(const KvMvcViewSettings& view);
 
-/** Buffer size in bits. */
+/// Buffer size in bits.
 std::int64_t bufferBits(const KvMvcViewSettings& view);
 
-/** Largest fullness of a full buffer in the view's own unit; -1 without buffer or rate. */
+/// Largest fullness of a full buffer in the view's own unit; -1 without buffer or rate.
 int fullBuffer(const KvMvcViewSettings& view);
 
-/** A fullness in the view's own unit as seconds of the limiting rate. Needs a rate above 0. */
+/// A fullness in the view's own unit as seconds of the limiting rate. Needs a rate above 0.
 double fullnessSeconds(const KvMvcViewSettings& view, int fullness);
 
-/** Sample aspect ratio without common factor; both parts 0 when it is unspecified. */
+/// Sample aspect ratio without common factor; both parts 0 when it is unspecified.
 struct SampleAspect {
     std::int64_t x;
     std::int64_t y;
 };
 SampleAspect sampleAspect(const KvMvcViewSettings& view);
 
-/**
- * A corrected record seen as a stream. The general settings are those of the base view. The record
- * holds two sub-records: of more than two views, the third and fourth count as the second does.
- */
+/// A corrected record seen as a stream. The general settings are those of the base view. The record
+/// holds two sub-records: of more than two views, the third and fourth count as the second does.
 struct Stream {
     explicit Stream(const KvMvcSettings& settings);
 
@@ -77,19 +69,17 @@ struct Stream {
     bool bFrames;            ///< there are B pictures
     bool disc;               ///< made for Blu-ray 3D
 
-    /** The profile that limits rates and slices: the multiview profile, else the base view's. */
+    /// The profile that limits rates and slices: the multiview profile, else the base view's.
     const Profile* streamProfile() const { return multiview ? multiview : profile; }
-    /** Coded views that a sub-record stands for. */
+    /// Coded views that a sub-record stands for.
     int viewsLike(int subRecord) const { return subRecord == 0 ? 1 : views - 1; }
-    /** Sums over all views. */
+    /// Sums over all views.
     std::int64_t totalRate() const;
     std::int64_t totalBuffer() const;
     int totalReferences() const;
 };
 
-/** Frames that the decoded picture buffer holds at a level (A.3.1 h; H.10.2.1 f). */
+/// Frames that the decoded picture buffer holds at a level (A.3.1 h; H.10.2.1 f).
 std::int64_t dpbFrames(const Stream& stream, const Level& level);
 
 } // namespace kv::encoder
-
-#endif

@@ -1,6 +1,5 @@
 // Bits of an H.264 header, with the clause 7.2 and 9.1 ways of reading them.
-#ifndef KV_BIT_READER_H
-#define KV_BIT_READER_H
+#pragma once
 
 #include <cstddef>
 #include <cstdint>
@@ -9,38 +8,41 @@
 namespace kv
 {
 
-/** Reads zeros behind the end, and remembers that it did. */
+/// Reads zeros behind the end, and remembers that it did.
 class BitReader
 {
 public:
     explicit BitReader(std::span<const uint8_t> bytes) : m_bytes(bytes) {}
 
     bool overrun() const { return m_overrun; }
-    /** For a value that makes what follows unreadable. */
+    /// For a value that makes what follows unreadable.
     void fail() { m_overrun = true; }
     bool flag() { return bits(1) != 0; }
 
-    /** u(count); at most 32. */
+    /// u(count); at most 32.
     uint32_t bits(int count)
     {
         uint32_t value = 0;
-        for (int bit = 0; bit < count; ++bit)
+        for (int bit = 0; bit < count; ++bit) {
             value = value << 1 | next();
+        }
         return value;
     }
 
-    /** ue(v); 32 and more leading zeros count as an overrun (9.1). */
+    /// ue(v); 32 and more leading zeros count as an overrun (9.1).
     uint32_t unsignedGolomb()
     {
         int zeros = 0;
-        while (!m_overrun && next() == 0)
+        while (!m_overrun && next() == 0) {
             ++zeros;
-        if (zeros >= 32)
+        }
+        if (zeros >= 32) {
             m_overrun = true;
+        }
         return m_overrun ? 0 : (1u << zeros) - 1 + bits(zeros);
     }
 
-    /** se(v) (9.1.1). */
+    /// se(v) (9.1.1).
     int32_t signedGolomb()
     {
         const int64_t code = unsignedGolomb();
@@ -64,5 +66,3 @@ private:
 };
 
 } // namespace kv
-
-#endif

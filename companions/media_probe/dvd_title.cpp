@@ -8,11 +8,12 @@ namespace kv
 namespace
 {
 
-/** Names without regard to case: VTS_01_0.IFO goes with VTS_01_1.VOB, VIDEO_TS.IFO with .VOB. */
+/// Names without regard to case: VTS_01_0.IFO goes with VTS_01_1.VOB, VIDEO_TS.IFO with .VOB.
 bool endsWith(std::string_view text, std::string_view lowerCaseEnd)
 {
-    if (text.size() < lowerCaseEnd.size())
+    if (text.size() < lowerCaseEnd.size()) {
         return false;
+    }
     return std::ranges::equal(
         text.substr(text.size() - lowerCaseEnd.size()), lowerCaseEnd, {},
         [](char letter) { return letter >= 'A' && letter <= 'Z' ? char(letter + 32) : letter; });
@@ -22,14 +23,16 @@ bool endsWith(std::string_view text, std::string_view lowerCaseEnd)
 
 std::string videoOfDvdTitle(const std::string& path)
 {
-    constexpr std::size_t kSuffix = 3;
-    if (!endsWith(path, ".ifo"))
+    constexpr std::size_t suffix = 3;
+    if (!endsWith(path, ".ifo")) {
         return path;
-    std::string video = path.substr(0, path.size() - kSuffix);
+    }
+    std::string video = path.substr(0, path.size() - suffix);
     video += path.back() == 'o' ? "vob" : "VOB";
-    const std::size_t part = video.size() - kSuffix - 2;
-    if (endsWith(path, "_0.ifo"))
+    const std::size_t part = video.size() - suffix - 2;
+    if (endsWith(path, "_0.ifo")) {
         video[part] = '1';
+    }
     return video;
 }
 

@@ -32,7 +32,7 @@ struct Usability {
     bool pictureStructure = false; ///< picture timing messages hold pic_struct
 };
 
-/** Sequence parameter set data (7.3.2.1.1), as far as settings know it. */
+/// Sequence parameter set data (7.3.2.1.1), as far as settings know it.
 struct SequenceParameters {
     uint32_t id = 0;
     uint32_t profile = 0;
@@ -53,13 +53,11 @@ struct SequenceParameters {
     uint32_t views = 1; // of a subset parameter set
 };
 
-/** Whether subset parameter sets of the profile tell the number of views (Annex H). */
+/// Whether subset parameter sets of the profile tell the number of views (Annex H).
 bool isMultiviewProfile(uint32_t profile);
 
-/**
- * Parses the payload of a sequence parameter set or of a subset one, emulation prevention removed.
- * @return None for a damaged or impossible set.
- */
+/// Parses the payload of a sequence parameter set or of a subset one, emulation prevention removed.
+/// @return None for a damaged or impossible set.
 std::optional<SequenceParameters> parseSequenceParameters(Bytes payload, bool subset);
 
 } // namespace kv

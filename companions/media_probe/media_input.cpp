@@ -10,16 +10,16 @@ namespace kv
 namespace
 {
 
-constexpr int kBufferSize = 64 * 1024;
-constexpr int kMostStreams = 256;
-constexpr int64_t kProbeBytes = 8 << 20;
-constexpr int64_t kProbeTime = 5 * AV_TIME_BASE;
+constexpr int bufferSize = 64 * 1024;
+constexpr int mostStreams = 256;
+constexpr int64_t probeBytes = 8 << 20;
+constexpr int64_t probeTime = 5 * AV_TIME_BASE;
 
-/** Playlists, capture devices, still pictures and text are no recordings. */
-constexpr char kFormats[] = "mpeg,mpegts,mpegvideo,m4v,h264,hevc,mov,mxf,avi,matroska,flv,asf,mp3,"
-                            "aac,ac3,wav,vc1,yuv4mpegpipe";
+/// Playlists, capture devices, still pictures and text are no recordings.
+constexpr char formats[] = "mpeg,mpegts,mpegvideo,m4v,h264,hevc,mov,mxf,avi,matroska,flv,asf,mp3,"
+                           "aac,ac3,wav,vc1,yuv4mpegpipe";
 
-constexpr char kDecoders[] =
+constexpr char decoders[] =
     "h264,hevc,mpeg1video,mpeg2video,mpeg4,h263,vc1,wmv3,mjpeg,dvvideo,dnxhd,prores,vp8,vp9";
 
 int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
@@ -37,8 +37,9 @@ MediaInput::MediaInput(int descriptor, TimePoint deadline)
 MediaInput::~MediaInput()
 {
     avformat_close_input(&m_format);
-    if (m_io)
+    if (m_io) {
         av_freep(&m_io->buffer);
+    }
     avio_context_free(&m_io);
 }
 
@@ -58,12 +59,13 @@ int MediaInput::openFile(const char* name, int flags)
     if (::lseek(m_descriptor, 0, SEEK_SET) < 0) {
         return AVERROR(errno);
     }
-    auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferSize));
-    m_io = buffer ? avio_alloc_context(buffer, kBufferSize, 0, this, read, nullptr, seek) : nullptr;
+    auto* buffer = static_cast<unsigned char*>(av_malloc(bufferSize));
+    m_io = buffer ? avio_alloc_context(buffer, bufferSize, 0, this, read, nullptr, seek) : nullptr;
     m_format = avformat_alloc_context();
     if (!m_io || !m_format) {
-        if (!m_io)
+        if (!m_io) {
             av_free(buffer);
+        }
         return AVERROR(ENOMEM);
     }
     m_format->pb = m_io;
@@ -71,19 +73,20 @@ int MediaInput::openFile(const char* name, int flags)
     m_format->io_open = refuseToOpen;
     m_format->interrupt_callback = {
         [](void* input) -> int { return static_cast<MediaInput*>(input)->timeIsUp(); }, this};
-    m_format->format_whitelist = av_strdup(kFormats);
-    m_format->codec_whitelist = av_strdup(kDecoders);
-    m_format->max_streams = kMostStreams;
-    m_format->probesize = kProbeBytes;
-    m_format->max_analyze_duration = kProbeTime;
+    m_format->format_whitelist = av_strdup(formats);
+    m_format->codec_whitelist = av_strdup(decoders);
+    m_format->max_streams = mostStreams;
+    m_format->probesize = probeBytes;
+    m_format->max_analyze_duration = probeTime;
     return avformat_open_input(&m_format, name, nullptr, nullptr);
 }
 
 int MediaInput::read(void* opaque, uint8_t* buffer, int size)
 {
     auto* input = static_cast<MediaInput*>(opaque);
-    if (input->timeIsUp())
+    if (input->timeIsUp()) {
         return AVERROR_EXIT;
+    }
     const ssize_t count = ::read(input->m_descriptor, buffer, static_cast<std::size_t>(size));
     if (count < 0) {
         input->m_readError = errno;

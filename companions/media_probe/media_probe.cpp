@@ -11,7 +11,7 @@
 namespace
 {
 
-/** Fills what a caller compiled with another version of the record has room for. */
+/// Fills what a caller compiled with another version of the record has room for.
 void store(KvMediaInfo& to, KvMediaInfo from)
 {
     from.size = to.size;
@@ -36,8 +36,9 @@ kv::ProbeAnswer probe(const char* path)
 
 extern "C" KV_MVC_COMPANION_API int32_t mpegInInfoInit(KvMediaInfo* info, uint32_t size)
 {
-    if (!info || size < sizeof info->size)
+    if (!info || size < sizeof info->size) {
         return KV_MEDIA_BAD_ARGUMENT;
+    }
     std::memset(static_cast<void*>(info), 0, size);
     info->size = size;
     return KV_MEDIA_OK;
@@ -45,8 +46,9 @@ extern "C" KV_MVC_COMPANION_API int32_t mpegInInfoInit(KvMediaInfo* info, uint32
 
 extern "C" KV_MVC_COMPANION_API int32_t mpegInGetInfo(KvMediaInfo* info, const char* path)
 {
-    if (!info || !path || info->size < sizeof info->size)
+    if (!info || !path || info->size < sizeof info->size) {
         return KV_MEDIA_BAD_ARGUMENT;
+    }
     const kv::ProbeAnswer answer = probe(path);
     store(*info, answer.info);
     return answer.result;

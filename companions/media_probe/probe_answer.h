@@ -1,6 +1,5 @@
 // What the worker process writes to its standard output, as bytes.
-#ifndef KV_PROBE_ANSWER_H
-#define KV_PROBE_ANSWER_H
+#pragma once
 
 #include <kv_config_gui_mvc/media_info.h>
 
@@ -8,17 +7,15 @@ namespace kv
 {
 
 struct ProbeAnswer {
-    int32_t result = KV_MEDIA_OK; /**< KvMediaResult */
+    int32_t result = KV_MEDIA_OK; ///< KvMediaResult
     KvMediaInfo info{};
 };
 
-/** Limits of the worker process; it keeps the first by itself and is ended at the second. */
-constexpr int kSoftSeconds = 3;
-constexpr int kHardSeconds = 4;
-constexpr unsigned long kLargestMemory = 192ul << 20;
+/// Limits of the worker process; it keeps the first by itself and is ended at the second.
+constexpr int softSeconds = 3;
+constexpr int hardSeconds = 4;
+constexpr unsigned long largestMemory = 192ul << 20;
 
 ProbeAnswer refusal(KvMediaResult result, const char* reason);
 
 } // namespace kv
-
-#endif

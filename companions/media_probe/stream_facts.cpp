@@ -18,11 +18,11 @@ namespace kv
 namespace
 {
 
-/** What MPEG-1 headers say of a variable rate (bit_rate all ones, in units of 400 bit/s). */
-constexpr int64_t kVariableRate = 0x3FFFF * 400;
+/// What MPEG-1 headers say of a variable rate (bit_rate all ones, in units of 400 bit/s).
+constexpr int64_t variableRate = 0x3FFFF * 400;
 
-/** Of a container's index, from its end: a picture may lie before its predecessor. */
-constexpr int kEntriesLookedAt = 100;
+/// Of a container's index, from its end: a picture may lie before its predecessor.
+constexpr int entriesLookedAt = 100;
 
 void copyName(char (&to)[32], const char* from)
 {
@@ -50,27 +50,29 @@ bool isDescribed(const AVStream& stream)
     return isRecordedVideo(stream) && stream.codecpar->width > 0 && stream.codecpar->height > 0;
 }
 
-/** The stream that players choose; with views in streams of their own, that of the base view. */
+/// The stream that players choose; with views in streams of their own, that of the base view.
 AVStream* mainStream(AVFormatContext* format)
 {
     const int best = av_find_best_stream(format, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
-    if (best >= 0 && isDescribed(*format->streams[best]))
+    if (best >= 0 && isDescribed(*format->streams[best])) {
         return format->streams[best];
+    }
     const auto end = format->streams + format->nb_streams;
     const auto first = std::find_if(format->streams, end,
                                     [](const AVStream* stream) { return isDescribed(*stream); });
     return first == end ? nullptr : *first;
 }
 
-/** The container's index leads behind the file's end. */
+/// The container's index leads behind the file's end.
 bool isTruncated(AVFormatContext* format, AVStream* stream)
 {
     const int64_t size = avio_size(format->pb);
     const int entries = avformat_index_get_entries_count(stream);
-    for (int index = std::max(0, entries - kEntriesLookedAt); index < entries; ++index) {
+    for (int index = std::max(0, entries - entriesLookedAt); index < entries; ++index) {
         const AVIndexEntry* entry = avformat_index_get_entry(stream, index);
-        if (size > 0 && entry && entry->pos >= 0 && entry->pos > size - entry->size)
+        if (size > 0 && entry && entry->pos >= 0 && entry->pos > size - entry->size) {
             return true;
+        }
     }
     return false;
 }
@@ -112,7 +114,7 @@ void describePicture(KvMediaInfo& info, AVFormatContext* format, AVStream* strea
     }
 }
 
-/** The display order of the fields: the second letter of FFmpeg's names. */
+/// The display order of the fields: the second letter of FFmpeg's names.
 void describeFields(KvMediaInfo& info, AVFieldOrder order)
 {
     info.scan = order > AV_FIELD_PROGRESSIVE ? KV_MEDIA_INTERLACED : KV_MEDIA_PROGRESSIVE;
@@ -162,7 +164,7 @@ void describeRates(KvMediaInfo& info, const AVStream& stream, const StreamCount&
         return;
     }
     info.bit_rate = stream.codecpar->bit_rate;
-    if (info.bit_rate <= 0 || info.bit_rate == kVariableRate) {
+    if (info.bit_rate <= 0 || info.bit_rate == variableRate) {
         info.bit_rate = main.bitRate(rate);
     }
     if (info.num_views > 1) {
@@ -215,16 +217,19 @@ StreamCounts scanPackets(MediaInput& input, int descriptor, const char* name,
 
 ProbeAnswer streamFacts(int descriptor, const char* name)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kSoftSeconds);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(softSeconds);
     MediaInput input(descriptor, deadline);
     const int opened = input.open(name);
-    if (opened < 0)
+    if (opened < 0) {
         return refusalFor(opened, input);
+    }
     AVStream* stream = mainStream(input.format());
-    if (!stream)
+    if (!stream) {
         return refusalWithoutVideo(*input.format());
-    if (isTruncated(input.format(), stream))
+    }
+    if (isTruncated(input.format(), stream)) {
         return refusal(KV_MEDIA_UNREADABLE, "truncated");
+    }
 
     ProbeAnswer answer;
     KvMediaInfo& info = answer.info;

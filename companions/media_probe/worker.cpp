@@ -22,22 +22,22 @@ struct Limit {
     rlim_t most;
 };
 
-constexpr Limit kLimits[] = {
-    {RLIMIT_CPU, kv::kHardSeconds},
+constexpr Limit limits[] = {
+    {RLIMIT_CPU, kv::hardSeconds},
     {RLIMIT_CORE, 0},
     {RLIMIT_FSIZE, 0}, // it writes to a pipe
 #if !defined(KV_MEMORY_UNLIMITED)
-    {RLIMIT_DATA, kv::kLargestMemory},
+    {RLIMIT_DATA, kv::largestMemory},
 #endif
 };
 
 void limitProcess()
 {
-    for (const Limit& limit : kLimits) {
+    for (const Limit& limit : limits) {
         const rlimit both = {limit.most, limit.most};
         ::setrlimit(limit.what, &both);
     }
-    ::alarm(kv::kHardSeconds); // also when nobody waits any more
+    ::alarm(kv::hardSeconds); // also when nobody waits any more
 }
 
 kv::ProbeAnswer probe(const char* name)

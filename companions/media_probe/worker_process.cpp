@@ -35,15 +35,16 @@ public:
     int get() const { return m_number; }
     void reset(int number = -1)
     {
-        if (const int former = std::exchange(m_number, number); former >= 0)
+        if (const int former = std::exchange(m_number, number); former >= 0) {
             ::close(former);
+        }
     }
 
 private:
     int m_number;
 };
 
-/** What the child is started with; the calls on it cannot fail but for want of memory. */
+/// What the child is started with; the calls on it cannot fail but for want of memory.
 class SpawnPlan
 {
 public:
@@ -60,7 +61,7 @@ public:
     SpawnPlan(const SpawnPlan&) = delete;
     SpawnPlan& operator=(const SpawnPlan&) = delete;
 
-    /** The host's files, signal mask and handlers are none of the child's business. */
+    /// The host's files, signal mask and handlers are none of the child's business.
     void connect(int input, int output)
     {
         posix_spawn_file_actions_adddup2(&m_actions, input, STDIN_FILENO);
@@ -78,7 +79,7 @@ public:
         posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     }
 
-    /** @return An error number. */
+    /// @return An error number.
     int start(const std::string& program, const char* argument, pid_t& child)
     {
         std::string copies[] = {program, argument};
@@ -96,19 +97,21 @@ ProbeAnswer refusalByError(KvMediaResult result, int error)
     return refusal(result, std::generic_category().message(error).c_str());
 }
 
-/** A descriptor that no standard stream's number can clash with. */
+/// A descriptor that no standard stream's number can clash with.
 void moveAboveStandard(Descriptor& descriptor)
 {
-    if (descriptor.get() >= 0 && descriptor.get() <= STDERR_FILENO)
+    if (descriptor.get() >= 0 && descriptor.get() <= STDERR_FILENO) {
         descriptor.reset(::fcntl(descriptor.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    }
 }
 
-/** The worker lies beside this library. */
+/// The worker lies beside this library.
 std::string workerProgram()
 {
     Dl_info library = {};
-    if (::dladdr(reinterpret_cast<void*>(&probeInWorker), &library) == 0 || !library.dli_fname)
+    if (::dladdr(reinterpret_cast<void*>(&probeInWorker), &library) == 0 || !library.dli_fname) {
         return {};
+    }
     const std::string file = library.dli_fname;
     const auto slash = file.rfind('/');
     return (slash == file.npos ? std::string("./") : file.substr(0, slash + 1)) +
@@ -126,24 +129,29 @@ Received receive(int pipe, Clock::time_point deadline, ProbeAnswer& answer)
             std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()).count();
         pollfd ready = {pipe, POLLIN, 0};
         const int polled = left > 0 ? ::poll(&ready, 1, static_cast<int>(left)) : 0;
-        if (polled < 0 && errno == EINTR)
+        if (polled < 0 && errno == EINTR) {
             continue;
-        if (polled == 0)
+        }
+        if (polled == 0) {
             return Received::Late;
-        if (polled < 0)
+        }
+        if (polled < 0) {
             return Received::Part;
+        }
         const ssize_t count = ::read(pipe, to, missing);
-        if (count < 0 && errno == EINTR)
+        if (count < 0 && errno == EINTR) {
             continue;
-        if (count <= 0)
+        }
+        if (count <= 0) {
             return Received::Part;
+        }
         to += count;
         missing -= static_cast<std::size_t>(count);
     }
     return Received::Whole;
 }
 
-/** A host that ignores its children's ends has none to wait for: no error. */
+/// A host that ignores its children's ends has none to wait for: no error.
 void reap(pid_t child)
 {
     while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
@@ -153,12 +161,13 @@ void reap(pid_t child)
 ProbeAnswer askWorker(int file, const char* name)
 {
     int ends[2] = {-1, -1};
-    if (::pipe2(ends, O_CLOEXEC) != 0)
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
         return refusalByError(KV_MEDIA_UNAVAILABLE, errno);
+    }
     Descriptor reading(ends[0]);
     Descriptor writing(ends[1]);
     moveAboveStandard(writing);
-    const auto deadline = Clock::now() + std::chrono::seconds(kHardSeconds);
+    const auto deadline = Clock::now() + std::chrono::seconds(hardSeconds);
     SpawnPlan plan;
     plan.connect(file, writing.get());
     pid_t child = -1;
@@ -170,8 +179,9 @@ ProbeAnswer askWorker(int file, const char* name)
     writing.reset();
     ProbeAnswer answer;
     const Received received = receive(reading.get(), deadline, answer);
-    if (received != Received::Whole)
+    if (received != Received::Whole) {
         ::kill(child, SIGKILL);
+    }
     reap(child);
     switch (received) {
     case Received::Whole:
@@ -190,12 +200,15 @@ ProbeAnswer probeInWorker(const std::string& path)
     Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     moveAboveStandard(file);
     struct stat status = {};
-    if (file.get() < 0 || ::fstat(file.get(), &status) != 0)
+    if (file.get() < 0 || ::fstat(file.get(), &status) != 0) {
         return refusalByError(KV_MEDIA_UNREADABLE, errno);
-    if (!S_ISREG(status.st_mode))
+    }
+    if (!S_ISREG(status.st_mode)) {
         return refusal(KV_MEDIA_UNREADABLE, "not a regular file");
-    if (status.st_size == 0)
+    }
+    if (status.st_size == 0) {
         return refusal(KV_MEDIA_UNREADABLE, "empty");
+    }
     const auto slash = path.rfind('/');
     return askWorker(file.get(), path.c_str() + (slash == path.npos ? 0 : slash + 1));
 }

@@ -1,6 +1,5 @@
 // Runs the worker process on one file, within its limits.
-#ifndef KV_WORKER_PROCESS_H
-#define KV_WORKER_PROCESS_H
+#pragma once
 
 #include "probe_answer.h"
 
@@ -9,9 +8,7 @@
 namespace kv
 {
 
-/** @param path As the system takes it; a regular file, everything else is refused. */
+/// @param path As the system takes it; a regular file, everything else is refused.
 ProbeAnswer probeInWorker(const std::string& path);
 
 } // namespace kv
-
-#endif

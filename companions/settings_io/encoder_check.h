@@ -1,6 +1,5 @@
 // The encoder library's check, and what it says.
-#ifndef KV_ENCODER_CHECK_H
-#define KV_ENCODER_CHECK_H
+#pragma once
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -13,16 +12,14 @@ namespace kv
 
 struct Verdict {
     bool accepted = false;
-    KvMvcSettings corrected{}; /**< the record as the check left it */
+    KvMvcSettings corrected{}; ///< the record as the check left it
     std::vector<std::string> errors;
-    std::vector<std::string> warnings; /**< of what was corrected */
+    std::vector<std::string> warnings; ///< of what was corrected
 
-    /** How far from accepted; 0 when it is. An encoder may refuse without a word. */
+    /// How far from accepted; 0 when it is. An encoder may refuse without a word.
     std::size_t distance() const { return accepted ? 0 : std::max<std::size_t>(errors.size(), 1); }
 };
 
 Verdict checkSettings(KvMvcCheck check, const KvMvcSettings& settings);
 
 } // namespace kv
-
-#endif

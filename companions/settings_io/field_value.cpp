@@ -12,8 +12,8 @@ namespace kv
 namespace
 {
 
-constexpr std::string_view kHexDigits = "0123456789abcdef";
-constexpr std::size_t kRateDigits = 16; // a double's bit pattern in hexadecimal
+constexpr std::string_view hexDigits = "0123456789abcdef";
+constexpr std::size_t rateDigits = 16; // a double's bit pattern in hexadecimal
 
 char lower(char letter)
 {
@@ -28,14 +28,15 @@ std::string decimal(Number number)
     return {text, end};
 }
 
-/** The television rates, n * 1000 / 1001, where that is exactly the number's value. */
+/// The television rates, n * 1000 / 1001, where that is exactly the number's value.
 std::string fraction(double rate)
 {
-    constexpr double kLargest = 1000000;
+    constexpr double largest = 1000000;
     const double numerator = std::round(rate * 1001);
-    if (!(numerator > 0 && numerator <= kLargest) || std::fmod(numerator, 1000) != 0 ||
-        std::fmod(numerator, 1001) == 0 || numerator / 1001 != rate)
+    if (!(numerator > 0 && numerator <= largest) || std::fmod(numerator, 1000) != 0 ||
+        std::fmod(numerator, 1001) == 0 || numerator / 1001 != rate) {
         return {};
+    }
     return decimal(static_cast<int>(numerator)) + "/1001";
 }
 
@@ -44,8 +45,9 @@ std::string formatRate(double rate)
     if (!std::isfinite(rate)) {
         const auto bits = std::bit_cast<std::uint64_t>(rate);
         std::string text = "0x";
-        for (int shift = 60; shift >= 0; shift -= 4)
-            text += kHexDigits[bits >> shift & 15];
+        for (int shift = 60; shift >= 0; shift -= 4) {
+            text += hexDigits[bits >> shift & 15];
+        }
         return text;
     }
     const std::string text = fraction(rate);
@@ -57,28 +59,31 @@ std::optional<double> parseBitPattern(std::string_view digits)
     std::uint64_t bits = 0;
     const auto end = digits.data() + digits.size();
     const auto result = std::from_chars(digits.data(), end, bits, 16);
-    if (digits.size() != kRateDigits || result.ec != std::errc() || result.ptr != end)
+    if (digits.size() != rateDigits || result.ec != std::errc() || result.ptr != end) {
         return std::nullopt;
+    }
     return std::bit_cast<double>(bits);
 }
 
 std::optional<double> parseRate(std::string_view text)
 {
-    if (text.starts_with("0x"))
+    if (text.starts_with("0x")) {
         return parseBitPattern(text.substr(2));
+    }
     const auto slash = text.find('/');
     if (slash != text.npos) {
         const auto numerator = parseDecimal<std::int64_t>(text.substr(0, slash));
         const auto denominator = parseDecimal<std::int64_t>(text.substr(slash + 1));
-        if (!numerator || !denominator || *denominator <= 0)
+        if (!numerator || !denominator || *denominator <= 0) {
             return std::nullopt;
+        }
         return static_cast<double>(*numerator) / static_cast<double>(*denominator);
     }
     const auto rate = parseDecimal<double>(text);
     return rate && std::isfinite(*rate) ? rate : std::nullopt; // "inf" and "nan" are numbers to it
 }
 
-/** Levels are spelled with a dot, so that a code of one digit is never taken for a level. */
+/// Levels are spelled with a dot, so that a code of one digit is never taken for a level.
 std::string formatLevel(std::int32_t code)
 {
     const std::int64_t tenths = std::abs(std::int64_t{code});
@@ -86,7 +91,7 @@ std::string formatLevel(std::int32_t code)
     return text.append(decimal(tenths / 10)).append(".").append(decimal(tenths % 10));
 }
 
-/** "4.0" and "4" are level 4; "40", as stream analyzers have it, is its code. */
+/// "4.0" and "4" are level 4; "40", as stream analyzers have it, is its code.
 std::optional<std::int32_t> parseLevel(std::string_view text)
 {
     const auto dot = text.find('.');
@@ -103,20 +108,24 @@ std::optional<std::int32_t> parseInteger(const Field& field, std::string_view te
 {
     const auto known = std::ranges::find_if(
         field.values, [&](const NamedValue& row) { return equalIgnoringCase(row.name, text); });
-    if (known != field.values.end())
+    if (known != field.values.end()) {
         return known->value;
+    }
     return field.kind == FieldKind::Level ? parseLevel(text) : parseDecimal<std::int32_t>(text);
 }
 
 std::string expectation(const Field& field)
 {
-    if (field.kind == FieldKind::Rate)
+    if (field.kind == FieldKind::Rate) {
         return "a number, a fraction or a bit pattern";
+    }
     std::string text;
-    for (const NamedValue& row : field.values)
+    for (const NamedValue& row : field.values) {
         text.append(row.name).append(", ");
-    if (field.kind == FieldKind::Level)
+    }
+    if (field.kind == FieldKind::Level) {
         return text + "or another number with one decimal";
+    }
     return text.empty() ? "a whole number of 32 bits" : text + "or a whole number of 32 bits";
 }
 
@@ -151,16 +160,18 @@ std::string formatField(const Field& field, const unsigned char* base)
     std::int32_t value = 0;
     std::memcpy(&value, base + field.offset, sizeof value);
     const auto known = std::ranges::find(field.values, value, &NamedValue::value);
-    if (known != field.values.end())
+    if (known != field.values.end()) {
         return std::string(known->name);
+    }
     return field.kind == FieldKind::Level ? formatLevel(value) : decimal(value);
 }
 
 std::string parseField(const Field& field, std::string_view text, unsigned char* base)
 {
     const auto store = [&](auto value) {
-        if (value)
+        if (value) {
             std::memcpy(base + field.offset, &*value, sizeof *value);
+        }
         return value.has_value();
     };
     const bool stored =
@@ -170,13 +181,14 @@ std::string parseField(const Field& field, std::string_view text, unsigned char*
 
 std::string formatBytes(std::span<const unsigned char> bytes)
 {
-    constexpr std::size_t kGroup = 4;
+    constexpr std::size_t group = 4;
     std::string text;
     for (std::size_t at = 0; at < bytes.size(); ++at) {
-        if (at != 0 && at % kGroup == 0)
+        if (at != 0 && at % group == 0) {
             text += ' ';
-        text += kHexDigits[bytes[at] >> 4];
-        text += kHexDigits[bytes[at] & 15];
+        }
+        text += hexDigits[bytes[at] >> 4];
+        text += hexDigits[bytes[at] & 15];
     }
     return text;
 }
@@ -189,10 +201,11 @@ std::optional<std::vector<unsigned char>> parseBytes(std::string_view text)
             ++at;
             continue;
         }
-        const auto high = kHexDigits.find(lower(text[at]));
-        const auto low = at + 1 < text.size() ? kHexDigits.find(lower(text[at + 1])) : text.npos;
-        if (high == text.npos || low == text.npos)
+        const auto high = hexDigits.find(lower(text[at]));
+        const auto low = at + 1 < text.size() ? hexDigits.find(lower(text[at + 1])) : text.npos;
+        if (high == text.npos || low == text.npos) {
             return std::nullopt;
+        }
         bytes.push_back(static_cast<unsigned char>(high << 4 | low));
         at += 2;
     }

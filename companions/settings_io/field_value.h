@@ -1,6 +1,5 @@
 // The values of settings files: numbers, names, frame rates, runs of bytes.
-#ifndef KV_FIELD_VALUE_H
-#define KV_FIELD_VALUE_H
+#pragma once
 
 #include "settings_fields.h"
 
@@ -13,28 +12,24 @@
 namespace kv
 {
 
-/** The text of the field whose structure begins at `base`. */
+/// The text of the field whose structure begins at `base`.
 std::string formatField(const Field& field, const unsigned char* base);
 
-/**
- * Stores the value that `text` stands for in the structure that begins at `base`.
- * @return What is wrong with the text; empty when it was stored.
- */
+/// Stores the value that `text` stands for in the structure that begins at `base`.
+/// @return What is wrong with the text; empty when it was stored.
 std::string parseField(const Field& field, std::string_view text, unsigned char* base);
 
-/** Bytes as hexadecimal digits, in groups of four bytes. */
+/// Bytes as hexadecimal digits, in groups of four bytes.
 std::string formatBytes(std::span<const unsigned char> bytes);
 
-/** The bytes of hexadecimal digits, blanks between whole bytes ignored; none for other text. */
+/// The bytes of hexadecimal digits, blanks between whole bytes ignored; none for other text.
 std::optional<std::vector<unsigned char>> parseBytes(std::string_view text);
 
-/** A whole decimal number; none for anything else, also beyond the type's range. */
+/// A whole decimal number; none for anything else, also beyond the type's range.
 template <typename Number>
 std::optional<Number> parseDecimal(std::string_view text);
 
-/** ASCII only, since every name and key is. */
+/// ASCII only, since every name and key is.
 bool equalIgnoringCase(std::string_view left, std::string_view right);
 
 } // namespace kv
-
-#endif

@@ -22,17 +22,19 @@ std::string oneLine(const std::string& comment)
     return std::regex_replace(std::regex_replace(comment, ends, ""), breaks, " ");
 }
 
-/** The comment behind each field, or the one before it. */
+/// The comment behind each field, or the one before it.
 Meanings readMeanings(const std::string& header)
 {
     static const std::regex behind("(int32_t|double)\\s+(\\w+);\\s*/\\*\\*<([^*]*)\\*/");
     static const std::regex before("/\\*\\*([^/]*)\\*/\\s*(int32_t|double)\\s+(\\w+);");
     Meanings meanings;
     const std::sregex_iterator none;
-    for (std::sregex_iterator match(header.begin(), header.end(), before); match != none; ++match)
+    for (std::sregex_iterator match(header.begin(), header.end(), before); match != none; ++match) {
         meanings[(*match)[3]] = oneLine((*match)[1]);
-    for (std::sregex_iterator match(header.begin(), header.end(), behind); match != none; ++match)
+    }
+    for (std::sregex_iterator match(header.begin(), header.end(), behind); match != none; ++match) {
         meanings[(*match)[2]] = oneLine((*match)[3]);
+    }
     return meanings;
 }
 
@@ -43,8 +45,9 @@ std::string valueNames(const kv::Field& field)
         text += text.empty() ? "" : ", ";
         text.append("`").append(row.name).append("` ").append(std::to_string(row.value));
     }
-    if (field.kind == kv::FieldKind::Level)
+    if (field.kind == kv::FieldKind::Level) {
         return text + "; level";
+    }
     return text.empty() ? field.kind == kv::FieldKind::Rate ? "rate" : "number" : text;
 }
 
@@ -86,8 +89,9 @@ int main(int count, char** arguments)
         std::printf("\n## [%s]%s\n", std::string(section.name).c_str(),
                     &section == &sections.back() ? " and the sections of the other views" : "");
         for (const kv::FieldGroup& group : section.groups) {
-            if (!printGroup(group, meanings))
+            if (!printGroup(group, meanings)) {
                 return 1;
+            }
         }
     }
     return 0;

@@ -1,6 +1,5 @@
 // What a file is by its name, and by its content.
-#ifndef KV_FILE_KIND_H
-#define KV_FILE_KIND_H
+#pragma once
 
 #include <string_view>
 
@@ -9,12 +8,10 @@ namespace kv
 
 enum class FileKind { Settings, Media, Unknown };
 
-/** By what follows the last dot, without regard to case. */
+/// By what follows the last dot, without regard to case.
 FileKind kindByName(std::string_view name);
 
 /// Whether it is text with the heading of a section, or no text at all.
 bool looksLikeSettings(std::string_view content);
 
 } // namespace kv
-
-#endif

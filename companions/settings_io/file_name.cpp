@@ -12,9 +12,10 @@ namespace
 std::filesystem::path nativePath(std::string_view utf8)
 {
     // Where names are not just bytes, others cannot be converted.
-    constexpr bool kAreBytes = std::is_same_v<std::filesystem::path::value_type, char>;
-    if (!kAreBytes && !isUtf8(utf8))
+    constexpr bool areBytes = std::is_same_v<std::filesystem::path::value_type, char>;
+    if (!areBytes && !isUtf8(utf8)) {
         throw std::invalid_argument("the name is not valid UTF-8");
+    }
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
@@ -30,8 +31,9 @@ std::filesystem::path meantFile(std::string_view name)
 {
     std::filesystem::path plain = nativePath(name);
     const auto undone = undoLatin1(name);
-    if (!undone)
+    if (!undone) {
         return plain;
+    }
     const std::filesystem::path former = nativePath(*undone);
     const bool plainOnly =
         isThere(plain) ? !isThere(former) : hasFolder(plain) && !hasFolder(former);

@@ -29,7 +29,7 @@ public:
 
     int number() const { return m_number; }
     bool isOpen() const { return m_number >= 0; }
-    /** @return Whether everything reached the file, as far as closing tells. */
+    /// @return Whether everything reached the file, as far as closing tells.
     bool close()
     {
         const int number = std::exchange(m_number, -1);
@@ -40,15 +40,16 @@ private:
     int m_number;
 };
 
-/** Removes the temporary file unless it has become the file. */
+/// Removes the temporary file unless it has become the file.
 class TemporaryName
 {
 public:
     explicit TemporaryName(std::string name) : m_name(std::move(name)) {}
     ~TemporaryName()
     {
-        if (!m_name.empty())
+        if (!m_name.empty()) {
             ::unlink(m_name.c_str());
+        }
     }
     TemporaryName(const TemporaryName&) = delete;
     TemporaryName& operator=(const TemporaryName&) = delete;
@@ -69,49 +70,54 @@ bool writeAll(int descriptor, std::string_view content)
 {
     while (!content.empty()) {
         const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0 && errno == EINTR)
+        if (written < 0 && errno == EINTR) {
             continue;
-        if (written < 0)
+        }
+        if (written < 0) {
             return false;
+        }
         content.remove_prefix(static_cast<std::size_t>(written));
     }
     return true;
 }
 
-/** Follows symbolic links by name, since what they lead to may not exist yet. */
+/// Follows symbolic links by name, since what they lead to may not exist yet.
 std::filesystem::path linkTarget(std::filesystem::path file, std::error_code& error)
 {
-    constexpr int kLongestChain = 40; // as the system's own limit
-    for (int links = 0; links < kLongestChain; ++links) {
+    constexpr int longestChain = 40; // as the system's own limit
+    for (int links = 0; links < longestChain; ++links) {
         std::error_code none;
-        if (!std::filesystem::is_symlink(std::filesystem::symlink_status(file, none)))
+        if (!std::filesystem::is_symlink(std::filesystem::symlink_status(file, none))) {
             return file;
+        }
         const std::filesystem::path target = std::filesystem::read_symlink(file, error);
-        if (error)
+        if (error) {
             return {};
+        }
         file = file.parent_path() / target;
     }
     error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
     return {};
 }
 
-/** Creates a file of a name of its own; the umask and the folder's default rules apply. */
+/// Creates a file of a name of its own; the umask and the folder's default rules apply.
 int createBeside(const std::filesystem::path& file, std::string& name)
 {
-    constexpr int kAttempts = 100;
+    constexpr int attempts = 100;
     std::random_device random;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    for (int attempt = 0; attempt < attempts; ++attempt) {
         const std::string own = ".settings-" + std::to_string(random()) + ".tmp";
         name = (file.parent_path() / own).string();
         const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0 || errno != EEXIST)
+        if (descriptor >= 0 || errno != EEXIST) {
             return descriptor;
+        }
     }
     return -1;
 }
 
 #if defined(__linux__)
-/** Access lists and labels are such attributes; what may not be set is left out. */
+/// Access lists and labels are such attributes; what may not be set is left out.
 void keepAttributes(const char* from, int to)
 {
     std::vector<char> names(64 * 1024);
@@ -120,8 +126,9 @@ void keepAttributes(const char* from, int to)
         const char* name = names.data() + at;
         std::vector<char> value(64 * 1024);
         const ssize_t size = ::getxattr(from, name, value.data(), value.size());
-        if (size >= 0)
+        if (size >= 0) {
             ::fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
+        }
         at += static_cast<ssize_t>(std::strlen(name)) + 1;
     }
 }
@@ -129,7 +136,7 @@ void keepAttributes(const char* from, int to)
 void keepAttributes(const char*, int) {}
 #endif
 
-/** A group that cannot be kept gets no more than everybody else has. */
+/// A group that cannot be kept gets no more than everybody else has.
 bool keepAccess(const struct stat& former, const char* file, int descriptor)
 {
     mode_t mode = former.st_mode & 07777;
@@ -145,35 +152,41 @@ void flushFolder(const std::filesystem::path& file)
 {
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
     const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.isOpen())
+    if (descriptor.isOpen()) {
         ::fsync(descriptor.number());
+    }
 }
 
-/** @param former The file to be replaced; none for a new one. */
+/// @param former The file to be replaced; none for a new one.
 std::string replaceRegular(const std::filesystem::path& file,
                            const std::optional<struct stat>& former, std::string_view content)
 {
     // Renaming needs no right to write to the file; taking a read-only file away needs one here.
-    if (former && ::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0)
+    if (former && ::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
         return systemReason();
+    }
     std::string name;
     Descriptor descriptor(createBeside(file, name));
-    if (!descriptor.isOpen())
+    if (!descriptor.isOpen()) {
         return "no file can be made in its folder: " + systemReason();
+    }
     TemporaryName temporary(name);
-    if (former && !keepAccess(*former, file.c_str(), descriptor.number()))
+    if (former && !keepAccess(*former, file.c_str(), descriptor.number())) {
         return systemReason();
+    }
     if (!writeAll(descriptor.number(), content) || ::fsync(descriptor.number()) != 0 ||
-        !descriptor.close())
+        !descriptor.close()) {
         return systemReason();
-    if (::rename(temporary.get(), file.c_str()) != 0)
+    }
+    if (::rename(temporary.get(), file.c_str()) != 0) {
         return systemReason();
+    }
     temporary.release();
     flushFolder(file);
     return {};
 }
 
-/** In this thread, writing to a pipe whose reader has gone is an error, not the process's end. */
+/// In this thread, writing to a pipe whose reader has gone is an error, not the process's end.
 class BrokenPipeGuard
 {
 public:
@@ -202,12 +215,13 @@ private:
     bool m_wasPending;
 };
 
-/** A pipe that nobody reads is refused instead of waited for. */
+/// A pipe that nobody reads is refused instead of waited for.
 std::string writeStream(const std::filesystem::path& file, std::string_view content)
 {
     Descriptor descriptor(::open(file.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!descriptor.isOpen())
+    if (!descriptor.isOpen()) {
         return systemReason();
+    }
     ::fcntl(descriptor.number(), F_SETFL, 0);
     const BrokenPipeGuard guard;
     return writeAll(descriptor.number(), content) && descriptor.close() ? "" : systemReason();
@@ -231,23 +245,29 @@ std::string readFile(const std::filesystem::path& file, std::size_t largest, std
 {
     const Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};
-    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0)
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) {
         return systemReason();
-    if (!S_ISREG(status.st_mode))
+    }
+    if (!S_ISREG(status.st_mode)) {
         return "not a regular file";
+    }
     content.clear();
     std::vector<char> block(64 * 1024);
     while (true) {
         const ssize_t count = ::read(descriptor.number(), block.data(), block.size());
-        if (count < 0 && errno == EINTR)
+        if (count < 0 && errno == EINTR) {
             continue;
-        if (count < 0)
+        }
+        if (count < 0) {
             return systemReason();
-        if (count == 0)
+        }
+        if (count == 0) {
             return {};
+        }
         content.append(block.data(), static_cast<std::size_t>(count));
-        if (content.size() > largest)
+        if (content.size() > largest) {
             return "too large";
+        }
     }
 }
 
@@ -255,16 +275,20 @@ std::string replaceFile(const std::filesystem::path& file, std::string_view cont
 {
     struct stat former = {};
     const bool exists = ::stat(file.c_str(), &former) == 0;
-    if (!exists && errno != ENOENT)
+    if (!exists && errno != ENOENT) {
         return systemReason();
-    if (exists && S_ISDIR(former.st_mode))
+    }
+    if (exists && S_ISDIR(former.st_mode)) {
         return systemReason(EISDIR);
-    if (exists && !S_ISREG(former.st_mode))
+    }
+    if (exists && !S_ISREG(former.st_mode)) {
         return writeStream(file, content);
+    }
     std::error_code error;
     const std::filesystem::path target = linkTarget(file, error);
-    if (error)
+    if (error) {
         return error.message();
+    }
     return replaceRegular(target, exists ? std::optional(former) : std::nullopt, content);
 }
 

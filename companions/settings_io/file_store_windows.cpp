@@ -12,10 +12,10 @@ namespace kv
 namespace
 {
 
-constexpr char kNotRegular[] = "not a regular file";
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
-                                  FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+constexpr char notRegular[] = "not a regular file";
+constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD keptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                                 FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 class Handle
 {
@@ -37,15 +37,16 @@ private:
     HANDLE m_handle;
 };
 
-/** Removes the temporary file unless it has become the file. */
+/// Removes the temporary file unless it has become the file.
 class TemporaryName
 {
 public:
     explicit TemporaryName(std::wstring name) : m_name(std::move(name)) {}
     ~TemporaryName()
     {
-        if (!m_name.empty())
+        if (!m_name.empty()) {
             DeleteFileW(m_name.c_str());
+        }
     }
     TemporaryName(const TemporaryName&) = delete;
     TemporaryName& operator=(const TemporaryName&) = delete;
@@ -59,7 +60,7 @@ private:
 
 bool isDevice(const std::wstring& name)
 {
-    return name.starts_with(kDevicePrefix);
+    return name.starts_with(devicePrefix);
 }
 
 bool hasAttributes(DWORD attributes, DWORD wanted)
@@ -67,7 +68,7 @@ bool hasAttributes(DWORD attributes, DWORD wanted)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & wanted) == wanted;
 }
 
-/** Pipes and consoles have another type; a whole volume has none of this information. */
+/// Pipes and consoles have another type; a whole volume has none of this information.
 bool isRegular(HANDLE handle)
 {
     BY_HANDLE_FILE_INFORMATION status = {};
@@ -75,13 +76,14 @@ bool isRegular(HANDLE handle)
            !hasAttributes(status.dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
 }
 
-/** Other reparse points, as of files that are kept elsewhere, are the file itself. */
+/// Other reparse points, as of files that are kept elsewhere, are the file itself.
 bool isLink(const std::wstring& name)
 {
-    if (!hasAttributes(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_REPARSE_POINT))
+    if (!hasAttributes(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_REPARSE_POINT)) {
         return false;
+    }
     const Handle handle(
-        CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr, OPEN_EXISTING,
+        CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING,
                     FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     FILE_ATTRIBUTE_TAG_INFO info = {};
     return handle.isOpen() &&
@@ -89,11 +91,10 @@ bool isLink(const std::wstring& name)
            info.ReparseTag == IO_REPARSE_TAG_SYMLINK;
 }
 
-/** @return What the chain of links ends in; empty, with the system's error, where it ends in none.
- */
+/// @return What the chain of links ends in; empty, with the system's error, where it ends in none.
 std::wstring linkTarget(const std::wstring& link)
 {
-    const Handle handle(CreateFileW(link.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
+    const Handle handle(CreateFileW(link.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr,
                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     std::wstring name(32 * 1024, L'\0');
     const DWORD length = handle.isOpen()
@@ -104,18 +105,19 @@ std::wstring linkTarget(const std::wstring& link)
     return name;
 }
 
-/** Creates a file of a name of its own. */
+/// Creates a file of a name of its own.
 HANDLE createBeside(const std::wstring& file, DWORD attributes, std::wstring& name)
 {
-    constexpr int kAttempts = 100;
+    constexpr int attempts = 100;
     std::random_device random;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    for (int attempt = 0; attempt < attempts; ++attempt) {
         name = file.substr(0, file.find_last_of(L'\\') + 1);
         name.append(L".settings-").append(std::to_wstring(random())).append(L".tmp");
         const HANDLE handle =
             CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr);
-        if (handle != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS)
+        if (handle != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS) {
             return handle;
+        }
     }
     return INVALID_HANDLE_VALUE;
 }
@@ -128,45 +130,47 @@ bool writeAll(HANDLE handle, std::string_view content)
            written == content.size();
 }
 
-/** What somebody else who has the file open causes. */
+/// What somebody else who has the file open causes.
 bool isInUse(DWORD error)
 {
-    constexpr std::array<DWORD, 3> kErrors = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION,
-                                              ERROR_UNABLE_TO_REMOVE_REPLACED};
-    return std::ranges::find(kErrors, error) != kErrors.end();
+    constexpr std::array<DWORD, 3> errors = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION,
+                                             ERROR_UNABLE_TO_REMOVE_REPLACED};
+    return std::ranges::find(errors, error) != errors.end();
 }
 
-/** Tries again for half a second: scanners and indexers open every new file for a moment. */
+/// Tries again for half a second: scanners and indexers open every new file for a moment.
 template <typename Rename>
 DWORD renamePatiently(Rename rename)
 {
-    constexpr int kAttempts = 10;
-    constexpr DWORD kPause = 50; // milliseconds
+    constexpr int attempts = 10;
+    constexpr DWORD pause = 50; // milliseconds
     for (int attempt = 1;; ++attempt) {
-        if (rename())
+        if (rename()) {
             return ERROR_SUCCESS;
+        }
         const DWORD error = GetLastError();
-        if (!isInUse(error) || attempt == kAttempts)
+        if (!isInUse(error) || attempt == attempts) {
             return error;
-        Sleep(kPause);
+        }
+        Sleep(pause);
     }
 }
 
 DWORD move(const wchar_t* from, const wchar_t* to)
 {
-    constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    return renamePatiently([=] { return MoveFileExW(from, to, kFlags); });
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    return renamePatiently([=] { return MoveFileExW(from, to, flags); });
 }
 
-/** Somebody who has it open may not allow that; ReplaceFileW would say so in riddles. */
+/// Somebody who has it open may not allow that; ReplaceFileW would say so in riddles.
 bool mayBeReplaced(const wchar_t* file)
 {
-    return Handle(CreateFileW(file, GENERIC_READ | DELETE, kShareAll, nullptr, OPEN_EXISTING,
+    return Handle(CreateFileW(file, GENERIC_READ | DELETE, shareAll, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr))
         .isOpen();
 }
 
-/** Access list, creation time and named streams of the former file stay, as far as they may. */
+/// Access list, creation time and named streams of the former file stay, as far as they may.
 DWORD replace(const wchar_t* from, const wchar_t* to)
 {
     const DWORD error = renamePatiently([=] {
@@ -177,27 +181,30 @@ DWORD replace(const wchar_t* from, const wchar_t* to)
     return error == ERROR_SUCCESS || isInUse(error) ? error : move(from, to);
 }
 
-/** @param former The attributes of the file to be replaced; 0 for a new one. */
+/// @param former The attributes of the file to be replaced; 0 for a new one.
 std::string replaceRegular(const std::wstring& file, DWORD former, std::string_view content)
 {
     std::wstring name;
-    Handle handle(createBeside(file, former & kKeptAttributes, name));
-    if (!handle.isOpen())
+    Handle handle(createBeside(file, former & keptAttributes, name));
+    if (!handle.isOpen()) {
         return "no file can be made in its folder: " + systemReason();
+    }
     TemporaryName temporary(name);
     const bool isWritten = writeAll(handle.get(), content) && FlushFileBuffers(handle.get());
     const DWORD writeError = isWritten ? ERROR_SUCCESS : GetLastError();
     const bool isClosed = handle.close(); // an open file could not be removed
-    if (!isWritten || !isClosed)
+    if (!isWritten || !isClosed) {
         return systemReason(isWritten ? GetLastError() : writeError);
+    }
     const DWORD error =
         former != 0 ? replace(temporary.get(), file.c_str()) : move(temporary.get(), file.c_str());
     if (error == ERROR_SUCCESS) {
         temporary.release();
         return {};
     }
-    if (former == 0 || GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES)
+    if (former == 0 || GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES) {
         return systemReason(error);
+    }
     temporary.release(); // all that there is now
     return systemReason(error) + "; the settings are in " + displayName(name);
 }
@@ -217,25 +224,29 @@ bool isFolder(const std::filesystem::path& file)
 std::string readFile(const std::filesystem::path& file, std::size_t largest, std::string& content)
 {
     const std::wstring name = fullName(file);
-    if (isDevice(name))
-        return kNotRegular;
-    const Handle handle(CreateFileW(name.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+    if (isDevice(name)) {
+        return notRegular;
+    }
+    const Handle handle(CreateFileW(name.c_str(), GENERIC_READ, shareAll, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!handle.isOpen()) {
         const DWORD error = GetLastError();
-        return isFolder(file) ? kNotRegular : systemReason(error);
+        return isFolder(file) ? notRegular : systemReason(error);
     }
-    if (!isRegular(handle.get()))
-        return kNotRegular;
+    if (!isRegular(handle.get())) {
+        return notRegular;
+    }
     content.clear();
     std::vector<char> block(64 * 1024);
     while (content.size() <= largest) {
         DWORD count = 0;
         if (!ReadFile(handle.get(), block.data(), static_cast<DWORD>(block.size()), &count,
-                      nullptr))
+                      nullptr)) {
             return systemReason();
-        if (count == 0)
+        }
+        if (count == 0) {
             return {};
+        }
         content.append(block.data(), count);
     }
     return "too large";
@@ -245,23 +256,29 @@ std::string replaceFile(const std::filesystem::path& file, std::string_view cont
 {
     std::wstring name = fullName(file);
     // In some versions "C:\x\nul.cfg" is one: what is saved there would be lost without a word.
-    if (isDevice(name))
+    if (isDevice(name)) {
         return "the name is that of a device";
+    }
     if (isLink(name)) {
         name = linkTarget(name);
-        if (name.empty())
+        if (name.empty()) {
             return "the link leads to no file: " + systemReason();
+        }
     }
     const DWORD former = GetFileAttributesW(name.c_str());
     const DWORD error = former == INVALID_FILE_ATTRIBUTES ? GetLastError() : ERROR_SUCCESS;
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) {
         return replaceRegular(name, 0, content);
-    if (error != ERROR_SUCCESS)
+    }
+    if (error != ERROR_SUCCESS) {
         return systemReason(error);
-    if (hasAttributes(former, FILE_ATTRIBUTE_DIRECTORY))
+    }
+    if (hasAttributes(former, FILE_ATTRIBUTE_DIRECTORY)) {
         return "a folder has this name";
-    if (hasAttributes(former, FILE_ATTRIBUTE_READONLY))
+    }
+    if (hasAttributes(former, FILE_ATTRIBUTE_READONLY)) {
         return systemReason(ERROR_ACCESS_DENIED);
+    }
     return replaceRegular(name, former, content);
 }
 

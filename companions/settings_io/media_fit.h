@@ -1,6 +1,5 @@
 // What is changed of imported settings so that the encoder takes them.
-#ifndef KV_MEDIA_FIT_H
-#define KV_MEDIA_FIT_H
+#pragma once
 
 #include "encoder_check.h"
 
@@ -12,16 +11,12 @@
 namespace kv
 {
 
-/**
- * Makes the settings that applyMedia() left such that the encoder's check takes them.
- *
- * What the file does not say is changed first, and then as little of what it says as can be. When
- * nothing helps, the settings stay as they are. On success they are what the check makes of them.
- * @return What of the file was changed, or why the encoder refuses the settings.
- */
+/// Makes the settings that applyMedia() left such that the encoder's check takes them.
+///
+/// What the file does not say is changed first, and then as little of what it says as can be. When
+/// nothing helps, the settings stay as they are. On success they are what the check makes of them.
+/// @return What of the file was changed, or why the encoder refuses the settings.
 std::vector<std::string> fitToEncoder(KvMvcCheck check, const KvMediaInfo& info,
                                       KvMvcSettings& settings);
 
 } // namespace kv
-
-#endif

@@ -19,31 +19,31 @@ struct CodePair {
     int32_t setting;
 };
 
-/** profile_idc (A.2). */
-constexpr CodePair kProfiles[] = {
+/// profile_idc (A.2).
+constexpr CodePair profiles[] = {
     {66, KV_MVC_PROFILE_BASELINE}, {77, KV_MVC_PROFILE_MAIN},      {100, KV_MVC_PROFILE_HIGH},
     {110, KV_MVC_PROFILE_HIGH_10}, {122, KV_MVC_PROFILE_HIGH_422},
 };
 
-/** chroma_format_idc (Table 6-1). */
-constexpr CodePair kChromaFormats[] = {
+/// chroma_format_idc (Table 6-1).
+constexpr CodePair chromaFormats[] = {
     {0, KV_MVC_CHROMA_400}, {1, KV_MVC_CHROMA_420}, {2, KV_MVC_CHROMA_422}};
 
-/** level_idc (A.3); level 1b (9) is within the limits of level 1.1. */
-constexpr CodePair kLevels[] = {{9, 11},  {10, 10}, {11, 11}, {12, 12}, {13, 13}, {20, 20},
-                                {21, 21}, {22, 22}, {30, 30}, {31, 31}, {32, 32}, {40, 40},
-                                {41, 41}, {42, 42}, {50, 50}, {51, 51}, {52, 52}};
+/// level_idc (A.3); level 1b (9) is within the limits of level 1.1.
+constexpr CodePair levels[] = {{9, 11},  {10, 10}, {11, 11}, {12, 12}, {13, 13}, {20, 20},
+                               {21, 21}, {22, 22}, {30, 30}, {31, 31}, {32, 32}, {40, 40},
+                               {41, 41}, {42, 42}, {50, 50}, {51, 51}, {52, 52}};
 
-/** KvMediaScan. */
-constexpr CodePair kScans[] = {{KV_MEDIA_PROGRESSIVE, KV_MVC_PROGRESSIVE},
-                               {KV_MEDIA_INTERLACED, KV_MVC_INTERLACED},
-                               {KV_MEDIA_MBAFF, KV_MVC_MBAFF}};
+/// KvMediaScan.
+constexpr CodePair scans[] = {{KV_MEDIA_PROGRESSIVE, KV_MVC_PROGRESSIVE},
+                              {KV_MEDIA_INTERLACED, KV_MVC_INTERLACED},
+                              {KV_MEDIA_MBAFF, KV_MVC_MBAFF}};
 
-constexpr double kStandardRates[] = {24000 / 1001.0, 24, 25, 30000 / 1001.0, 30, 50,
-                                     60000 / 1001.0, 60};
+constexpr double standardRates[] = {24000 / 1001.0, 24, 25, 30000 / 1001.0, 30, 50,
+                                    60000 / 1001.0, 60};
 
-/** Rounded time stamps stray less; 24 and 23.976 differ by ten times as much. */
-constexpr double kRateTolerance = 0.0001;
+/// Rounded time stamps stray less; 24 and 23.976 differ by ten times as much.
+constexpr double rateTolerance = 0.0001;
 
 template <std::size_t Count>
 const CodePair* find(const CodePair (&pairs)[Count], int32_t stream)
@@ -54,17 +54,17 @@ const CodePair* find(const CodePair (&pairs)[Count], int32_t stream)
 
 int32_t toField(double value)
 {
-    constexpr double kMost = std::numeric_limits<int32_t>::max();
-    return static_cast<int32_t>(std::llround(std::clamp(value, 0.0, kMost)));
+    constexpr double most = std::numeric_limits<int32_t>::max();
+    return static_cast<int32_t>(std::llround(std::clamp(value, 0.0, most)));
 }
 
-/** Of a rate or a buffer, which a stream cannot be without. */
+/// Of a rate or a buffer, which a stream cannot be without.
 int32_t toRate(double value)
 {
     return std::max(toField(value), 1);
 }
 
-/** The same share of the buffer, be it counted in bits or in the time that it takes. */
+/// The same share of the buffer, be it counted in bits or in the time that it takes.
 void scaleFullness(double rateFactor, double sizeFactor, KvMvcViewSettings& view)
 {
     const double factor = view.bitrate_units == KV_MVC_UNITS_BITS         ? sizeFactor
@@ -76,23 +76,25 @@ void scaleFullness(double rateFactor, double sizeFactor, KvMvcViewSettings& view
 
 double standardRate(double rate)
 {
-    const auto standard = std::ranges::find_if(kStandardRates, [&](double known) {
-        return std::abs(rate - known) < known * kRateTolerance;
+    const auto standard = std::ranges::find_if(standardRates, [&](double known) {
+        return std::abs(rate - known) < known * rateTolerance;
     });
-    return standard == std::end(kStandardRates) ? rate : *standard;
+    return standard == std::end(standardRates) ? rate : *standard;
 }
 
 void applyPicture(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
 {
     view.width = info.width;
     view.height = info.height;
-    if (info.frame_rate_num > 0 && info.frame_rate_den > 0)
+    if (info.frame_rate_num > 0 && info.frame_rate_den > 0) {
         view.frame_rate =
             standardRate(static_cast<double>(info.frame_rate_num) / info.frame_rate_den);
-    else
+    } else {
         notes.push_back("its frame rate is not known, the default is taken");
-    if (const auto* scan = find(kScans, info.scan))
+    }
+    if (const auto* scan = find(scans, info.scan)) {
         view.interlace_mode = scan->setting;
+    }
     view.field_order = info.field_order == KV_MEDIA_BOTTOM_FIELD_FIRST ? KV_MVC_BOTTOM_FIELD_FIRST
                                                                        : KV_MVC_TOP_FIELD_FIRST;
     const bool aspectKnown = info.pixel_aspect_num > 0 && info.pixel_aspect_den > 0;
@@ -115,7 +117,7 @@ void applySamples(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
 {
     constexpr int32_t deepest = 10;
     constexpr int32_t fullChroma = 3; // chroma_format_idc of 4:4:4
-    const auto* chroma = find(kChromaFormats, info.chroma_format);
+    const auto* chroma = find(chromaFormats, info.chroma_format);
     const bool chromaKnown = info.chroma_format != KV_MEDIA_CHROMA_NOT_KNOWN;
     view.chroma_format = chroma                             ? chroma->setting
                          : info.chroma_format == fullChroma ? KV_MVC_CHROMA_422
@@ -134,17 +136,19 @@ void applySamples(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     }
 }
 
-/** The smallest profile that has the picture's chroma format and bit depths (A.2). */
+/// The smallest profile that has the picture's chroma format and bit depths (A.2).
 int32_t profileOfSamples(const KvMvcViewSettings& view)
 {
-    if (view.chroma_format == KV_MVC_CHROMA_422)
+    if (view.chroma_format == KV_MVC_CHROMA_422) {
         return KV_MVC_PROFILE_HIGH_422;
-    if (std::max(view.bit_depth_luma, view.bit_depth_chroma) > 8)
+    }
+    if (std::max(view.bit_depth_luma, view.bit_depth_chroma) > 8) {
         return KV_MVC_PROFILE_HIGH_10;
+    }
     return view.chroma_format == KV_MVC_CHROMA_400 ? KV_MVC_PROFILE_HIGH : KV_MVC_PROFILE_BASELINE;
 }
 
-/** Tools that the Baseline profile does not have (A.2.1). */
+/// Tools that the Baseline profile does not have (A.2.1).
 void leaveOutMainTools(KvMvcViewSettings& view)
 {
     view.entropy_mode = KV_MVC_CAVLC;
@@ -167,39 +171,43 @@ bool isLevel1b(const KvMediaInfo& info)
 void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
 {
     const bool h264 = info.codec == KV_MEDIA_CODEC_H264;
-    const auto* profile = h264 ? find(kProfiles, info.profile_idc) : nullptr;
-    if (profile)
+    const auto* profile = h264 ? find(profiles, info.profile_idc) : nullptr;
+    if (profile) {
         view.profile = profile->setting;
-    else if (h264)
+    } else if (h264) {
         notes.push_back("its profile is not among the settings, a fitting one is taken");
+    }
     view.profile = std::max(view.profile, profileOfSamples(view));
-    if (view.profile == KV_MVC_PROFILE_BASELINE)
+    if (view.profile == KV_MVC_PROFILE_BASELINE) {
         leaveOutMainTools(view);
-    const auto* level =
-        h264 ? find(kLevels, std::max(info.level_idc, info.mvc_level_idc)) : nullptr;
+    }
+    const auto* level = h264 ? find(levels, std::max(info.level_idc, info.mvc_level_idc)) : nullptr;
     view.level = level ? level->setting : int32_t(KV_MVC_LEVEL_AUTO);
-    if (level && isLevel1b(info))
+    if (level && isLevel1b(info)) {
         notes.push_back("its level 1b is not among the settings, 1.1 is taken");
-    if (h264 && !level)
+    }
+    if (h264 && !level) {
         notes.push_back("its level is not among the settings, Auto is taken");
-    if (info.num_ref_frames >= 0)
+    }
+    if (info.num_ref_frames >= 0) {
         view.num_ref_frames = std::max(info.num_ref_frames, 1);
-    if (info.num_ref_frames == 0)
+    }
+    if (info.num_ref_frames == 0) {
         view.i_interval = view.force_i = 1; // nothing but I pictures
+    }
 }
 
-/** The other rates and the buffer keep the proportion that they have in the defaults. */
+/// The other rates and the buffer keep the proportion that they have in the defaults.
 void applyBitRate(double rate, KvMvcViewSettings& view)
 {
-    if (rate <= 0 || view.bitrate <= 0)
+    if (rate <= 0 || view.bitrate <= 0) {
         return;
+    }
     scaleRates(rate / view.bitrate, view);
 }
 
-/**
- * What is signalled is exact. The measured rate is that of the beginning, which may exceed it by
- * what the buffer holds.
- */
+/// What is signalled is exact. The measured rate is that of the beginning, which may exceed it by
+/// what the buffer holds.
 void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
 {
     const bool constant = info.hrd_constant != 0;
@@ -210,9 +218,10 @@ void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
     view.max_bitrate = toRate(static_cast<double>(info.hrd_bit_rate));
     view.bitrate = constant ? view.max_bitrate : std::min(view.bitrate, view.max_bitrate);
     view.bitrate_buffer = toRate(static_cast<double>(info.hrd_buffer_size) / unit);
-    if (former.max_bitrate > 0 && former.bitrate_buffer > 0)
+    if (former.max_bitrate > 0 && former.bitrate_buffer > 0) {
         scaleFullness(static_cast<double>(view.max_bitrate) / former.max_bitrate,
                       static_cast<double>(view.bitrate_buffer) / former.bitrate_buffer, view);
+    }
 }
 
 /// Bits a second at the frame rate that is taken; what is measured without one is at another.
@@ -234,11 +243,13 @@ void applyRates(const KvMediaInfo& info, KvMvcSettings& settings, Notes& notes)
     const int64_t second = single ? base : info.dependent_bit_rate / others;
     applyBitRate(atFrameRate(base, info, settings.views[0]), settings.views[0]);
     applyBitRate(atFrameRate(second, info, settings.views[1]), settings.views[1]);
-    if (!hasSignalledBuffer(info))
+    if (!hasSignalledBuffer(info)) {
         return;
+    }
     applySignalledBuffer(info, settings.views[0]);
-    if (single)
+    if (single) {
         applySignalledBuffer(info, settings.views[1]);
+    }
 }
 
 } // namespace
@@ -264,8 +275,9 @@ void scaleRates(double factor, KvMvcViewSettings& view)
 int32_t fittingPreset(const KvMediaInfo& info)
 {
     constexpr int32_t multiviewHigh = 118; // profile_idc (H.10.1.1)
-    if (info.num_views < 2)
+    if (info.num_views < 2) {
         return KV_MVC_VIDEO_TYPE_NONE;
+    }
     return info.num_views > 2 || info.mvc_profile_idc == multiviewHigh ? KV_MVC_MULTIVIEW_HIGH
                                                                        : KV_MVC_STEREO_HIGH;
 }

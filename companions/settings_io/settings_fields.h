@@ -1,7 +1,6 @@
 // The public field table as settings files need it: it drives their reading and writing, and the
 // tables of their documentation.
-#ifndef KV_SETTINGS_FIELDS_H
-#define KV_SETTINGS_FIELDS_H
+#pragma once
 
 #include <cstddef>
 #include <cstdint>
@@ -17,22 +16,22 @@ enum class FieldKind {
 #include <kv_config_gui_mvc/settings_fields.def>
 };
 
-/** The readable form of one value of a field. */
+/// The readable form of one value of a field.
 struct NamedValue {
     std::string_view name;
     int32_t value;
 };
 
 struct Field {
-    std::string_view name; /**< as in settings_record.h, and the key in a file */
-    std::size_t offset;    /**< in bytes from the start of the section's structure */
+    std::string_view name; ///< as in settings_record.h, and the key in a file
+    std::size_t offset;    ///< in bytes from the start of the section's structure
     FieldKind kind;
-    std::span<const NamedValue> values; /**< in the order of their numbers; may be empty */
+    std::span<const NamedValue> values; ///< in the order of their numbers; may be empty
 
     constexpr std::size_t size() const { return kind == FieldKind::Rate ? 8 : 4; }
 };
 
-/** Fields that stand together in a file, under a comment. */
+/// Fields that stand together in a file, under a comment.
 struct FieldGroup {
     std::string_view title;
     std::span<const Field> fields;
@@ -40,14 +39,12 @@ struct FieldGroup {
 
 struct Section {
     std::string_view name;
-    std::size_t offset; /**< of the section's structure in the record */
+    std::size_t offset; ///< of the section's structure in the record
     std::size_t size;
-    std::span<const FieldGroup> groups; /**< in the order in which a file is written */
+    std::span<const FieldGroup> groups; ///< in the order in which a file is written
 };
 
-/** "record", "view 0", "view 1". */
+/// "record", "view 0", "view 1".
 std::span<const Section> settingsSections();
 
 } // namespace kv
-
-#endif

@@ -15,8 +15,7 @@ namespace
 
 enum Result : int32_t { Succeeded = 0, Failed = 1 };
 
-constexpr std::size_t kLargestFile =
-    1024 * 1024; // twenty times what the writer makes of any record
+constexpr std::size_t largestFile = 1024 * 1024; // twenty times what the writer makes of any record
 
 void report(const std::string& where, const std::string& what)
 {
@@ -33,18 +32,21 @@ int32_t readMedia(const std::filesystem::path& file, KvMvcSettings& settings)
 {
     std::vector<std::string> notes;
     const std::string reason = kv::importMedia(file, settings, notes);
-    if (!reason.empty())
+    if (!reason.empty()) {
         return fail(kv::displayName(file), reason);
-    for (const std::string& note : notes)
+    }
+    for (const std::string& note : notes) {
         report(kv::displayName(file), "note: " + note);
+    }
     return Succeeded;
 }
 
 int32_t readText(const std::string& name, const std::string& text, KvMvcSettings& settings)
 {
     const auto problems = kv::parseSettings(text, settings);
-    for (const kv::Problem& problem : problems)
+    for (const kv::Problem& problem : problems) {
         report(name + ":" + std::to_string(problem.line), problem.reason);
+    }
     return problems.empty() ? Succeeded : Failed;
 }
 
@@ -57,26 +59,27 @@ int32_t readFile(const std::filesystem::path& file, KvMvcSettings& settings)
         return readMedia(file, settings);
     }
     std::string text;
-    const std::string reason = kv::readFile(file, kLargestFile, text);
-    const bool isRead = reason.empty() || text.size() > kLargestFile;
-    const bool isSettings = text.size() <= kLargestFile && kv::looksLikeSettings(text);
+    const std::string reason = kv::readFile(file, largestFile, text);
+    const bool isRead = reason.empty() || text.size() > largestFile;
+    const bool isSettings = text.size() <= largestFile && kv::looksLikeSettings(text);
     if (kind == kv::FileKind::Unknown && isRead && !isSettings) {
         return readMedia(file, settings);
     }
     return reason.empty() ? readText(name, text, settings) : fail(name, reason);
 }
 
-/** A settings file under a medium's name could not be read back, and may take a film's place. */
+/// A settings file under a medium's name could not be read back, and may take a film's place.
 int32_t writeFile(const std::filesystem::path& file, const KvMvcSettings& settings)
 {
     const std::string name = kv::displayName(file);
-    if (kv::kindByName(name) == kv::FileKind::Media)
+    if (kv::kindByName(name) == kv::FileKind::Media) {
         return fail(name, "the name is that of a media file");
+    }
     const std::string reason = kv::replaceFile(file, kv::formatSettings(settings));
     return reason.empty() ? int32_t(Succeeded) : fail(name, reason);
 }
 
-/** No exception may cross the library's boundary. */
+/// No exception may cross the library's boundary.
 template <typename Work>
 int32_t guarded(const char* path, Work work) noexcept
 {
@@ -92,15 +95,17 @@ int32_t guarded(const char* path, Work work) noexcept
 
 int32_t readSettings(KvMvcSettings* settings, const char* path)
 {
-    if (!settings || !path)
+    if (!settings || !path) {
         return Failed;
+    }
     return guarded(path, [&] { return readFile(kv::meantFile(path), *settings); });
 }
 
 int32_t writeSettings(KvMvcSettings* settings, const char* path)
 {
-    if (!settings || !path)
+    if (!settings || !path) {
         return Failed;
+    }
     return guarded(path, [&] { return writeFile(kv::meantFile(path), *settings); });
 }
 

@@ -11,23 +11,23 @@ namespace kv
 namespace
 {
 
-constexpr std::size_t kMostProblems = 20;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view kBlanks = " \t";
+constexpr std::size_t mostProblems = 20;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view blanks = " \t";
 
 std::string_view trimmed(std::string_view text)
 {
-    const auto first = text.find_first_not_of(kBlanks);
+    const auto first = text.find_first_not_of(blanks);
     return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+                              : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/** Foreign text for a message: quoted, and not endless. */
+/// Foreign text for a message: quoted, and not endless.
 std::string quoted(std::string_view text)
 {
-    constexpr std::size_t kLongest = 60;
+    constexpr std::size_t longest = 60;
     std::size_t end = 0;
-    while (end < text.size() && end < kLongest && nextCodePoint(text, end)) {
+    while (end < text.size() && end < longest && nextCodePoint(text, end)) {
     }
     std::string result("'");
     result.append(text.substr(0, end)).append(end < text.size() ? "...'" : "'");
@@ -38,19 +38,21 @@ const Field* findField(const Section& section, std::string_view name)
 {
     for (const FieldGroup& group : section.groups) {
         const auto field = std::ranges::find(group.fields, name, &Field::name);
-        if (field != group.fields.end())
+        if (field != group.fields.end()) {
             return &*field;
+        }
     }
     return nullptr;
 }
 
-/** What no line of a text file holds: controls of the C0 and C1 sets, but for the tabulator. */
+/// What no line of a text file holds: controls of the C0 and C1 sets, but for the tabulator.
 bool holdsControls(std::string_view line)
 {
     for (std::size_t at = 0; at < line.size();) {
         const auto point = nextCodePoint(line, at);
-        if (!point || (*point < 0x20 && *point != '\t') || (*point >= 0x7F && *point < 0xA0))
+        if (!point || (*point < 0x20 && *point != '\t') || (*point >= 0x7F && *point < 0xA0)) {
             return true;
+        }
     }
     return false;
 }
@@ -86,34 +88,43 @@ private:
 void Reader::readLine(std::string_view line)
 {
     ++m_line;
-    if (!isUtf8(line))
+    if (!isUtf8(line)) {
         return report("not valid UTF-8 text");
-    if (holdsControls(line))
+    }
+    if (holdsControls(line)) {
         return report("a control character");
+    }
     line = trimmed(line.substr(0, line.find_first_of("#;")));
-    if (line.empty())
+    if (line.empty()) {
         return;
-    if (line.front() == '[')
+    }
+    if (line.front() == '[') {
         return readHeading(line);
+    }
     const auto equals = line.find('=');
-    if (equals == line.npos)
+    if (equals == line.npos) {
         return report("neither a section nor a 'key = value' line: " + quoted(line));
-    if (!m_skipping)
+    }
+    if (!m_skipping) {
         readAssignment(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
+    }
 }
 
 void Reader::readHeading(std::string_view line)
 {
     m_skipping = true;
-    if (line.back() != ']')
+    if (line.back() != ']') {
         return report("']' missing at the end of the section's name");
+    }
     const std::string_view name = trimmed(line.substr(1, line.size() - 2));
     const auto sections = settingsSections();
     const auto section = std::ranges::find(sections, name, &Section::name);
-    if (section == sections.end())
+    if (section == sections.end()) {
         return report("unknown section " + quoted(name));
-    if (std::ranges::find(m_seen, &*section) != m_seen.end())
+    }
+    if (std::ranges::find(m_seen, &*section) != m_seen.end()) {
         return report("section " + quoted(name) + " is there twice");
+    }
     m_skipping = false;
     m_section = &*section;
     m_seen.push_back(m_section);
@@ -121,38 +132,47 @@ void Reader::readHeading(std::string_view line)
 
 void Reader::readAssignment(std::string_view key, std::string_view value)
 {
-    constexpr std::string_view kBytes = "bytes ";
-    if (!m_section)
+    constexpr std::string_view bytesKey = "bytes ";
+    if (!m_section) {
         return report("key " + quoted(key) + " before the first section");
-    if (const Field* field = findField(*m_section, key))
+    }
+    if (const Field* field = findField(*m_section, key)) {
         return readField(*field, value);
-    if (key.starts_with(kBytes))
-        return readBytes(trimmed(key.substr(kBytes.size())), value);
+    }
+    if (key.starts_with(bytesKey)) {
+        return readBytes(trimmed(key.substr(bytesKey.size())), value);
+    }
     report("unknown key " + quoted(key) + " in section " + quoted(m_section->name));
 }
 
 void Reader::readField(const Field& field, std::string_view value)
 {
-    if (!claim(field.name, field.offset, field.size()))
+    if (!claim(field.name, field.offset, field.size())) {
         return;
+    }
     const std::string wrong = parseField(field, value, base());
-    if (!wrong.empty())
+    if (!wrong.empty()) {
         report("bad value " + quoted(value) + " for " + quoted(field.name) + ": " + wrong);
+    }
 }
 
 void Reader::readBytes(std::string_view offsetText, std::string_view value)
 {
     const auto offset = parseDecimal<std::size_t>(offsetText);
-    if (!offset)
+    if (!offset) {
         return report("bad offset " + quoted(offsetText) + " of bytes");
+    }
     const auto bytes = parseBytes(value);
-    if (!bytes)
+    if (!bytes) {
         return report("bad bytes: expected pairs of hexadecimal digits");
-    if (*offset > m_section->size || bytes->size() > m_section->size - *offset)
+    }
+    if (*offset > m_section->size || bytes->size() > m_section->size - *offset) {
         return report("bytes beyond the end of section " + quoted(m_section->name) +
                       ", which has " + std::to_string(m_section->size) + " bytes");
-    if (claim("bytes " + std::string(offsetText), *offset, bytes->size()))
+    }
+    if (claim("bytes " + std::string(offsetText), *offset, bytes->size())) {
         std::memcpy(base() + *offset, bytes->data(), bytes->size());
+    }
 }
 
 bool Reader::claim(std::string_view key, std::size_t offset, std::size_t count)
@@ -169,12 +189,14 @@ bool Reader::claim(std::string_view key, std::size_t offset, std::size_t count)
 
 void Reader::finish()
 {
-    if (!problems.empty())
+    if (!problems.empty()) {
         return;
+    }
     m_line = std::max<std::size_t>(m_line, 1); // of an empty file
     for (const Section& section : settingsSections().first(2)) {
-        if (std::ranges::find(m_seen, &section) == m_seen.end())
+        if (std::ranges::find(m_seen, &section) == m_seen.end()) {
             report("section " + quoted(section.name) + " is missing");
+        }
     }
 }
 
@@ -182,20 +204,23 @@ void Reader::finish()
 
 std::vector<Problem> parseSettings(std::string_view text, KvMvcSettings& settings)
 {
-    if (text.starts_with(kByteOrderMark))
-        text.remove_prefix(kByteOrderMark.size());
+    if (text.starts_with(byteOrderMark)) {
+        text.remove_prefix(byteOrderMark.size());
+    }
     Reader reader;
-    while (!text.empty() && reader.problems.size() < kMostProblems) {
+    while (!text.empty() && reader.problems.size() < mostProblems) {
         const auto feed = text.find('\n');
         std::string_view line = text.substr(0, feed);
         text.remove_prefix(feed == text.npos ? text.size() : feed + 1);
-        if (line.ends_with('\r'))
+        if (line.ends_with('\r')) {
             line.remove_suffix(1);
+        }
         reader.readLine(line);
     }
     reader.finish();
-    if (reader.problems.empty())
+    if (reader.problems.empty()) {
         settings = reader.settings;
+    }
     return reader.problems;
 }
 

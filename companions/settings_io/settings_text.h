@@ -1,6 +1,5 @@
 // Settings files as text; docs/settings-file.md describes the format.
-#ifndef KV_SETTINGS_TEXT_H
-#define KV_SETTINGS_TEXT_H
+#pragma once
 
 #include <kv_config_gui_mvc/settings_record.h>
 
@@ -11,22 +10,18 @@
 namespace kv
 {
 
-/** What is wrong with a line of a settings file. */
+/// What is wrong with a line of a settings file.
 struct Problem {
-    std::size_t line; /**< from 1 */
+    std::size_t line; ///< from 1
     std::string reason;
 };
 
-/**
- * Reads a settings file's text. What the text leaves out is zero in the record.
- * @param settings Written only when there is no problem.
- * @return The problems in the order of their lines, at most twenty.
- */
+/// Reads a settings file's text. What the text leaves out is zero in the record.
+/// @param settings Written only when there is no problem.
+/// @return The problems in the order of their lines, at most twenty.
 std::vector<Problem> parseSettings(std::string_view text, KvMvcSettings& settings);
 
-/** The text of a settings file: every named field, and what is not zero of the other bytes. */
+/// The text of a settings file: every named field, and what is not zero of the other bytes.
 std::string formatSettings(const KvMvcSettings& settings);
 
 } // namespace kv
-
-#endif

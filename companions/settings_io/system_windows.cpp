@@ -8,9 +8,9 @@ namespace kv
 namespace
 {
 
-constexpr std::size_t kLongestName = 32 * 1024; // the system's own limit, terminating zero included
-constexpr std::wstring_view kVerbatimPrefix = L"\\\\?\\";
-constexpr std::wstring_view kServerPrefix = L"\\\\";
+constexpr std::size_t longestName = 32 * 1024; // the system's own limit, terminating zero included
+constexpr std::wstring_view verbatimPrefix = L"\\\\?\\";
+constexpr std::wstring_view serverPrefix = L"\\\\";
 
 std::string toUtf8(std::wstring_view text)
 {
@@ -26,19 +26,23 @@ std::string toUtf8(std::wstring_view text)
 
 std::wstring fullName(const std::filesystem::path& file)
 {
-    if (file.native().starts_with(kVerbatimPrefix))
+    if (file.native().starts_with(verbatimPrefix)) {
         return file.native();
-    std::wstring name(kLongestName, L'\0');
+    }
+    std::wstring name(longestName, L'\0');
     const DWORD length =
         GetFullPathNameW(file.c_str(), static_cast<DWORD>(name.size()), name.data(), nullptr);
-    if (length == 0 || length >= name.size())
+    if (length == 0 || length >= name.size()) {
         return file.native(); // whoever is given it says what is wrong
+    }
     name.resize(length);
-    if (name.starts_with(kVerbatimPrefix) || name.starts_with(kDevicePrefix))
+    if (name.starts_with(verbatimPrefix) || name.starts_with(devicePrefix)) {
         return name;
-    if (name.starts_with(kServerPrefix))
-        return std::wstring(kVerbatimPrefix) + L"UNC" + name.substr(1);
-    return std::wstring(kVerbatimPrefix) + name;
+    }
+    if (name.starts_with(serverPrefix)) {
+        return std::wstring(verbatimPrefix) + L"UNC" + name.substr(1);
+    }
+    return std::wstring(verbatimPrefix) + name;
 }
 
 std::string systemReason(DWORD error)

@@ -1,6 +1,5 @@
 // The little that settings files need to know of UTF-8.
-#ifndef KV_UTF8_H
-#define KV_UTF8_H
+#pragma once
 
 #include <optional>
 #include <string>
@@ -9,18 +8,14 @@
 namespace kv
 {
 
-/** Decodes one code point at `position` and moves behind it; none for ill-formed text. */
+/// Decodes one code point at `position` and moves behind it; none for ill-formed text.
 std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position);
 
 bool isUtf8(std::string_view text);
 
-/**
- * Undoes "UTF-8 bytes that were read as Latin-1 and encoded as UTF-8 again".
- * @return The former text; none where `text` cannot be the outcome of such a
- *         conversion, or holds ASCII only and so is its own former text.
- */
+/// Undoes "UTF-8 bytes that were read as Latin-1 and encoded as UTF-8 again".
+/// @return The former text; none where `text` cannot be the outcome of such a
+///         conversion, or holds ASCII only and so is its own former text.
 std::optional<std::string> undoLatin1(std::string_view text);
 
 } // namespace kv
-
-#endif

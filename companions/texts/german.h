@@ -1,5 +1,4 @@
-/// @file german.h
-/// German: a row a rule of the encoder's check, in the order of docs/check-rules.md.
+// German: a row a rule of the encoder's check, in the order of docs/check-rules.md.
 #pragma once
 
 #include "text.h"

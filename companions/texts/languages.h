@@ -1,5 +1,4 @@
-/// @file languages.h
-/// The languages that the encoder's messages are translated into.
+// The languages that the encoder's messages are translated into.
 #pragma once
 
 #include <kv_config_gui_mvc/companions.h>

@@ -1,5 +1,4 @@
-/// @file text.h
-/// What a file of translations consists of: rows of a rule, the English format and its translation.
+// What a file of translations consists of: rows of a rule, the English format and its translation.
 #pragma once
 
 namespace kv::texts

@@ -102,11 +102,12 @@ static void edit_settings(HWND window, Host* host)
                          KV_MVC_GUI_BASIC_TAB | KV_MVC_GUI_ADVANCED_TAB | KV_MVC_GUI_FILE_BUTTONS |
                              KV_MVC_GUI_LOG_COLOURS | KV_MVC_GUI_HOSTING_RECORD,
                          &hosting);
-    if (result == KV_MVC_GUI_ERROR)
+    if (result == KV_MVC_GUI_ERROR) {
         complain(window, L"The settings dialog could not be shown.");
-    else
+    } else {
         show_result(window, &host->settings,
                     result == KV_MVC_GUI_ACCEPTED ? L"Accepted" : L"Cancelled");
+    }
 }
 
 static void create_controls(HWND window)
@@ -136,16 +137,18 @@ static LRESULT CALLBACK handle_message(HWND window, UINT message, WPARAM wide, L
         SetFocus(GetDlgItem(window, CONTROL_NAME));
         return 0;
     case WM_COMMAND:
-        if (LOWORD(wide) == MENU_SETTINGS)
+        if (LOWORD(wide) == MENU_SETTINGS) {
             edit_settings(window, host);
-        else if (LOWORD(wide) == MENU_EXIT)
+        } else if (LOWORD(wide) == MENU_EXIT) {
             DestroyWindow(window);
+        }
         return 0;
     case WM_CLOSE:
         /* A request from elsewhere (the taskbar, another program) must not take the parent away
            from under the dialog. */
-        if (IsWindowEnabled(window))
+        if (IsWindowEnabled(window)) {
             DestroyWindow(window);
+        }
         return 0;
     case WM_DESTROY:
         PostQuitMessage(0);
@@ -169,8 +172,9 @@ static HWND create_window(Host* host)
     description.hCursor = LoadCursor(NULL, IDC_ARROW);
     description.hbrBackground = (HBRUSH)(COLOR_BTNFACE + 1);
     description.lpszClassName = window_class;
-    if (!RegisterClassW(&description))
+    if (!RegisterClassW(&description)) {
         return NULL;
+    }
     return CreateWindowW(window_class, L"Encoder", WS_OVERLAPPEDWINDOW, 200, 80, 840, 560, NULL,
                          menu, description.hInstance, host);
 }
@@ -189,8 +193,9 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, i
     /* Without the current directory, which may be anybody's, among the places to look for DLLs. */
     SetDllDirectoryW(L"");
     if (!fill_with_defaults(__argc > 1 ? (int32_t)atoi(__argv[1]) : KV_MVC_STEREO_HIGH,
-                            &host.settings))
+                            &host.settings)) {
         return 2;
+    }
     host.show_pages = (KvShowMvcEncoderPages)load_function(&module, names, KV_MVC_GUI_SHOW_PAGES);
     if (!host.show_pages) {
         return 2;

@@ -185,10 +185,11 @@ static void edit_settings(Host* host)
                          KV_MVC_GUI_BASIC_TAB | KV_MVC_GUI_ADVANCED_TAB | KV_MVC_GUI_FILE_BUTTONS |
                              KV_MVC_GUI_LOG_COLOURS | KV_MVC_GUI_HOSTING_RECORD,
                          &hosting);
-    if (result == KV_MVC_GUI_ERROR)
+    if (result == KV_MVC_GUI_ERROR) {
         fprintf(stderr, "xcb-host: the dialog could not be shown\n");
-    else
+    } else {
         tell(host, result == KV_MVC_GUI_ACCEPTED ? "accepted" : "cancelled");
+    }
 }
 
 static int is_on_button(int x, int y)
@@ -204,15 +205,17 @@ static int handle_event(Host* host, const xcb_generic_event_t* event)
     switch (event->response_type & 0x7F) {
     case XCB_BUTTON_PRESS: {
         const xcb_button_press_event_t* const press = (const xcb_button_press_event_t*)event;
-        if (is_on_button(press->event_x, press->event_y))
+        if (is_on_button(press->event_x, press->event_y)) {
             edit_settings(host);
+        }
         return 1;
     }
     case XCB_KEY_PRESS: {
         const xcb_key_press_event_t* const press = (const xcb_key_press_event_t*)event;
         const char key = character(host->server, press->detail);
-        if (key == 's')
+        if (key == 's') {
             edit_settings(host);
+        }
         return key != 'q';
     }
     case XCB_CLIENT_MESSAGE: {
@@ -236,14 +239,16 @@ static int run(Host* host)
         return 2;
     }
     screens = xcb_setup_roots_iterator(xcb_get_setup(host->server));
-    while (screen_number-- > 0)
+    while (screen_number-- > 0) {
         xcb_screen_next(&screens);
+    }
     host->screen = screens.data;
     create_window(host);
     while (goes_on) {
         xcb_generic_event_t* const event = xcb_wait_for_event(host->server);
-        if (event == NULL)
+        if (event == NULL) {
             break;
+        }
         goes_on = handle_event(host, event);
         free(event);
     }

@@ -45,8 +45,9 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
 
     setWindowTitle(hosting && hosting->title ? foreignText(hosting->title)
                                              : tr("Korvane MVC Video Encoder Settings"));
-    if (hosting && hosting->banner)
+    if (hosting && hosting->banner) {
         m_banner.load(foreignText(hosting->banner));
+    }
     applySkin(QStringLiteral("default"));
     const struct {
         QPushButton* button;
@@ -56,12 +57,14 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
                  {ui.buttonSave, "save"},
                  {ui.buttonOk, "ok"},
                  {ui.buttonCancel, "cancel"}};
-    for (const auto& row : icons)
+    for (const auto& row : icons) {
         row.button->setIcon(
             QIcon(QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon))));
+    }
     new FocusMark(ui.buttonOk);
-    if (!settings)
+    if (!settings) {
         return;
+    }
 
     buildPresetRow();
     m_caller = settings;
@@ -80,8 +83,9 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
         check();
     }
     // After the first check, whose messages thus keep their colours until the next one.
-    if (!(m_flags & KV_MVC_GUI_LOG_COLOURS))
+    if (!(m_flags & KV_MVC_GUI_LOG_COLOURS)) {
         messageLog().dropDistinctColours();
+    }
     limitHeight();
     settingsToState();
 
@@ -96,9 +100,11 @@ AVCVideoEncoderDlg::~AVCVideoEncoderDlg()
 {
     // A field that loses the focus while the dialog is deleted still reports what was typed.
     for (SettingsPage* page :
-         std::initializer_list<SettingsPage*>{m_basicPage, m_advancedPage, m_viewsPage})
-        if (page)
+         std::initializer_list<SettingsPage*>{m_basicPage, m_advancedPage, m_viewsPage}) {
+        if (page) {
             page->disconnect(this);
+        }
+    }
 }
 
 void AVCVideoEncoderDlg::buildPresetRow()
@@ -116,8 +122,9 @@ void AVCVideoEncoderDlg::buildPages()
     // The layout's own pages stand for the real ones at design time only.
     ui.tabWidget->clear();
     QWidget* const designTimePages[] = {ui.basicPage, ui.advancedPage, ui.miscPage};
-    for (QWidget* page : designTimePages)
+    for (QWidget* page : designTimePages) {
         delete page;
+    }
 
     if (m_flags & KV_MVC_GUI_BASIC_TAB) {
         m_basicPage = new BasicPage(this);
@@ -133,8 +140,9 @@ void AVCVideoEncoderDlg::buildPages()
 
     // The pages came last, but stand before the buttons. Labels are in the chain, too.
     QWidget* last = previousInFocusChain();
-    while (last->focusPolicy() == Qt::NoFocus || last->focusProxy())
+    while (last->focusPolicy() == Qt::NoFocus || last->focusProxy()) {
         last = last->previousInFocusChain();
+    }
     setTabOrder(last, ui.buttonCancel);
     setTabOrder(ui.buttonCancel, ui.buttonOk);
     // Not on the preset list, where the first turn of the wheel would replace every setting.
@@ -150,8 +158,9 @@ void AVCVideoEncoderDlg::addPage(SettingsPage* page, const QString& title)
 void AVCVideoEncoderDlg::limitHeight()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    if (!screen)
+    if (!screen) {
         return;
+    }
     const int limit = int(screen->availableGeometry().height() * 0.95);
     // The layout's minimum is too much for a small screen, whose user needs the buttons at the end.
     setMinimumHeight(qMin(minimumHeight(), limit));
@@ -163,11 +172,13 @@ void AVCVideoEncoderDlg::applySkin(const QString& name)
     QFile sheet(QLatin1String(":/") + QLatin1String("res_mvc") + QLatin1String("/skins/") + name +
                 QLatin1String(".qss"));
     QString text;
-    if (sheet.open(QIODevice::ReadOnly))
+    if (sheet.open(QIODevice::ReadOnly)) {
         text = QString::fromLatin1(sheet.readAll());
+    }
     // Setting a sheet anew costs as much as another one, even the same.
-    if (styleSheet() != text)
+    if (styleSheet() != text) {
         setStyleSheet(text);
+    }
 
     if (m_banner.isNull()) {
         // By way of an icon, which has the picture in the screen's density.
@@ -195,15 +206,18 @@ void AVCVideoEncoderDlg::describeCurrentView()
     ui.presetList->setEnabled(videoType.enabled);
 
     const BasicDescription basic = describeBasic(m_vocabulary, m_flags, view);
-    if (basic.customFrameRate)
+    if (basic.customFrameRate) {
         m_customFrameRate = *basic.customFrameRate;
+    }
     if (m_basicPage) {
-        if (basic.customFrameRate)
+        if (basic.customFrameRate) {
             m_basicPage->addFramerateItem(basic.customFrameRate->text);
+        }
         m_basicPage->receiveState(basic.state);
     }
-    if (m_advancedPage)
+    if (m_advancedPage) {
         m_advancedPage->receiveState(describeAdvanced(m_vocabulary, m_flags, view));
+    }
 }
 
 void AVCVideoEncoderDlg::describeAllViews()
@@ -245,8 +259,9 @@ void AVCVideoEncoderDlg::takeSettings(const KvMvcSettings& settings)
 
 bool AVCVideoEncoderDlg::check()
 {
-    if (m_updating || !m_caller)
+    if (m_updating || !m_caller) {
         return false;
+    }
     messageLog().clearMessages();
     // On a copy: the check may show a message box, and meanwhile the host may delete the dialog.
     const QPointer<AVCVideoEncoderDlg> self(this);
@@ -254,8 +269,9 @@ bool AVCVideoEncoderDlg::check()
     const auto encoderCheck = companionFunctions().check;
     const bool accepted =
         encoderCheck && encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0) == 0;
-    if (!self)
+    if (!self) {
         return false;
+    }
     m_record.settings = settings;
     followSecondView(m_record);
     settingsToState();
@@ -273,14 +289,17 @@ void AVCVideoEncoderDlg::slotAccept()
     }
     // A number that is still being typed counts, also when nothing takes the focus from its field.
     const QPointer<AVCVideoEncoderDlg> self(this);
-    if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget()))
+    if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget())) {
         field->interpretText();
-    if (!self)
+    }
+    if (!self) {
         return;
+    }
     if (!check()) {
         // The same messages may have been there before: that nothing happened must not be all.
-        if (self)
+        if (self) {
             messageLog().pointOutError();
+        }
         return;
     }
     *m_caller = m_record.settings;

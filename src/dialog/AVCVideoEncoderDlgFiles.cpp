@@ -29,8 +29,9 @@ QString chooseFile(QFileDialog& dialog)
 {
     // It has no parent, and a hidden one has the settings dialog: closing it is not the end.
     dialog.setAttribute(Qt::WA_QuitOnClose, false);
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return {};
+    }
     return dialog.selectedFiles().value(0);
 }
 
@@ -59,20 +60,23 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
 {
     const QPointer<AVCVideoEncoderDlg> self(this);
     const auto settings = m_caller ? settings_files::read(path) : std::nullopt;
-    if (!settings)
+    if (!settings) {
         return;
+    }
     takeSettings(*settings);
     check();
-    if (self)
+    if (self) {
         settingsToState();
+    }
 }
 
 void AVCVideoEncoderDlg::saveToFile(const QString& path)
 {
     const QPointer<AVCVideoEncoderDlg> self(this);
     check();
-    if (!self || !m_caller)
+    if (!self || !m_caller) {
         return;
+    }
     settings_files::write(m_record.settings, path);
 }
 
@@ -87,11 +91,13 @@ void AVCVideoEncoderDlg::slotLoadSettings()
            "*.mpg *.mpv *.mxf *.trp *.ts *.vob *.ifo)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     const QString name = chooseFile(dialog);
-    if (name.isEmpty() || !self)
+    if (name.isEmpty() || !self) {
         return;
+    }
     loadFromFile(settings_files::asPassedOn(name));
-    if (self)
+    if (self) {
         m_lastLoadDirectory = absoluteDirectory(name);
+    }
 }
 
 void AVCVideoEncoderDlg::slotSaveSettings()
@@ -103,14 +109,17 @@ void AVCVideoEncoderDlg::slotSaveSettings()
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     const QString chosen = chooseFile(dialog);
-    if (chosen.isEmpty() || !self)
+    if (chosen.isEmpty() || !self) {
         return;
+    }
     const QString name = settings_files::withSuffix(chosen);
-    if ((QFile::exists(name) && !mayOverwrite()) || !self)
+    if ((QFile::exists(name) && !mayOverwrite()) || !self) {
         return;
+    }
     saveToFile(settings_files::asPassedOn(name));
-    if (self)
+    if (self) {
         m_lastSaveDirectory = absoluteDirectory(name);
+    }
 }
 
 bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
@@ -119,10 +128,11 @@ bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
     // Every event goes on to its target.
     if (watched == this && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_F5)
+        if (key == Qt::Key_F5) {
             applySkin(QStringLiteral("default"));
-        else if (key == Qt::Key_F6)
+        } else if (key == Qt::Key_F6) {
             applySkin(QStringLiteral("metal"));
+        }
     } else if (watched == ui.tabWidget && event->type() == QEvent::DragEnter) {
         dragEntersTabs(static_cast<QDragEnterEvent*>(event));
     } else if (watched == ui.tabWidget && event->type() == QEvent::Drop) {
@@ -135,14 +145,16 @@ bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
 
 void AVCVideoEncoderDlg::dragEntersTabs(QDragEnterEvent* event)
 {
-    if (settings_files::isDroppable(firstLocalFile(event->mimeData())))
+    if (settings_files::isDroppable(firstLocalFile(event->mimeData()))) {
         event->acceptProposedAction();
+    }
 }
 
 void AVCVideoEncoderDlg::dropOnTabs(QDropEvent* event)
 {
-    if (!event->mimeData()->hasUrls())
+    if (!event->mimeData()->hasUrls()) {
         return;
+    }
     loadFromFile(firstLocalFile(event->mimeData()));
     event->acceptProposedAction();
 }

@@ -14,8 +14,9 @@ FocusMark::FocusMark(QAbstractButton* button) : QObject(button)
 bool FocusMark::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const button = static_cast<QAbstractButton*>(watched);
-    if (event->type() != QEvent::Paint || m_painting || !button->hasFocus())
+    if (event->type() != QEvent::Paint || m_painting || !button->hasFocus()) {
         return QObject::eventFilter(watched, event);
+    }
 
     // The button first, then the frame over it.
     const QScopedValueRollback<bool> painting(m_painting, true);

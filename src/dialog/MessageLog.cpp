@@ -47,10 +47,11 @@ void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list a
     const QString message =
         foreignText(formatted(localized ? localized : format, arguments)) + QLatin1Char('\n');
     const QTextEdit* log = messageLog().widget;
-    if (log && log->isHidden())
+    if (log && log->isHidden()) {
         showBox(icon, message);
-    else
+    } else {
         buffer += message;
+    }
 }
 
 int printError(const char* format, ...)
@@ -93,12 +94,15 @@ QTextBlock firstToRead(const QTextEdit* log)
 {
     QTextBlock first = log->document()->begin();
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
-        if (block.text().isEmpty())
+        if (block.text().isEmpty()) {
             continue;
-        if (block.userState() == errorsBegin)
+        }
+        if (block.userState() == errorsBegin) {
             return block;
-        if (first.text().isEmpty())
+        }
+        if (first.text().isEmpty()) {
             first = block;
+        }
     }
     return first;
 }
@@ -145,8 +149,9 @@ void MessageLog::showIn(QTextEdit* log)
 
 void MessageLog::clearMessages()
 {
-    for (QString* messages : {&errors, &warnings, &notes})
+    for (QString* messages : {&errors, &warnings, &notes}) {
         messages->clear();
+    }
 }
 
 void MessageLog::dropDistinctColours()
@@ -157,8 +162,9 @@ void MessageLog::dropDistinctColours()
 
 void MessageLog::rewriteWidget() const
 {
-    if (!widget)
+    if (!widget) {
         return;
+    }
     const struct {
         const QString& messages;
         const QColor& colour;
@@ -175,8 +181,9 @@ void MessageLog::rewriteWidget() const
     for (const auto& block : blocks) {
         QTextCharFormat format;
         format.setForeground(block.colour);
-        if (&block != blocks)
+        if (&block != blocks) {
             cursor.insertBlock(paragraph, format);
+        }
         QTextBlock first = cursor.block();
         cursor.insertText(block.messages, format);
         first.setUserState(block.state);
@@ -185,15 +192,17 @@ void MessageLog::rewriteWidget() const
 
     scrollToFirstToRead(widget);
     // Before it is shown the log does not know yet how much of the text it has room for.
-    if (!widget->isVisible())
+    if (!widget->isVisible()) {
         QMetaObject::invokeMethod(
             widget, [log = widget.data()] { scrollToFirstToRead(log); }, Qt::QueuedConnection);
+    }
 }
 
 void MessageLog::pointOutError() const
 {
-    if (!widget || !widget->isVisible())
+    if (!widget || !widget->isVisible()) {
         return;
+    }
     widget->setFocus();
     const QTextBlock block = firstToRead(widget);
     QTextCursor cursor(block);

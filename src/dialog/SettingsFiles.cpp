@@ -27,8 +27,9 @@ std::optional<KvMvcSettings> read(const QString& path)
 {
     const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
     alignas(8) KvMvcSettings settings = {};
-    if (!reader || reader(&settings, path.toUtf8().constData()) != 0)
+    if (!reader || reader(&settings, path.toUtf8().constData()) != 0) {
         return std::nullopt;
+    }
     return settings;
 }
 
@@ -36,8 +37,9 @@ void write(const KvMvcSettings& settings, const QString& path)
 {
     const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
     alignas(8) KvMvcSettings copy = settings;
-    if (writer)
+    if (writer) {
         writer(&copy, path.toUtf8().constData());
+    }
 }
 
 bool isDroppable(const QString& path)

@@ -53,8 +53,9 @@ void setUpApplication(QCoreApplication& application)
         // No delimiters: "gui_mvc.qm" is no translation into this language.
         const QString noDelimiters(QLatin1String(""));
         for (const QString& directory : application.libraryPaths()) {
-            if (!processTranslator().load(file, directory, noDelimiters))
+            if (!processTranslator().load(file, directory, noDelimiters)) {
                 continue;
+            }
             application.installTranslator(&processTranslator());
             bindings::loadLocalization(directory, row.language);
             break;

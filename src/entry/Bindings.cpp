@@ -79,8 +79,9 @@ bool loadSettingsIo()
 {
     releaseSettingsIo();
     auto& loader = processSlots().settingsIo;
-    if (!loadFirst(loader, {KV_MVC_SETTINGS_IO_LIBRARY}))
+    if (!loadFirst(loader, {KV_MVC_SETTINGS_IO_LIBRARY})) {
         return false;
+    }
     auto& function = companionFunctions().settingsIoGetApi;
     function = loader->resolve<KvMvcSettingsIoGetApi>(KV_MVC_SETTINGS_IO_GET_API);
     return function != nullptr;
@@ -97,8 +98,9 @@ bool loadEncoder()
         functions.defaults = encoder->resolve<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
         functions.check = encoder->resolve<KvMvcCheck>(KV_MVC_ENCODER_CHECK);
     }
-    if (!functions.defaults || !functions.check)
+    if (!functions.defaults || !functions.check) {
         return false;
+    }
 
     auto& probe = processSlots().probe;
     if (loadFirst(probe, {KV_MVC_PROBE_LIBRARIES})) {
@@ -111,8 +113,9 @@ bool loadEncoder()
 void loadLocalization(const QString& directory, std::int32_t language)
 {
     auto& loader = processSlots().localization;
-    if (loader)
+    if (loader) {
         return;
+    }
     loader = std::make_unique<LibraryLoader>();
     const QString file = directory + QLatin1String("/" KV_MVC_LOCALIZE_LIBRARY);
     if (!loader->load(QDir::toNativeSeparators(file).toStdWString())) {
@@ -122,8 +125,9 @@ void loadLocalization(const QString& directory, std::int32_t language)
     functions.localizeConvert = loader->resolve<KvMvcLocalizeConvert>(KV_MVC_LOCALIZE_CONVERT);
     processSlots().localizeSetLanguage =
         loader->resolve<KvMvcLocalizeSetLanguage>(KV_MVC_LOCALIZE_SET_LANGUAGE);
-    if (processSlots().localizeSetLanguage)
+    if (processSlots().localizeSetLanguage) {
         processSlots().localizeSetLanguage(language);
+    }
 }
 
 void releaseLocalization()

@@ -15,8 +15,9 @@ int clamped(int position, int hostStart, int hostLength, int length)
 
 WindowEdges toToolkitPixels(const WindowEdges& window, const QVector<ScaledScreen>& screens)
 {
-    if (screens.isEmpty())
+    if (screens.isEmpty()) {
         return window;
+    }
     const QPoint middle((window.left + window.right) / 2, (window.top + window.bottom) / 2);
     const auto holdsMiddle = [middle](const ScaledScreen& screen) {
         const QRect& rect = screen.geometry;

@@ -38,23 +38,26 @@ bool LibraryLoader::load(const std::wstring& baseName, const wchar_t* extension)
     const std::wstring fileName = baseName + suffix;
     m_handle = openSystemLibrary(fileName);
     m_loaded = m_handle != nullptr;
-    if (m_loaded)
+    if (m_loaded) {
         m_fileName = fileName.substr(0, maximumFileName);
+    }
     return m_loaded;
 }
 
 LibraryLoader::Address LibraryLoader::resolveAddress(const char* name)
 {
-    if (m_loaded)
+    if (m_loaded) {
         return findSystemFunction(name);
+    }
     setLastError(functionNotFound, "No library is loaded.");
     return nullptr;
 }
 
 void LibraryLoader::unload()
 {
-    if (!m_loaded)
+    if (!m_loaded) {
         return;
+    }
     closeSystemLibrary(m_handle);
     m_handle = nullptr;
     m_loaded = false;
@@ -64,6 +67,7 @@ void LibraryLoader::setLastError(std::uint32_t code, std::string text)
 {
     m_lastErrorCode = code;
     m_lastErrorText = std::move(text);
-    if (m_lastErrorText.size() > maximumErrorText)
+    if (m_lastErrorText.size() > maximumErrorText) {
         m_lastErrorText.resize(maximumErrorText);
+    }
 }

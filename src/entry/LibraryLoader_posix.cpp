@@ -40,23 +40,26 @@ void* LibraryLoader::openSystemLibrary(const std::wstring& fileName)
     if (name.find('/') == std::string::npos) {
         const std::string besideHost = hostProgramDirectory() + name;
         // What lies there counts, even when it cannot be loaded.
-        if (access(besideHost.c_str(), F_OK) == 0)
+        if (access(besideHost.c_str(), F_OK) == 0) {
             handle = dlopen(besideHost.c_str(), mode);
-        else
+        } else {
             handle = dlopen(name.c_str(), mode);
+        }
     } else {
         handle = dlopen(name.c_str(), mode);
     }
-    if (!handle)
+    if (!handle) {
         setLastError(libraryNotFound, dynamicLinkerError());
+    }
     return handle;
 }
 
 LibraryLoader::Address LibraryLoader::findSystemFunction(const char* name)
 {
     void* address = dlsym(m_handle, name);
-    if (!address)
+    if (!address) {
         setLastError(functionNotFound, dynamicLinkerError());
+    }
     return reinterpret_cast<Address>(address);
 }
 

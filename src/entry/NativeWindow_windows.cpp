@@ -28,16 +28,18 @@ namespace native_window
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
 {
     RECT rectangle;
-    if (!isNativePlatform() || !GetWindowRect(windowHandle(window), &rectangle))
+    if (!isNativePlatform() || !GetWindowRect(windowHandle(window), &rectangle)) {
         return std::nullopt;
+    }
     return WindowEdges{int(rectangle.left), int(rectangle.top), int(rectangle.right),
                        int(rectangle.bottom)};
 }
 
 void embed(QWidget* widget, NativeWindowHandle window)
 {
-    if (!isNativePlatform())
+    if (!isNativePlatform()) {
         return;
+    }
     constexpr LONG style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
     static_assert(style == 0x46000000);
     const HWND own = reinterpret_cast<HWND>(widget->winId());
@@ -75,8 +77,9 @@ void bringToTop(NativeWindowHandle window)
 std::optional<Qt::FocusReason> focusReason(const QByteArray& eventType, const void* message)
 {
     if (eventType != "windows_generic_MSG" ||
-        static_cast<const MSG*>(message)->message != WM_SETFOCUS)
+        static_cast<const MSG*>(message)->message != WM_SETFOCUS) {
         return std::nullopt;
+    }
     // The high bit: down. The low one would be "toggled".
     return GetKeyState(VK_SHIFT) < 0 ? Qt::BacktabFocusReason : Qt::TabFocusReason;
 }

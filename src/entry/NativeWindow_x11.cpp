@@ -37,8 +37,9 @@ public:
     xcb_window_t root() const
     {
         auto screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
-        for (int i = 0; i < m_screen; ++i)
+        for (int i = 0; i < m_screen; ++i) {
             xcb_screen_next(&screens);
+        }
         return screens.data->root;
     }
 
@@ -74,11 +75,13 @@ std::vector<xcb_window_t> lineOf(xcb_connection_t* server, xcb_window_t window)
     for (;;) {
         const ReplyPointer<xcb_query_tree_reply_t> tree(
             xcb_query_tree_reply(server, xcb_query_tree(server, window), nullptr));
-        if (!tree)
+        if (!tree) {
             return {};
+        }
         line.push_back(window);
-        if (tree->parent == tree->root || tree->parent == XCB_WINDOW_NONE)
+        if (tree->parent == tree->root || tree->parent == XCB_WINDOW_NONE) {
             return line;
+        }
         window = tree->parent;
     }
 }
@@ -107,8 +110,9 @@ xcb_window_t managedWindow(const Connection& connection, xcb_window_t window)
             xcb_get_property(connection.get(), 0, candidate, mark, XCB_ATOM_ANY, 0, 0);
         const ReplyPointer<xcb_get_property_reply_t> state(
             xcb_get_property_reply(connection.get(), cookie, nullptr));
-        if (state && state->type != XCB_ATOM_NONE)
+        if (state && state->type != XCB_ATOM_NONE) {
             return candidate;
+        }
     }
     return line.empty() ? window : line.back();
 }
@@ -119,8 +123,9 @@ class Shield
 public:
     explicit Shield(xcb_window_t window)
     {
-        if (!m_connection.isUsable())
+        if (!m_connection.isUsable()) {
             return;
+        }
         xcb_connection_t* const server = m_connection.get();
         // As large as windows get, since the host's may grow; the host's window clips it.
         constexpr uint16_t extent = 0x7FFF;
@@ -152,19 +157,23 @@ namespace native_window
 
 std::optional<WindowEdges> outerRectangle(NativeWindowHandle window)
 {
-    if (!isX11())
+    if (!isX11()) {
         return std::nullopt;
+    }
     const Connection connection;
-    if (!connection.isUsable())
+    if (!connection.isUsable()) {
         return std::nullopt;
+    }
     xcb_connection_t* const server = connection.get();
     const auto line = lineOf(server, windowId(window));
-    if (line.empty())
+    if (line.empty()) {
         return std::nullopt;
+    }
     const ReplyPointer<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(server, xcb_get_geometry(server, line.back()), nullptr));
-    if (!geometry)
+    if (!geometry) {
         return std::nullopt;
+    }
     const int border = 2 * geometry->border_width;
     return WindowEdges{geometry->x, geometry->y, geometry->x + geometry->width + border,
                        geometry->y + geometry->height + border};
@@ -174,8 +183,9 @@ void embed(QWidget*, NativeWindowHandle) {}
 
 void setTransientFor(QWidget* dialog, NativeWindowHandle window)
 {
-    if (!isX11() || !outerRectangle(window))
+    if (!isX11() || !outerRectangle(window)) {
         return;
+    }
     dialog->winId(); // makes the window
     QWindow* const foreign = QWindow::fromWinId(windowId(window));
     dialog->windowHandle()->setTransientParent(foreign);
@@ -189,25 +199,31 @@ void setEnabled(NativeWindowHandle window, bool enabled)
 
 NativeWindowHandle focusWindow(NativeWindowHandle window)
 {
-    if (!isX11())
+    if (!isX11()) {
         return nullptr;
+    }
     const Connection connection;
-    if (!connection.isUsable())
+    if (!connection.isUsable()) {
         return nullptr;
+    }
     const xcb_window_t focus = windowWithFocus(connection.get());
-    for (const xcb_window_t ancestor : lineOf(connection.get(), focus))
-        if (ancestor == windowId(window))
+    for (const xcb_window_t ancestor : lineOf(connection.get(), focus)) {
+        if (ancestor == windowId(window)) {
             return reinterpret_cast<NativeWindowHandle>(quintptr(focus));
+        }
+    }
     return nullptr;
 }
 
 void setFocus(NativeWindowHandle window)
 {
-    if (!isX11())
+    if (!isX11()) {
         return;
+    }
     const Connection connection;
-    if (!connection.isUsable())
+    if (!connection.isUsable()) {
         return;
+    }
     xcb_connection_t* const server = connection.get();
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;

@@ -16,8 +16,9 @@ QStringList pluginFolders()
 {
     QStringList folders = QCoreApplication::libraryPaths();
     folders += platform_plugins::programFolder();
-    for (QString& folder : folders)
+    for (QString& folder : folders) {
         folder += QLatin1String("/platforms");
+    }
     const QString own = qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH");
     return own.isEmpty() ? folders : QStringList(own) + folders;
 }
@@ -27,8 +28,9 @@ QStringList keysOf(const QJsonObject& plugin)
     QStringList keys;
     const QJsonObject about = plugin.value(QLatin1String("MetaData")).toObject();
     const QJsonArray values = about.value(QLatin1String("Keys")).toArray();
-    for (const auto& value : values)
+    for (const auto& value : values) {
         keys += value.toString().toLower();
+    }
     return keys;
 }
 
@@ -36,14 +38,17 @@ QStringList installedPlatforms()
 {
     QStringList platforms;
     const auto builtIn = QPluginLoader::staticPlugins();
-    for (const QStaticPlugin& plugin : builtIn)
+    for (const QStaticPlugin& plugin : builtIn) {
         platforms += keysOf(plugin.metaData());
+    }
     for (const QString& folder : pluginFolders()) {
         const QDir files(folder);
         const QStringList names = files.entryList(QDir::Files);
-        for (const QString& name : names)
-            if (QLibrary::isLibrary(name))
+        for (const QString& name : names) {
+            if (QLibrary::isLibrary(name)) {
                 platforms += keysOf(QPluginLoader(files.filePath(name)).metaData());
+            }
+        }
     }
     return platforms;
 }
@@ -54,8 +59,9 @@ QStringList wantedPlatforms()
     QStringList platforms = qEnvironmentVariable("QT_QPA_PLATFORM")
                                 .toLower()
                                 .split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    for (QString& platform : platforms)
+    for (QString& platform : platforms) {
         platform = platform.section(QLatin1Char(':'), 0, 0);
+    }
     return platforms.isEmpty() ? platform_plugins::usualPlatforms() : platforms;
 }
 

@@ -25,19 +25,22 @@ bool xServerAnswers()
 bool waylandAnswers()
 {
     // A connection that the process was started with.
-    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
+    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) {
         return true;
+    }
     const QString name = qEnvironmentVariable("WAYLAND_DISPLAY", QStringLiteral("wayland-0"));
     const QByteArray path =
         QFile::encodeName(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR")).absoluteFilePath(name));
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
-    if (path.size() >= int(sizeof address.sun_path))
+    if (path.size() >= int(sizeof address.sun_path)) {
         return false;
+    }
     std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
     const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (socket < 0)
+    if (socket < 0) {
         return false;
+    }
     const bool answers =
         ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     ::close(socket);
@@ -57,15 +60,17 @@ QString programFolder()
 QStringList usualPlatforms()
 {
     QStringList platforms = {QStringLiteral("xcb")};
-    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland")
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland") {
         platforms += QStringLiteral("wayland");
+    }
     return platforms;
 }
 
 bool displayAnswers(const QString& platform)
 {
-    if (platform == QLatin1String("xcb"))
+    if (platform == QLatin1String("xcb")) {
         return xServerAnswers();
+    }
     return !platform.startsWith(QLatin1String("wayland")) || waylandAnswers();
 }
 

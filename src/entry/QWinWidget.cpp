@@ -20,17 +20,19 @@ QWinWidget::QWinWidget(NativeWindowHandle parentWindow, QObject* parent, Qt::Win
     : QWidget(nullptr, flags), m_parentWindow(parentWindow)
 {
     // A widget's parent can be nothing but a widget.
-    if (auto* widget = qobject_cast<QWidget*>(parent))
+    if (auto* widget = qobject_cast<QWidget*>(parent)) {
         setParent(widget, windowFlags() | Qt::Window);
-    else if (parent)
+    } else if (parent) {
         connect(parent, &QObject::destroyed, this, [this] { delete this; });
+    }
     initialise();
 }
 
 void QWinWidget::initialise()
 {
-    if (!m_parentWindow)
+    if (!m_parentWindow) {
         return;
+    }
     native_window::embed(this, m_parentWindow);
     QEvent embedding(QEvent::EmbeddingControl);
     QCoreApplication::sendEvent(this, &embedding);
@@ -60,15 +62,17 @@ bool QWinWidget::eventFilter(QObject* object, QEvent* event)
             break;
         case QEvent::Hide:
             // A dialog that is only minimized is still open.
-            if (!event->spontaneous())
+            if (!event->spontaneous()) {
                 childHidden(*child);
+            }
             break;
         case QEvent::Close:
             childClosed(*child);
             break;
         case QEvent::WindowDeactivate:
-            if (child->isModal() && child->isHidden())
+            if (child->isModal() && child->isHidden()) {
                 native_window::bringToTop(m_parentWindow);
+            }
             break;
         default:
             break;
@@ -79,12 +83,15 @@ bool QWinWidget::eventFilter(QObject* object, QEvent* event)
 
 void QWinWidget::childShown(const QWidget& child)
 {
-    if (!child.isWindow())
+    if (!child.isWindow()) {
         return;
-    if (!m_previousFocus)
+    }
+    if (!m_previousFocus) {
         m_previousFocus = native_window::focusWindow(m_parentWindow);
-    if (!m_previousFocus)
+    }
+    if (!m_previousFocus) {
         m_previousFocus = m_parentWindow;
+    }
     hide();
     if (child.isModal() && !m_reenableParent) {
         native_window::setEnabled(m_parentWindow, false);
@@ -94,11 +101,13 @@ void QWinWidget::childShown(const QWidget& child)
 
 void QWinWidget::childHidden(const QWidget& child)
 {
-    if (m_reenableParent)
+    if (m_reenableParent) {
         enableParent();
+    }
     native_window::setFocus(m_previousFocus ? m_previousFocus : m_parentWindow);
-    if (child.isWindow())
+    if (child.isWindow()) {
         deleteAfter(child);
+    }
 }
 
 void QWinWidget::childClosed(const QWidget& child)
@@ -109,8 +118,9 @@ void QWinWidget::childClosed(const QWidget& child)
 
 void QWinWidget::deleteAfter(const QWidget& child)
 {
-    if (child.testAttribute(Qt::WA_DeleteOnClose))
+    if (child.testAttribute(Qt::WA_DeleteOnClose)) {
         deleteLater();
+    }
 }
 
 void QWinWidget::enableParent()
@@ -131,20 +141,23 @@ bool QWinWidget::nativeEvent(const QByteArray& eventType, void* message, Message
 void QWinWidget::focusInEvent(QFocusEvent* event)
 {
     const Qt::FocusReason reason = event->reason();
-    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason)
+    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) {
         return;
+    }
     QWidget* candidate = this;
     while (!takesTab(*candidate)) {
         candidate = candidate->nextInFocusChain();
-        if (candidate == this)
+        if (candidate == this) {
             return;
+        }
     }
     candidate->setFocus(reason);
     candidate->setAttribute(Qt::WA_KeyboardFocusChange);
     candidate->window()->setAttribute(Qt::WA_KeyboardFocusChange);
     // From the first control one step back is the last one.
-    if (reason == Qt::BacktabFocusReason)
+    if (reason == Qt::BacktabFocusReason) {
         QWidget::focusNextPrevChild(false);
+    }
 }
 
 /// Whether the next stop, or the one before, is beyond this widget: the chain of controls comes
@@ -154,27 +167,31 @@ bool QWinWidget::isLastStop(bool forward) const
     const QWidget* const current = focusWidget() ? focusWidget() : this;
     if (forward) {
         const QWidget* next = current->nextInFocusChain();
-        while (!next->isWindow() && !takesTab(*next))
+        while (!next->isWindow() && !takesTab(*next)) {
             next = next->nextInFocusChain();
+        }
         return next->isWindow();
     }
-    if (current->isWindow())
+    if (current->isWindow()) {
         return true;
+    }
     bool windowBefore = false;
     for (const QWidget* next = current->nextInFocusChain(); next != current;
          next = next->nextInFocusChain()) {
-        if (takesTab(*next))
+        if (takesTab(*next)) {
             windowBefore = false;
-        else if (next->isWindow())
+        } else if (next->isWindow()) {
             windowBefore = true;
+        }
     }
     return windowBefore;
 }
 
 bool QWinWidget::focusNextPrevChild(bool next)
 {
-    if (!m_parentWindow || !isLastStop(next))
+    if (!m_parentWindow || !isLastStop(next)) {
         return QWidget::focusNextPrevChild(next);
+    }
     native_window::setFocus(m_parentWindow);
     return true;
 }

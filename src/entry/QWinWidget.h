@@ -24,10 +24,7 @@ public:
     explicit QWinWidget(NativeWindowHandle parentWindow, QObject* parent = nullptr,
                         Qt::WindowFlags flags = {});
 
-    NativeWindowHandle parentWindow() const
-    {
-        return m_parentWindow;
-    }
+    NativeWindowHandle parentWindow() const { return m_parentWindow; }
 
 protected:
     bool eventFilter(QObject* child, QEvent* event) override;

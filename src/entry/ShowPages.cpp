@@ -58,15 +58,17 @@ class ApplicationName
 public:
     ApplicationName() : m_isOurs(QCoreApplication::applicationName().isEmpty())
     {
-        if (m_isOurs)
+        if (m_isOurs) {
             QCoreApplication::setApplicationName(QStringLiteral("kv_config_gui_mvc"));
+        }
     }
     ApplicationName(const ApplicationName&) = delete;
     ApplicationName& operator=(const ApplicationName&) = delete;
     ~ApplicationName()
     {
-        if (m_isOurs)
+        if (m_isOurs) {
             QCoreApplication::setApplicationName(QString());
+        }
     }
 
 private:
@@ -80,8 +82,9 @@ bool runInHostApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
     setUpApplication(application);
     QWidget* const active = QApplication::activeWindow();
     OwnedDialog dialog(settings, hosting, active);
-    if (!active)
+    if (!active) {
         QApplication::setActiveWindow(dialog.get());
+    }
     return dialog.runModally(application);
 }
 
@@ -94,8 +97,9 @@ void placeOverNativeParent(QWidget* dialog, const QWinWidget& host)
     if (const auto found = native_window::outerRectangle(host.parentWindow())) {
         QVector<ScaledScreen> screens;
         const auto all = QGuiApplication::screens();
-        for (const QScreen* screen : all)
+        for (const QScreen* screen : all) {
             screens.append({screen->geometry(), screen->devicePixelRatio()});
+        }
         edges = toToolkitPixels(*found, screens);
     }
     dialog->move(centredOver(edges, dialog->geometry().size(), desktop));
@@ -119,39 +123,45 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     std::unique_ptr<QWinWidget> host;
     if (hosting.parent) {
         host = std::make_unique<QWinWidget>(hosting.parent);
-        if (const QScreen* screen = QGuiApplication::primaryScreen())
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
             host->setGeometry(screen->virtualGeometry());
+        }
     }
     OwnedDialog dialog(settings, hosting, host.get());
-    if (host)
+    if (host) {
         placeOverNativeParent(dialog.get(), *host);
+    }
     QApplication::setActiveWindow(dialog.get());
     return dialog.runModally(application);
 }
 
 int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
 {
-    if (!bindings::loadSettingsIo() || !bindings::loadEncoder())
+    if (!bindings::loadSettingsIo() || !bindings::loadEncoder()) {
         return KV_MVC_GUI_ERROR;
+    }
 
     KvMvcHosting ownRecord = {};
     ownRecord.parent = ext;
     KvMvcHosting* const hosting =
         flags & KV_MVC_GUI_HOSTING_RECORD ? static_cast<KvMvcHosting*>(ext) : &ownRecord;
-    if (!hosting)
+    if (!hosting) {
         return KV_MVC_GUI_ERROR;
+    }
     hosting->flags = flags;
 
     bool accepted = false;
     if (flags & KV_MVC_GUI_HOST_APPLICATION) {
         auto* const application = qobject_cast<QApplication*>(QCoreApplication::instance());
-        if (!hosting->parent || !application)
+        if (!hosting->parent || !application) {
             return KV_MVC_GUI_ERROR;
+        }
         accepted = runInHostApplication(settings, *hosting, *application);
     } else {
         // A process has one application object at most.
-        if (QCoreApplication::instance() || !canMakeApplication())
+        if (QCoreApplication::instance() || !canMakeApplication()) {
             return KV_MVC_GUI_ERROR;
+        }
         accepted = runInOwnApplication(settings, *hosting);
     }
     bindings::releaseLocalization();
@@ -165,8 +175,9 @@ int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags, void* ext)
 {
     // The slots are the process's: a call out of an open dialog's event loop would empty them.
     static bool isOpen = false;
-    if (!settings || isOpen)
+    if (!settings || isOpen) {
         return KV_MVC_GUI_ERROR;
+    }
     const QScopedValueRollback<bool> open(isOpen, true);
     try {
         return showPages(settings, flags, ext);

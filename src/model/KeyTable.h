@@ -94,10 +94,12 @@ void describePlainly(const SettingRow<Record>& row, const QString& key, const Re
     }
     const ItemList& list = out.vocabulary.list(*row.list);
     std::optional<QString> text = list.textOf(stored);
-    if (!text && row.fallback)
+    if (!text && row.fallback) {
         text = row.fallback->describeCode ? list.textOf(row.fallback->code) : QString();
-    if (text)
+    }
+    if (text) {
         out.state.insert(key, *text, enabled);
+    }
 }
 
 /// Stores the row's setting if the state holds `key`, by the plain reading; see applyRow.
@@ -105,18 +107,21 @@ template <class Record>
 void applyPlainly(const SettingRow<Record>& row, const QString& key, const Applying& in,
                   Record& record)
 {
-    if (!in.state.contains(key))
+    if (!in.state.contains(key)) {
         return;
+    }
     const QVariant value = in.state.value(key);
     if (!row.list) {
         record.*row.field = qint32(quint32(value.toInt()) + quint32(row.offset));
         return;
     }
     std::optional<qint32> code = in.vocabulary.list(*row.list).codeOf(value.toString());
-    if (!code && row.fallback)
+    if (!code && row.fallback) {
         code = row.fallback->code;
-    if (code)
+    }
+    if (code) {
         record.*row.field = *code;
+    }
 }
 
 /// Puts the row's setting into the description under `key`.

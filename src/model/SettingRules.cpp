@@ -25,12 +25,14 @@ void describeAspectRatio(const ViewRow&, const QString& key, const KvMvcViewSett
 void applyAspectRatio(const ViewRow&, const QString& key, const Applying& in,
                       KvMvcViewSettings& view)
 {
-    if (!in.state.contains(key))
+    if (!in.state.contains(key)) {
         return;
+    }
     const QString text = in.state.value(key).toString();
     for (const auto& ratio : in.vocabulary.aspectRatios()) {
-        if (text != ratio.text)
+        if (text != ratio.text) {
             continue;
+        }
         view.display_aspect_x = ratio.x;
         view.display_aspect_y = ratio.y;
         if (!hasCustomAspect(view)) {
@@ -48,23 +50,30 @@ const QLatin1String noFrameRate("0");
 
 std::optional<QString> standardRateText(const Vocabulary& vocabulary, double rate)
 {
-    for (const auto& item : vocabulary.frameRates())
-        if (rate == item.rate || std::abs(item.rate - rate) < item.tolerance)
+    for (const auto& item : vocabulary.frameRates()) {
+        if (rate == item.rate || std::abs(item.rate - rate) < item.tolerance) {
             return item.text;
-    if (rate == 0)
+        }
+    }
+    if (rate == 0) {
         return noFrameRate;
+    }
     return std::nullopt;
 }
 
 std::optional<double> rateOfText(const Applying& in, const QString& text)
 {
-    for (const auto& item : in.vocabulary.frameRates())
-        if (text == item.text)
+    for (const auto& item : in.vocabulary.frameRates()) {
+        if (text == item.text) {
             return item.rate;
-    if (text == noFrameRate)
+        }
+    }
+    if (text == noFrameRate) {
         return 0;
-    if (!text.isEmpty() && text == in.customFrameRate.text)
+    }
+    if (!text.isEmpty() && text == in.customFrameRate.text) {
         return in.customFrameRate.rate;
+    }
     return std::nullopt;
 }
 
@@ -85,10 +94,12 @@ void describeFrameRate(const ViewRow& row, const QString& key, const KvMvcViewSe
 
 void applyFrameRate(const ViewRow&, const QString& key, const Applying& in, KvMvcViewSettings& view)
 {
-    if (!in.state.contains(key))
+    if (!in.state.contains(key)) {
         return;
-    if (const auto rate = rateOfText(in, in.state.value(key).toString()))
+    }
+    if (const auto rate = rateOfText(in, in.state.value(key).toString())) {
         view.frame_rate = *rate;
+    }
 }
 
 void describeFieldOrder(const ViewRow& row, const QString& key, const KvMvcViewSettings& view,
@@ -97,8 +108,9 @@ void describeFieldOrder(const ViewRow& row, const QString& key, const KvMvcViewS
     const bool interlaced =
         view.interlace_mode == KV_MVC_INTERLACED || view.interlace_mode == KV_MVC_MBAFF;
     const bool topFirst = view.field_order == KV_MVC_TOP_FIELD_FIRST;
-    if (!topFirst && !interlaced)
+    if (!topFirst && !interlaced) {
         return;
+    }
     const qint32 order = topFirst ? KV_MVC_TOP_FIELD_FIRST : KV_MVC_BOTTOM_FIELD_FIRST;
     out.state.insert(key, *out.vocabulary.list(*row.list).textOf(order), interlaced);
 }
@@ -107,8 +119,9 @@ void applySlices(const ViewRow& row, const QString& key, const Applying& in,
                  KvMvcViewSettings& view)
 {
     applyPlainly(row, key, in, view);
-    if (view.num_slices == 0)
+    if (view.num_slices == 0) {
         view.num_slices = 1;
+    }
     view.multi_slice = view.num_slices >= 2;
 }
 
@@ -117,8 +130,9 @@ void applyBitrateMode(const ViewRow& row, const QString& key, const Applying& in
 {
     const auto& modes = in.vocabulary.list(*row.list);
     if (in.state.contains(key) &&
-        modes.codeOf(in.state.value(key).toString()) == KV_MVC_CONSTANT_BITRATE)
+        modes.codeOf(in.state.value(key).toString()) == KV_MVC_CONSTANT_BITRATE) {
         view.hrd_mode = 1;
+    }
     applyPlainly(row, key, in, view);
 }
 

@@ -9,8 +9,9 @@ namespace
 
 void describeRows(const std::vector<ViewRow>& rows, const KvMvcViewSettings& view, Describing& out)
 {
-    for (const ViewRow& row : rows)
+    for (const ViewRow& row : rows) {
         describeRow(row, row.key, view, out);
+    }
 }
 
 } // namespace
@@ -41,10 +42,13 @@ ConfigState describeAdvanced(const Vocabulary& vocabulary, qint32 flags,
 ConfigState describeViews(const Vocabulary& vocabulary, qint32 flags, const WorkingRecord& record)
 {
     Describing out{vocabulary, flags};
-    for (const RecordRow& row : keyTable().record)
+    for (const RecordRow& row : keyTable().record) {
         describeRow(row, row.key, record.settings, out);
-    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view)
-        for (const ViewRow& row : keyTable().rateControl)
+    }
+    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
+        for (const ViewRow& row : keyTable().rateControl) {
             describeRow(row, keys::ofView(row.key, view), record.view(view), out);
+        }
+    }
     return out.state;
 }

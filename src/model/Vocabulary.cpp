@@ -32,34 +32,41 @@ void fill(NameMap& map, const Items& items)
 
 void fill(ItemList& list, const NameMap& map)
 {
-    for (auto name = map.begin(); name != map.end(); ++name)
+    for (auto name = map.begin(); name != map.end(); ++name) {
         list.append(name.key(), name.value());
+    }
 }
 
 } // namespace
 
 std::optional<qint32> ItemList::codeOf(const QString& text) const
 {
-    for (const Item& item : m_items)
-        if (item.text == text)
+    for (const Item& item : m_items) {
+        if (item.text == text) {
             return item.code;
+        }
+    }
     return std::nullopt;
 }
 
 std::optional<QString> ItemList::textOf(qint32 code) const
 {
-    for (const Item& item : m_items)
-        if (item.code == code)
+    for (const Item& item : m_items) {
+        if (item.code == code) {
             return item.text;
+        }
+    }
     return std::nullopt;
 }
 
 Vocabulary::Vocabulary(bool offer422)
 {
-    for (const auto& item : value_lists::aspectRatios)
+    for (const auto& item : value_lists::aspectRatios) {
         m_aspectRatios.append({displayText(item.text), item.x, item.y});
-    for (const auto& item : value_lists::frameRates)
+    }
+    for (const auto& item : value_lists::frameRates) {
         m_frameRates.append({displayText(item.text), item.rate, item.tolerance});
+    }
 
     fill(at(ListName::FieldOrders), value_lists::itemsOfFieldOrder);
     fill(at(ListName::InterlaceModes), value_lists::itemsOfInterlaceMode);

@@ -6,8 +6,9 @@ BasicPage::BasicPage(QWidget* parent) : ContainerPage(parent)
 {
     ui.setupUi(this);
     QWidget* const inert[] = {ui.deviceList, ui.deviceLabel, ui.deviceGroup};
-    for (QWidget* widget : inert)
+    for (QWidget* widget : inert) {
         widget->setVisible(false);
+    }
 
     m_videoFormat = new VideoFormatPage(this);
     m_videoFormat->fillLists();

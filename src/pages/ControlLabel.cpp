@@ -12,9 +12,11 @@ void ControlLabel::attachBuddies(QWidget* control)
 {
     const auto labels =
         control->parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QLabel* label : labels)
-        if (label->buddy() == control)
+    for (QLabel* label : labels) {
+        if (label->buddy() == control) {
             attach(label, control);
+        }
+    }
 }
 
 ControlLabel::ControlLabel(QLabel* label, QWidget* control)
@@ -25,8 +27,9 @@ ControlLabel::ControlLabel(QLabel* label, QWidget* control)
 
 bool ControlLabel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::ToolTipChange)
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::ToolTipChange) {
         follow();
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -19,11 +19,13 @@ EnterGuard::EnterGuard(QAbstractSpinBox* field)
 
 bool EnterGuard::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !m_text->isModified())
+    if (event->type() != QEvent::KeyPress || !m_text->isModified()) {
         return QObject::eventFilter(watched, event);
+    }
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
         return QObject::eventFilter(watched, event);
+    }
     watched->event(event);
     event->accept();
     return true;

@@ -25,16 +25,18 @@ SettingsPage::SettingsPage(QWidget* parent) : QFrame(parent) {}
 
 void SettingsPage::receiveState(const ConfigState& state)
 {
-    for (const StateSetter& setFromState : std::as_const(m_setters))
+    for (const StateSetter& setFromState : std::as_const(m_setters)) {
         setFromState(state);
+    }
 }
 
 void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter setFromState)
 {
     controlKeys.insert(control, key);
     m_setters.append(std::move(setFromState));
-    if (auto* field = qobject_cast<QAbstractSpinBox*>(control))
+    if (auto* field = qobject_cast<QAbstractSpinBox*>(control)) {
         EnterGuard::protect(field);
+    }
     if (auto* widget = qobject_cast<QWidget*>(control)) {
         WheelGuard::protect(widget);
         ControlLabel::attachBuddies(widget);

@@ -35,8 +35,9 @@ public:
 void layOutNow(QWidget* widget)
 {
     const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children)
+    for (QWidget* child : children) {
         layOutNow(child);
+    }
     QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
 }
 
@@ -45,10 +46,12 @@ QVector<QWidget*> focusChain(const QWidget* page)
 {
     QVector<QWidget*> chain;
     for (QWidget* widget = page->nextInFocusChain(); widget != page;
-         widget = widget->nextInFocusChain())
+         widget = widget->nextInFocusChain()) {
         if (page->isAncestorOf(widget) && widget->focusPolicy() != Qt::NoFocus &&
-            !widget->focusProxy())
+            !widget->focusProxy()) {
             chain.append(widget);
+        }
+    }
     return chain;
 }
 
@@ -111,8 +114,9 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     QVector<QWidget*> chain = focusChain(page);
     chain.prepend(button);
     for (QWidget* widget : std::as_const(chain)) {
-        if (m_lastInChain)
+        if (m_lastInChain) {
             setTabOrder(m_lastInChain, widget);
+        }
         m_lastInChain = widget;
     }
 }

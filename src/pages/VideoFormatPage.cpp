@@ -39,8 +39,9 @@ VideoFormatPage::VideoFormatPage(QWidget* parent)
 void VideoFormatPage::fillLists()
 {
     refill(ui.aspectRatioList, {m_customAspect});
-    for (const Aspect& aspect : m_aspects)
+    for (const Aspect& aspect : m_aspects) {
         ui.aspectRatioList->addItem(aspect.text);
+    }
     refill(ui.framerateList, {tr("7.60"), tr("9.10"), tr("10.00"), tr("12.50"), tr("12.80"),
                               tr("15.00"), tr("23.98"), tr("24.00"), tr("25.00"), tr("29.97"),
                               tr("30.00"), tr("50.00"), tr("59.94"), tr("60.00")});
@@ -49,14 +50,16 @@ void VideoFormatPage::fillLists()
     refill(ui.pulldownList, {tr("Off"), tr("2:3"), tr("3:2"), tr("2:3 P"), tr("3:2 P"), tr("Auto"),
                              tr("2:2"), tr("3:3")});
     refill(ui.chromaList, {tr("4:0:0"), tr("4:2:0"), tr("4:2:2")});
-    for (QComboBox* depths : {ui.bitdepthLList, ui.bitdepthCList})
+    for (QComboBox* depths : {ui.bitdepthLList, ui.bitdepthCList}) {
         refill(depths, {tr("8 bits"), tr("10 bits")});
+    }
 }
 
 void VideoFormatPage::addFramerateItem(const QString& text)
 {
-    if (m_extraFrameRateAdded)
+    if (m_extraFrameRateAdded) {
         return;
+    }
     ui.framerateList->addItem(text);
     m_extraFrameRateAdded = true;
 }
@@ -77,22 +80,26 @@ bool VideoFormatPage::isCustomAspect() const
 std::optional<double> VideoFormatPage::chosenRatio() const
 {
     const QString text = ui.aspectRatioList->currentText();
-    for (const Aspect& aspect : m_aspects)
-        if (text == aspect.text)
+    for (const Aspect& aspect : m_aspects) {
+        if (text == aspect.text) {
             return aspect.ratio;
+        }
+    }
     return std::nullopt;
 }
 
 void VideoFormatPage::addWidthFromHeight(ConfigState& state) const
 {
-    if (const auto ratio = chosenRatio())
+    if (const auto ratio = chosenRatio()) {
         state.insert(keys::horizontalSize, int(ui.heightSpin->value() * *ratio));
+    }
 }
 
 void VideoFormatPage::addHeightFromWidth(ConfigState& state) const
 {
-    if (isCustomAspect())
+    if (isCustomAspect()) {
         return;
+    }
     // Without a choice the present ratio is kept, and the height is reported all the same.
     const int width = ui.widthSpin->value();
     const double present = double(width) / ui.heightSpin->value();
@@ -103,8 +110,9 @@ void VideoFormatPage::slotChangeWidth(int width)
 {
     ConfigState state;
     state.insert(senderKey(), width);
-    if (ui.aspectRatioCheck->isChecked())
+    if (ui.aspectRatioCheck->isChecked()) {
         addHeightFromWidth(state);
+    }
     Q_EMIT stateChanged(state);
 }
 
@@ -112,8 +120,9 @@ void VideoFormatPage::slotChangeHeight(int height)
 {
     ConfigState state;
     state.insert(senderKey(), height);
-    if (ui.aspectRatioCheck->isChecked())
+    if (ui.aspectRatioCheck->isChecked()) {
         addWidthFromHeight(state);
+    }
     Q_EMIT stateChanged(state);
 }
 
@@ -121,8 +130,9 @@ void VideoFormatPage::slotChangeAspectRatio(const QString& text)
 {
     ConfigState state;
     state.insert(senderKey(), text);
-    if (ui.aspectRatioCheck->isChecked())
+    if (ui.aspectRatioCheck->isChecked()) {
         addWidthFromHeight(state);
+    }
     Q_EMIT stateChanged(state);
 }
 

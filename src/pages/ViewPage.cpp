@@ -34,8 +34,9 @@ bool isKnown(int units)
 
 void showAll(const QVector<QWidget*>& widgets, bool visible)
 {
-    for (QWidget* widget : widgets)
+    for (QWidget* widget : widgets) {
         widget->setVisible(visible);
+    }
 }
 
 } // namespace
@@ -96,8 +97,9 @@ void ViewPage::bindControls()
     m_oneSecond = control<QCheckBox>("onesecCheck");
 
     bind(m_modeList, key(keys::bitrateMode), &ViewPage::slotChangeBitrateMode);
-    for (const SpinRow& row : spinRows)
+    for (const SpinRow& row : spinRows) {
         bind(control<QSpinBox>(row.control), key(row.key), row.slot);
+    }
     bind(control<QCheckBox>("hrdCheck"), key(keys::hrd), &ViewPage::slotChangeHRD);
 
     // Both slots hang on the initial fullness; the target is shown but reports nothing.
@@ -122,8 +124,9 @@ void ViewPage::findRows()
 {
     const auto widgets = [this](std::initializer_list<const char*> names) {
         QVector<QWidget*> found;
-        for (const char* name : names)
+        for (const char* name : names) {
             found.append(control<QWidget>(name));
+        }
         return found;
     };
     m_targetRateRow = widgets({"targetRateLabel", "targetRateSpin"});
@@ -148,8 +151,9 @@ void ViewPage::fillBitrateModes()
 
 void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate)
 {
-    if (!m_oneSecond->isChecked())
+    if (!m_oneSecond->isChecked()) {
         return;
+    }
     const bool inBytes = m_unitGroup->checkedId() == BytesAndPercent;
     state.insert(keyOf(m_buffer), inBytes ? rate / 8 : rate);
     setSpinFromState(m_buffer, state);

@@ -36,27 +36,32 @@ QPalette darkPalette(const QColor& window, const QColor& base)
 double contrastOfText(const QImage& picture)
 {
     QHash<QRgb, int> counts;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
             ++counts[picture.pixel(x, y) | 0xff000000];
+        }
+    }
     QRgb background = 0;
     int most = 0;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         if (it.value() > most) {
             most = it.value();
             background = it.key();
         }
+    }
     double best = 1;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         best = qMax(best, contrast(QColor(it.key()), QColor(background)));
+    }
     return best;
 }
 
 QString nameOf(const QWidget* widget)
 {
     const QWidget* page = widget;
-    while (page && !page->objectName().startsWith(QLatin1Char('I')))
+    while (page && !page->objectName().startsWith(QLatin1Char('I'))) {
         page = page->parentWidget();
+    }
     return (page ? page->objectName() : QString()) + QLatin1Char('/') + widget->objectName();
 }
 
@@ -121,8 +126,9 @@ void TestAccessibleContrast::messagesAreReadable()
         OpenDialog dialog;
         dress(dialog);
         dialog.companions.onCheck = [&kind](KvMvcLookup lookUp, KvMvcSettings&) {
-            for (int line = 0; line < 9; ++line)
+            for (int line = 0; line < 9; ++line) {
                 print(lookUp, kind.sink, "Level %s is the lowest that fits.", "4.1");
+            }
             return 0;
         };
         dialog.probe().check();
@@ -172,16 +178,18 @@ void TestAccessibleContrast::textsAreReadable()
                               qobject_cast<QRadioButton*>(widget) ||
                               qobject_cast<QComboBox*>(widget) || qobject_cast<QSpinBox*>(widget);
             const QWidget* const control = label && label->buddy() ? label->buddy() : widget;
-            if (!text || !widget->isVisible() || !control->isEnabled())
+            if (!text || !widget->isVisible() || !control->isEnabled()) {
                 continue;
+            }
             // With what is behind it, which only the dialog paints.
             user::reveal(widget);
             const QRect shown(widget->mapTo(dialog.get(), QPoint()), widget->size());
             const QImage picture = dialog->grab(shown.adjusted(2, 2, -2, -2)).toImage();
             ++looked;
             const double ratio = contrastOfText(picture);
-            if (ratio < 4.5)
+            if (ratio < 4.5) {
                 faults += QStringLiteral("%1: %2").arg(nameOf(widget)).arg(ratio);
+            }
         }
     }
     QVERIFY(looked > 100);

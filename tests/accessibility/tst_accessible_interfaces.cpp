@@ -36,8 +36,9 @@ QList<QWidget*> controlsOf(const QWidget* window)
         const bool inner = qobject_cast<QScrollBar*>(widget) ||
                            qobject_cast<QTabBar*>(widget->parentWidget()) ||
                            widget->objectName() == QLatin1String("deviceList");
-        if (control && !inner)
+        if (control && !inner) {
             controls += widget;
+        }
     }
     return controls;
 }
@@ -45,11 +46,12 @@ QList<QWidget*> controlsOf(const QWidget* window)
 QString nameOf(const QWidget* widget)
 {
     QString place;
-    for (const QWidget* parent = widget; parent; parent = parent->parentWidget())
+    for (const QWidget* parent = widget; parent; parent = parent->parentWidget()) {
         if (parent->objectName().startsWith(QLatin1String("I"))) {
             place = parent->objectName() + QLatin1Char('/');
             break;
         }
+    }
     return place + widget->objectName();
 }
 
@@ -68,11 +70,13 @@ QString textOf(QWidget* widget, QAccessible::Text kind)
 /// by its description.
 QString announced(QWidget* widget)
 {
-    if (!qobject_cast<QComboBox*>(widget))
+    if (!qobject_cast<QComboBox*>(widget)) {
         return textOf(widget, QAccessible::Name);
+    }
     QAccessibleInterface* const list = accessible(widget);
-    for (const auto& relation : list->relations(QAccessible::Label))
+    for (const auto& relation : list->relations(QAccessible::Label)) {
         return relation.first->text(QAccessible::Name);
+    }
     return widget->accessibleName().isEmpty() ? QString() : list->text(QAccessible::Description);
 }
 
@@ -84,15 +88,19 @@ bool isSlider(const Setting& setting)
 /// The caption; where one stands for two controls, or for half a sentence, the setting's name.
 const char* spokenName(const Setting& setting)
 {
-    if (setting.is("display_aspect_x"))
+    if (setting.is("display_aspect_x")) {
         return "Display aspect ratio; \"Custom\" leaves it to the pixel aspect ratio.";
+    }
     // With the units that they are in.
-    if (setting.is("bitrate_buffer"))
+    if (setting.is("bitrate_buffer")) {
         return "Bitrate buffer (bytes)";
-    if (setting.is("vbv_initial"))
+    }
+    if (setting.is("vbv_initial")) {
         return "VBV buffer initial (%)";
-    if (setting.is("vbv_target"))
+    }
+    if (setting.is("vbv_target")) {
         return "VBV buffer target (%)";
+    }
     return setting.title && !isSlider(setting) ? setting.title : setting.caption;
 }
 
@@ -150,14 +158,16 @@ void TestAccessibleInterfaces::control_data()
         row(page, "onesecCheck", "Force bitrate buffer length to 1 second", box);
     }
     for (const Setting& setting : ledger::settings()) {
-        if (!setting.key || setting.kind == Kind::Radio)
+        if (!setting.key || setting.kind == Kind::Radio) {
             continue;
-        for (int view = 0; view < setting.viewCount(); ++view)
+        }
+        for (int view = 0; view < setting.viewCount(); ++view) {
             row(qPrintable(setting.pageOf(view)), setting.control, spokenName(setting),
                 setting.kind == Kind::Switch   ? box
                 : setting.kind != Kind::Number ? list
                 : isSlider(setting)            ? slider
                                                : number);
+        }
     }
 }
 
@@ -168,8 +178,9 @@ void TestAccessibleInterfaces::control()
     QFETCH(QString, name);
     QFETCH(int, role);
     OpenDialog dialog;
-    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view)
+    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
         dialog.probe().record().view(view).bitrate_units = KV_MVC_UNITS_BYTES_PERCENT;
+    }
     dialog.probe().settingsToState();
     auto* widget = findControl<QWidget>(dialog.get(), page.toLatin1().constData(),
                                         control.toLatin1().constData());
@@ -185,19 +196,24 @@ void TestAccessibleInterfaces::everyControlHasNameRoleAndTip()
     QVERIFY(controls.size() > 120);
     QStringList faults;
     for (QWidget* widget : controls) {
-        if (announced(widget).trimmed().isEmpty())
+        if (announced(widget).trimmed().isEmpty()) {
             faults += nameOf(widget) + QLatin1String(" has no name");
-        if (accessible(widget)->role() == QAccessible::NoRole)
+        }
+        if (accessible(widget)->role() == QAccessible::NoRole) {
             faults += nameOf(widget) + QLatin1String(" has no role");
+        }
         const bool hasTip = !widget->toolTip().isEmpty();
-        if (!hasTip && !qobject_cast<QTabWidget*>(widget))
+        if (!hasTip && !qobject_cast<QTabWidget*>(widget)) {
             faults += nameOf(widget) + QLatin1String(" has no tip");
-        if (hasTip && !widget->toolTip().endsWith(QLatin1Char('.')))
+        }
+        if (hasTip && !widget->toolTip().endsWith(QLatin1Char('.'))) {
             faults += nameOf(widget) + QLatin1String(": the tip is no sentence");
+        }
         // A control that reads as its class is not named at all.
         if (announced(widget).startsWith(QLatin1Char('Q')) &&
-            !announced(widget).startsWith(QLatin1String("Quantizer")))
+            !announced(widget).startsWith(QLatin1String("Quantizer"))) {
             faults += nameOf(widget) + QLatin1String(" reads as its class");
+        }
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
@@ -209,12 +225,14 @@ void TestAccessibleInterfaces::namesTellControlsOfAPageApart()
     QStringList twice;
     for (QWidget* widget : controlsOf(dialog.get())) {
         const QWidget* page = widget;
-        while (page && !page->objectName().startsWith(QLatin1Char('I')))
+        while (page && !page->objectName().startsWith(QLatin1Char('I'))) {
             page = page->parentWidget();
+        }
         const QString key =
             (page ? page->objectName() : QString()) + QLatin1String(": ") + announced(widget);
-        if (seen.contains(key))
+        if (seen.contains(key)) {
             twice += key;
+        }
         seen += key;
     }
     QCOMPARE(twice, QStringList());
@@ -266,8 +284,9 @@ void TestAccessibleInterfaces::labelsHaveBuddies()
     QStringList faults;
     for (const QLabel* label : dialog->findChildren<QLabel*>()) {
         const bool stands = loose.contains(label->objectName()) || loose.contains(nameOf(label));
-        if (!stands && !label->buddy())
+        if (!stands && !label->buddy()) {
             faults += nameOf(label) + QLatin1String(": ") + label->text();
+        }
     }
     QCOMPARE(faults, QStringList());
 }
@@ -289,15 +308,19 @@ void TestAccessibleInterfaces::tabsAreNamed()
     QAccessibleInterface* tabs = accessible(bar);
     QCOMPARE(int(tabs->role()), int(QAccessible::PageTabList));
     QStringList names;
-    for (int i = 0; i < tabs->childCount(); ++i)
-        if (tabs->child(i)->role() == QAccessible::PageTab)
+    for (int i = 0; i < tabs->childCount(); ++i) {
+        if (tabs->child(i)->role() == QAccessible::PageTab) {
             names += tabs->child(i)->text(QAccessible::Name);
+        }
+    }
     QCOMPARE(names, QStringList({QStringLiteral("Basic Settings"),
                                  QStringLiteral("Advanced Settings"), QStringLiteral("Views")}));
-    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>())
-        if (group->objectName() != QLatin1String("deviceGroup"))
+    for (const QGroupBox* group : dialog->findChildren<QGroupBox*>()) {
+        if (group->objectName() != QLatin1String("deviceGroup")) {
             QVERIFY2(!textOf(const_cast<QGroupBox*>(group), QAccessible::Name).isEmpty(),
                      qPrintable(nameOf(group)));
+        }
+    }
 }
 
 QTEST_MAIN(TestAccessibleInterfaces)

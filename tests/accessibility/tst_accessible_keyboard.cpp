@@ -23,8 +23,9 @@ namespace
 QString nameOf(const QWidget* widget)
 {
     const QWidget* page = widget;
-    while (page && !page->objectName().startsWith(QLatin1Char('I')))
+    while (page && !page->objectName().startsWith(QLatin1Char('I'))) {
         page = page->parentWidget();
+    }
     return (page ? page->objectName() : QString()) + QLatin1Char('/') + widget->objectName();
 }
 
@@ -38,8 +39,9 @@ QList<QWidget*> openControls(const QWidget* window)
                              qobject_cast<QSlider*>(widget) || qobject_cast<QTextEdit*>(widget) ||
                              qobject_cast<QTabBar*>(widget);
         if (control && widget->isVisible() && widget->isEnabled() &&
-            !qobject_cast<QTabBar*>(widget->parentWidget()))
+            !qobject_cast<QTabBar*>(widget->parentWidget())) {
             controls += widget;
+        }
     }
     return controls;
 }
@@ -53,11 +55,12 @@ bool isStop(const QWidget* widget)
 
 bool isInView(const QWidget* widget)
 {
-    for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+    for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
         if (const auto* area = qobject_cast<const QScrollArea*>(parent)) {
             const QRect place(widget->mapTo(area->viewport(), QPoint()), widget->size());
             return area->viewport()->rect().contains(place.center());
         }
+    }
     return true;
 }
 
@@ -96,9 +99,11 @@ void TestAccessibleKeyboard::tabReachesEveryControl()
     QCoreApplication::processEvents();
 
     QSet<QWidget*> wanted;
-    for (QWidget* widget : openControls(dialog.get()))
-        if (isStop(widget))
+    for (QWidget* widget : openControls(dialog.get())) {
+        if (isStop(widget)) {
             wanted += widget;
+        }
+    }
     QVERIFY(wanted.size() > 15);
 
     dialog.presetList()->setFocus();
@@ -108,14 +113,16 @@ void TestAccessibleKeyboard::tabReachesEveryControl()
         QWidget* const focus = QApplication::focusWidget();
         QVERIFY(focus);
         reached += focus;
-        if (!isInView(focus))
+        if (!isInView(focus)) {
             hidden += nameOf(focus);
+        }
         QTest::keyClick(focus, Qt::Key_Tab);
         QCoreApplication::processEvents();
     }
     QStringList missed;
-    for (QWidget* widget : wanted - reached)
+    for (QWidget* widget : wanted - reached) {
         missed += nameOf(widget);
+    }
     missed.sort();
     QCOMPARE(missed, QStringList());
     QCOMPARE(hidden, QStringList());
@@ -156,11 +163,13 @@ void TestAccessibleKeyboard::focusIsVisible()
             const QImage without = widget->grab().toImage();
             widget->setFocus(Qt::TabFocusReason);
             QCoreApplication::processEvents();
-            if (!widget->hasFocus() && !widget->isAncestorOf(QApplication::focusWidget()))
+            if (!widget->hasFocus() && !widget->isAncestorOf(QApplication::focusWidget())) {
                 continue;
+            }
             ++looked;
-            if (widget->grab().toImage() == without)
+            if (widget->grab().toImage() == without) {
                 unseen += nameOf(widget);
+            }
         }
     }
     QVERIFY(looked > 60);
@@ -224,8 +233,9 @@ void TestAccessibleKeyboard::logScrollsByKeys()
     OpenDialog dialog;
     QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
     dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
-        for (int i = 0; i < 40; ++i)
+        for (int i = 0; i < 40; ++i) {
             print(lookUp, "inf_printf", "note %d", i);
+        }
         return 0;
     };
     dialog.probe().check();

@@ -29,12 +29,14 @@ QVector<SkinRule> skinRules(const QString& sheet)
         QMap<QString, QString> declarations;
         for (const QString& line : found.captured(2).split(QLatin1Char(';'))) {
             const int colon = int(line.indexOf(QLatin1Char(':')));
-            if (colon > 0)
+            if (colon > 0) {
                 declarations.insert(line.left(colon).simplified(),
                                     line.mid(colon + 1).simplified());
+            }
         }
-        for (const QString& selector : found.captured(1).split(QLatin1Char(',')))
+        for (const QString& selector : found.captured(1).split(QLatin1Char(','))) {
             rules.append({selector.simplified(), declarations});
+        }
     }
     return rules;
 }

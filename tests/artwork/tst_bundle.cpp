@@ -78,8 +78,9 @@ void TestBundle::everyPathOpens_data()
           ":/res_mvc/icons/right.png", ":/res_mvc/icons/plus.png", ":/res_mvc/icons/minus.png",
           ":/res_mvc/backgrounds/main.png", ":/res_mvc/backgrounds/box.png",
           ":/res_mvc/banners/banner.png", ":/res_mvc/skins/default.qss",
-          ":/res_mvc/skins/metal.qss"})
+          ":/res_mvc/skins/metal.qss"}) {
         QTest::newRow(path) << QString::fromLatin1(path);
+    }
 }
 
 void TestBundle::everyPathOpens()
@@ -87,8 +88,9 @@ void TestBundle::everyPathOpens()
     QFETCH(QString, path);
 
     QVERIFY(!contents(path).isEmpty());
-    if (path.endsWith(QLatin1String(".png")))
+    if (path.endsWith(QLatin1String(".png"))) {
         QVERIFY(!QImage(path).isNull());
+    }
 }
 
 // A file that nobody names would be carried by every host in vain.
@@ -96,8 +98,9 @@ void TestBundle::holdsNothingElse()
 {
     int files = 0;
     for (QDirIterator it(QStringLiteral(":/res_mvc"), QDir::Files, QDirIterator::Subdirectories);
-         it.hasNext(); it.next())
+         it.hasNext(); it.next()) {
         ++files;
+    }
     QCOMPARE(files, 20 * 3 + 2);
 }
 
@@ -106,8 +109,9 @@ void TestBundle::pictureComesInThreeDensities_data()
     QTest::addColumn<QString>("stem");
     QTest::addColumn<QSize>("size");
 
-    for (const QString& name : iconNames + greyIconNames)
+    for (const QString& name : iconNames + greyIconNames) {
         QTest::newRow(qPrintable(name)) << QStringLiteral("icons/") + name << QSize(16, 16);
+    }
     QTest::newRow("banner") << QStringLiteral("banners/banner") << QSize(380, 74);
     QTest::newRow("main") << QStringLiteral("backgrounds/main") << QSize(200, 100);
     QTest::newRow("box") << QStringLiteral("backgrounds/box") << QSize(200, 100);
@@ -127,8 +131,9 @@ void TestBundle::pictureComesInThreeDensities()
 void TestBundle::toolkitPicksTheDenseIcon_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : iconNames)
+    for (const QString& name : iconNames) {
         QTest::newRow(qPrintable(name)) << name;
+    }
 }
 
 void TestBundle::toolkitPicksTheDenseIcon()
@@ -172,10 +177,12 @@ void TestBundle::metalIsStandardZlib()
 void TestBundle::iconStandsOutOnEveryPalette_data()
 {
     QTest::addColumn<QString>("path");
-    for (const QString& name : iconNames)
-        for (const char* density : {"", "@2x", "@3x"})
+    for (const QString& name : iconNames) {
+        for (const char* density : {"", "@2x", "@3x"}) {
             QTest::newRow(qPrintable(name + QLatin1String(density)))
                 << iconPath(name, QString::fromLatin1(density));
+        }
+    }
 }
 
 void TestBundle::iconStandsOutOnEveryPalette()
@@ -190,8 +197,9 @@ void TestBundle::iconStandsOutOnEveryPalette()
     for (int y = 0; y < icon.height(); ++y) {
         for (int x = 0; x < icon.width(); ++x) {
             const QColor pixel = icon.pixelColor(x, y);
-            if (pixel.alpha() < 255)
+            if (pixel.alpha() < 255) {
                 continue;
+            }
             ++opaque;
             for (const QColor& ground : grounds) {
                 const double ratio = contrast(pixel, ground);
@@ -208,8 +216,9 @@ void TestBundle::iconStandsOutOnEveryPalette()
 void TestBundle::greyIconIsTheOtherOnePaler_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : greyIconNames)
+    for (const QString& name : greyIconNames) {
         QTest::newRow(qPrintable(name)) << name;
+    }
 }
 
 void TestBundle::greyIconIsTheOtherOnePaler()
@@ -222,8 +231,9 @@ void TestBundle::greyIconIsTheOtherOnePaler()
     for (int y = 0; y < icon.height(); ++y) {
         for (int x = 0; x < icon.width(); ++x) {
             QCOMPARE(grey.pixelColor(x, y).alpha(), icon.pixelColor(x, y).alpha());
-            if (icon.pixelColor(x, y).alpha() < 255)
+            if (icon.pixelColor(x, y).alpha() < 255) {
                 continue;
+            }
             ++opaque;
             QVERIFY(grey.pixelColor(x, y).hslSaturation() < 30);
             QVERIFY(contrast(grey.pixelColor(x, y), ground) <
@@ -248,13 +258,15 @@ void TestBundle::backgroundTilesWithoutSeams()
     const QImage tile(path);
     const auto step = [&tile](int left, int right) {
         int sum = 0;
-        for (int y = 0; y < tile.height(); ++y)
+        for (int y = 0; y < tile.height(); ++y) {
             sum += qAbs(qGray(tile.pixel(left, y)) - qGray(tile.pixel(right, y)));
+        }
         return sum;
     };
     int worst = 0;
-    for (int x = 1; x < tile.width(); ++x)
+    for (int x = 1; x < tile.width(); ++x) {
         worst = qMax(worst, step(x - 1, x));
+    }
     QVERIFY(worst > 0);
     QVERIFY(step(tile.width() - 1, 0) <= worst);
 }

@@ -35,8 +35,9 @@ void TestSkinSheets::linesEndInCrLfAndAreAscii()
     QVERIFY(bytes.count('\n') > 10);
     QCOMPARE(bytes.count("\r\n"), bytes.count('\n'));
     QCOMPARE(bytes.count("\r\n"), bytes.count('\r'));
-    for (const char byte : bytes)
+    for (const char byte : bytes) {
         QVERIFY(uchar(byte) < 0x80);
+    }
 }
 
 void TestSkinSheets::defaultHasExactlyTwoRules()
@@ -65,8 +66,9 @@ void TestSkinSheets::metalHasRule_data()
     };
     const auto rows = [&row](const char* selector,
                              const QVector<QPair<const char*, const char*>>& declarations) {
-        for (const auto& [property, value] : declarations)
+        for (const auto& [property, value] : declarations) {
             row(QString::fromLatin1(selector), property, QString::fromLatin1(value));
+        }
     };
 
     row(QStringLiteral("QDialog"), "background-image",
@@ -112,8 +114,9 @@ void TestSkinSheets::metalHasRule_data()
          {{"min-width", "8px"}, {"min-height", "2px"}, {"margin", "2px 180px"}});
     for (const char* page :
          {"IVideoFormatPage", "IGOPStructurePage", "IMotionEstimationPage", "IRateDistortionPage",
-          "IMiscPage", "IView0Page", "IView1Page", "IView2Page", "IView3Page"})
+          "IMiscPage", "IView0Page", "IView1Page", "IView2Page", "IView3Page"}) {
         row(QStringLiteral("QFrame#") + QLatin1String(page), "background-image", box);
+    }
 }
 
 void TestSkinSheets::metalHasRule()
@@ -123,19 +126,23 @@ void TestSkinSheets::metalHasRule()
     QFETCH(QString, value);
 
     QStringList values;
-    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal"))))
-        if (rule.selector == selector && rule.declarations.contains(property))
+    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal")))) {
+        if (rule.selector == selector && rule.declarations.contains(property)) {
             values.append(rule.declarations.value(property));
+        }
+    }
     QVERIFY2(values.contains(value), qPrintable(values.join(QLatin1String(" | "))));
 }
 
 void TestSkinSheets::metalTablesHaveTheGradientOfTheLog()
 {
     QMap<QString, QString> backgrounds;
-    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal"))))
-        if (rule.declarations.contains(QStringLiteral("background")))
+    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal")))) {
+        if (rule.declarations.contains(QStringLiteral("background"))) {
             backgrounds.insert(rule.selector,
                                rule.declarations.value(QStringLiteral("background")));
+        }
+    }
     const QString log = backgrounds.value(QStringLiteral("QWidget#errorLog"));
     QCOMPARE(log, QStringLiteral("qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, "
                                  "stop: 0 #f6f7fa, stop: 1 #aaabae)"));

@@ -147,9 +147,11 @@ struct MetalSpinBox {
 int depthOfInk(const QImage& picture)
 {
     int depth = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
             depth = qMax(depth, qGray(picture.pixel(0, 0)) - qGray(picture.pixel(x, y)));
+        }
+    }
     return depth;
 }
 
@@ -158,10 +160,13 @@ QSize inkSize(const QImage& picture)
 {
     const int ground = qGray(picture.pixel(0, 0));
     QRect ink;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
-            if (ground - qGray(picture.pixel(x, y)) > 40)
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (ground - qGray(picture.pixel(x, y)) > 40) {
                 ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
     return ink.size();
 }
 
@@ -256,9 +261,11 @@ void TestSkins::focusIsVisible()
     // More than a caret: at least as many pixels as the control is wide.
     QCOMPARE(with.size(), without.size());
     int changed = 0;
-    for (int y = 0; y < with.height(); ++y)
-        for (int x = 0; x < with.width(); ++x)
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
             changed += with.pixel(x, y) != without.pixel(x, y);
+        }
+    }
     QVERIFY2(changed >= qMin(with.width(), 40), qPrintable(QString::number(changed)));
 }
 
@@ -325,10 +332,12 @@ void TestSkins::metalSpinBoxHasSymbols()
     QVERIFY(stage.ready);
     const auto symbol = [&stage](QStyle::SubControl button) {
         const QSize ink = inkSize(stage.picture(button));
-        if (ink.width() < 5)
+        if (ink.width() < 5) {
             return QStringLiteral("nothing");
-        if (5 * ink.height() <= ink.width())
+        }
+        if (5 * ink.height() <= ink.width()) {
             return QStringLiteral("minus");
+        }
         return ink.height() >= ink.width() - 1 ? QStringLiteral("plus") : QStringLiteral("chevron");
     };
     const QString up = symbol(QStyle::SC_SpinBoxUp);
@@ -375,10 +384,12 @@ void TestSkins::stateOfADisabledControlShows_data()
 {
     QTest::addColumn<QString>("skinName");
     QTest::addColumn<QString>("control");
-    for (const char* skin : {"default", "metal"})
-        for (const char* control : {"check box", "radio button"})
+    for (const char* skin : {"default", "metal"}) {
+        for (const char* control : {"check box", "radio button"}) {
             QTest::addRow("%s, %s", skin, control)
                 << QString::fromLatin1(skin) << QString::fromLatin1(control);
+        }
+    }
 }
 
 void TestSkins::stateOfADisabledControlShows()

@@ -16,8 +16,9 @@ OpenDialog::OpenDialog(qint32 flags, const KvMvcSettings& settings,
                        const std::function<void(RecordingCompanions&)>& prepare)
     : caller(settings), given(bytesOf(settings))
 {
-    if (prepare)
+    if (prepare) {
         prepare(companions);
+    }
     const KvMvcHosting hosting = {flags, nullptr, nullptr, nullptr};
     m_dialog = std::make_unique<AVCVideoEncoderDlg>(&caller, &hosting, nullptr);
     m_dialog->show();
@@ -63,8 +64,9 @@ bool OpenDialog::drop(const QMimeData& data) const
     QDragEnterEvent drag(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     drag.ignore();
     QCoreApplication::sendEvent(tabs(), &drag);
-    if (!drag.isAccepted())
+    if (!drag.isAccepted()) {
         return false;
+    }
     QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     event.ignore();
     QCoreApplication::sendEvent(tabs(), &event);

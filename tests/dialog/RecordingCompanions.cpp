@@ -10,8 +10,9 @@ RecordingCompanions* current = nullptr;
 int32_t defaults(KvMvcSettings* settings, int32_t reserved1, int32_t preset, int32_t reserved2)
 {
     current->calls += QStringLiteral("defaults %1 %2 %3").arg(reserved1).arg(preset).arg(reserved2);
-    if (current->onDefaults)
+    if (current->onDefaults) {
         current->onDefaults(*settings, preset);
+    }
     return 0;
 }
 
@@ -40,10 +41,12 @@ int32_t write(KvMvcSettings* settings, const char* path)
 KvMvcFunction getApi(int32_t code)
 {
     current->calls += QStringLiteral("api %1").arg(code);
-    if (code == 8193 && current->hasReader)
+    if (code == 8193 && current->hasReader) {
         return reinterpret_cast<KvMvcFunction>(&read);
-    if (code == 8194 && current->hasWriter)
+    }
+    if (code == 8194 && current->hasWriter) {
         return reinterpret_cast<KvMvcFunction>(&write);
+    }
     return nullptr;
 }
 

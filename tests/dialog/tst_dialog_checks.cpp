@@ -58,9 +58,10 @@ void TestDialogChecks::perEdit_data()
         user::choose(on<QComboBox>(d, "VideoFormatPage", "interlaceList"), QStringLiteral("MBAFF"));
     });
     row("the same item chosen again", 2, 2, [](OpenDialog& d) {
-        for (int i = 0; i < 2; ++i)
+        for (int i = 0; i < 2; ++i) {
             user::choose(on<QComboBox>(d, "VideoFormatPage", "interlaceList"),
                          QStringLiteral("MBAFF"));
+        }
     });
     row("switch", 2, 1,
         [](OpenDialog& d) { user::click(on<QCheckBox>(d, "MiscPage", "deblockingCheck")); });

@@ -24,14 +24,18 @@ namespace
 /// What a user reads off a control: the text of a list or field, "on" or "off", a slider's number.
 QString shownBy(const QWidget* widget)
 {
-    if (const auto* list = qobject_cast<const QComboBox*>(widget))
+    if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
         return list->currentText();
-    if (const auto* field = qobject_cast<const QSpinBox*>(widget))
+    }
+    if (const auto* field = qobject_cast<const QSpinBox*>(widget)) {
         return field->text();
-    if (const auto* slider = qobject_cast<const QSlider*>(widget))
+    }
+    if (const auto* slider = qobject_cast<const QSlider*>(widget)) {
         return QString::number(slider->value());
-    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
         return button->isChecked() ? QStringLiteral("on") : QStringLiteral("off");
+    }
     return QStringLiteral("?");
 }
 
@@ -52,10 +56,12 @@ QVector<Coded> codesOfNumber(const Setting& setting)
     std::set<int> numbers = {setting.least, mostOf(setting), setting.first.state.toInt(),
                              setting.second.state.toInt()};
     const bool isFullness = mostOf(setting) != setting.most;
-    if (!isFullness)
+    if (!isFullness) {
         numbers.insert({setting.least - 1, setting.least - 7});
-    if (setting.most < INT_MAX)
+    }
+    if (setting.most < INT_MAX) {
         numbers.insert({setting.most + 1, setting.most + 5000});
+    }
     QVector<Coded> codes;
     for (const int number : numbers) {
         const int shown = qBound(setting.least, number, setting.most);
@@ -76,16 +82,18 @@ QVector<Coded> codesOfList(const Setting& setting)
         codes += {item.code, QString::fromLatin1(item.text)};
         others.removeAll(item.code);
     }
-    for (const int code : std::as_const(others))
+    for (const int code : std::as_const(others)) {
         codes += {code, isChroma && code != 4 ? QStringLiteral("4:2:0") : QString()};
+    }
     return codes;
 }
 
 QVector<Coded> codesOf(const Setting& setting)
 {
     const QString on = QStringLiteral("on");
-    if (setting.kind == Kind::Switch)
+    if (setting.kind == Kind::Switch) {
         return {{0, QStringLiteral("off")}, {1, on}, {7, on}};
+    }
     return setting.kind == Kind::List ? codesOfList(setting) : codesOfNumber(setting);
 }
 
@@ -176,9 +184,10 @@ void TestDialogCodes::shown_data()
                  {59.94, "59.94"},
                  {60, "60.00"},
                  {0, ""}};
-    for (const auto& rate : rates)
+    for (const auto& rate : rates) {
         row(frameRate, QByteArray::number(rate.rate, 'g', 12).constData(), {{0, 32, rate.rate}},
             rate.text);
+    }
 
     const Place fieldOrder = {"VideoFormatPage", "fieldOrderList"};
     row(fieldOrder, "top, progressive", {{0, 4112, 0}, {0, 20, 0}}, "Top Field First", false);
@@ -192,11 +201,13 @@ void TestDialogCodes::shown_data()
     for (const Setting& setting : ledger::settings()) {
         // Those above, and those that rateControlShown() looks at.
         if (!setting.key || setting.kind == Kind::FrameRate || setting.kind == Kind::Aspect ||
-            setting.is("field_order") || setting.isOfEachView())
+            setting.is("field_order") || setting.isOfEachView()) {
             continue;
-        for (const Coded& item : codesOf(setting))
+        }
+        for (const Coded& item : codesOf(setting)) {
             row({setting.page, setting.control}, QByteArray::number(item.code).constData(),
                 {Cell(0, setting, item.code)}, item.text.toLatin1().constData());
+        }
     }
 }
 
@@ -235,20 +246,24 @@ void TestDialogCodes::rateControlShown_data()
     // The record has two views.
     for (int view = 0; view < 2; ++view) {
         for (const Setting& setting : ledger::settings()) {
-            if (!setting.isOfEachView() || setting.kind == Kind::Radio)
+            if (!setting.isOfEachView() || setting.kind == Kind::Radio) {
                 continue;
-            for (const Coded& item : codesOf(setting))
+            }
+            for (const Coded& item : codesOf(setting)) {
                 QTest::addRow("view %d %s, %d", view, setting.control, item.code)
                     << view << QString::fromLatin1(setting.control)
                     << Cells{Cell(view, setting, item.code)} << item.text;
+            }
         }
         const Setting& units = ledger::setting(QStringLiteral("bitrate_units"));
-        for (int radio = 0; radio < 3; ++radio)
-            for (int code = 0; code < 3; ++code)
+        for (int radio = 0; radio < 3; ++radio) {
+            for (int code = 0; code < 3; ++code) {
                 QTest::addRow("view %d units%dRadio, %d", view, radio + 1, code)
                     << view << QStringLiteral("units%1Radio").arg(radio + 1)
                     << Cells{Cell(view, units, code)}
                     << (code == radio ? QStringLiteral("on") : QStringLiteral("off"));
+            }
+        }
     }
 }
 

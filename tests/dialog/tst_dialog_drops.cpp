@@ -21,8 +21,9 @@ std::unique_ptr<QMimeData> files(const QStringList& names)
 {
     auto data = std::make_unique<QMimeData>();
     QList<QUrl> urls;
-    for (const QString& name : names)
+    for (const QString& name : names) {
         urls += QUrl::fromLocalFile(name);
+    }
     data->setUrls(urls);
     return data;
 }
@@ -66,11 +67,13 @@ void TestDialogDrops::dragIsTakenBySuffix_data()
     QTest::addColumn<bool>("taken");
     for (const char* name : {"a.cfg", "a.ini",  "a.m2p", "a.m2t", "a.m2v",   "a.m4p",   "a.mp2",
                              "a.mp4", "a.mpeg", "a.mpg", "a.mpv", "a.mxf",   "a.trp",   "a.ts",
-                             "a.vob", "a.ifo",  "A.CFG", "a.Mp4", "a.b.ini", "a b.vob", ".cfg"})
+                             "a.vob", "a.ifo",  "A.CFG", "a.Mp4", "a.b.ini", "a b.vob", ".cfg"}) {
         QTest::newRow(name) << true;
+    }
     for (const char* name :
-         {"a.txt", "a", "a.cfg.txt", "cfg", "a.mkv", "a.m2ts", "a.cfgx", "a.", "dir.cfg/a"})
+         {"a.txt", "a", "a.cfg.txt", "cfg", "a.mkv", "a.m2ts", "a.cfgx", "a.", "dir.cfg/a"}) {
         QTest::newRow(name) << false;
+    }
 }
 
 void TestDialogDrops::dragIsTakenBySuffix()
@@ -190,16 +193,17 @@ void TestDialogDrops::filterNeverConsumes()
     OpenDialog dialog;
     const auto data = files({QStringLiteral("/a.cfg")});
     std::unique_ptr<QEvent> event;
-    if (type == QEvent::DragEnter)
+    if (type == QEvent::DragEnter) {
         event = std::make_unique<QDragEnterEvent>(QPoint(5, 5), Qt::CopyAction, data.get(),
                                                   Qt::LeftButton, Qt::NoModifier);
-    else if (type == QEvent::Drop)
+    } else if (type == QEvent::Drop) {
         event = std::make_unique<QDropEvent>(QPointF(5, 5), Qt::CopyAction, data.get(),
                                              Qt::LeftButton, Qt::NoModifier);
-    else if (key)
+    } else if (key) {
         event = std::make_unique<QKeyEvent>(QEvent::Type(type), key, Qt::NoModifier);
-    else
+    } else {
         event = std::make_unique<QEvent>(QEvent::Type(type));
+    }
     QObject* const watched = onTabs ? static_cast<QObject*>(dialog.tabs()) : dialog.get();
     QVERIFY(!dialog->eventFilter(watched, event.get()));
 }

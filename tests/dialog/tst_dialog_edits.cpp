@@ -39,8 +39,9 @@ QVector<Edit> editsOf(const Setting& setting)
                  {Turn::Press, QStringLiteral("off"), 1, 0}};
     } else if (setting.kind == Kind::List) {
         // Given is a code that the list does not have, so that every item is a change.
-        for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member)))
+        for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member))) {
             edits += {Turn::Choose, QString::fromLatin1(item.text), 97, double(item.code)};
+        }
     } else if (QByteArray(setting.control).endsWith("Slider")) {
         edits = {{Turn::Page, QStringLiteral("20"), 0, 20}};
     } else {
@@ -140,22 +141,25 @@ void TestDialogEdits::control_data()
                  {"50.00", 50.0},
                  {"59.94", 60000.0 / 1001.0},
                  {"60.00", 60.0}};
-    for (const auto& rate : rates)
+    for (const auto& rate : rates) {
         row("Frame Rate", frameRate, Turn::Choose, rate.text, inBoth({{0, 32, rate.rate}}),
             inBoth({{0, 32, 0.0}}));
+    }
 
     for (const Setting& setting : ledger::settings()) {
         // Each has rows of its own.
         if (!setting.key || setting.kind == Kind::FrameRate || setting.kind == Kind::Aspect ||
-            setting.is("video_type") || setting.isOfEachView())
+            setting.is("video_type") || setting.isOfEachView()) {
             continue;
+        }
         const Place place = {setting.page, setting.control};
         const auto in = [&](double code) {
             const Cell cell(0, setting, code);
             return setting.isOfRecord() ? Cells{cell} : inBoth({cell});
         };
-        for (const Edit& edit : editsOf(setting))
+        for (const Edit& edit : editsOf(setting)) {
             row(setting.key, place, edit.how, qPrintable(edit.what), in(edit.code), in(edit.given));
+        }
     }
     row("Slices", {"MiscPage", "slicesSpin"}, Turn::Type, "1",
         inBoth({{0, 2848, 1}, {0, 2844, 0}}));
@@ -181,8 +185,9 @@ void TestDialogEdits::control()
     dialog.put(given);
     const QByteArray before = dialog.bytes();
     turn(dialog.get(), page, name, how, what);
-    if (QTest::currentTestFailed())
+    if (QTest::currentTestFailed()) {
         return;
+    }
     QCOMPARE(differences(before, dialog.bytes()), expectedDifferences(before, changes));
     // The caller's not yet.
     QVERIFY(bytesOf(dialog.caller) == dialog.given);
@@ -223,16 +228,18 @@ void TestDialogEdits::rateControl_data()
         for (const Setting& setting : ledger::settings()) {
             // The target fullness is not reported; the rates pull each other.
             if (!setting.isOfEachView() || setting.kind == Kind::Radio ||
-                setting.is("vbv_target") || setting.is("bitrate") || setting.is("max_bitrate"))
+                setting.is("vbv_target") || setting.is("bitrate") || setting.is("max_bitrate")) {
                 continue;
+            }
             const Cells mode =
                 QByteArray(setting.control).contains("uant") ? quantizerMode : Cells();
             for (const Edit& edit : editsOf(setting)) {
                 // It switches HRD on; see above.
-                if (edit.what != QLatin1String("Constant Bitrate"))
+                if (edit.what != QLatin1String("Constant Bitrate")) {
                     row(setting.key, setting.control, edit.how, qPrintable(edit.what),
                         {Cell(view, setting, edit.code)},
                         mode + Cells{Cell(view, setting, edit.given)});
+                }
             }
         }
     }
@@ -254,8 +261,9 @@ void TestDialogEdits::rateControl()
     const QByteArray before = dialog.bytesOfAllViews();
 
     turn(dialog.get(), QStringLiteral("View%1Page").arg(view), name, how, what);
-    if (QTest::currentTestFailed())
+    if (QTest::currentTestFailed()) {
         return;
+    }
     QCOMPARE(differences(before, dialog.bytesOfAllViews()), expectedDifferences(before, changes));
 }
 
@@ -269,14 +277,15 @@ void TestDialogEdits::turn(const QWidget* dialog, const QString& page, const QSt
     user::reveal(widget);
     QVERIFY(widget->isVisible());
     QVERIFY(widget->isEnabled());
-    if (how == Turn::Choose)
+    if (how == Turn::Choose) {
         QVERIFY(user::choose(qobject_cast<QComboBox*>(widget), what));
-    else if (how == Turn::Type)
+    } else if (how == Turn::Type) {
         user::type(qobject_cast<QSpinBox*>(widget), what);
-    else if (how == Turn::Press)
+    } else if (how == Turn::Press) {
         user::click(qobject_cast<QAbstractButton*>(widget));
-    else
+    } else {
         user::pageUp(qobject_cast<QSlider*>(widget));
+    }
 }
 
 void TestDialogEdits::everyKeyHasARow()
@@ -285,15 +294,17 @@ void TestDialogEdits::everyKeyHasARow()
     OpenDialog dialog;
     QStringList wanted = {QStringLiteral("deviceList"), QStringLiteral("aspectRatioCheck")};
     for (const Setting& setting : ledger::settings()) {
-        if (!setting.key || setting.is("video_type"))
+        if (!setting.key || setting.is("video_type")) {
             continue;
+        }
         for (int view = 0; view < setting.viewCount(); ++view) {
             if (setting.kind != Kind::Radio) {
                 wanted += QString::fromLatin1(setting.control);
                 continue;
             }
-            for (const char* name : {"units1Radio", "units2Radio", "units3Radio", "onesecCheck"})
+            for (const char* name : {"units1Radio", "units2Radio", "units3Radio", "onesecCheck"}) {
                 wanted += QString::fromLatin1(name);
+            }
         }
     }
     QStringList found;
@@ -303,8 +314,9 @@ void TestDialogEdits::everyKeyHasARow()
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QSpinBox*>(widget) ||
             qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QSlider*>(widget) ||
             qobject_cast<const QRadioButton*>(widget);
-        if (editable && !widget->objectName().isEmpty())
+        if (editable && !widget->objectName().isEmpty()) {
             found += widget->objectName();
+        }
     }
     wanted.sort();
     found.sort();
@@ -367,8 +379,9 @@ void TestDialogEdits::viewsBeyondTheRecordAreLikeTheSecond()
     KvMvcSettings settings = exampleSettings();
     put(settings, {{Cell::Record, 0, 4}, {0, 80, 1000}, {1, 80, 2000}});
     dialog.dropSettings(settings);
-    for (const int view : {2, 3})
+    for (const int view : {2, 3}) {
         QCOMPARE(rateOf(view)->value(), 2000);
+    }
     // Their rate control is their own, until other settings come from outside.
     user::type(rateOf(3), QStringLiteral("3000"));
     user::type(rateOf(1), QStringLiteral("2500"));
@@ -378,8 +391,9 @@ void TestDialogEdits::viewsBeyondTheRecordAreLikeTheSecond()
         defaults = exampleSettings();
     };
     QVERIFY(user::choose(dialog.presetList(), QStringLiteral("Stereo High")));
-    for (const int view : {0, 1, 2, 3})
+    for (const int view : {0, 1, 2, 3}) {
         QCOMPARE(rateOf(view)->value(), 4000000);
+    }
 }
 
 QTEST_MAIN(TestDialogEdits)

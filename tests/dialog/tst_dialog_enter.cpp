@@ -106,8 +106,9 @@ void TestDialogEnter::fieldWithoutAnEditAccepts_data()
     QTest::addColumn<QString>("way");
     for (const char* way : {"untouched", "arrow key", "left and come back to",
                             "typed and then "
-                            "stepped"})
+                            "stepped"}) {
         QTest::newRow(way) << QString::fromLatin1(way);
+    }
 }
 
 void TestDialogEnter::fieldWithoutAnEditAccepts()

@@ -144,10 +144,11 @@ void TestDialogFiles::openDialogOptions()
         QVERIFY(!files->parentWidget());
         files->reject();
     });
-    if (byKey)
+    if (byKey) {
         QTest::keyClick(dialog.get(), Qt::Key_L, Qt::AltModifier);
-    else
+    } else {
         user::click(dialog.button("buttonLoad"));
+    }
     // A key shows the button pressed for a moment.
     QTRY_COMPARE(watch.seen(), 1);
     QVERIFY(!watch.forced());
@@ -175,10 +176,11 @@ void TestDialogFiles::saveDialogOptions()
         QVERIFY(!files->parentWidget());
         files->reject();
     });
-    if (byKey)
+    if (byKey) {
         QTest::keyClick(dialog.get(), Qt::Key_S, Qt::AltModifier);
-    else
+    } else {
         user::click(dialog.button("buttonSave"));
+    }
     // A key shows the button pressed for a moment.
     QTRY_COMPARE(watch.seen(), 1);
     QVERIFY(!watch.forced());
@@ -211,11 +213,13 @@ void TestDialogFiles::recordForTheReaderIsZeroed()
 {
     create("stereo.cfg");
     OpenDialog dialog;
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         useFileDialog(dialog, "buttonLoad", path("stereo.cfg"));
+    }
     QCOMPARE(dialog.companions.receivedByReader.size(), 2);
-    for (const QByteArray& received : dialog.companions.receivedByReader)
+    for (const QByteArray& received : dialog.companions.receivedByReader) {
         QVERIFY(received == QByteArray(16888, '\0'));
+    }
 }
 
 void TestDialogFiles::failedLoadChangesNothing_data()
@@ -248,8 +252,9 @@ void TestDialogFiles::failedLoadChangesNothing()
         settings.num_views = 3;
         return result;
     };
-    if (result == 2)
+    if (result == 2) {
         companionFunctions().settingsIoGetApi = nullptr;
+    }
 
     useFileDialog(dialog, "buttonLoad", path("broken.ini"));
     QCOMPARE(dialog.companions.count(QStringLiteral("check")), 0);
@@ -396,8 +401,9 @@ void TestDialogFiles::overwriteIsAskedFor()
     OpenDialog dialog;
     ModalWatch watch(
         [&](QWidget* window) {
-            if (qobject_cast<QFileDialog*>(window))
+            if (qobject_cast<QFileDialog*>(window)) {
                 return enterName(window, path("stereo.cfg"));
+            }
             auto* const box = qobject_cast<QMessageBox*>(window);
             QVERIFY(box);
             QCOMPARE(box->windowTitle(), QStringLiteral("Korvane MVC Video Encoder"));
@@ -406,10 +412,11 @@ void TestDialogFiles::overwriteIsAskedFor()
             QCOMPARE(box->icon(), QMessageBox::Question);
             QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
             QVERIFY(!box->parentWidget());
-            if (auto* const button = box->button(QMessageBox::StandardButton(answer)))
+            if (auto* const button = box->button(QMessageBox::StandardButton(answer))) {
                 user::click(button);
-            else
+            } else {
                 QTest::keyClick(box, Qt::Key(answer));
+            }
         },
         2);
     user::click(dialog.button("buttonSave"));

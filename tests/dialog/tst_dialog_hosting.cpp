@@ -15,8 +15,9 @@ namespace
 QStringList tabTitles(const OpenDialog& dialog)
 {
     QStringList titles;
-    for (int i = 0; i < dialog.tabs()->count(); ++i)
+    for (int i = 0; i < dialog.tabs()->count(); ++i) {
         titles += dialog.tabs()->tabText(i);
+    }
     return titles;
 }
 

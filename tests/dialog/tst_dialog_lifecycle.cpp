@@ -102,8 +102,9 @@ void TestDialogLifecycle::okIsRefusedWhileTheCheckFails()
     OpenDialog dialog;
     int verdict = 1;
     dialog.companions.onCheck = [&verdict](KvMvcLookup lookUp, KvMvcSettings&) {
-        if (verdict != 0)
+        if (verdict != 0) {
             print(lookUp, "err_printf", "too wide");
+        }
         return verdict;
     };
     user::type(widthOf(dialog), QStringLiteral("1280"));
@@ -146,8 +147,9 @@ void TestDialogLifecycle::okByTheReturnKey()
 void TestDialogLifecycle::leavingAnyOtherWayKeepsTheRecord_data()
 {
     QTest::addColumn<QString>("way");
-    for (const char* way : {"cancel", "close box", "escape", "slot"})
+    for (const char* way : {"cancel", "close box", "escape", "slot"}) {
         QTest::newRow(way) << QString::fromLatin1(way);
+    }
 }
 
 void TestDialogLifecycle::leavingAnyOtherWayKeepsTheRecord()
@@ -161,14 +163,15 @@ void TestDialogLifecycle::leavingAnyOtherWayKeepsTheRecord()
     const int checks = dialog.companions.count(QStringLiteral("check"));
 
     QSignalSpy finished(dialog.get(), &QDialog::finished);
-    if (way == QLatin1String("cancel"))
+    if (way == QLatin1String("cancel")) {
         user::click(dialog.button("buttonCancel"));
-    else if (way == QLatin1String("close box"))
+    } else if (way == QLatin1String("close box")) {
         dialog->close();
-    else if (way == QLatin1String("escape"))
+    } else if (way == QLatin1String("escape")) {
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    else
+    } else {
         dialog->slotReject();
+    }
     QVERIFY(!dialog->isVisible());
     QCOMPARE(finished.count(), 1);
     QCOMPARE(finished[0][0].toInt(), 0);
@@ -246,8 +249,9 @@ void TestDialogLifecycle::countsOfViewsFromOutside()
     user::type(widthOf(dialog), QStringLiteral("1280"));
 
     Cells expected;
-    for (int view = 0; view < edited; ++view)
+    for (int view = 0; view < edited; ++view) {
         expected += Cell(view, 24, 1280);
+    }
     QCOMPARE(differences(before, dialog.bytes()), expectedDifferences(before, expected));
     user::click(dialog.button("buttonOk"));
     QCOMPARE(int(dialog.caller.num_views), count);

@@ -29,8 +29,9 @@ QStringList paragraphs(const OpenDialog& dialog)
             continue;
         }
         QStringList colours;
-        for (auto at = block.begin(); !at.atEnd(); ++at)
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
             colours += at.fragment().charFormat().foreground().color().name();
+        }
         colours.removeDuplicates();
         list += colours.join(QLatin1Char('/')) + QLatin1Char(' ') + block.text();
     }
@@ -195,8 +196,9 @@ void TestDialogLog::manyMessages()
 {
     OpenDialog dialog;
     dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
-        for (int i = 0; i < 2000; ++i)
+        for (int i = 0; i < 2000; ++i) {
             print(lookUp, i % 2 ? "err_printf" : "inf_printf", "message %d", i);
+        }
         return 0;
     };
     dialog.probe().check();
@@ -255,8 +257,9 @@ void TestDialogLog::startsReadingAtTheFirstMessage()
 {
     OpenDialog dialog;
     dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
-        for (int i = 0; i < 40; ++i)
+        for (int i = 0; i < 40; ++i) {
             print(lookUp, "inf_printf", "note %d", i);
+        }
         return 0;
     };
     dialog.probe().check();
@@ -270,9 +273,11 @@ namespace
 /// More of each than the log can show.
 int manyOfEach(KvMvcLookup lookUp, KvMvcSettings&)
 {
-    for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"})
-        for (int i = 0; i < 20; ++i)
+    for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"}) {
+        for (int i = 0; i < 20; ++i) {
             print(lookUp, sink, "%s %d", sink, i);
+        }
+    }
     return 1;
 }
 
@@ -306,12 +311,14 @@ void TestDialogLog::refusedOkPointsOutTheFirstError()
     QFETCH(QString, first);
     OpenDialog dialog;
     dialog.companions.onCheck = [&first](KvMvcLookup lookUp, KvMvcSettings&) {
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
             print(lookUp, "wrn_printf", "warning %d", i);
+        }
         print(lookUp, "err_printf", "%s", qPrintable(first));
         print(lookUp, "err_printf", "too high");
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
             print(lookUp, "inf_printf", "note %d", i);
+        }
         return 1;
     };
     // Once more with the same messages: the user has to see that it was refused again.
@@ -352,8 +359,9 @@ void TestDialogLog::wrappedMessagesHang()
 {
     OpenDialog dialog;
     dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
-        for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"})
+        for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"}) {
             print(lookUp, sink, "%s", qPrintable(QStringLiteral("too wide ").repeated(20)));
+        }
         return 0;
     };
     dialog.probe().check();
@@ -362,8 +370,9 @@ void TestDialogLog::wrappedMessagesHang()
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const QTextLayout* const layout = block.layout();
         const qreal begin = layout->lineAt(0).x();
-        for (int line = 1; line < layout->lineCount(); ++line, ++wrapped)
+        for (int line = 1; line < layout->lineCount(); ++line, ++wrapped) {
             QVERIFY(layout->lineAt(line).x() >= begin + 8);
+        }
     }
     QVERIFY(wrapped >= 3);
 }
@@ -372,11 +381,13 @@ void TestDialogLog::lookup_data()
 {
     QTest::addColumn<bool>("known");
     for (const char* name :
-         {"malloc", "free", "err_printf", "prg_printf", "wrn_printf", "inf_printf"})
+         {"malloc", "free", "err_printf", "prg_printf", "wrn_printf", "inf_printf"}) {
         QTest::newRow(name) << true;
+    }
     for (const char* name : {"printf", "err_printf ", "ERR_PRINTF", "err_print", "err_printfs",
-                             "realloc", "wrn", "mallocfree"})
+                             "realloc", "wrn", "mallocfree"}) {
         QTest::newRow(name) << false;
+    }
 }
 
 void TestDialogLog::lookup()
@@ -397,9 +408,11 @@ void TestDialogLog::lookupAllocates()
     reinterpret_cast<Release>(lookUpCheckFunction("free"))(memory);
     // Four sinks, not one under four names.
     QVector<KvMvcFunction> sinks;
-    for (const char* name : sinkNames)
-        if (!sinks.contains(lookUpCheckFunction(name)))
+    for (const char* name : sinkNames) {
+        if (!sinks.contains(lookUpCheckFunction(name))) {
             sinks += lookUpCheckFunction(name);
+        }
+    }
     QCOMPARE(sinks.size(), 4);
 }
 

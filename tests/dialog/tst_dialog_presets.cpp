@@ -76,8 +76,9 @@ void TestDialogPresets::choosingCallsTheDefaultsOnce()
 void TestDialogPresets::choosingTheSameAgainRestoresIt()
 {
     OpenDialog dialog;
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         QVERIFY(user::choose(dialog.presetList(), QStringLiteral("Stereo High")));
+    }
     QCOMPARE(dialog.companions.count(QStringLiteral("defaults 0 2 0")), 2);
     QCOMPARE(dialog.companions.count(QStringLiteral("check")), 2);
 }
@@ -178,8 +179,9 @@ void TestDialogPresets::bothKeysCountAsRestore()
     dialog->slotReceiveState(state);
     QCOMPARE(dialog.companions.calls,
              QStringList({QStringLiteral("defaults 0 3 0"), QStringLiteral("check 3 0")}));
-    for (const auto& view : dialog.probe().record().settings.views)
+    for (const auto& view : dialog.probe().record().settings.views) {
         QCOMPARE(int(view.video_type), 3);
+    }
 }
 
 void TestDialogPresets::presetKeysHideAllOthers_data()

@@ -74,8 +74,9 @@ void TestDialogSkins::keysOfAFocusedControl()
 void TestDialogSkins::otherKeysDoNot_data()
 {
     QTest::addColumn<int>("key");
-    for (const int key : {Qt::Key_F1, Qt::Key_F4, Qt::Key_F7, Qt::Key_5, Qt::Key_6})
+    for (const int key : {Qt::Key_F1, Qt::Key_F4, Qt::Key_F7, Qt::Key_5, Qt::Key_6}) {
         QTest::addRow("%x", unsigned(key)) << key;
+    }
 }
 
 void TestDialogSkins::otherKeysDoNot()
@@ -164,24 +165,31 @@ void TestDialogSkins::bannerFillsItsFrame()
     };
     const auto isDark = [&picture](int x, int y) { return qGray(picture.pixel(x, y)) < 115; };
     for (int x = 0; x < whole.width(); ++x) {
-        for (const int y : {inside.top(), inside.bottom()})
+        for (const int y : {inside.top(), inside.bottom()}) {
             QVERIFY2(isDark(x, y) || isInCorner(x, y) || !inside.contains(x, y),
                      qPrintable(QStringLiteral("light at %1, %2").arg(x).arg(y)));
-        for (const int y : {0, whole.bottom()})
+        }
+        for (const int y : {0, whole.bottom()}) {
             QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
+        }
     }
     for (int y = 0; y < whole.height(); ++y) {
-        for (const int x : {inside.left(), inside.right()})
+        for (const int x : {inside.left(), inside.right()}) {
             QVERIFY2(isDark(x, y) || isInCorner(x, y) || !inside.contains(x, y),
                      qPrintable(QStringLiteral("light at %1, %2").arg(x).arg(y)));
-        for (const int x : {0, whole.right()})
+        }
+        for (const int x : {0, whole.right()}) {
             QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
+        }
     }
     // A round frame, near the diagonal of its corners.
-    if (radius > 0)
-        for (const int x : {2, whole.right() - 2})
-            for (const int y : {3, whole.bottom() - 3})
+    if (radius > 0) {
+        for (const int x : {2, whole.right() - 2}) {
+            for (const int y : {3, whole.bottom() - 3}) {
                 QVERIFY2(!isDark(x, y), qPrintable(QStringLiteral("dark at %1, %2").arg(x).arg(y)));
+            }
+        }
+    }
 }
 
 QTEST_MAIN(TestDialogSkins)

@@ -22,9 +22,11 @@ constexpr QSize anySize;
 QStringList ownMethods(const QMetaObject& type, QMetaMethod::MethodType kind)
 {
     QStringList names;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i)
-        if (type.method(i).methodType() == kind)
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+        if (type.method(i).methodType() == kind) {
             names += QString::fromLatin1(type.method(i).methodSignature());
+        }
+    }
     return names;
 }
 
@@ -126,12 +128,15 @@ void TestDialogTree::widgets()
     const QString name = QString::fromLatin1(QTest::currentDataTag());
     const QWidget* const widget = findOnly(dialog.get(), type, name);
     QVERIFY(widget);
-    if (smallest != anySize)
+    if (smallest != anySize) {
         QCOMPARE(widget->minimumSize(), smallest);
-    if (largest != anySize)
+    }
+    if (largest != anySize) {
         QCOMPARE(widget->maximumSize(), largest);
-    if (!toolTip.isEmpty())
+    }
+    if (!toolTip.isEmpty()) {
         QCOMPARE(widget->toolTip(), toolTip);
+    }
 }
 
 void TestDialogTree::parents_data()
@@ -140,8 +145,9 @@ void TestDialogTree::parents_data()
     QTest::newRow("bannerFrame") << QStringLiteral("IAVCVideoEncoderDlg");
     QTest::newRow("presetFrame") << QStringLiteral("IAVCVideoEncoderDlg");
     for (const char* name :
-         {"presetLabel", "presetList", "presetButton", "buttonLoad", "buttonSave"})
+         {"presetLabel", "presetList", "presetButton", "buttonLoad", "buttonSave"}) {
         QTest::newRow(name) << QStringLiteral("presetFrame");
+    }
     QTest::newRow("splitter") << QStringLiteral("IAVCVideoEncoderDlg");
     QTest::newRow("infoFrame") << QStringLiteral("splitter");
     QTest::newRow("errorLog") << QStringLiteral("infoFrame");
@@ -196,14 +202,16 @@ void TestDialogTree::orderInRows()
     };
     const char* presetRow[] = {"presetLabel", "presetList", "presetButton", "buttonLoad",
                                "buttonSave"};
-    for (int i = 1; i < 5; ++i)
+    for (int i = 1; i < 5; ++i) {
         QVERIFY2(leftOf(presetRow[i - 1], presetRow[i]), presetRow[i]);
+    }
     QVERIFY(leftOf("buttonCancel", "buttonOk"));
 
     const auto* layout = dialog->layout();
     QStringList column;
-    for (int i = 0; i < layout->count(); ++i)
+    for (int i = 0; i < layout->count(); ++i) {
         column += layout->itemAt(i)->widget()->objectName();
+    }
     QCOMPARE(column, QStringList({QStringLiteral("bannerFrame"), QStringLiteral("presetFrame"),
                                   QStringLiteral("splitter"), QStringLiteral("buttonFrame")}));
 }
@@ -212,8 +220,9 @@ void TestDialogTree::buttonsAreSquareAndFixed_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name :
-         {"presetButton", "buttonLoad", "buttonSave", "buttonCancel", "buttonOk"})
+         {"presetButton", "buttonLoad", "buttonSave", "buttonCancel", "buttonOk"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
+    }
 }
 
 void TestDialogTree::buttonsAreSquareAndFixed()
@@ -287,8 +296,9 @@ void TestDialogTree::frames()
     QVERIFY(frame);
     QCOMPARE(int(frame->frameShape()), shape);
     QCOMPARE(frame->frameShadow(), QFrame::Sunken);
-    if (shape == QFrame::Panel)
+    if (shape == QFrame::Panel) {
         QCOMPARE(frame->lineWidth(), 1);
+    }
 }
 
 void TestDialogTree::presetLabelIsPlainBoldText()
@@ -390,8 +400,9 @@ void TestDialogTree::tabKeyRunsFromTopToBottom()
     QStringList visited;
     for (int i = 0; i < 300; ++i) {
         const QWidget* const focus = dialog->focusWidget();
-        if (i > 0 && focus == dialog.presetList())
+        if (i > 0 && focus == dialog.presetList()) {
             break;
+        }
         visited += focus->objectName();
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
     }

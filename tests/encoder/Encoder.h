@@ -7,7 +7,7 @@
 #include <QByteArrayList>
 #include <QStringList>
 
-/** What one check said and did. */
+/// What one check said and did.
 struct Outcome {
     qint32 result = -1;
     QByteArrayList formats[3]; ///< as passed to the error, warning and note sinks
@@ -19,24 +19,24 @@ struct Outcome {
     QByteArrayList errors() const { return texts[0]; }
     QByteArrayList warnings() const { return texts[1]; }
     QByteArrayList notes() const { return texts[2]; }
-    /** All texts, for the message of a failing comparison. */
+    /// All texts, for the message of a failing comparison.
     QByteArray all() const;
 };
 
 namespace encoder
 {
 
-/** The functions of kv_mvcenc, resolved by name; a test that cannot load it stops. */
+/// The functions of kv_mvcenc, resolved by name; a test that cannot load it stops.
 KvMvcDefaults defaultsFunction();
 KvMvcCheck checkFunction();
 
-/** A preset's record. */
+/// A preset's record.
 KvMvcSettings preset(int number);
 
-/** Checks the record through the real library; it may be corrected. */
+/// Checks the record through the real library; it may be corrected.
 Outcome check(KvMvcSettings& record);
 
-/** Gives both views the same value of a field that all views share. */
+/// Gives both views the same value of a field that all views share.
 template <class Value>
 void setBoth(KvMvcSettings& record, Value KvMvcViewSettings::*field, Value value)
 {

@@ -29,7 +29,7 @@ std::span<const RuleCase> rateCases();
 std::span<const RuleCase> discCases();
 std::span<const RuleCase> levelCases();
 
-/** A value of a field in both views, and what the check makes of it. */
+/// A value of a field in both views, and what the check makes of it.
 struct FieldCase {
     QByteArray rule;
     const ledger::Setting* setting;
@@ -37,5 +37,5 @@ struct FieldCase {
     std::int32_t after;
 };
 
-/** What is kept, and the next values beyond: of each range, switch and list of codes. */
+/// What is kept, and the next values beyond: of each range, switch and list of codes.
 const QList<FieldCase>& fieldCases();

@@ -10,7 +10,7 @@ namespace
 
 using ledger::Setting;
 
-/** What a field holds at least and at most, where the rule says so. */
+/// What a field holds at least and at most, where the rule says so.
 struct Range {
     const char* rule;
     const char* member;
@@ -48,7 +48,7 @@ constexpr Range ranges[] = {
     {"field.vbv-target-percent", "vbv_target", {}, 100},
 };
 
-/** Codes without a meaning, and what takes their place. */
+/// Codes without a meaning, and what takes their place.
 struct Codes {
     const char* rule;
     const char* member;
@@ -106,7 +106,7 @@ void addCodes(const Codes& row, QList<FieldCase>& cases)
     }
 }
 
-/** Any number but 0 is taken for 1. */
+/// Any number but 0 is taken for 1.
 void addSwitch(const Setting& setting, QList<FieldCase>& cases)
 {
     QByteArray name = QByteArray(setting.member).replace('_', '-');

@@ -31,7 +31,7 @@ KvMvcFunction errorSinkOnly(const char* name)
                                                 : nullptr;
 }
 
-/** A record with a correction, an error and notes. */
+/// A record with a correction, an error and notes.
 KvMvcSettings faulty()
 {
     KvMvcSettings record = encoder::preset(2);

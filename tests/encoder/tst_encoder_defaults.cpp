@@ -11,7 +11,7 @@
 namespace
 {
 
-/** Whether the setting's control can show what the record has; in percent units. */
+/// Whether the setting's control can show what the record has; in percent units.
 bool isShown(const KvMvcSettings& record, const ledger::Setting& setting, int view)
 {
     const double value = ledger::get(record, setting, view);

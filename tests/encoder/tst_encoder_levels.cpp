@@ -12,7 +12,7 @@ namespace
 using V = KvMvcViewSettings;
 using encoder::setBoth;
 
-/** Table A-1 of H.264 (08/2021), with pictures that lie on its edges. */
+/// Table A-1 of H.264 (08/2021), with pictures that lie on its edges.
 struct LevelRow {
     int code;
     const char* name;
@@ -56,7 +56,7 @@ void setSize(KvMvcSettings& record, int widthMbs, int heightMbs)
     setBoth(record, &V::height, heightMbs * 16);
 }
 
-/** A record that every level takes: P frames, one slice, 64 kbit/s, one full picture a second. */
+/// A record that every level takes: P frames, one slice, 64 kbit/s, one full picture a second.
 KvMvcSettings modest(const LevelRow& row)
 {
     KvMvcSettings record = encoder::preset(0);
@@ -77,7 +77,7 @@ KvMvcSettings modest(const LevelRow& row)
     return record;
 }
 
-/** Checks both sides of a limit: without any error, and with the one error that is meant. */
+/// Checks both sides of a limit: without any error, and with the one error that is meant.
 void compareSides(KvMvcSettings within, KvMvcSettings beyond, const char* rule)
 {
     const Outcome passes = encoder::check(within);
@@ -591,8 +591,9 @@ void TestEncoderLevels::discHasOneLevel()
     const Outcome outcome = encoder::check(record);
     QCOMPARE(outcome.errors(), errors);
     QVERIFY2(note.isEmpty() || outcome.notes().contains(note), outcome.all().constData());
-    for (const QByteArray& told : outcome.notes())
+    for (const QByteArray& told : outcome.notes()) {
         QVERIFY2(!told.contains("lowest"), told.constData());
+    }
 }
 
 QTEST_GUILESS_MAIN(TestEncoderLevels)

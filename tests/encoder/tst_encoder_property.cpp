@@ -185,7 +185,7 @@ bool same(const KvMvcSettings& a, const KvMvcSettings& b)
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-/** Whether nothing changed but the counts and the listed fields of the views in use. */
+/// Whether nothing changed but the counts and the listed fields of the views in use.
 bool touchesOnlyFields(const KvMvcSettings& before, const KvMvcSettings& after, int viewsInUse)
 {
     KvMvcSettings undone = after;

@@ -44,7 +44,7 @@ QList<RuleCase> allCases()
     return list;
 }
 
-/** Whether the record is as the check left it, except for what the other rules have to say. */
+/// Whether the record is as the check left it, except for what the other rules have to say.
 void compareFields(const KvMvcSettings& before, const FieldCase& row, bool corrected)
 {
     KvMvcSettings record = before;

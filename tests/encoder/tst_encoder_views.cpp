@@ -15,7 +15,7 @@ using encoder::setBoth;
 using ledger::Group;
 using ledger::Setting;
 
-/** What is said when view 1 differs from the base view in a setting of the group. */
+/// What is said when view 1 differs from the base view in a setting of the group.
 struct Sharing {
     Group group;
     const char* rule;
@@ -41,7 +41,7 @@ bool isTool(const Setting& setting)
             setting.group == Group::Coding);
 }
 
-/** A stereo record whose view 1 differs from the base view in this setting only. */
+/// A stereo record whose view 1 differs from the base view in this setting only.
 struct Differing {
     explicit Differing(const Setting& setting) : record(encoder::preset(2))
     {

@@ -10,8 +10,9 @@ namespace host_system
 void* openLibrary(const std::filesystem::path& file, std::string& error)
 {
     void* const library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!library)
+    if (!library) {
         error = dlerror();
+    }
     return library;
 }
 
@@ -31,8 +32,9 @@ std::vector<std::string> mappedFiles()
     std::ifstream maps("/proc/self/maps");
     for (std::string line; std::getline(maps, line);) {
         const auto slash = line.rfind('/');
-        if (slash != std::string::npos)
+        if (slash != std::string::npos) {
             names.push_back(line.substr(slash + 1));
+        }
     }
     return names;
 }

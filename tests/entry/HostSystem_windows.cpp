@@ -12,8 +12,9 @@ void* openLibrary(const std::filesystem::path& file, std::string& error)
     std::filesystem::path preferred = file;
     // LoadLibrary's own rules for names hold for backslashes only.
     const HMODULE library = LoadLibraryW(preferred.make_preferred().c_str());
-    if (!library)
+    if (!library) {
         error = "error " + std::to_string(GetLastError());
+    }
     return library;
 }
 
@@ -32,8 +33,9 @@ std::vector<std::string> mappedFiles()
     std::vector<HMODULE> modules(1024);
     DWORD bytes = 0;
     const auto size = static_cast<DWORD>(modules.size() * sizeof(HMODULE));
-    if (!K32EnumProcessModules(GetCurrentProcess(), modules.data(), size, &bytes) || bytes > size)
+    if (!K32EnumProcessModules(GetCurrentProcess(), modules.data(), size, &bytes) || bytes > size) {
         return {"kv_modules_cannot_be_listed"};
+    }
     modules.resize(bytes / sizeof(HMODULE));
     std::vector<std::string> names;
     for (const HMODULE module : modules) {
@@ -58,12 +60,15 @@ std::string stateOf(void* foreignWindow)
 {
     const auto window = static_cast<HWND>(foreignWindow);
     std::string state;
-    if (IsWindowEnabled(window))
+    if (IsWindowEnabled(window)) {
         state += "enabled ";
-    if (GetForegroundWindow() == window)
+    }
+    if (GetForegroundWindow() == window) {
         state += "active ";
-    if (GetFocus() == window)
+    }
+    if (GetFocus() == window) {
         state += "focused ";
+    }
     return state;
 }
 

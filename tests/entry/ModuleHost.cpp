@@ -85,14 +85,18 @@ void describe(QDialog* dialog)
     say(QStringLiteral("parent ") +
         (parent ? QString::fromLatin1(parent->metaObject()->className()) : QStringLiteral("none")));
     say(QStringLiteral("active ") + yesNo(QApplication::activeWindow() == dialog));
-    if (const auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget")))
+    if (const auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget"))) {
         say(QStringLiteral("last tab ") + tabs->tabText(tabs->count() - 1));
-    if (const auto* log = dialog->findChild<QTextEdit*>(QStringLiteral("errorLog")))
+    }
+    if (const auto* log = dialog->findChild<QTextEdit*>(QStringLiteral("errorLog"))) {
         say(QStringLiteral("log ") + log->toPlainText().simplified());
-    if (const auto* banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame")))
+    }
+    if (const auto* banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame"))) {
         say(QStringLiteral("banner %1").arg(banner->pixmap(Qt::ReturnByValue).width()));
-    if (foreignWindow)
+    }
+    if (foreignWindow) {
         describeForeignWindow();
+    }
 }
 
 void press(QDialog* dialog)
@@ -103,10 +107,11 @@ void press(QDialog* dialog)
         say(QStringLiteral("result again %1")
                 .arg(showAgain(&other, KV_MVC_GUI_HOST_APPLICATION, QCoreApplication::instance())));
     }
-    if (what == QLatin1String("close"))
+    if (what == QLatin1String("close")) {
         dialog->close();
-    else
+    } else {
         dialog->findChild<QPushButton*>(QLatin1String(button))->click();
+    }
     if (dialog->isVisible()) {
         say(QStringLiteral("still open"));
         dialog->reject();
@@ -120,8 +125,9 @@ void watchDialogs()
     auto last = std::make_shared<QPointer<QWidget>>();
     QObject::connect(timer, &QTimer::timeout, timer, [last] {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible() || *last == dialog)
+        if (!dialog || !dialog->isVisible() || *last == dialog) {
             return;
+        }
         *last = dialog;
         describe(dialog);
         press(dialog);
@@ -173,15 +179,17 @@ void Host::setExt(std::string kind)
     const std::string prefix = "record:";
     nullRecord = kind == "record";
     ownRecord = kind.compare(0, prefix.size(), prefix) == 0;
-    if (ownRecord)
+    if (ownRecord) {
         kind.erase(0, prefix.size());
+    }
     parent = nullptr;
-    if (kind == "application")
+    if (kind == "application") {
         parent = application.get();
-    else if (kind == "foreign")
+    } else if (kind == "foreign") {
         parent = foreignWindow;
-    else if (kind.compare(0, 7, "window=") == 0)
+    } else if (kind.compare(0, 7, "window=") == 0) {
         parent = reinterpret_cast<void*>(uintptr_t(std::stoull(kind.substr(7), nullptr, 0)));
+    }
 }
 
 void Host::call(KvMvcSettings* edited)
@@ -194,8 +202,9 @@ void Host::call(KvMvcSettings* edited)
     const int32_t result = show(edited, flags, ownRecord ? &record : nullRecord ? nullptr : parent);
     say(QStringLiteral("result %1").arg(result));
     say(QStringLiteral("changed ") + yesNo(std::memcmp(&before, &settings, sizeof before) != 0));
-    if (ownRecord)
+    if (ownRecord) {
         say(QStringLiteral("record flags %1").arg(unsigned(record.flags), 8, 16, QLatin1Char('0')));
+    }
 }
 
 void Host::mapped() const
@@ -203,16 +212,19 @@ void Host::mapped() const
     std::set<std::string> names;
     const std::string suffix = KV_LIBRARY_SUFFIX;
     for (std::string file : host_system::mappedFiles()) {
-        if (file.compare(0, 3, "kv_") != 0 && file.compare(0, 4, "mvc_") != 0)
+        if (file.compare(0, 3, "kv_") != 0 && file.compare(0, 4, "mvc_") != 0) {
             continue;
+        }
         if (file.size() > suffix.size() &&
-            file.compare(file.size() - suffix.size(), suffix.size(), suffix) == 0)
+            file.compare(file.size() - suffix.size(), suffix.size(), suffix) == 0) {
             file.resize(file.size() - suffix.size());
+        }
         names.insert(file);
     }
     std::string all = "mapped";
-    for (const std::string& name : names)
+    for (const std::string& name : names) {
         all += ' ' + name;
+    }
     say(QString::fromStdString(all));
 }
 
@@ -304,8 +316,9 @@ int main(int argc, char** argv)
 {
     Host host;
     host.modulePath = argc > 1 ? argv[1] : "";
-    if (!host.load())
+    if (!host.load()) {
         return 2;
+    }
     for (int i = 2; i < argc; ++i) {
         if (!host.step(argv[i])) {
             say(QStringLiteral("no such step: ") + QString::fromLocal8Bit(argv[i]));

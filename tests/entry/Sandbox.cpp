@@ -28,8 +28,9 @@ QStringList linesOf(QByteArray text)
     // Of a text file of Windows.
     text.replace("\r\n", "\n");
     QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
-    if (lines.last().isEmpty())
+    if (lines.last().isEmpty()) {
         lines.removeLast();
+    }
     return lines;
 }
 
@@ -50,8 +51,9 @@ Sandbox::~Sandbox()
 {
     // Windows may hold the files of a process for a moment after its end.
     const QDeadlineTimer patience(5000);
-    while (!QDir(m_directory.path()).removeRecursively() && !patience.hasExpired())
+    while (!QDir(m_directory.path()).removeRecursively() && !patience.hasExpired()) {
         QThread::msleep(20);
+    }
 }
 
 void Sandbox::add(const char* stub, const char* name, const char* folder) const
@@ -92,10 +94,11 @@ Sandbox::Result Sandbox::run(const QStringList& steps,
     // Without one the toolkit warns.
     variables.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path());
     for (auto at = environment.begin(); at != environment.end(); ++at) {
-        if (at->isEmpty())
+        if (at->isEmpty()) {
             variables.remove(at.key());
-        else
+        } else {
             variables.insert(at.key(), at.value());
+        }
     }
 
     QProcess process;
@@ -123,8 +126,10 @@ QStringList Sandbox::Result::values(const char* beginning) const
 {
     const QString start = QLatin1String(beginning) + QLatin1Char(' ');
     QStringList found;
-    for (const QString& line : lines)
-        if (line.startsWith(start) || line == QLatin1String(beginning))
+    for (const QString& line : lines) {
+        if (line.startsWith(start) || line == QLatin1String(beginning)) {
             found += line.mid(start.size());
+        }
+    }
     return found;
 }

@@ -22,8 +22,9 @@ namespace
 void writeDown(const std::string& line)
 {
     const char* const name = std::getenv("KV_STUB_LOG");
-    if (!name)
+    if (!name) {
         return;
+    }
     if (std::FILE* const log = std::fopen(name, "a")) {
         std::fprintf(log, "%s\n", line.c_str());
         std::fclose(log);
@@ -75,8 +76,9 @@ bool systemShowsErrors()
 __attribute__((constructor)) void loaded()
 {
     writeDown("load " + ownName());
-    if (systemShowsErrors())
+    if (systemShowsErrors()) {
         writeDown("the system would have shown errors");
+    }
 }
 
 __attribute__((destructor)) void unloaded()
@@ -115,10 +117,12 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
                                                                int32_t)
 {
     writeDown("check");
-    if (asked("KV_STUB_CHECK", "throw"))
+    if (asked("KV_STUB_CHECK", "throw")) {
         throw CheckError();
-    if (asked("KV_STUB_CHECK", "correct"))
+    }
+    if (asked("KV_STUB_CHECK", "correct")) {
         settings->views[0].bitrate = 4711;
+    }
     reinterpret_cast<KvMvcPrintf>(lookUp("err_printf"))("width %d", 5);
     return asked("KV_STUB_CHECK", "refuse") ? 1 : 0;
 }

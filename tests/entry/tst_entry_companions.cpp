@@ -47,8 +47,9 @@ void TestEntryCompanions::loaded_data()
     const auto row = [](const char* name, const QVector<Stub>& stubs, int result,
                         std::initializer_list<const char*> log) {
         QStringList lines;
-        for (const char* line : log)
+        for (const char* line : log) {
             lines += QString::fromLatin1(line);
+        }
         QTest::newRow(name) << stubs << result << lines;
     };
     const Stub settingsIo = {"stub_entry_settings_io", "kv_mvc_settings_io"};
@@ -101,8 +102,9 @@ void TestEntryCompanions::loaded()
     QFETCH(int, result);
     QFETCH(QStringList, log);
     const Sandbox sandbox;
-    for (const Stub& stub : stubs)
+    for (const Stub& stub : stubs) {
         sandbox.add(stub.stub, stub.name);
+    }
     const auto run = sandbox.run(ownCall);
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.value("result"), QString::number(result));

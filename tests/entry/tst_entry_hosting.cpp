@@ -46,10 +46,11 @@ void TestEntryHosting::results_data()
     QTest::addColumn<QString>("changed");
     const auto row = [](const char* name, const char* press, const char* check, const char* result,
                         const char* changed) {
-        for (const char* mode : {"own application", "host's application"})
+        for (const char* mode : {"own application", "host's application"}) {
             QTest::addRow("%s, %s", name, mode)
                 << QString::fromLatin1(press) << QString::fromLatin1(check)
                 << QString::fromLatin1(result) << QString::fromLatin1(changed);
+        }
     };
     row("OK", "ok", "correct", "1000", "yes");
     row("OK without a change", "ok", "", "1000", "no");
@@ -228,8 +229,9 @@ void TestEntryHosting::withoutADisplayThereIsAnErrorAndNoEnd()
 {
     QFETCH(QString, platform);
 #ifdef Q_OS_WIN
-    if (platform.isEmpty())
+    if (platform.isEmpty()) {
         QSKIP("a program for Windows has a display always");
+    }
 #endif
     const Sandbox sandbox;
     sandbox.addRequired();

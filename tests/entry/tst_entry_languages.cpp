@@ -94,13 +94,15 @@ QMap<QString, QString> TestEntryLanguages::environment(const Sandbox& sandbox,
 void TestEntryLanguages::initTestCase()
 {
 #ifdef Q_OS_WIN
-    if (!qEnvironmentVariableIsSet("LC_ALL"))
+    if (!qEnvironmentVariableIsSet("LC_ALL")) {
         return;
+    }
     // Otherwise Wine's user may speak English in all runs.
     for (const UserLanguage& language :
          {german, austrianGerman, japanese, noLanguage, english, french}) {
-        if (!canBeChosen(language))
+        if (!canBeChosen(language)) {
             continue;
+        }
         QCOMPARE(int(GetUserDefaultLangID()), language.number);
         return;
     }
@@ -133,8 +135,9 @@ void TestEntryLanguages::languages()
     QFETCH(QString, tab);
     QFETCH(QString, language);
     QFETCH(QString, log);
-    if (!canBeChosen(user))
+    if (!canBeChosen(user)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "second", "gui_mvc_de", "Deutsch");
@@ -163,8 +166,9 @@ void TestEntryLanguages::languages()
 
 void TestEntryLanguages::withoutLocalizationLibraryTheDialogIsTranslated()
 {
-    if (!canBeChosen(german))
+    if (!canBeChosen(german)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "second", "gui_mvc_de", "Deutsch");
@@ -175,8 +179,9 @@ void TestEntryLanguages::withoutLocalizationLibraryTheDialogIsTranslated()
 
 void TestEntryLanguages::localizationLibraryLiesBesideTheTranslation()
 {
-    if (!canBeChosen(german))
+    if (!canBeChosen(german)) {
         QSKIP(notChosen);
+    }
     // Not in another path, nor beside the host.
     const Sandbox sandbox;
     sandbox.addRequired();
@@ -192,8 +197,9 @@ void TestEntryLanguages::localizationLibraryLiesBesideTheTranslation()
 
 void TestEntryLanguages::firstPathWithATranslationIsUsed()
 {
-    if (!canBeChosen(german))
+    if (!canBeChosen(german)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "first", "gui_mvc_de", "Erste");
@@ -214,8 +220,9 @@ void TestEntryLanguages::fileOfThatNameOnly_data()
 void TestEntryLanguages::fileOfThatNameOnly()
 {
     QFETCH(UserLanguage, user);
-    if (!canBeChosen(user))
+    if (!canBeChosen(user)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "first", "gui_mvc", "Falsch");
@@ -234,8 +241,9 @@ void TestEntryLanguages::localizationLibraryWithoutFunctions_data()
 void TestEntryLanguages::localizationLibraryWithoutFunctions()
 {
     QFETCH(QString, log);
-    if (!canBeChosen(german))
+    if (!canBeChosen(german)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "second", "gui_mvc_de", "Deutsch");
@@ -249,8 +257,9 @@ void TestEntryLanguages::localizationLibraryWithoutFunctions()
 
 void TestEntryLanguages::secondCallInTheHostsApplication()
 {
-    if (!canBeChosen(german))
+    if (!canBeChosen(german)) {
         QSKIP(notChosen);
+    }
     const Sandbox sandbox;
     sandbox.addRequired();
     translate(sandbox, "second", "gui_mvc_de", "Deutsch");

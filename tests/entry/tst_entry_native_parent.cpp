@@ -107,23 +107,26 @@ private:
 
 void TestEntryNativeParent::initTestCase()
 {
-    if (qstrlen(KV_XVFB) == 0)
+    if (qstrlen(KV_XVFB) == 0) {
         QSKIP("no Xvfb on this system");
+    }
     m_server.start(QStringLiteral(KV_XVFB),
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"),
                     QStringLiteral("%1x%2x24").arg(screenWidth).arg(screenHeight),
                     QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     QVERIFY(m_server.waitForStarted());
-    while (!m_server.canReadLine())
+    while (!m_server.canReadLine()) {
         QVERIFY(m_server.waitForReadyRead(20000));
+    }
     m_display = ':' + m_server.readLine().trimmed();
 }
 
 void TestEntryNativeParent::cleanupTestCase()
 {
-    if (m_server.state() == QProcess::NotRunning)
+    if (m_server.state() == QProcess::NotRunning) {
         return;
+    }
     m_server.terminate();
     m_server.waitForFinished();
 }
@@ -239,8 +242,9 @@ void TestEntryNativeParent::parentTakesInputAgain()
     const Sandbox sandbox;
     sandbox.addRequired();
     ForeignWindow window(m_display, QRect(100, 100, 300, 300));
-    if (focusedBefore)
+    if (focusedBefore) {
         window.takeFocus();
+    }
     QCOMPARE(window.hasFocus(), focusedBefore);
     auto variables = environment();
     variables.insert(QStringLiteral("KV_STUB_CHECK"), check);

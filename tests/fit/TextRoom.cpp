@@ -21,8 +21,9 @@ namespace
 QString nameOf(const QWidget* widget)
 {
     const QWidget* page = widget;
-    while (page && !page->objectName().startsWith(QLatin1Char('I')))
+    while (page && !page->objectName().startsWith(QLatin1Char('I'))) {
         page = page->parentWidget();
+    }
     const QString place = page ? page->objectName() + QLatin1Char('/') : QString();
     return place + (widget->objectName().isEmpty()
                         ? QString::fromLatin1(widget->metaObject()->className())
@@ -53,8 +54,9 @@ public:
     }
     void compare(const QWidget* widget, const QString& text, const QSize& room, const QSize& size)
     {
-        if (text.isEmpty() || (size.width() <= room.width() && size.height() <= room.height()))
+        if (text.isEmpty() || (size.width() <= room.width() && size.height() <= room.height())) {
             return;
+        }
         faults += QStringLiteral("%1 \"%2\": %3x%4 for %5x%6")
                       .arg(nameOf(widget), text)
                       .arg(room.width())
@@ -70,10 +72,11 @@ void measureLabel(const QLabel* label, Measure& measure)
 {
     const int margin = 2 * label->margin();
     const QSize room = label->contentsRect().size() - QSize(margin, margin);
-    if (label->wordWrap())
+    if (label->wordWrap()) {
         measure.needWrapped(label, label->text(), room);
-    else
+    } else {
         measure.need(label, label->text(), room);
+    }
 }
 
 template <class Button>
@@ -100,10 +103,12 @@ void measureGroup(const QGroupBox* group, Measure& measure)
 
 QStyleOptionTab::TabPosition positionOf(int tab, int tabs)
 {
-    if (tabs == 1)
+    if (tabs == 1) {
         return QStyleOptionTab::OnlyOneTab;
-    if (tab == 0)
+    }
+    if (tab == 0) {
         return QStyleOptionTab::Beginning;
+    }
     return tab == tabs - 1 ? QStyleOptionTab::End : QStyleOptionTab::Middle;
 }
 
@@ -121,9 +126,11 @@ void measureTabs(const QTabBar* bar, Measure& measure)
         measure.need(bar, bar->tabText(i), room.intersected(bar->rect()).size());
     }
     // What does not fit is scrolled.
-    for (const QToolButton* scroll : bar->findChildren<QToolButton*>())
-        if (scroll->isVisible())
+    for (const QToolButton* scroll : bar->findChildren<QToolButton*>()) {
+        if (scroll->isVisible()) {
             measure.faults += nameOf(bar) + QLatin1String(": the tabs are scrolled");
+        }
+    }
 }
 
 void measureList(const QComboBox* list, Measure& measure)
@@ -134,8 +141,9 @@ void measureList(const QComboBox* list, Measure& measure)
     const QRect room = list->style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                      QStyle::SC_ComboBoxEditField, list);
     // Styles draw the text a pixel off either edge.
-    for (int i = 0; i < list->count(); ++i)
+    for (int i = 0; i < list->count(); ++i) {
         measure.need(list, list->itemText(i), room.size() - QSize(2, 0));
+    }
 }
 
 void measureField(const QSpinBox* field, Measure& measure)
@@ -143,8 +151,9 @@ void measureField(const QSpinBox* field, Measure& measure)
     constexpr int lineEditMargin = 2;
     const auto* edit = field->findChild<QLineEdit*>();
     const QSize room = edit->contentsRect().size() - QSize(2 * lineEditMargin, 0);
-    for (const int number : {field->minimum(), field->maximum(), field->value()})
+    for (const int number : {field->minimum(), field->maximum(), field->value()}) {
         measure.need(edit, field->prefix() + QString::number(number) + field->suffix(), room);
+    }
     measure.need(edit, field->specialValueText(), room);
 }
 
@@ -157,8 +166,9 @@ QList<const QWidget*> visibleLeaves(const QWidget* window)
             qobject_cast<const QAbstractSpinBox*>(widget) ||
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSlider*>(widget);
         if (leaf && widget->isVisible() && !qobject_cast<const QScrollBar*>(widget) &&
-            !qobject_cast<const QTabBar*>(widget->parentWidget()))
+            !qobject_cast<const QTabBar*>(widget->parentWidget())) {
             leaves += widget;
+        }
     }
     return leaves;
 }
@@ -169,22 +179,24 @@ QStringList cutTexts(const QWidget* window)
 {
     Measure measure;
     for (const QWidget* widget : window->findChildren<QWidget*>()) {
-        if (!widget->isVisible())
+        if (!widget->isVisible()) {
             continue;
-        if (const auto* label = qobject_cast<const QLabel*>(widget))
+        }
+        if (const auto* label = qobject_cast<const QLabel*>(widget)) {
             measureLabel(label, measure);
-        else if (const auto* box = qobject_cast<const QCheckBox*>(widget))
+        } else if (const auto* box = qobject_cast<const QCheckBox*>(widget)) {
             measureButton(box, QStyle::SE_CheckBoxContents, measure);
-        else if (const auto* radio = qobject_cast<const QRadioButton*>(widget))
+        } else if (const auto* radio = qobject_cast<const QRadioButton*>(widget)) {
             measureButton(radio, QStyle::SE_RadioButtonContents, measure);
-        else if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+        } else if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
             measureGroup(group, measure);
-        else if (const auto* bar = qobject_cast<const QTabBar*>(widget))
+        } else if (const auto* bar = qobject_cast<const QTabBar*>(widget)) {
             measureTabs(bar, measure);
-        else if (const auto* list = qobject_cast<const QComboBox*>(widget))
+        } else if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
             measureList(list, measure);
-        else if (const auto* field = qobject_cast<const QSpinBox*>(widget))
+        } else if (const auto* field = qobject_cast<const QSpinBox*>(widget)) {
             measureField(field, measure);
+        }
     }
     return measure.faults;
 }
@@ -198,17 +210,22 @@ QStringList collisions(const QWidget* window)
     };
     for (int i = 0; i < leaves.size(); ++i) {
         const QWidget* leaf = leaves[i];
-        if (!leaf->parentWidget()->rect().contains(leaf->geometry()))
+        if (!leaf->parentWidget()->rect().contains(leaf->geometry())) {
             faults +=
                 nameOf(leaf) + QLatin1String(" sticks out of ") + nameOf(leaf->parentWidget());
-        for (int k = i + 1; k < leaves.size(); ++k)
+        }
+        for (int k = i + 1; k < leaves.size(); ++k) {
             if (leaves[k]->parentWidget() == leaf->parentWidget() &&
-                placeOf(leaf).intersects(placeOf(leaves[k])))
+                placeOf(leaf).intersects(placeOf(leaves[k]))) {
                 faults += nameOf(leaf) + QLatin1String(" overlaps ") + nameOf(leaves[k]);
+            }
+        }
     }
-    for (const QScrollArea* area : window->findChildren<QScrollArea*>())
-        if (area->isVisible() && area->horizontalScrollBar()->maximum() > 0)
+    for (const QScrollArea* area : window->findChildren<QScrollArea*>()) {
+        if (area->isVisible() && area->horizontalScrollBar()->maximum() > 0) {
             faults += nameOf(area) + QStringLiteral(" scrolls sideways by %1")
                                          .arg(area->horizontalScrollBar()->maximum());
+        }
+    }
     return faults;
 }

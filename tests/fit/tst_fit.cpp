@@ -82,13 +82,14 @@ void TestFit::textsFit()
             dialog.tabs()->setCurrentIndex(tab);
             QCoreApplication::processEvents();
             QCOMPARE(dialog->width(), 400);
-            for (const QString& fault : cutTexts(dialog.get()) + collisions(dialog.get()))
+            for (const QString& fault : cutTexts(dialog.get()) + collisions(dialog.get())) {
                 faults += state + QLatin1String(": ") + fault;
+            }
         }
     };
 
     // Rate control shows other controls for each mode, and other labels for each unit.
-    for (int mode = 0; mode < 4; ++mode)
+    for (int mode = 0; mode < 4; ++mode) {
         for (int units = 0; units < (mode == KV_MVC_VARIABLE_BITRATE ? 3 : 1); ++units) {
             for (int view = 0; view < KV_MVC_RECORD_VIEWS; ++view) {
                 KvMvcViewSettings& settings = dialog.probe().record().settings.views[view];
@@ -101,6 +102,7 @@ void TestFit::textsFit()
             dialog.probe().settingsToState();
             look(QStringLiteral("mode %1, units %2").arg(mode).arg(units));
         }
+    }
 
     faults.removeDuplicates();
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
@@ -121,8 +123,9 @@ void TestFit::openListsFit()
         dialog.tabs()->setCurrentIndex(tab);
         QCoreApplication::processEvents();
         for (QComboBox* list : dialog->findChildren<QComboBox*>()) {
-            if (!list->isVisible() || !list->isEnabled())
+            if (!list->isVisible() || !list->isEnabled()) {
                 continue;
+            }
             user::reveal(list);
             list->showPopup();
             QCoreApplication::processEvents();
@@ -131,11 +134,12 @@ void TestFit::openListsFit()
             ++opened;
             // An item asks for the width of the closed list at least, frame or not.
             const int room = qMax(items->viewport()->width(), list->width());
-            if (room < items->sizeHintForColumn(0))
+            if (room < items->sizeHintForColumn(0)) {
                 faults += QStringLiteral("%1: %2 for %3")
                               .arg(list->objectName())
                               .arg(room)
                               .arg(items->sizeHintForColumn(0));
+            }
             list->hidePopup();
         }
     }

@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <QTest>
 
-class HostCheckTest : public QObject
+class TestHostCheck : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ void prepare(HostProgram& program, int width)
 
 } // namespace
 
-void HostCheckTest::messagesAndVerdict_data()
+void TestHostCheck::messagesAndVerdict_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<QStringList>("options");
@@ -69,7 +69,7 @@ void HostCheckTest::messagesAndVerdict_data()
         << 5 << none << QStringLiteral("note: no reason\n") << 1;
 }
 
-void HostCheckTest::messagesAndVerdict()
+void TestHostCheck::messagesAndVerdict()
 {
     QFETCH(int, width);
     QFETCH(QStringList, options);
@@ -87,7 +87,7 @@ void HostCheckTest::messagesAndVerdict()
     QCOMPARE(program.fileNames(), QStringList{a});
 }
 
-void HostCheckTest::messagesOfAnyLengthAreWhole()
+void TestHostCheck::messagesOfAnyLengthAreWhole()
 {
     HostProgram program;
     prepare(program, 3);
@@ -99,7 +99,7 @@ void HostCheckTest::messagesOfAnyLengthAreWhole()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostCheckTest::correctionsAreSavedElsewhere()
+void TestHostCheck::correctionsAreSavedElsewhere()
 {
     HostProgram program;
     prepare(program, 2);
@@ -114,7 +114,7 @@ void HostCheckTest::correctionsAreSavedElsewhere()
     QVERIFY(std::memcmp(&saved, &expected, sizeof saved) == 0);
 }
 
-void HostCheckTest::nothingIsSavedWhenRefused()
+void TestHostCheck::nothingIsSavedWhenRefused()
 {
     HostProgram program;
     prepare(program, 1);
@@ -124,7 +124,7 @@ void HostCheckTest::nothingIsSavedWhenRefused()
     QCOMPARE(program.fileNames(), QStringList{a});
 }
 
-void HostCheckTest::json()
+void TestHostCheck::json()
 {
     HostProgram program;
     prepare(program, 1);
@@ -149,7 +149,7 @@ void HostCheckTest::json()
                          "after": {"value": 16, "text": "16"}}]})json"));
 }
 
-void HostCheckTest::firstEncoderNameWins()
+void TestHostCheck::firstEncoderNameWins()
 {
     HostProgram program;
     program.setContent(QStringLiteral("library"), "no library");
@@ -161,7 +161,7 @@ void HostCheckTest::firstEncoderNameWins()
     QCOMPARE(result.error, QString());
 }
 
-void HostCheckTest::realEncoderAcceptsItsDefaults_data()
+void TestHostCheck::realEncoderAcceptsItsDefaults_data()
 {
     QTest::addColumn<QString>("preset");
     for (const char* preset : {"0", "1", "2", "3"}) {
@@ -169,7 +169,7 @@ void HostCheckTest::realEncoderAcceptsItsDefaults_data()
     }
 }
 
-void HostCheckTest::realEncoderAcceptsItsDefaults()
+void TestHostCheck::realEncoderAcceptsItsDefaults()
 {
     QFETCH(QString, preset);
     HostProgram program;
@@ -184,7 +184,7 @@ void HostCheckTest::realEncoderAcceptsItsDefaults()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostCheckTest::realEncoderRefusesWhatCannotBe()
+void TestHostCheck::realEncoderRefusesWhatCannotBe()
 {
     HostProgram program;
     program.addBuiltLibrary(QStringLiteral("kv_mvcenc"));
@@ -198,5 +198,5 @@ void HostCheckTest::realEncoderRefusesWhatCannotBe()
     QCOMPARE(result.exitCode, 1);
 }
 
-QTEST_GUILESS_MAIN(HostCheckTest)
+QTEST_GUILESS_MAIN(TestHostCheck)
 #include "tst_host_check.moc"

@@ -18,7 +18,7 @@ QStringList words(const QString& line)
 
 } // namespace
 
-class HostCommandsTest : public QObject
+class TestHostCommands : public QObject
 {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ private Q_SLOTS:
     void fullOutputIsTrouble();
 };
 
-void HostCommandsTest::wrongArgumentsGetOneLine_data()
+void TestHostCommands::wrongArgumentsGetOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("line");
@@ -98,7 +98,7 @@ void HostCommandsTest::wrongArgumentsGetOneLine_data()
         << text("an argument is empty; see 'kv-mvc-settings show --help'");
 }
 
-void HostCommandsTest::wrongArgumentsGetOneLine()
+void TestHostCommands::wrongArgumentsGetOneLine()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, line);
@@ -109,7 +109,7 @@ void HostCommandsTest::wrongArgumentsGetOneLine()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostCommandsTest::helpNamesEveryCommand()
+void TestHostCommands::helpNamesEveryCommand()
 {
     const HostProgram program;
     const HostProgram::Result result = program.run({QStringLiteral("--help")});
@@ -123,7 +123,7 @@ void HostCommandsTest::helpNamesEveryCommand()
     QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
 }
 
-void HostCommandsTest::everyCommandHasHelp_data()
+void TestHostCommands::everyCommandHasHelp_data()
 {
     QTest::addColumn<QString>("usage");
     QTest::addColumn<QStringList>("options");
@@ -143,7 +143,7 @@ void HostCommandsTest::everyCommandHasHelp_data()
     row("import", "MEDIA", "--output --help");
 }
 
-void HostCommandsTest::everyCommandHasHelp()
+void TestHostCommands::everyCommandHasHelp()
 {
     QFETCH(QString, usage);
     QFETCH(QStringList, options);
@@ -168,7 +168,7 @@ void HostCommandsTest::everyCommandHasHelp()
     QCOMPARE(listed, options);
 }
 
-void HostCommandsTest::versionIsTheProjects()
+void TestHostCommands::versionIsTheProjects()
 {
     const HostProgram program;
     for (const QString& option : {QStringLiteral("--version"), QStringLiteral("-v")}) {
@@ -179,7 +179,7 @@ void HostCommandsTest::versionIsTheProjects()
     }
 }
 
-void HostCommandsTest::badFilesGetTheirReasonsAndLeaveAllAsItWas_data()
+void TestHostCommands::badFilesGetTheirReasonsAndLeaveAllAsItWas_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
@@ -232,7 +232,7 @@ void HostCommandsTest::badFilesGetTheirReasonsAndLeaveAllAsItWas_data()
     row("edit good.ini --preset 2", "--preset is for new settings, and 'good.ini' exists");
 }
 
-void HostCommandsTest::badFilesGetTheirReasonsAndLeaveAllAsItWas()
+void TestHostCommands::badFilesGetTheirReasonsAndLeaveAllAsItWas()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, error);
@@ -262,7 +262,7 @@ void HostCommandsTest::badFilesGetTheirReasonsAndLeaveAllAsItWas()
     }
 }
 
-void HostCommandsTest::everyErrorOfAFileIsTold()
+void TestHostCommands::everyErrorOfAFileIsTold()
 {
     const HostProgram program;
     QByteArray content = "[record]\n[view 0]\n";
@@ -282,7 +282,7 @@ void HostCommandsTest::everyErrorOfAFileIsTold()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostCommandsTest::placesInAFileAreToldAsCompilersDo()
+void TestHostCommands::placesInAFileAreToldAsCompilersDo()
 {
     HostProgram program;
     program.removeLibrary(QStringLiteral("kv_mvc_settings_io"));
@@ -298,7 +298,7 @@ void HostCommandsTest::placesInAFileAreToldAsCompilersDo()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostCommandsTest::unreadableFileGetsOneLine()
+void TestHostCommands::unreadableFileGetsOneLine()
 {
     const HostProgram program;
     const QString name = QStringLiteral("secret.ini");
@@ -314,7 +314,7 @@ void HostCommandsTest::unreadableFileGetsOneLine()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostCommandsTest::fullOutputIsTrouble()
+void TestHostCommands::fullOutputIsTrouble()
 {
     const QString full = QStringLiteral("/dev/full");
     if (!QFile::exists(full)) {
@@ -332,5 +332,5 @@ void HostCommandsTest::fullOutputIsTrouble()
     QCOMPARE(process.exitCode(), 2);
 }
 
-QTEST_GUILESS_MAIN(HostCommandsTest)
+QTEST_GUILESS_MAIN(TestHostCommands)
 #include "tst_host_commands.moc"

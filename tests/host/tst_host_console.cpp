@@ -11,7 +11,7 @@
 
 #include <windows.h>
 
-class HostConsoleTest : public QObject
+class TestHostConsole : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ QStringList linesOf(HANDLE screen)
 
 } // namespace
 
-void HostConsoleTest::initTestCase()
+void TestHostConsole::initTestCase()
 {
     FreeConsole();
     QVERIFY(AllocConsole());
@@ -82,12 +82,12 @@ void HostConsoleTest::initTestCase()
     QVERIFY(SetConsoleOutputCP(437) || SetConsoleOutputCP(1252));
 }
 
-void HostConsoleTest::cleanupTestCase()
+void TestHostConsole::cleanupTestCase()
 {
     FreeConsole();
 }
 
-void HostConsoleTest::consoleShowsWhatIsWritten_data()
+void TestHostConsole::consoleShowsWhatIsWritten_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QStringList>("lines");
@@ -105,7 +105,7 @@ void HostConsoleTest::consoleShowsWhatIsWritten_data()
                        QStringLiteral("bad.ini:1: section 'view 0' is missing")};
 }
 
-void HostConsoleTest::consoleShowsWhatIsWritten()
+void TestHostConsole::consoleShowsWhatIsWritten()
 {
     QFETCH(QString, arguments);
     QFETCH(QStringList, lines);
@@ -128,5 +128,5 @@ void HostConsoleTest::consoleShowsWhatIsWritten()
     QCOMPARE(shown, lines);
 }
 
-QTEST_GUILESS_MAIN(HostConsoleTest)
+QTEST_GUILESS_MAIN(TestHostConsole)
 #include "tst_host_console.moc"

@@ -7,7 +7,7 @@
 #include <QJsonObject>
 #include <QTest>
 
-class HostDiffTest : public QObject
+class TestHostDiff : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ KvMvcSettings changedSettings()
 
 } // namespace
 
-void HostDiffTest::sameSettingsPrintNothing()
+void TestHostDiff::sameSettingsPrintNothing()
 {
     const HostProgram::Result result = diff(exampleSettings(), exampleSettings());
     QCOMPARE(result.output, QString());
@@ -62,7 +62,7 @@ void HostDiffTest::sameSettingsPrintNothing()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostDiffTest::changesArePrintedOneALine()
+void TestHostDiff::changesArePrintedOneALine()
 {
     const HostProgram::Result result = diff(exampleSettings(), changedSettings());
     QCOMPARE(result.output,
@@ -74,14 +74,14 @@ void HostDiffTest::changesArePrintedOneALine()
                             "Reserved bytes, base view: 1 differ\n"
                             "Picture structure, view 1: MBAFF -> Progressive\n"
                             "Bitrate mode, view 1: Constant Bitrate -> 9 (unknown)\n"
-                            "VBV buffer initial, view 1: 54000 ticks of 90 kHz -> 60000 "
-                            "ticks of 90 kHz\n"
+                            "VBV buffer initial, view 1: 54000 ticks of 90 hz -> 60000 "
+                            "ticks of 90 hz\n"
                             "Reserved bytes, view 1: 2 differ\n"));
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 1);
 }
 
-void HostDiffTest::everyFieldIsSeen()
+void TestHostDiff::everyFieldIsSeen()
 {
     KvMvcSettings before = {};
     KvMvcSettings after = {};
@@ -109,7 +109,7 @@ void HostDiffTest::everyFieldIsSeen()
     QCOMPARE(result.exitCode, 1);
 }
 
-void HostDiffTest::reservedBytesAreSeen_data()
+void TestHostDiff::reservedBytesAreSeen_data()
 {
     QTest::addColumn<int>("offset");
     QTest::addColumn<int>("size");
@@ -127,7 +127,7 @@ void HostDiffTest::reservedBytesAreSeen_data()
     }
 }
 
-void HostDiffTest::reservedBytesAreSeen()
+void TestHostDiff::reservedBytesAreSeen()
 {
     QFETCH(int, offset);
     QFETCH(int, size);
@@ -139,7 +139,7 @@ void HostDiffTest::reservedBytesAreSeen()
     QCOMPARE(result.exitCode, 1);
 }
 
-void HostDiffTest::jsonListsTheDifferences()
+void TestHostDiff::jsonListsTheDifferences()
 {
     const QStringList json = {QStringLiteral("--json")};
     HostProgram::Result result = diff(exampleSettings(), exampleSettings(), json);
@@ -168,5 +168,5 @@ void HostDiffTest::jsonListsTheDifferences()
             {"setting": null, "name": "Reserved bytes", "view": 1, "bytes": 1}]})json"));
 }
 
-QTEST_GUILESS_MAIN(HostDiffTest)
+QTEST_GUILESS_MAIN(TestHostDiff)
 #include "tst_host_diff.moc"

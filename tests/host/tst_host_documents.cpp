@@ -8,7 +8,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
-class HostDocumentsTest : public QObject
+class TestHostDocuments : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ QString manualSection(const QString& command)
 
 } // namespace
 
-void HostDocumentsTest::manualPageIsWellFormed()
+void TestHostDocuments::manualPageIsWellFormed()
 {
     if (QByteArray(KV_GROFF).isEmpty()) {
         QSKIP("groff is not installed");
@@ -64,7 +64,7 @@ void HostDocumentsTest::manualPageIsWellFormed()
     QCOMPARE(groff.exitCode(), 0);
 }
 
-void HostDocumentsTest::manualPageNamesEveryOption_data()
+void TestHostDocuments::manualPageNamesEveryOption_data()
 {
     QTest::addColumn<QString>("command");
     for (const QString& command : commandNames) {
@@ -72,7 +72,7 @@ void HostDocumentsTest::manualPageNamesEveryOption_data()
     }
 }
 
-void HostDocumentsTest::manualPageNamesEveryOption()
+void TestHostDocuments::manualPageNamesEveryOption()
 {
     QFETCH(QString, command);
     const QString section = manualSection(command);
@@ -92,7 +92,7 @@ void HostDocumentsTest::manualPageNamesEveryOption()
     QVERIFY(options > 0);
 }
 
-void HostDocumentsTest::suffixesAreTheSameEverywhere_data()
+void TestHostDocuments::suffixesAreTheSameEverywhere_data()
 {
     QTest::addColumn<QString>("file");
     // What the list stands in, and one suffix in it.
@@ -127,7 +127,7 @@ void HostDocumentsTest::suffixesAreTheSameEverywhere_data()
     row("format, media", format, "are settings; .*?are media", "`(\\w+)`", media);
 }
 
-void HostDocumentsTest::suffixesAreTheSameEverywhere()
+void TestHostDocuments::suffixesAreTheSameEverywhere()
 {
     QFETCH(QString, file);
     QFETCH(QString, place);
@@ -149,7 +149,7 @@ void HostDocumentsTest::suffixesAreTheSameEverywhere()
     QCOMPARE(found, expected);
 }
 
-void HostDocumentsTest::completionOffers_data()
+void TestHostDocuments::completionOffers_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("offers");
@@ -183,7 +183,7 @@ void HostDocumentsTest::completionOffers_data()
     row("unknown ", "");
 }
 
-void HostDocumentsTest::completionOffers()
+void TestHostDocuments::completionOffers()
 {
     if (QByteArray(KV_BASH).isEmpty()) {
         QSKIP("bash is not installed");
@@ -221,5 +221,5 @@ void HostDocumentsTest::completionOffers()
              offers);
 }
 
-QTEST_GUILESS_MAIN(HostDocumentsTest)
+QTEST_GUILESS_MAIN(TestHostDocuments)
 #include "tst_host_documents.moc"

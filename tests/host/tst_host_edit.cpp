@@ -7,7 +7,7 @@
 
 #include <cstddef>
 
-class HostEditTest : public QObject
+class TestHostEdit : public QObject
 {
     Q_OBJECT
 
@@ -118,7 +118,7 @@ bool same(const KvMvcSettings& one, const KvMvcSettings& other)
 
 } // namespace
 
-void HostEditTest::optionsBecomeFlags_data()
+void TestHostEdit::optionsBecomeFlags_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<quint32>("flags");
@@ -148,7 +148,7 @@ void HostEditTest::optionsBecomeFlags_data()
         0x000ff020);
 }
 
-void HostEditTest::optionsBecomeFlags()
+void TestHostEdit::optionsBecomeFlags()
 {
     QFETCH(QString, options);
     QFETCH(quint32, flags);
@@ -161,7 +161,7 @@ void HostEditTest::optionsBecomeFlags()
     QCOMPARE(program.seen("width"), QStringLiteral("1920"));
 }
 
-void HostEditTest::hostingModes_data()
+void TestHostEdit::hostingModes_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<quint32>("flags");
@@ -181,7 +181,7 @@ void HostEditTest::hostingModes_data()
     row("--parent 0x1200007 --hosting native --title x", 0x20000000, "none", "1200007");
 }
 
-void HostEditTest::hostingModes()
+void TestHostEdit::hostingModes()
 {
     QFETCH(QString, options);
     QFETCH(quint32, flags);
@@ -197,7 +197,7 @@ void HostEditTest::hostingModes()
     QCOMPARE(program.seen("parent"), parent);
 }
 
-void HostEditTest::titleAndBanner_data()
+void TestHostEdit::titleAndBanner_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<quint32>("flags");
@@ -218,7 +218,7 @@ void HostEditTest::titleAndBanner_data()
                           << words << a;
 }
 
-void HostEditTest::titleAndBanner()
+void TestHostEdit::titleAndBanner()
 {
     QFETCH(QStringList, options);
     QFETCH(quint32, flags);
@@ -233,7 +233,7 @@ void HostEditTest::titleAndBanner()
     QCOMPARE(program.seen("banner"), banner);
 }
 
-void HostEditTest::okSavesAndPrintsTheChanges()
+void TestHostEdit::okSavesAndPrintsTheChanges()
 {
     const EditProgram program;
     const HostProgram::Result result = program.edit({a}, {twoEdits});
@@ -244,7 +244,7 @@ void HostEditTest::okSavesAndPrintsTheChanges()
     QCOMPARE(program.files(), QStringList{a});
 }
 
-void HostEditTest::okWithoutAChangePrintsNothing()
+void TestHostEdit::okWithoutAChangePrintsNothing()
 {
     const EditProgram program;
     const HostProgram::Result result = program.edit({a});
@@ -254,7 +254,7 @@ void HostEditTest::okWithoutAChangePrintsNothing()
     QVERIFY(same(program.readSettings(a), exampleSettings()));
 }
 
-void HostEditTest::outputLeavesTheFileThatWasRead()
+void TestHostEdit::outputLeavesTheFileThatWasRead()
 {
     const EditProgram program;
     const QByteArray before = program.content(a);
@@ -267,7 +267,7 @@ void HostEditTest::outputLeavesTheFileThatWasRead()
     QVERIFY(same(program.readSettings(b), twiceEditedSettings()));
 }
 
-void HostEditTest::newFileStartsWithThePreset_data()
+void TestHostEdit::newFileStartsWithThePreset_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("width");
@@ -281,7 +281,7 @@ void HostEditTest::newFileStartsWithThePreset_data()
         << QStringList{output, b, preset, QStringLiteral("3")} << QStringLiteral("1003");
 }
 
-void HostEditTest::newFileStartsWithThePreset()
+void TestHostEdit::newFileStartsWithThePreset()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, width);
@@ -297,7 +297,7 @@ void HostEditTest::newFileStartsWithThePreset()
     QCOMPARE(QString::number(saved.views[0].width), width);
 }
 
-void HostEditTest::withoutAFileOnlyTheChangesArePrinted()
+void TestHostEdit::withoutAFileOnlyTheChangesArePrinted()
 {
     const EditProgram program;
     const HostProgram::Result result =
@@ -310,7 +310,7 @@ void HostEditTest::withoutAFileOnlyTheChangesArePrinted()
     QCOMPARE(program.files(), QStringList{a});
 }
 
-void HostEditTest::cancelChangesNothing()
+void TestHostEdit::cancelChangesNothing()
 {
     const EditProgram program;
     const QByteArray before = program.content(a);
@@ -325,7 +325,7 @@ void HostEditTest::cancelChangesNothing()
     }
 }
 
-void HostEditTest::errorOfTheDialogIsTrouble()
+void TestHostEdit::errorOfTheDialogIsTrouble()
 {
     const EditProgram program;
     const QByteArray before = program.content(a);
@@ -337,7 +337,7 @@ void HostEditTest::errorOfTheDialogIsTrouble()
     QCOMPARE(program.content(a), before);
 }
 
-void HostEditTest::editsThatCannotBeSavedAreNotLost()
+void TestHostEdit::editsThatCannotBeSavedAreNotLost()
 {
     // The folder goes away while the dialog is open.
     const EditProgram program;
@@ -362,7 +362,7 @@ void HostEditTest::editsThatCannotBeSavedAreNotLost()
                  twiceEditedSettings()));
 }
 
-void HostEditTest::noDisplayIsTrouble()
+void TestHostEdit::noDisplayIsTrouble()
 {
 #ifdef Q_OS_WIN
     QSKIP("Windows always has a desktop");
@@ -380,5 +380,5 @@ void HostEditTest::noDisplayIsTrouble()
     QCOMPARE(program.content(a), before);
 }
 
-QTEST_GUILESS_MAIN(HostEditTest)
+QTEST_GUILESS_MAIN(TestHostEdit)
 #include "tst_host_edit.moc"

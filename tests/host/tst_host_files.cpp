@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QTest>
 
-class HostFilesTest : public QObject
+class TestHostFiles : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ void addEncoder(HostProgram& program)
 
 } // namespace
 
-void HostFilesTest::presetsByNumberAndName_data()
+void TestHostFiles::presetsByNumberAndName_data()
 {
     QTest::addColumn<QString>("preset");
     QTest::addColumn<int>("width");
@@ -58,7 +58,7 @@ void HostFilesTest::presetsByNumberAndName_data()
     row("blu-ray-3d", 1003);
 }
 
-void HostFilesTest::presetsByNumberAndName()
+void TestHostFiles::presetsByNumberAndName()
 {
     QFETCH(QString, preset);
     QFETCH(int, width);
@@ -71,7 +71,7 @@ void HostFilesTest::presetsByNumberAndName()
     QCOMPARE(program.readSettings(a).views[0].width, width);
 }
 
-void HostFilesTest::outputIsTheFilesText()
+void TestHostFiles::outputIsTheFilesText()
 {
     HostProgram program;
     addEncoder(program);
@@ -84,7 +84,7 @@ void HostFilesTest::outputIsTheFilesText()
     QVERIFY(printed.output.contains(QStringLiteral("1002")));
 }
 
-void HostFilesTest::outputFileIsReplaced()
+void TestHostFiles::outputFileIsReplaced()
 {
     HostProgram program;
     addEncoder(program);
@@ -96,7 +96,7 @@ void HostFilesTest::outputFileIsReplaced()
     QCOMPARE(program.fileNames(), QStringList{b});
 }
 
-void HostFilesTest::importWritesSettings()
+void TestHostFiles::importWritesSettings()
 {
     const HostProgram program;
     const KvMvcSettings example = exampleSettings();
@@ -114,7 +114,7 @@ void HostFilesTest::importWritesSettings()
     QVERIFY(std::memcmp(&imported, &example, sizeof example) == 0);
 }
 
-void HostFilesTest::importRefusesWhatIsNoMedia_data()
+void TestHostFiles::importRefusesWhatIsNoMedia_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {"a.m2p", "a.m2t", "a.m2v", "a.m4p", "a.mp2", "a.mp4", "a.mpeg",
@@ -123,7 +123,7 @@ void HostFilesTest::importRefusesWhatIsNoMedia_data()
     }
 }
 
-void HostFilesTest::importRefusesWhatIsNoMedia()
+void TestHostFiles::importRefusesWhatIsNoMedia()
 {
     QFETCH(QString, name);
     HostProgram program;
@@ -140,7 +140,7 @@ void HostFilesTest::importRefusesWhatIsNoMedia()
     QCOMPARE(program.content(b), QByteArray("kept"));
 }
 
-void HostFilesTest::cLocaleAddsNoWords()
+void TestHostFiles::cLocaleAddsNoWords()
 {
     HostProgram program;
     addEncoder(program);
@@ -151,5 +151,5 @@ void HostFilesTest::cLocaleAddsNoWords()
     QCOMPARE(result.exitCode, 0);
 }
 
-QTEST_GUILESS_MAIN(HostFilesTest)
+QTEST_GUILESS_MAIN(TestHostFiles)
 #include "tst_host_files.moc"

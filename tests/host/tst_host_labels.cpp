@@ -10,7 +10,7 @@
 #include <QJsonObject>
 #include <QTest>
 
-class HostLabelsTest : public QObject
+class TestHostLabels : public QObject
 {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private:
     static QHash<QString, QString> namesOfSettings();
 };
 
-QHash<QString, QString> HostLabelsTest::namesOfSettings()
+QHash<QString, QString> TestHostLabels::namesOfSettings()
 {
     KvMvcSettings other = {};
     for (const ledger::Setting& setting : ledger::settings()) {
@@ -45,7 +45,7 @@ QHash<QString, QString> HostLabelsTest::namesOfSettings()
     return names;
 }
 
-void HostLabelsTest::namesAreTheDialogs_data()
+void TestHostLabels::namesAreTheDialogs_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("dialogs");
@@ -56,14 +56,14 @@ void HostLabelsTest::namesAreTheDialogs_data()
     }
 }
 
-void HostLabelsTest::namesAreTheDialogs()
+void TestHostLabels::namesAreTheDialogs()
 {
     QFETCH(QString, name);
     QFETCH(QString, dialogs);
     QCOMPARE(name, dialogs);
 }
 
-void HostLabelsTest::everySettingIsNamed()
+void TestHostLabels::everySettingIsNamed()
 {
     QStringList members;
     for (const ledger::Setting& setting : ledger::settings()) {
@@ -75,5 +75,5 @@ void HostLabelsTest::everySettingIsNamed()
     QCOMPARE(named, members);
 }
 
-QTEST_GUILESS_MAIN(HostLabelsTest)
+QTEST_GUILESS_MAIN(TestHostLabels)
 #include "tst_host_labels.moc"

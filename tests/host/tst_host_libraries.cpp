@@ -8,7 +8,7 @@
 #include <QFileInfo>
 #include <QTest>
 
-class HostLibrariesTest : public QObject
+class TestHostLibraries : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ QString folderOf(const QString& file)
 
 } // namespace
 
-void HostLibrariesTest::encoderIsTheOneThatCounts_data()
+void TestHostLibraries::encoderIsTheOneThatCounts_data()
 {
     QTest::addColumn<QString>("beside");
     QTest::addColumn<QString>("system");
@@ -98,7 +98,7 @@ void HostLibrariesTest::encoderIsTheOneThatCounts_data()
     row("nowhere", "", "", "refused");
 }
 
-void HostLibrariesTest::encoderIsTheOneThatCounts()
+void TestHostLibraries::encoderIsTheOneThatCounts()
 {
     QFETCH(QString, beside);
     QFETCH(QString, system);
@@ -122,7 +122,7 @@ void HostLibrariesTest::encoderIsTheOneThatCounts()
     QCOMPARE(run.exitCode, 0);
 }
 
-void HostLibrariesTest::nothingIsLoadedFromTheCurrentFolder_data()
+void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder_data()
 {
     QTest::addColumn<QString>("planted");
     QTest::addColumn<QString>("arguments");
@@ -135,7 +135,7 @@ void HostLibrariesTest::nothingIsLoadedFromTheCurrentFolder_data()
                             << QStringLiteral("edit good.ini");
 }
 
-void HostLibrariesTest::nothingIsLoadedFromTheCurrentFolder()
+void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder()
 {
     QFETCH(QString, planted);
     QFETCH(QString, arguments);
@@ -151,7 +151,7 @@ void HostLibrariesTest::nothingIsLoadedFromTheCurrentFolder()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostLibrariesTest::runPathsLeadToTheOwnFolderOnly_data()
+void TestHostLibraries::runPathsLeadToTheOwnFolderOnly_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* name : {"kv-mvc-settings", "kv_mvc_settings_io.so", "kv_mvcenc.so"}) {
@@ -160,7 +160,7 @@ void HostLibrariesTest::runPathsLeadToTheOwnFolderOnly_data()
     }
 }
 
-void HostLibrariesTest::runPathsLeadToTheOwnFolderOnly()
+void TestHostLibraries::runPathsLeadToTheOwnFolderOnly()
 {
 #ifdef Q_OS_WIN
     QSKIP("Windows has no run paths");
@@ -174,7 +174,7 @@ void HostLibrariesTest::runPathsLeadToTheOwnFolderOnly()
     QCOMPARE(QByteArray(content.constData() + start), QByteArray("$ORIGIN"));
 }
 
-void HostLibrariesTest::missingLibraryIsNamed_data()
+void TestHostLibraries::missingLibraryIsNamed_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("library");
@@ -185,7 +185,7 @@ void HostLibrariesTest::missingLibraryIsNamed_data()
                             << QStringLiteral("kv_config_gui_mvc");
 }
 
-void HostLibrariesTest::missingLibraryIsNamed()
+void TestHostLibraries::missingLibraryIsNamed()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, library);
@@ -201,7 +201,7 @@ void HostLibrariesTest::missingLibraryIsNamed()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostLibrariesTest::brokenLibraryIsToldInTheLoadersWords()
+void TestHostLibraries::brokenLibraryIsToldInTheLoadersWords()
 {
     const HostProgram program;
     fill(program, folderOf(program.program()), QStringLiteral("kv_mvcenc=broken"));
@@ -215,7 +215,7 @@ void HostLibrariesTest::brokenLibraryIsToldInTheLoadersWords()
     QCOMPARE(result.exitCode, 2);
 }
 
-void HostLibrariesTest::libraryWithoutItsFunctionIsRefused()
+void TestHostLibraries::libraryWithoutItsFunctionIsRefused()
 {
     HostProgram program;
     program.removeLibrary(QStringLiteral("kv_mvc_settings_io"));
@@ -229,5 +229,5 @@ void HostLibrariesTest::libraryWithoutItsFunctionIsRefused()
     QCOMPARE(result.exitCode, 2);
 }
 
-QTEST_GUILESS_MAIN(HostLibrariesTest)
+QTEST_GUILESS_MAIN(TestHostLibraries)
 #include "tst_host_libraries.moc"

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QTest>
 
-class HostNamesTest : public QObject
+class TestHostNames : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ KvMvcSettings settingsOfWidth(int width)
 
 } // namespace
 
-void HostNamesTest::onlyTheNamedFileIsWritten_data()
+void TestHostNames::onlyTheNamedFileIsWritten_data()
 {
     QTest::addColumn<QStringList>("present");
     QTest::addColumn<QString>("target");
@@ -61,7 +61,7 @@ void HostNamesTest::onlyTheNamedFileIsWritten_data()
     QTest::newRow("byte-order mark") << QStringList{marked} << markedTwice << true;
 }
 
-void HostNamesTest::onlyTheNamedFileIsWritten()
+void TestHostNames::onlyTheNamedFileIsWritten()
 {
     QFETCH(QStringList, present);
     QFETCH(QString, target);
@@ -90,7 +90,7 @@ void HostNamesTest::onlyTheNamedFileIsWritten()
     QCOMPARE(result.error.startsWith(prefix + QStringLiteral("cannot write '") + target), !written);
 }
 
-void HostNamesTest::onlyTheNamedFileIsRead_data()
+void TestHostNames::onlyTheNamedFileIsRead_data()
 {
     QTest::addColumn<QStringList>("present");
     QTest::addColumn<QString>("source");
@@ -104,7 +104,7 @@ void HostNamesTest::onlyTheNamedFileIsRead_data()
     QTest::newRow("byte-order mark") << QStringList{marked, markedTwice} << markedTwice;
 }
 
-void HostNamesTest::onlyTheNamedFileIsRead()
+void TestHostNames::onlyTheNamedFileIsRead()
 {
     QFETCH(QStringList, present);
     QFETCH(QString, source);
@@ -126,7 +126,7 @@ void HostNamesTest::onlyTheNamedFileIsRead()
     QVERIFY2(result.output.contains(QStringLiteral(" %1 ").arg(width)), qPrintable(result.output));
 }
 
-void HostNamesTest::namesThatAreNotUtf8AreRefused_data()
+void TestHostNames::namesThatAreNotUtf8AreRefused_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("shown");
@@ -142,7 +142,7 @@ void HostNamesTest::namesThatAreNotUtf8AreRefused_data()
     row("no file", R"x(edit --title "$(printf '\344')")x", R"(\xe4)");
 }
 
-void HostNamesTest::namesThatAreNotUtf8AreRefused()
+void TestHostNames::namesThatAreNotUtf8AreRefused()
 {
 #ifdef Q_OS_WIN
     QSKIP("names are no bytes on Windows");
@@ -165,7 +165,7 @@ void HostNamesTest::namesThatAreNotUtf8AreRefused()
 #endif
 }
 
-void HostNamesTest::namesLikeTheToolkitsOwnAreFiles_data()
+void TestHostNames::namesLikeTheToolkitsOwnAreFiles_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {":/a.ini", "file:a.ini", "a.ini/../b.cfg", " .cfg", "%1%2.cfg"}) {
@@ -173,7 +173,7 @@ void HostNamesTest::namesLikeTheToolkitsOwnAreFiles_data()
     }
 }
 
-void HostNamesTest::namesLikeTheToolkitsOwnAreFiles()
+void TestHostNames::namesLikeTheToolkitsOwnAreFiles()
 {
 #ifdef Q_OS_WIN
     QSKIP("most are no names on Windows");
@@ -193,5 +193,5 @@ void HostNamesTest::namesLikeTheToolkitsOwnAreFiles()
     QVERIFY(result.output.contains(QStringLiteral(" 1002 ")));
 }
 
-QTEST_GUILESS_MAIN(HostNamesTest)
+QTEST_GUILESS_MAIN(TestHostNames)
 #include "tst_host_names.moc"

@@ -11,7 +11,7 @@
 
 #include <limits>
 
-class HostShowTest : public QObject
+class TestHostShow : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ double valueOf(const QJsonObject& object, QLatin1String key)
 
 } // namespace
 
-void HostShowTest::tableShowsBothViewsSideBySide()
+void TestHostShow::tableShowsBothViewsSideBySide()
 {
     const HostProgram program;
     program.writeSettings(fileName, exampleSettings());
@@ -82,7 +82,7 @@ void HostShowTest::tableShowsBothViewsSideBySide()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostShowTest::initTestCase()
+void TestHostShow::initTestCase()
 {
     // One program for the first named value of every setting, one for the second, and so on.
     bool isMore = true;
@@ -102,7 +102,7 @@ void HostShowTest::initTestCase()
     }
 }
 
-void HostShowTest::namedValuesAreShownByName_data()
+void TestHostShow::namedValuesAreShownByName_data()
 {
     QTest::addColumn<QString>("member");
     QTest::addColumn<int>("at");
@@ -115,7 +115,7 @@ void HostShowTest::namedValuesAreShownByName_data()
     }
 }
 
-void HostShowTest::namedValuesAreShownByName()
+void TestHostShow::namedValuesAreShownByName()
 {
     QFETCH(QString, member);
     QFETCH(int, at);
@@ -127,7 +127,7 @@ void HostShowTest::namedValuesAreShownByName()
     QCOMPARE(shown[QStringLiteral("value")].toInt(-12345), value.code);
 }
 
-void HostShowTest::otherValuesAreShownAsNumbers_data()
+void TestHostShow::otherValuesAreShownAsNumbers_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("value");
@@ -165,7 +165,7 @@ void HostShowTest::otherValuesAreShownAsNumbers_data()
     }
 }
 
-void HostShowTest::otherValuesAreShownAsNumbers()
+void TestHostShow::otherValuesAreShownAsNumbers()
 {
     QFETCH(QString, key);
     QFETCH(int, value);
@@ -179,7 +179,7 @@ void HostShowTest::otherValuesAreShownAsNumbers()
     QCOMPARE(second[key].toObject()[QStringLiteral("value")].toInt(), value);
 }
 
-void HostShowTest::jsonHoldsEveryField()
+void TestHostShow::jsonHoldsEveryField()
 {
     KvMvcSettings settings = {};
     settings.num_views = 1001;
@@ -216,7 +216,7 @@ void HostShowTest::jsonHoldsEveryField()
     QCOMPARE(valueOf(viewOf(shown, 1), QLatin1String("frame_rate")), 48.0);
 }
 
-void HostShowTest::frameRatesKeepTheirDigits_data()
+void TestHostShow::frameRatesKeepTheirDigits_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<QString>("text");
@@ -237,7 +237,7 @@ void HostShowTest::frameRatesKeepTheirDigits_data()
     row("-1", -1.0);
 }
 
-void HostShowTest::frameRatesKeepTheirDigits()
+void TestHostShow::frameRatesKeepTheirDigits()
 {
     QFETCH(double, rate);
     QFETCH(QString, text);
@@ -250,7 +250,7 @@ void HostShowTest::frameRatesKeepTheirDigits()
     QVERIFY(valueOf(second, QLatin1String("frame_rate")) == rate);
 }
 
-void HostShowTest::frameRatesWithoutANumberAreNull_data()
+void TestHostShow::frameRatesWithoutANumberAreNull_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<QString>("text");
@@ -260,7 +260,7 @@ void HostShowTest::frameRatesWithoutANumberAreNull_data()
     QTest::newRow("nan") << Limits::quiet_NaN() << QStringLiteral("nan");
 }
 
-void HostShowTest::frameRatesWithoutANumberAreNull()
+void TestHostShow::frameRatesWithoutANumberAreNull()
 {
     QFETCH(double, rate);
     QFETCH(QString, text);
@@ -279,7 +279,7 @@ void HostShowTest::frameRatesWithoutANumberAreNull()
     QVERIFY2(table.output.contains(line), qPrintable(table.output));
 }
 
-void HostShowTest::namesBeyondAsciiAreOpened()
+void TestHostShow::namesBeyondAsciiAreOpened()
 {
     const HostProgram program;
     const QString name = QString::fromUtf8("\xC3\x9Cgr\xC3\xB6\xC3\x9F\x65 \xE8\xA8\xAD.ini");
@@ -290,5 +290,5 @@ void HostShowTest::namesBeyondAsciiAreOpened()
     QVERIFY(result.output.contains(QStringLiteral("Stereo High")));
 }
 
-QTEST_GUILESS_MAIN(HostShowTest)
+QTEST_GUILESS_MAIN(TestHostShow)
 #include "tst_host_show.moc"

@@ -8,7 +8,7 @@
 #include <QProcess>
 #include <QTest>
 
-class HostStreamsTest : public QObject
+class TestHostStreams : public QObject
 {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ void prepare(HostProgram& program)
 
 } // namespace
 
-void HostStreamsTest::standardInputReadsAsAFile_data()
+void TestHostStreams::standardInputReadsAsAFile_data()
 {
     QTest::addColumn<QString>("line");
     // "%1" is the first file.
@@ -68,7 +68,7 @@ void HostStreamsTest::standardInputReadsAsAFile_data()
     }
 }
 
-void HostStreamsTest::standardInputReadsAsAFile()
+void TestHostStreams::standardInputReadsAsAFile()
 {
     QFETCH(QString, line);
     HostProgram program;
@@ -86,7 +86,7 @@ void HostStreamsTest::standardInputReadsAsAFile()
     QCOMPARE(program.content(fixed), fixedByName);
 }
 
-void HostStreamsTest::standardInputIsAnyText_data()
+void TestHostStreams::standardInputIsAnyText_data()
 {
     QTest::addColumn<QByteArray>("mark");
     QTest::addColumn<QByteArray>("lineEnd");
@@ -95,7 +95,7 @@ void HostStreamsTest::standardInputIsAnyText_data()
     QTest::newRow("both") << QByteArray("\xEF\xBB\xBF") << QByteArray("\r\n");
 }
 
-void HostStreamsTest::standardInputIsAnyText()
+void TestHostStreams::standardInputIsAnyText()
 {
     QFETCH(QByteArray, mark);
     QFETCH(QByteArray, lineEnd);
@@ -109,7 +109,7 @@ void HostStreamsTest::standardInputIsAnyText()
     QCOMPARE(result.exitCode, 0);
 }
 
-void HostStreamsTest::badInputIsRefused_data()
+void TestHostStreams::badInputIsRefused_data()
 {
     QTest::addColumn<QByteArray>("input");
     QTest::addColumn<QString>("error");
@@ -131,7 +131,7 @@ void HostStreamsTest::badInputIsRefused_data()
                             << prefix + QStringLiteral("cannot read '<stdin>': too large\n");
 }
 
-void HostStreamsTest::badInputIsRefused()
+void TestHostStreams::badInputIsRefused()
 {
     QFETCH(QByteArray, input);
     QFETCH(QString, error);
@@ -145,7 +145,7 @@ void HostStreamsTest::badInputIsRefused()
     }
 }
 
-void HostStreamsTest::standardOutputGetsTheFile_data()
+void TestHostStreams::standardOutputGetsTheFile_data()
 {
     QTest::addColumn<QString>("line");
     for (const char* line : {"defaults 2", "import a.ini", "check a.ini"}) {
@@ -153,7 +153,7 @@ void HostStreamsTest::standardOutputGetsTheFile_data()
     }
 }
 
-void HostStreamsTest::standardOutputGetsTheFile()
+void TestHostStreams::standardOutputGetsTheFile()
 {
     QFETCH(QString, line);
     HostProgram program;
@@ -168,7 +168,7 @@ void HostStreamsTest::standardOutputGetsTheFile()
     QCOMPARE(program.fileNames(), QStringList({a, b, QStringLiteral("file.cfg")}));
 }
 
-void HostStreamsTest::checkedSettingsGoOnWithoutMessages_data()
+void TestHostStreams::checkedSettingsGoOnWithoutMessages_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("messages");
@@ -183,7 +183,7 @@ void HostStreamsTest::checkedSettingsGoOnWithoutMessages_data()
                              << QString() << 1;
 }
 
-void HostStreamsTest::checkedSettingsGoOnWithoutMessages()
+void TestHostStreams::checkedSettingsGoOnWithoutMessages()
 {
     QFETCH(QString, file);
     QFETCH(QString, messages);
@@ -200,7 +200,7 @@ void HostStreamsTest::checkedSettingsGoOnWithoutMessages()
     QCOMPARE(result.exitCode, exitCode);
 }
 
-void HostStreamsTest::commandsWorkInAPipe()
+void TestHostStreams::commandsWorkInAPipe()
 {
     HostProgram program;
     prepare(program);
@@ -217,7 +217,7 @@ void HostStreamsTest::commandsWorkInAPipe()
     QCOMPARE(show.exitCode(), 0);
 }
 
-void HostStreamsTest::unixPipesAndDevices_data()
+void TestHostStreams::unixPipesAndDevices_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("output");
@@ -244,7 +244,7 @@ void HostStreamsTest::unixPipesAndDevices_data()
         ".ini\n");
 }
 
-void HostStreamsTest::unixPipesAndDevices()
+void TestHostStreams::unixPipesAndDevices()
 {
 #ifdef Q_OS_WIN
     QSKIP("for the pipes and devices of Unix");
@@ -258,7 +258,7 @@ void HostStreamsTest::unixPipesAndDevices()
     QVERIFY2(result.output.contains(output), qPrintable(result.output));
 }
 
-void HostStreamsTest::noTemporaryFolderIsNeeded_data()
+void TestHostStreams::noTemporaryFolderIsNeeded_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("error");
@@ -274,7 +274,7 @@ void HostStreamsTest::noTemporaryFolderIsNeeded_data()
                               << 2;
 }
 
-void HostStreamsTest::noTemporaryFolderIsNeeded()
+void TestHostStreams::noTemporaryFolderIsNeeded()
 {
 #ifndef Q_OS_LINUX
     QSKIP("other systems have no files without a folder");
@@ -292,7 +292,7 @@ void HostStreamsTest::noTemporaryFolderIsNeeded()
     QCOMPARE(result.exitCode, exitCode);
 }
 
-void HostStreamsTest::librariesNeedNotWriteToPipes()
+void TestHostStreams::librariesNeedNotWriteToPipes()
 {
     HostProgram program;
     prepare(program);
@@ -305,5 +305,5 @@ void HostStreamsTest::librariesNeedNotWriteToPipes()
     QCOMPARE(result.exitCode, 0);
 }
 
-QTEST_GUILESS_MAIN(HostStreamsTest)
+QTEST_GUILESS_MAIN(TestHostStreams)
 #include "tst_host_streams.moc"

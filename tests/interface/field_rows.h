@@ -1,6 +1,5 @@
 /* The field table, read as settings_fields.def says: as C, and once more as C++. */
-#ifndef KV_TESTS_FIELD_ROWS_H
-#define KV_TESTS_FIELD_ROWS_H
+#pragma once
 
 #include <stddef.h>
 
@@ -19,14 +18,12 @@ struct ValueRow {
     int code;
 };
 
-/** @return The rows in their order; one without a structure is the last. */
+/// @return The rows in their order; one without a structure is the last.
 const struct FieldRow* fieldRows(void);
 
-/** @return The values of all lists, under each list's name; one without a list is the last. */
+/// @return The values of all lists, under each list's name; one without a list is the last.
 const struct ValueRow* valueRows(void);
 
 #ifdef __cplusplus
 } /* extern "C" */
-#endif
-
 #endif

@@ -20,8 +20,9 @@ Result run(const QString& program, const QStringList& arguments,
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (auto at = variables.begin(); at != variables.end(); ++at)
+    for (auto at = variables.begin(); at != variables.end(); ++at) {
         environment.insert(at.key(), at.value());
+    }
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     if (!process.waitForFinished(100000)) {
@@ -99,8 +100,9 @@ bool TestCHost::build(const char* project, const char* directory) const
 Result TestCHost::play(const QStringList& arguments, const QByteArray& script) const
 {
     QFile file(path("script.txt"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) {
         return {-1, {}, QStringLiteral("cannot write the script")};
+    }
     file.close();
     return run(m_program, arguments,
                {{QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path()},

@@ -44,12 +44,15 @@ void TestExports::exports()
 
     QStringList names;
     const auto lines = QString::fromUtf8(lister.readAllStandardOutput()).split(QLatin1Char('\n'));
-    for (const QString& line : lines)
-        if (!line.isEmpty())
+    for (const QString& line : lines) {
+        if (!line.isEmpty()) {
             names += line.section(QLatin1Char(' '), 1); // kind and name
+        }
+    }
     QStringList expected;
-    for (const QString& function : functions)
+    for (const QString& function : functions) {
         expected += QLatin1String("T ") + function;
+    }
     names.sort();
     QCOMPARE(names, expected);
 }

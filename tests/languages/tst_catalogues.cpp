@@ -37,15 +37,16 @@ QVector<Message> messagesOf(const QByteArray& catalogue)
     QXmlStreamReader reader(catalogue);
     QString context;
     while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
             continue;
-        if (reader.name() == QLatin1String("name"))
+        }
+        if (reader.name() == QLatin1String("name")) {
             context = reader.readElementText();
-        else if (reader.name() == QLatin1String("message"))
+        } else if (reader.name() == QLatin1String("message")) {
             messages.append({context, {}, {}, {}});
-        else if (reader.name() == QLatin1String("source"))
+        } else if (reader.name() == QLatin1String("source")) {
             messages.last().source = reader.readElementText();
-        else if (reader.name() == QLatin1String("translation")) {
+        } else if (reader.name() == QLatin1String("translation")) {
             messages.last().state = reader.attributes().value(QLatin1String("type")).toString();
             messages.last().translation = reader.readElementText();
         }
@@ -57,8 +58,9 @@ QStringList placesIn(const QString& text)
 {
     static const QRegularExpression place(QStringLiteral("%\\d"));
     QStringList places;
-    for (auto match = place.globalMatch(text); match.hasNext();)
+    for (auto match = place.globalMatch(text); match.hasNext();) {
         places += match.next().captured();
+    }
     places.sort();
     return places;
 }
@@ -68,8 +70,9 @@ QStringList patternsIn(const QString& text)
 {
     static const QRegularExpression group(QStringLiteral("\\(\\*[^)]*\\)"));
     QStringList patterns;
-    for (auto match = group.globalMatch(text); match.hasNext();)
+    for (auto match = group.globalMatch(text); match.hasNext();) {
         patterns += match.next().captured();
+    }
     return patterns;
 }
 
@@ -134,8 +137,9 @@ void TestCatalogues::holdsEveryText()
 
     const auto sources = [](const QByteArray& catalogue) {
         QStringList texts;
-        for (const Message& message : messagesOf(catalogue))
+        for (const Message& message : messagesOf(catalogue)) {
             texts += message.context + QLatin1String(": ") + message.source;
+        }
         texts.sort();
         return texts;
     };
@@ -149,9 +153,11 @@ void TestCatalogues::isFinished()
     QFETCH(QString, language);
 
     QStringList unfinished;
-    for (const Message& message : messagesOf(contentOf(pathOf(language))))
-        if (!message.state.isEmpty() || message.translation.isEmpty())
+    for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
+        if (!message.state.isEmpty() || message.translation.isEmpty()) {
             unfinished += message.context + QLatin1String(": ") + message.source;
+        }
+    }
     QCOMPARE(unfinished, QStringList());
 }
 
@@ -176,15 +182,17 @@ void TestCatalogues::givesATextOneTranslation()
     QFETCH(QString, language);
 
     QMap<QString, QStringList> translations;
-    for (const Message& message : messagesOf(contentOf(pathOf(language))))
+    for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
         translations[message.source] += message.translation;
+    }
     int repeated = 0;
     QStringList faults;
     for (auto row = translations.begin(); row != translations.end(); ++row) {
         repeated += row.value().size() > 1;
         row.value().removeDuplicates();
-        if (row.value().size() > 1)
+        if (row.value().size() > 1) {
             faults += row.key() + QLatin1String(": ") + row.value().join(QLatin1String(" / "));
+        }
     }
     QVERIFY(repeated > 50);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
@@ -200,12 +208,14 @@ void TestCatalogues::endsSentencesAlike()
     int sentences = 0;
     QStringList faults;
     for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
-        if (message.source == labelPart || message.source.endsWith(QLatin1String("...")))
+        if (message.source == labelPart || message.source.endsWith(QLatin1String("..."))) {
             continue;
+        }
         const bool sentence = message.source.endsWith(QLatin1Char('.'));
         sentences += sentence;
-        if (message.translation.endsWith(stop) != sentence)
+        if (message.translation.endsWith(stop) != sentence) {
             faults += message.context + QLatin1String(": ") + message.translation;
+        }
     }
     QVERIFY(sentences > 100);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
@@ -241,9 +251,11 @@ void TestCatalogues::keepsToTypography()
     const QRegularExpression pattern(fault, QRegularExpression::UseUnicodePropertiesOption);
     QVERIFY2(pattern.isValid(), qPrintable(pattern.errorString()));
     QStringList faults;
-    for (const Message& message : messagesOf(contentOf(pathOf(language))))
-        if (message.translation.contains(pattern))
+    for (const Message& message : messagesOf(contentOf(pathOf(language)))) {
+        if (message.translation.contains(pattern)) {
             faults += message.context + QLatin1String(": ") + message.translation;
+        }
+    }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 

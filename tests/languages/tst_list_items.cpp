@@ -20,8 +20,9 @@ using ledger::Setting;
 QVector<qint32> codesOf(const Setting& setting)
 {
     QVector<qint32> codes;
-    for (const auto& value : ledger::listedValues(QString::fromLatin1(setting.member)))
+    for (const auto& value : ledger::listedValues(QString::fromLatin1(setting.member))) {
         codes += value.code;
+    }
     return codes;
 }
 
@@ -29,10 +30,12 @@ QVector<qint32> codesOf(const Setting& setting)
 QVector<Setting> lists(bool named)
 {
     QVector<Setting> found;
-    for (const Setting& setting : ledger::settings())
+    for (const Setting& setting : ledger::settings()) {
         if (setting.kind == ledger::Kind::List && !setting.isOfEachView() &&
-            !setting.is("field_order") && (setting.group == ledger::Group::Stream) == named)
+            !setting.is("field_order") && (setting.group == ledger::Group::Stream) == named) {
             found += setting;
+        }
+    }
     return found;
 }
 
@@ -83,8 +86,9 @@ private:
 
 void TestListItems::put(const OpenDialog& dialog, const Setting& setting, qint32 code)
 {
-    for (const int view : {0, 1})
+    for (const int view : {0, 1}) {
         ledger::put(dialog.probe().record().settings, setting, view, code);
+    }
     dialog.probe().settingsToState();
 }
 
@@ -148,8 +152,9 @@ void TestListItems::frameRateItems()
     auto* list = findControl<QComboBox>(dialog.get(), "VideoFormatPage", "framerateList");
     QCOMPARE(list->count(), int(frameRates.size()));
     for (int item = 0; item < list->count(); ++item) {
-        for (KvMvcViewSettings& view : record.settings.views)
+        for (KvMvcViewSettings& view : record.settings.views) {
             view.frame_rate = frameRates[item];
+        }
         dialog.probe().settingsToState();
         QCOMPARE(list->currentIndex(), item);
     }

@@ -18,17 +18,20 @@ int columnsOf(const QString& text)
 {
     constexpr ushort firstWide = 0x2E80;
     int columns = 0;
-    for (const QChar sign : text)
+    for (const QChar sign : text) {
         columns += sign.unicode() >= firstWide ? 2 : 1;
+    }
     return columns;
 }
 
 QSet<QString> tipsOf(const QWidget* window)
 {
     QSet<QString> tips;
-    for (const QWidget* widget : window->findChildren<QWidget*>())
-        if (!widget->toolTip().isEmpty())
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->toolTip().isEmpty()) {
             tips += widget->toolTip();
+        }
+    }
     return tips;
 }
 
@@ -75,10 +78,12 @@ void TestToolTips::fitOnALine()
     QVERIFY(tips.size() > 60);
     QStringList faults;
     for (const QString& tip : tips) {
-        if (columnsOf(tip) > mostColumns)
+        if (columnsOf(tip) > mostColumns) {
             faults += QStringLiteral("%1 columns: %2").arg(columnsOf(tip)).arg(tip);
-        if (tip.contains(QLatin1Char('\n')))
+        }
+        if (tip.contains(QLatin1Char('\n'))) {
             faults += QStringLiteral("several lines: ") + tip;
+        }
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }

@@ -59,8 +59,9 @@ int openContextMenu(QWidget* widget)
     QTimer closer;
     QObject::connect(&closer, &QTimer::timeout, &closer, [&actions] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu)
+        if (!menu) {
             return;
+        }
         actions = int(menu->actions().size());
         // Key names are asked for when the menu is drawn.
         menu->grab();
@@ -76,18 +77,22 @@ int openContextMenu(QWidget* widget)
 
 void walkAccessible(QAccessibleInterface* item)
 {
-    if (!item || item->state().invalid)
+    if (!item || item->state().invalid) {
         return;
+    }
     for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Help,
-                            QAccessible::Accelerator, QAccessible::Value})
+                            QAccessible::Accelerator, QAccessible::Value}) {
         item->text(kind);
-    if (auto* actions = item->actionInterface())
+    }
+    if (auto* actions = item->actionInterface()) {
         for (const QString& name : actions->actionNames()) {
             actions->localizedActionName(name);
             actions->localizedActionDescription(name);
         }
-    for (int i = 0; i < item->childCount(); ++i)
+    }
+    for (int i = 0; i < item->childCount(); ++i) {
         walkAccessible(item->child(i));
+    }
 }
 
 void useFileDialog(QWidget* window)
@@ -100,8 +105,9 @@ void useFileDialog(QWidget* window)
     auto* files = dialog->findChild<QTreeView*>(QStringLiteral("treeView"));
     for (int column = 0; column < files->model()->columnCount(); ++column) {
         files->model()->headerData(column, Qt::Horizontal);
-        for (int row = 0; row < files->model()->rowCount(files->rootIndex()); ++row)
+        for (int row = 0; row < files->model()->rowCount(files->rootIndex()); ++row) {
             files->model()->index(row, column, files->rootIndex()).data();
+        }
     }
     QVERIFY(openContextMenu(files->viewport()) > 0);
     QVERIFY(openContextMenu(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) > 0);
@@ -146,8 +152,9 @@ void TestToolkitTexts::whatIsAskedForIsTranslated()
     QVERIFY(installed.isReady());
     QTemporaryDir folder;
     QVERIFY(QDir::setCurrent(folder.path()));
-    for (const char* name : {"settings.cfg", "title.mpg", "README"})
+    for (const char* name : {"settings.cfg", "title.mpg", "README"}) {
         QFile(QString::fromLatin1(name)).open(QFile::WriteOnly);
+    }
     QDir().mkdir(QStringLiteral("sub"));
 
     const Recorder recorder;
@@ -163,8 +170,9 @@ void TestToolkitTexts::whatIsAskedForIsTranslated()
         ModalWatch watch(useBox, 3);
         dialog.log()->hide();
         dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
-            for (const char* sink : {"err_printf", "wrn_printf", "inf_printf"})
+            for (const char* sink : {"err_printf", "wrn_printf", "inf_printf"}) {
                 print(lookUp, sink, "message");
+            }
             return 1;
         };
         dialog.probe().check();
@@ -185,8 +193,9 @@ void TestToolkitTexts::whatIsAskedForIsTranslated()
     bool sawButtons = false;
     for (const Recorder::Request& request : recorder.asked) {
         sawButtons = sawButtons || request.context == "QPlatformTheme";
-        if (isShown(request) && !installed.knows(request.context, request.text, request.comment))
+        if (isShown(request) && !installed.knows(request.context, request.text, request.comment)) {
             missing += QString::fromUtf8(request.context + ": " + request.text);
+        }
     }
     missing.removeDuplicates();
     QVERIFY(sawButtons);
@@ -246,8 +255,9 @@ void TestToolkitTexts::overwriteQuestion()
                 return static_cast<QDialog*>(files)->accept();
             }
             auto* box = qobject_cast<QMessageBox*>(window);
-            for (const auto button : {QMessageBox::Yes, QMessageBox::No})
+            for (const auto button : {QMessageBox::Yes, QMessageBox::No}) {
                 shown += box->button(button)->text().remove(QLatin1Char('&'));
+            }
             box->button(QMessageBox::No)->click();
         },
         2);

@@ -1,6 +1,5 @@
 // The media of the tests: what ffmpeg makes them of, and what is in them.
-#ifndef KV_TEST_MEDIA_CORPUS_H
-#define KV_TEST_MEDIA_CORPUS_H
+#pragma once
 
 #include "MediaMaker.h"
 
@@ -9,7 +8,7 @@
 namespace kvtest
 {
 
-/** What a file is made of, and what is to be found. */
+/// What a file is made of, and what is to be found.
 struct Medium {
     const char* file;
     const char* size;
@@ -27,7 +26,7 @@ inline constexpr int T = KV_MEDIA_TOP_FIELD_FIRST;
 inline constexpr int B = KV_MEDIA_BOTTOM_FIELD_FIRST;
 
 // clang-format off
-inline constexpr Medium kMedia[] = {
+inline constexpr Medium media[] = {
     // file                size         rate          arguments of ffmpeg                                w     h     rate         scan ord aspect  chroma bits prof level refs
     {"qcif.mp4",          "176x144",   "15",         "-c:v libx264 -profile:v baseline -level 1.1 -pix_fmt yuv420p -refs 1", 176, 144, 15, 1,      P, T, 1, 1,   1, 8,  66, 11, 1},
     {"main.mp4",          "352x288",   "25",         "-c:v libx264 -profile:v main -level 2 -pix_fmt yuv420p -refs 2 -x264-params b-pyramid=none", 352, 288, 25, 1, P, T, 1, 1, 1, 8, 77, 20, 2},
@@ -75,5 +74,3 @@ inline QByteArray makeMedia(const Medium& medium, const QString& file)
 }
 
 } // namespace kvtest
-
-#endif

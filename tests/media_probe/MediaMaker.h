@@ -1,6 +1,5 @@
 // Media files made by the ffmpeg program, and what ffprobe says of them.
-#ifndef KV_TEST_MEDIA_MAKER_H
-#define KV_TEST_MEDIA_MAKER_H
+#pragma once
 
 #include "BitWriter.h"
 
@@ -22,7 +21,7 @@ inline bool hasFfmpeg()
            !QStandardPaths::findExecutable(QStringLiteral("ffprobe")).isEmpty();
 }
 
-/** Runs ffmpeg with blank-separated arguments and the file's name; the error text, or nothing. */
+/// Runs ffmpeg with blank-separated arguments and the file's name; the error text, or nothing.
 inline QByteArray makeMedia(const QString& arguments, const QString& file)
 {
     QProcess process;
@@ -35,14 +34,14 @@ inline QByteArray makeMedia(const QString& arguments, const QString& file)
     return good ? QByteArray() : "ffmpeg failed: " + process.readAllStandardError();
 }
 
-/** Whether the file could be written. */
+/// Whether the file could be written.
 inline bool writeFile(const QString& name, const QByteArray& content)
 {
     QFile file(name);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/** The first video stream in ffprobe's words. */
+/// The first video stream in ffprobe's words.
 inline QJsonObject probeMedia(const QString& file)
 {
     QProcess process;
@@ -55,7 +54,7 @@ inline QJsonObject probeMedia(const QString& file)
     return document.object().value(QStringLiteral("streams")).toArray().at(0).toObject();
 }
 
-/** The arguments of a test picture of so many seconds. */
+/// The arguments of a test picture of so many seconds.
 inline QString picture(const char* size, const char* rate, double seconds = 1)
 {
     return QStringLiteral("-f lavfi -i testsrc=size=%1:rate=%2 -t %3 ")
@@ -63,7 +62,7 @@ inline QString picture(const char* size, const char* rate, double seconds = 1)
         .arg(seconds);
 }
 
-/** Splits a stream at its start codes; each unit without them. */
+/// Splits a stream at its start codes; each unit without them.
 inline QList<QByteArray> nalUnits(const QByteArray& stream)
 {
     QList<QByteArray> units;
@@ -71,18 +70,18 @@ inline QList<QByteArray> nalUnits(const QByteArray& stream)
     for (auto at = stream.indexOf(code); at >= 0;) {
         const auto next = stream.indexOf(code, at + 3);
         QByteArray unit = stream.mid(at + 3, next < 0 ? -1 : next - at - 3);
-        while (unit.endsWith('\0'))
+        while (unit.endsWith('\0')) {
             unit.chop(1);
+        }
         units.append(unit);
         at = next;
     }
     return units;
 }
 
-/**
- * A stream of several views: the base view's stream with a subset parameter set before each access
- * unit's slices and `views` - 1 slices of further views, each `weight` times the base view's slice.
- */
+/// A stream of several views: the base view's stream with a subset parameter set before each access
+/// unit's slices and `views` - 1 slices of further views, each `weight` times the base view's
+/// slice.
 inline QByteArray withViews(const QByteArray& base, int profile, int level, int views,
                             double weight = 1)
 {
@@ -90,16 +89,17 @@ inline QByteArray withViews(const QByteArray& base, int profile, int level, int 
     for (const QByteArray& unit : nalUnits(base)) {
         const int type = unit.isEmpty() ? 0 : unit[0] & 31;
         stream += QByteArray("\0\0\0\1", 4) + unit;
-        if (type == 8)
+        if (type == 8) {
             stream += subsetParameterSet(profile, level, static_cast<uint32_t>(views));
-        if (type != 1 && type != 5)
+        }
+        if (type != 1 && type != 5) {
             continue;
-        for (int view = 1; view < views; ++view)
+        }
+        for (int view = 1; view < views; ++view) {
             stream += nalUnit(2, 20, QByteArray(int(unit.size() * weight), '\x55'));
+        }
     }
     return stream;
 }
 
 } // namespace kvtest
-
-#endif

@@ -1,6 +1,5 @@
 // The stream information library as a caller has it.
-#ifndef KV_TEST_PROBE_LIBRARY_H
-#define KV_TEST_PROBE_LIBRARY_H
+#pragma once
 
 #include <kv_config_gui_mvc/companions.h>
 #include <kv_config_gui_mvc/media_info.h>
@@ -43,5 +42,3 @@ private:
 };
 
 } // namespace kvtest
-
-#endif

@@ -19,7 +19,7 @@ kv::Bytes bytesOf(const QByteArray& text)
             static_cast<std::size_t>(text.size())};
 }
 
-/** A whole sequence parameter set: what a row changes of it, and what is to be read. */
+/// A whole sequence parameter set: what a row changes of it, and what is to be read.
 struct Set {
     const char* name;
     int profile, constraints, level;
@@ -35,7 +35,7 @@ struct Set {
 };
 
 // clang-format off
-constexpr Set kSets[] = {
+constexpr Set parameterSets[] = {
     // name                      prof  cs   lev  c  l  c  lists fn ot ref col rows only   mbaff  crop          w     h
     {"QCIF Baseline",             66, 0xC0, 10,  1, 0, 0, 0,    0, 2, 1,  11,  9, true,  false, {0, 0, 0, 0}, 176,  144},
     {"1080 High",                100, 0,    41,  1, 0, 0, 0,    4, 0, 4, 120, 68, true,  false, {0, 0, 0, 4}, 1920, 1080},
@@ -59,40 +59,47 @@ BitWriter setData(const Set& set)
     writer.ue(3); // seq_parameter_set_id
     if (set.profile >= 100) {
         writer.ue(set.chroma);
-        if (set.chroma == 3)
+        if (set.chroma == 3) {
             writer.bits(0, 1);
+        }
         writer.ue(set.lumaMinus8).ue(set.chromaMinus8).bits(0, 1);
         writer.bits(set.scalingLists > 0, 1);
         for (int list = 0; list < set.scalingLists; ++list) {
             writer.bits(1, 1);
             const int size = list < 6 ? 16 : 64;
             // Whole lists and, every third, one that ends at once.
-            for (int at = 0; at < (list % 3 == 2 ? 0 : size); ++at)
+            for (int at = 0; at < (list % 3 == 2 ? 0 : size); ++at) {
                 writer.se(at % 2 == 0 ? 3 : -2);
-            if (list % 3 == 2)
+            }
+            if (list % 3 == 2) {
                 writer.se(-8);
+            }
         }
     }
     writer.ue(set.frameNumMinus4).ue(set.orderType);
-    if (set.orderType == 0)
+    if (set.orderType == 0) {
         writer.ue(2);
-    if (set.orderType == 1)
+    }
+    if (set.orderType == 1) {
         writer.bits(0, 1).se(-3).se(5).ue(3).se(1).se(-1000000).se(7);
+    }
     writer.ue(set.references).bits(0, 1).ue(set.columns - 1).ue(set.mapRows - 1);
     writer.bits(set.framesOnly, 1);
-    if (!set.framesOnly)
+    if (!set.framesOnly) {
         writer.bits(set.mbaff, 1);
+    }
     writer.bits(1, 1);
     const bool cropped = set.crop[0] || set.crop[1] || set.crop[2] || set.crop[3];
     writer.bits(cropped, 1);
     for (const uint32_t side : set.crop) {
-        if (cropped)
+        if (cropped) {
             writer.ue(side);
+        }
     }
     return writer;
 }
 
-/** VUI with everything in it (E.1.1): 40:33, timing, both buffer models, restrictions. */
+/// VUI with everything in it (E.1.1): 40:33, timing, both buffer models, restrictions.
 BitWriter& appendVui(BitWriter& writer)
 {
     writer.bits(1, 1);                                        // vui_parameters_present_flag
@@ -145,14 +152,15 @@ private Q_SLOTS:
 void TestH264Headers::sequenceParameterSets_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kSets)); ++row)
-        QTest::newRow(kSets[row].name) << row;
+    for (int row = 0; row < int(std::size(parameterSets)); ++row) {
+        QTest::newRow(parameterSets[row].name) << row;
+    }
 }
 
 void TestH264Headers::sequenceParameterSets()
 {
     QFETCH(int, row);
-    const Set& set = kSets[row];
+    const Set& set = parameterSets[row];
     const auto read =
         kv::parseSequenceParameters(bytesOf(setData(set).bits(0, 1).payload()), false);
     QVERIFY(read);
@@ -182,8 +190,9 @@ void TestH264Headers::aspectRatioCodes_data()
                             {5, 40, 33},  {6, 24, 11},  {7, 20, 11},  {8, 32, 11},   {9, 80, 33},
                             {10, 18, 11}, {11, 15, 11}, {12, 64, 33}, {13, 160, 99}, {14, 4, 3},
                             {15, 3, 2},   {16, 2, 1},   {17, 0, 0},   {254, 0, 0}};
-    for (const auto& row : table)
+    for (const auto& row : table) {
         QTest::addRow("%d", row[0]) << row[0] << row[1] << row[2];
+    }
 }
 
 void TestH264Headers::aspectRatioCodes()
@@ -191,7 +200,7 @@ void TestH264Headers::aspectRatioCodes()
     QFETCH(int, code);
     QFETCH(int, x);
     QFETCH(int, y);
-    BitWriter writer = setData(kSets[0]);
+    BitWriter writer = setData(parameterSets[0]);
     writer.bits(1, 1).bits(1, 1).bits(static_cast<uint64_t>(code), 8).bits(0, 8);
     const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
     QVERIFY(read);
@@ -201,7 +210,7 @@ void TestH264Headers::aspectRatioCodes()
 
 void TestH264Headers::bufferModels()
 {
-    BitWriter writer = setData(kSets[1]);
+    BitWriter writer = setData(parameterSets[1]);
     const auto read = kv::parseSequenceParameters(bytesOf(appendVui(writer).payload()), false);
     QVERIFY(read);
     QCOMPARE(read->usability.aspectX, 40u);
@@ -213,7 +222,7 @@ void TestH264Headers::bufferModels()
 
 void TestH264Headers::onlyTheVclBufferModel()
 {
-    BitWriter writer = setData(kSets[1]);
+    BitWriter writer = setData(parameterSets[1]);
     writer.bits(1, 1).bits(0, 6); // VUI up to the NAL buffer model, none of it
     writer.bits(1, 1).ue(0).bits(0, 4).bits(0, 4).ue(9).ue(19).bits(1, 1).bits(0, 20);
     writer.bits(0, 3);
@@ -241,16 +250,19 @@ void TestH264Headers::constantRatesAreTold()
     QFETCH(bool, nal);
     QFETCH(QList<bool>, flags);
     QFETCH(bool, constant);
-    BitWriter writer = setData(kSets[1]);
+    BitWriter writer = setData(parameterSets[1]);
     writer.bits(1, 1).bits(0, 5); // VUI up to the buffer models
-    if (!nal)
+    if (!nal) {
         writer.bits(0, 1);
+    }
     writer.bits(1, 1).ue(static_cast<uint32_t>(flags.size()) - 1).bits(0, 8);
-    for (int set = 0; set < flags.size(); ++set)
+    for (int set = 0; set < flags.size(); ++set) {
         writer.ue(static_cast<uint32_t>(99 + set)).ue(199).bits(flags[set], 1);
+    }
     writer.bits(0, 20);
-    if (nal)
+    if (nal) {
         writer.bits(0, 1);
+    }
     writer.bits(0, 3);
     const auto read = kv::parseSequenceParameters(bytesOf(writer.payload()), false);
     QVERIFY(read);
@@ -259,7 +271,7 @@ void TestH264Headers::constantRatesAreTold()
 
 void TestH264Headers::setsCutBeforeTheirVuiAreRefused()
 {
-    const QByteArray whole = setData(kSets[1]).bits(0, 1).payload();
+    const QByteArray whole = setData(parameterSets[1]).bits(0, 1).payload();
     for (int length = 0; length < whole.size() - 1; ++length) {
         QVERIFY2(!kv::parseSequenceParameters(bytesOf(whole.left(length)), false),
                  qPrintable(QString::number(length)));
@@ -270,13 +282,13 @@ void TestH264Headers::setsCutBeforeTheirVuiAreRefused()
 void TestH264Headers::aVuiThatRunsOverTheEndCostsNothingElse_data()
 {
     QTest::addColumn<QByteArray>("payload");
-    BitWriter cut = setData(kSets[1]);
+    BitWriter cut = setData(parameterSets[1]);
     const auto before = cut.payload().size();
     const QByteArray whole = appendVui(cut).payload();
     for (auto length = before; length < whole.size() - 1; ++length) {
         QTest::addRow("%d bytes", int(length)) << whole.left(length);
     }
-    BitWriter sets = setData(kSets[1]); // one more buffer set than there can be
+    BitWriter sets = setData(parameterSets[1]); // one more buffer set than there can be
     sets.bits(1, 1).bits(0, 5).bits(1, 1).ue(32).bits(0, 8);
     QTest::newRow("buffer sets") << sets.payload() + QByteArray(200, '\xff');
 }
@@ -298,7 +310,7 @@ void TestH264Headers::impossibleSetsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("payload");
     const auto row = [](const char* name, void (*change)(Set&)) {
-        Set set = kSets[1];
+        Set set = parameterSets[1];
         change(set);
         QTest::newRow(name) << setData(set).bits(0, 1).payload();
     };
@@ -355,7 +367,7 @@ void TestH264Headers::viewsOfSubsetParameterSets()
 
 void TestH264Headers::viewsBehindAVui()
 {
-    Set set = kSets[1];
+    Set set = parameterSets[1];
     set.profile = 128;
     BitWriter writer = setData(set);
     appendVui(writer).bits(1, 1).ue(1);
@@ -372,8 +384,9 @@ void TestH264Headers::onlySubsetSetsOfMultiviewProfilesTellViews()
     scalable.bits(1, 1).ue(5);
     for (const QByteArray& unit :
          {nalUnit(3, 15, scalable.payload()), kvtest::subsetParameterSet(118, 41, 3),
-          kvtest::subsetParameterSet(118, 41, 2)})
+          kvtest::subsetParameterSet(118, 41, 2)}) {
         kv::forEachNalUnit(bytesOf(unit), 0, [&](const kv::NalUnit& found) { scan.visit(found); });
+    }
     QVERIFY(scan.subset());
     QCOMPARE(scan.subset()->views, 3u);
 }
@@ -482,9 +495,9 @@ void TestH264Headers::fieldSlicesAreToldFromFrames()
     QFETCH(int, set);
     QFETCH(bool, fieldFlag);
     QFETCH(bool, fields);
-    const int frameNumBits = int(4 + kSets[set].frameNumMinus4);
+    const int frameNumBits = int(4 + parameterSets[set].frameNumMinus4);
     const QByteArray stream =
-        nalUnit(3, 7, setData(kSets[set]).bits(0, 1).payload()) +
+        nalUnit(3, 7, setData(parameterSets[set]).bits(0, 1).payload()) +
         kvtest::pictureParameterSet(2, 3) +
         nalUnit(2, 1,
                 BitWriter().ue(0).ue(5).ue(2).bits(0, frameNumBits).bits(fieldFlag, 1).payload() +
@@ -508,22 +521,26 @@ void TestH264Headers::bytesAreCountedByView()
 void TestH264Headers::noiseDoesNoHarm()
 {
     std::mt19937 random(7);
-    BitWriter writer = setData(kSets[1]);
+    BitWriter writer = setData(parameterSets[1]);
     const QByteArray set = nalUnit(3, 7, appendVui(writer).payload()) +
                            kvtest::subsetParameterSet(128, 41, 2) +
                            kvtest::pictureParameterSet(0, 3);
     for (int round = 0; round < 20000; ++round) {
         QByteArray stream = set;
-        for (int change = 0; change < 1 + round % 8; ++change)
+        for (int change = 0; change < 1 + round % 8; ++change) {
             stream[int(random() % unsigned(stream.size()))] = static_cast<char>(random());
+        }
         kv::H264Scan scan;
-        for (const int lengthSize : {0, 1, 2, 4})
+        for (const int lengthSize : {0, 1, 2, 4}) {
             kv::forEachNalUnit(bytesOf(stream), lengthSize,
                                [&](const kv::NalUnit& unit) { scan.visit(unit); });
-        if (scan.base())
+        }
+        if (scan.base()) {
             QVERIFY(scan.base()->width > 0 && scan.base()->refFrames <= 16);
-        if (scan.subset())
+        }
+        if (scan.subset()) {
             QVERIFY(scan.subset()->views >= 1 && scan.subset()->views <= 1024);
+        }
     }
 }
 

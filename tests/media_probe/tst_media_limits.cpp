@@ -20,19 +20,20 @@ using kvtest::ProbeLibrary;
 namespace
 {
 
-constexpr qint64 kLongest = 5000;              // milliseconds
-constexpr long kLargestKilobytes = 256 * 1024; // of any child so far
+constexpr qint64 longest = 5000;              // milliseconds
+constexpr long largestKilobytes = 256 * 1024; // of any child so far
 
 QByteArray atom(const char* type, const QByteArray& content, quint32 length = 0)
 {
     const quint32 size = length != 0 ? length : quint32(content.size() + 8);
     QByteArray head;
-    for (int shift = 24; shift >= 0; shift -= 8)
+    for (int shift = 24; shift >= 0; shift -= 8) {
         head += static_cast<char>(size >> shift);
+    }
     return head + type + content;
 }
 
-/** A movie of one video track whose sample table claims four thousand million entries. */
+/// A movie of one video track whose sample table claims four thousand million entries.
 QByteArray endlessSampleTable()
 {
     const QByteArray count = QByteArray(4, '\0') + QByteArray(4, '\xff');
@@ -51,12 +52,13 @@ QByteArray endlessSampleTable()
 QByteArray nestedAtoms()
 {
     QByteArray inner;
-    for (int depth = 0; depth < 4000; ++depth)
+    for (int depth = 0; depth < 4000; ++depth) {
         inner = atom(depth % 2 == 0 ? "trak" : "moov", inner);
+    }
     return atom("ftyp", QByteArray("isom\0\0\2\0isom", 12)) + inner;
 }
 
-/** An elementary stream whose pictures would take 16384 x 16384 samples each. */
+/// An elementary stream whose pictures would take 16384 x 16384 samples each.
 QByteArray enormousH264()
 {
     kvtest::BitWriter set;
@@ -78,30 +80,32 @@ QByteArray enormousH264()
                                                                    .se(0)
                                                                    .bits(0, 3)
                                                                    .payload());
-    for (int picture = 0; picture < 50; ++picture)
+    for (int picture = 0; picture < 50; ++picture) {
         stream +=
             sets +
             kvtest::nalUnit(
                 3, 5,
                 kvtest::BitWriter().ue(0).ue(7).ue(0).bits(0, 4).ue(0).bits(0, 2).se(0).payload() +
                     QByteArray(2000, '\x5a'));
+    }
     return stream;
 }
 
-/** MPEG-2 sequence headers of 16383 x 16383 samples, and pictures behind them. */
+/// MPEG-2 sequence headers of 16383 x 16383 samples, and pictures behind them.
 QByteArray enormousMpeg2()
 {
     const QByteArray sequence = QByteArray::fromHex("000001b3ffffff13ffffe018") +
                                 QByteArray::fromHex("000001b5148fff800100000000");
     QByteArray stream;
-    for (int picture = 0; picture < 50; ++picture)
+    for (int picture = 0; picture < 50; ++picture) {
         stream += sequence + QByteArray::fromHex("000001000008fff8") +
                   QByteArray::fromHex("000001b58ffff38080") + QByteArray::fromHex("00000101") +
                   QByteArray(2000, '\x5a');
+    }
     return stream;
 }
 
-/** A transport stream of 8,000 programs and streams, each packet of another one. */
+/// A transport stream of 8,000 programs and streams, each packet of another one.
 QByteArray crowdedTransportStream()
 {
     QByteArray stream;
@@ -120,8 +124,9 @@ QByteArray noise(int size)
 {
     std::mt19937 random(static_cast<unsigned>(size));
     QByteArray bytes(size, '\0');
-    for (char& byte : bytes)
+    for (char& byte : bytes) {
         byte = static_cast<char>(random());
+    }
     return bytes;
 }
 
@@ -150,7 +155,7 @@ private Q_SLOTS:
 
 private:
     QString put(const QString& name, const QByteArray& content);
-    /** Result and reason of a file, within the time that there is. */
+    /// Result and reason of a file, within the time that there is.
     int probe(const QString& file);
 
     QTemporaryDir m_folder;
@@ -165,8 +170,9 @@ void TestMediaLimits::initTestCase()
 QString TestMediaLimits::put(const QString& name, const QByteArray& content)
 {
     QFile file(m_folder.filePath(name));
-    if (file.open(QIODevice::WriteOnly))
+    if (file.open(QIODevice::WriteOnly)) {
         file.write(content);
+    }
     return file.fileName();
 }
 
@@ -175,11 +181,13 @@ int TestMediaLimits::probe(const QString& file)
     QElapsedTimer timer;
     timer.start();
     const int result = m_library.probe(file);
-    if (timer.elapsed() >= kLongest)
+    if (timer.elapsed() >= longest) {
         qWarning("%s took %lld ms", qPrintable(file), timer.elapsed());
-    if ((result == KV_MEDIA_OK) != (m_library.info.reason[0] == '\0'))
+    }
+    if ((result == KV_MEDIA_OK) != (m_library.info.reason[0] == '\0')) {
         qWarning("%s: result %d with reason '%s'", qPrintable(file), result, m_library.info.reason);
-    return timer.elapsed() < kLongest ? result : -1;
+    }
+    return timer.elapsed() < longest ? result : -1;
 }
 
 void TestMediaLimits::filesWithoutMediaAreRefused_data()
@@ -290,8 +298,9 @@ void TestMediaLimits::anEnormousSparseFileEndsSoon()
 {
     QFile file(m_folder.filePath(QStringLiteral("sparse.ts")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    if (!file.resize(qint64(20) << 30))
+    if (!file.resize(qint64(20) << 30)) {
         QSKIP("this file system has no sparse files");
+    }
     file.close();
     QCOMPARE(probe(file.fileName()), int(KV_MEDIA_UNREADABLE));
     file.remove();
@@ -320,8 +329,9 @@ void TestMediaLimits::truncatedFiles()
     QFETCH(QString, arguments);
     QFETCH(double, part);
     QFETCH(QByteArray, reason);
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
     const QByteArray error =
         makeMedia(picture("176x144", "25") + arguments + QStringLiteral(" -threads 1"),
                   m_folder.filePath(name));
@@ -335,8 +345,9 @@ void TestMediaLimits::truncatedFiles()
 
 void TestMediaLimits::filesCutAnywhereEndSoon()
 {
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
     for (const char* name : {"cut.ts", "cut.mpg", "cut.mxf", "cut.m2v", "cut.mp4"}) {
         const QString file = m_folder.filePath(QLatin1String(name));
         const QByteArray error =
@@ -345,9 +356,10 @@ void TestMediaLimits::filesCutAnywhereEndSoon()
         QFile in(file);
         QVERIFY(in.open(QIODevice::ReadOnly));
         const QByteArray whole = in.readAll();
-        for (const int length : {1, 4, 12, 100, 188, 500, 1000, 4000})
+        for (const int length : {1, 4, 12, 100, 188, 500, 1000, 4000}) {
             QVERIFY(probe(put(QStringLiteral("part-") + QLatin1String(name), whole.left(length))) >=
                     KV_MEDIA_OK);
+        }
         QVERIFY(probe(put(QStringLiteral("part-") + QLatin1String(name), whole.left(12))) !=
                 KV_MEDIA_OK);
     }
@@ -355,8 +367,9 @@ void TestMediaLimits::filesCutAnywhereEndSoon()
 
 void TestMediaLimits::damagedFilesEndSoon()
 {
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
     std::mt19937 random(11);
     for (const char* name : {"flip.ts", "flip.mp4", "flip.vob", "flip.mxf"}) {
         const QString file = m_folder.filePath(QLatin1String(name));
@@ -368,8 +381,9 @@ void TestMediaLimits::damagedFilesEndSoon()
         const QByteArray whole = in.readAll();
         for (int round = 0; round < 15; ++round) {
             QByteArray damaged = whole;
-            for (int change = 0; change < 1 << (round % 8); ++change)
+            for (int change = 0; change < 1 << (round % 8); ++change) {
                 damaged[int(random() % unsigned(damaged.size()))] = static_cast<char>(random());
+            }
             const int result = probe(put(QStringLiteral("bad-") + QLatin1String(name), damaged));
             QVERIFY(result >= KV_MEDIA_OK && result != KV_MEDIA_UNAVAILABLE);
         }
@@ -417,7 +431,7 @@ void TestMediaLimits::workersThatFailAreReported()
     timer.start();
     QCOMPARE(library.probe(media), result);
     QCOMPARE(QByteArray(library.info.reason), reason);
-    QVERIFY(timer.elapsed() < kLongest);
+    QVERIFY(timer.elapsed() < longest);
 }
 
 void TestMediaLimits::childrenStayedSmall()
@@ -427,7 +441,7 @@ void TestMediaLimits::childrenStayedSmall()
 #if defined(__SANITIZE_ADDRESS__)
     QSKIP("the sanitizer's own memory counts here");
 #endif
-    QVERIFY2(usage.ru_maxrss < kLargestKilobytes, qPrintable(QString::number(usage.ru_maxrss)));
+    QVERIFY2(usage.ru_maxrss < largestKilobytes, qPrintable(QString::number(usage.ru_maxrss)));
 }
 
 } // namespace

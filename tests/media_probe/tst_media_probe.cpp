@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using kvtest::kMedia;
 using kvtest::makeMedia;
+using kvtest::media;
 using kvtest::Medium;
 using kvtest::picture;
 using kvtest::ProbeLibrary;
@@ -15,8 +15,8 @@ using kvtest::ProbeLibrary;
 namespace
 {
 
-/** Copies the pictures of elementary streams, with times for those that need some. */
-constexpr char kCopy[] = " -c copy -bsf:v setts=ts=N*3600"; // 25 of 90,000 ticks
+/// Copies the pictures of elementary streams, with times for those that need some.
+constexpr char copy[] = " -c copy -bsf:v setts=ts=N*3600"; // 25 of 90,000 ticks
 
 class TestMediaProbe : public QObject
 {
@@ -45,7 +45,7 @@ private:
     {
         return m_folder.path() + QLatin1Char('/') + QLatin1String(name);
     }
-    /** Made once, on first use. */
+    /// Made once, on first use.
     QString medium(const Medium& row);
 
     QTemporaryDir m_folder;
@@ -55,15 +55,17 @@ private:
 void TestMediaProbe::initTestCase()
 {
     QVERIFY(m_library.isLoaded());
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
 }
 
 QString TestMediaProbe::medium(const Medium& row)
 {
     const QString name = file(row.file);
-    if (QFile::exists(name))
+    if (QFile::exists(name)) {
         return name;
+    }
     const QByteArray error = makeMedia(row, name);
     return error.isEmpty() ? name : QString::fromUtf8(error);
 }
@@ -71,14 +73,15 @@ QString TestMediaProbe::medium(const Medium& row)
 void TestMediaProbe::factsOfMedia_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kMedia)); ++row)
-        QTest::newRow(kMedia[row].file) << row;
+    for (int row = 0; row < int(std::size(media)); ++row) {
+        QTest::newRow(media[row].file) << row;
+    }
 }
 
 void TestMediaProbe::factsOfMedia()
 {
     QFETCH(int, row);
-    const Medium& expected = kMedia[row];
+    const Medium& expected = media[row];
     const QString name = medium(expected);
     QVERIFY2(QFile::exists(name), qPrintable(name));
     const int result = m_library.probe(name);
@@ -109,7 +112,7 @@ void TestMediaProbe::factsOfMedia()
 void TestMediaProbe::ffprobeAgrees()
 {
     QFETCH(int, row);
-    const QString name = medium(kMedia[row]);
+    const QString name = medium(media[row]);
     const QJsonObject facts = kvtest::probeMedia(name);
     const auto text = [&](const char* key) { return facts.value(QLatin1String(key)).toString(); };
     const auto number = [&](const char* key) { return facts.value(QLatin1String(key)).toInt(); };
@@ -122,16 +125,18 @@ void TestMediaProbe::ffprobeAgrees()
              text("r_frame_rate"));
     QCOMPARE(QStringLiteral("%1:%2").arg(info.pixel_aspect_num).arg(info.pixel_aspect_den),
              text("sample_aspect_ratio"));
-    if (info.codec == KV_MEDIA_CODEC_H264)
+    if (info.codec == KV_MEDIA_CODEC_H264) {
         QCOMPARE(info.level_idc, number("level"));
+    }
     const QString order = text("field_order");
-    if (info.scan == KV_MEDIA_PROGRESSIVE)
+    if (info.scan == KV_MEDIA_PROGRESSIVE) {
         QVERIFY2(order == QLatin1String("progressive") || order.isEmpty() ||
                      order == QLatin1String("unknown"),
                  qPrintable(order));
-    else
+    } else {
         QCOMPARE(order, info.field_order == KV_MEDIA_TOP_FIELD_FIRST ? QStringLiteral("tt")
                                                                      : QStringLiteral("bb"));
+    }
 }
 
 void TestMediaProbe::bitRateIsTheAverage_data()
@@ -236,7 +241,7 @@ void TestMediaProbe::viewsAreCounted()
     } else {
         error =
             makeMedia(QStringLiteral("-f h264 -r 25 -i ") + stream +
-                          QLatin1String(name.endsWith(QLatin1String("mp4")) ? " -c copy" : kCopy),
+                          QLatin1String(name.endsWith(QLatin1String("mp4")) ? " -c copy" : copy),
                       made);
         QVERIFY2(error.isEmpty(), error.constData());
     }
@@ -317,7 +322,7 @@ void TestMediaProbe::indexFilesOfTitlesStandForTheirVideo()
 
 void TestMediaProbe::recordsOfAnotherSizeAreRespected()
 {
-    const QString name = medium(kMedia[0]);
+    const QString name = medium(media[0]);
     // A caller that knows no more than the first fields.
     const uint32_t known = offsetof(KvMediaInfo, frame_rate_num);
     KvMediaInfo info;
@@ -359,11 +364,12 @@ void TestMediaProbe::nothingStaysLoaded()
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
     QTemporaryDir folder;
-    const QString name = medium(kMedia[0]);
-    for (const char* part : {"kv_media_probe.so", "kv_media_probe_worker"})
+    const QString name = medium(media[0]);
+    for (const char* part : {"kv_media_probe.so", "kv_media_probe_worker"}) {
         QVERIFY(
             QFile::copy(qEnvironmentVariable("KV_BIN_DIR") + QLatin1Char('/') + QLatin1String(part),
                         folder.filePath(QLatin1String(part))));
+    }
     {
         ProbeLibrary library(folder.path());
         QVERIFY(library.isLoaded());

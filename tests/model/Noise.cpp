@@ -7,8 +7,9 @@ WorkingRecord noise(int seed)
 {
     WorkingRecord record;
     auto* const bytes = reinterpret_cast<unsigned char*>(&record);
-    for (size_t i = 0; i < sizeof record; ++i)
+    for (size_t i = 0; i < sizeof record; ++i) {
         bytes[i] = static_cast<unsigned char>((i * 151 + i / 256 * 13 + size_t(seed) * 67) | 0x40);
+    }
     return record;
 }
 
@@ -20,8 +21,9 @@ WorkingRecord noisyRecord(int views, int seed)
     WorkingRecord record = seed == 1 ? usual : noise(seed);
 
     Cells consistent = {{Cell::Record, 0, views}};
-    for (int view = 0; view < 4; ++view)
+    for (int view = 0; view < 4; ++view) {
         consistent += {{view, 2844, 1}, {view, 2848, 4}};
+    }
     put(record, consistent);
     return record;
 }
@@ -31,8 +33,9 @@ void apply(const ConfigState& state, WorkingRecord& record, const CustomFrameRat
     const Vocabulary vocabulary;
     const Applying edit{vocabulary, customFrameRate, state};
     const int views = record.viewCount();
-    for (int view = 0; view < views; ++view)
+    for (int view = 0; view < views; ++view) {
         applyToView(edit, record.view(view));
+    }
     applyViews(edit, record);
 }
 

@@ -4,7 +4,7 @@
 #include <QTest>
 
 /// The rules of the type in which dialog and pages talk about settings.
-class ConfigStateTest : public QObject
+class TestConfigState : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ const QString key = QStringLiteral("Interval I");
 
 } // namespace
 
-void ConfigStateTest::absentKeyReadsAsInvalidAndEnabled()
+void TestConfigState::absentKeyReadsAsInvalidAndEnabled()
 {
     const ConfigState state;
     QVERIFY(!state.contains(key));
@@ -38,14 +38,14 @@ void ConfigStateTest::absentKeyReadsAsInvalidAndEnabled()
     QVERIFY(!state.value(key).isValid());
 }
 
-void ConfigStateTest::absentKeyReadsAsTheDefault()
+void TestConfigState::absentKeyReadsAsTheDefault()
 {
     const ConfigState state;
     QCOMPARE(state.value(key, 17), QVariant(17));
     QVERIFY2(!state.contains(key), "reading inserts nothing");
 }
 
-void ConfigStateTest::presentKeyIgnoresTheDefault()
+void TestConfigState::presentKeyIgnoresTheDefault()
 {
     ConfigState state;
     state.insert(key, 4);
@@ -54,7 +54,7 @@ void ConfigStateTest::presentKeyIgnoresTheDefault()
     QVERIFY2(!state.value(key, 17).isValid(), "an invalid value is a value");
 }
 
-void ConfigStateTest::insertedEntryIsEnabledUnlessSaid()
+void TestConfigState::insertedEntryIsEnabledUnlessSaid()
 {
     ConfigState state;
     state.insert(key, 4);
@@ -63,7 +63,7 @@ void ConfigStateTest::insertedEntryIsEnabledUnlessSaid()
     QVERIFY(!state.entry(QStringLiteral("Force I")).enabled);
 }
 
-void ConfigStateTest::secondInsertReplacesBothMembers()
+void TestConfigState::secondInsertReplacesBothMembers()
 {
     ConfigState state;
     state.insert(key, 4, false);
@@ -74,18 +74,19 @@ void ConfigStateTest::secondInsertReplacesBothMembers()
     QCOMPARE(state.entry(key), (ConfigEntry{6, false}));
 }
 
-void ConfigStateTest::keysAreOrderedByText()
+void TestConfigState::keysAreOrderedByText()
 {
     ConfigState state;
-    for (const char* text : {"Units V1", "HRD V0", "", "Bit-depth Luma", "B Between", "Units V0"})
+    for (const char* text : {"Units V1", "HRD V0", "", "Bit-depth Luma", "B Between", "Units V0"}) {
         state.insert(QLatin1String(text), 1);
+    }
     QCOMPARE(state.entries().keys(),
              (QStringList{QString(), QStringLiteral("B Between"), QStringLiteral("Bit-depth Luma"),
                           QStringLiteral("HRD V0"), QStringLiteral("Units V0"),
                           QStringLiteral("Units V1")}));
 }
 
-void ConfigStateTest::keysAreExact_data()
+void TestConfigState::keysAreExact_data()
 {
     QTest::addColumn<QString>("other");
     QTest::newRow("letter case") << QStringLiteral("interval i");
@@ -94,7 +95,7 @@ void ConfigStateTest::keysAreExact_data()
     QTest::newRow("view suffix") << QStringLiteral("Interval I V0");
 }
 
-void ConfigStateTest::keysAreExact()
+void TestConfigState::keysAreExact()
 {
     QFETCH(QString, other);
     ConfigState state;
@@ -102,7 +103,7 @@ void ConfigStateTest::keysAreExact()
     QVERIFY(!state.contains(other));
 }
 
-void ConfigStateTest::emptyKeyIsAKey()
+void TestConfigState::emptyKeyIsAKey()
 {
     ConfigState state;
     state.insert(QString(), 6000);
@@ -110,7 +111,7 @@ void ConfigStateTest::emptyKeyIsAKey()
     QCOMPARE(state.value(QString()), QVariant(6000));
 }
 
-void ConfigStateTest::statesAreEqualByKeyValueAndEnabled()
+void TestConfigState::statesAreEqualByKeyValueAndEnabled()
 {
     ConfigState one;
     one.insert(key, 4);
@@ -124,12 +125,12 @@ void ConfigStateTest::statesAreEqualByKeyValueAndEnabled()
     QVERIFY(!(one == other));
 }
 
-void ConfigStateTest::viewKeysEndWithTheView()
+void TestConfigState::viewKeysEndWithTheView()
 {
     QCOMPARE(keys::ofView(keys::maxBitrate, 0), QStringLiteral("Max Bitrate V0"));
     QCOMPARE(keys::ofView(keys::maxBitrate, 2), QStringLiteral("Max Bitrate V2"));
     QCOMPARE(keys::ofView(keys::hrd, 3), QStringLiteral("HRD V3"));
 }
 
-QTEST_APPLESS_MAIN(ConfigStateTest)
+QTEST_APPLESS_MAIN(TestConfigState)
 #include "tst_config_state.moc"

@@ -10,7 +10,7 @@
 
 /// The settings that are more than a number or a text: what they depend on, and what depends on
 /// them.
-class SettingRulesTest : public QObject
+class TestSettingRules : public QObject
 {
     Q_OBJECT
 
@@ -105,7 +105,7 @@ void addRow(const char* name, double rate, const char* text)
 
 } // namespace
 
-void SettingRulesTest::frameRateIsShownAs_data()
+void TestSettingRules::frameRateIsShownAs_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<QString>("text");
@@ -157,7 +157,7 @@ void SettingRulesTest::frameRateIsShownAs_data()
     custom("infinite", infinity, "inf");
 }
 
-void SettingRulesTest::frameRateIsShownAs()
+void TestSettingRules::frameRateIsShownAs()
 {
     QFETCH(double, rate);
     QFETCH(QString, text);
@@ -171,7 +171,7 @@ void SettingRulesTest::frameRateIsShownAs()
     }
 }
 
-void SettingRulesTest::customFrameRateIsStoredByItsText_data()
+void TestSettingRules::customFrameRateIsStoredByItsText_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<QString>("text");
@@ -183,7 +183,7 @@ void SettingRulesTest::customFrameRateIsStoredByItsText_data()
     addRow("infinite", infinity, "inf");
 }
 
-void SettingRulesTest::customFrameRateIsStoredByItsText()
+void TestSettingRules::customFrameRateIsStoredByItsText()
 {
     QFETCH(double, rate);
     QFETCH(QString, text);
@@ -197,7 +197,7 @@ void SettingRulesTest::customFrameRateIsStoredByItsText()
     QVERIFY(same(stored, rate));
 }
 
-void SettingRulesTest::customFrameRateThatReadsLikeAnItemStoresTheItem()
+void TestSettingRules::customFrameRateThatReadsLikeAnItemStoresTheItem()
 {
     const auto custom = describe({{0, 32, 23.98}}).customFrameRate;
     QVERIFY(custom.has_value());
@@ -206,7 +206,7 @@ void SettingRulesTest::customFrameRateThatReadsLikeAnItemStoresTheItem()
     QVERIFY(same(record.view(0).frame_rate, 24000.0 / 1001));
 }
 
-void SettingRulesTest::textOfNoFrameRateChangesNothing_data()
+void TestSettingRules::textOfNoFrameRateChangesNothing_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("customText");
@@ -218,7 +218,7 @@ void SettingRulesTest::textOfNoFrameRateChangesNothing_data()
     QTest::newRow("zero with a fraction") << QStringLiteral("0.00") << none;
 }
 
-void SettingRulesTest::textOfNoFrameRateChangesNothing()
+void TestSettingRules::textOfNoFrameRateChangesNothing()
 {
     QFETCH(QString, text);
     QFETCH(QString, customText);
@@ -228,27 +228,27 @@ void SettingRulesTest::textOfNoFrameRateChangesNothing()
     QCOMPARE(differences(bytesOf(before), bytesOf(after)), QStringList());
 }
 
-void SettingRulesTest::frameRate2997StoresTheExactRatio()
+void TestSettingRules::frameRate2997StoresTheExactRatio()
 {
     WorkingRecord record = noisyRecord(1);
     apply(oneEntry("Frame Rate", QStringLiteral("29.97")), record);
     QVERIFY(same(record.view(0).frame_rate, 30000.0 / 1001));
 }
 
-void SettingRulesTest::frameRate760Stores7Point6()
+void TestSettingRules::frameRate760Stores7Point6()
 {
     WorkingRecord record = noisyRecord(1);
     apply(oneEntry("Frame Rate", QStringLiteral("7.60")), record);
     QVERIFY(same(record.view(0).frame_rate, 7.6));
 }
 
-void SettingRulesTest::customFrameRateIsEnabledThoughLocked()
+void TestSettingRules::customFrameRateIsEnabledThoughLocked()
 {
     const BasicDescription description = describe({{0, 32, 48.0}}, frameRateLock);
     QCOMPARE(entryOf(description.state, "Frame Rate"), (ConfigEntry{QStringLiteral("48"), true}));
 }
 
-void SettingRulesTest::standardFrameRateIsDisabledWhenLocked_data()
+void TestSettingRules::standardFrameRateIsDisabledWhenLocked_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<QString>("text");
@@ -257,7 +257,7 @@ void SettingRulesTest::standardFrameRateIsDisabledWhenLocked_data()
     addRow("0", 0, "0");
 }
 
-void SettingRulesTest::standardFrameRateIsDisabledWhenLocked()
+void TestSettingRules::standardFrameRateIsDisabledWhenLocked()
 {
     QFETCH(double, rate);
     QFETCH(QString, text);
@@ -267,7 +267,7 @@ void SettingRulesTest::standardFrameRateIsDisabledWhenLocked()
              (ConfigEntry{text, true}));
 }
 
-void SettingRulesTest::aspectRatioIsShownAs_data()
+void TestSettingRules::aspectRatioIsShownAs_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
@@ -287,7 +287,7 @@ void SettingRulesTest::aspectRatioIsShownAs_data()
     QTest::newRow("16, 3") << 16 << 3 << none << false;
 }
 
-void SettingRulesTest::aspectRatioIsShownAs()
+void TestSettingRules::aspectRatioIsShownAs()
 {
     QFETCH(int, x);
     QFETCH(int, y);
@@ -301,7 +301,7 @@ void SettingRulesTest::aspectRatioIsShownAs()
     QCOMPARE(entryOf(state, "Pixel Y"), (ConfigEntry{11, pixelValuesEnabled}));
 }
 
-void SettingRulesTest::pixelValuesAreLockedToo()
+void TestSettingRules::pixelValuesAreLockedToo()
 {
     const Cells custom = {{0, 2888, -1}, {0, 2892, -1}};
     const ConfigState locked = describe(custom, pixelLock).state;
@@ -313,7 +313,7 @@ void SettingRulesTest::pixelValuesAreLockedToo()
     QVERIFY(entryOf(others, "Pixel Y").enabled);
 }
 
-void SettingRulesTest::namedAspectRatioWinsOverPixelX()
+void TestSettingRules::namedAspectRatioWinsOverPixelX()
 {
     ConfigState state;
     state.insert(QStringLiteral("Picture Aspect Ratio"), QStringLiteral("4:3"));
@@ -323,7 +323,7 @@ void SettingRulesTest::namedAspectRatioWinsOverPixelX()
              expected(before, {{0, 100, -1}, {0, 104, -1}, {0, 2888, 4}, {0, 2892, 3}}));
 }
 
-void SettingRulesTest::customAspectRatioKeepsPixelValuesOfTheSameState()
+void TestSettingRules::customAspectRatioKeepsPixelValuesOfTheSameState()
 {
     ConfigState state;
     state.insert(QStringLiteral("Picture Aspect Ratio"), QStringLiteral("Custom"));
@@ -334,7 +334,7 @@ void SettingRulesTest::customAspectRatioKeepsPixelValuesOfTheSameState()
              expected(before, {{0, 100, 10}, {0, 104, 11}, {0, 2888, -1}, {0, 2892, -1}}));
 }
 
-void SettingRulesTest::wideAspectRatioUnsetsPixelValuesOfTheSameState()
+void TestSettingRules::wideAspectRatioUnsetsPixelValuesOfTheSameState()
 {
     ConfigState state;
     state.insert(QStringLiteral("Picture Aspect Ratio"), QStringLiteral("16:9"));
@@ -345,7 +345,7 @@ void SettingRulesTest::wideAspectRatioUnsetsPixelValuesOfTheSameState()
              expected(before, {{0, 100, -1}, {0, 104, -1}, {0, 2888, 16}, {0, 2892, 9}}));
 }
 
-void SettingRulesTest::displayPair4To3WithPixelValuesShowsThemDisabled()
+void TestSettingRules::displayPair4To3WithPixelValuesShowsThemDisabled()
 {
     const ConfigState state =
         describe({{0, 2888, 4}, {0, 2892, 3}, {0, 100, 10}, {0, 104, 11}}).state;
@@ -354,7 +354,7 @@ void SettingRulesTest::displayPair4To3WithPixelValuesShowsThemDisabled()
     QCOMPARE(entryOf(state, "Picture Aspect Ratio"), (ConfigEntry{QStringLiteral("4:3"), true}));
 }
 
-void SettingRulesTest::displayPair5To4HasNoEntryAndDisabledPixelValues()
+void TestSettingRules::displayPair5To4HasNoEntryAndDisabledPixelValues()
 {
     const ConfigState state = describe({{0, 2888, 5}, {0, 2892, 4}}).state;
     QVERIFY(!holds(state, "Picture Aspect Ratio"));
@@ -362,7 +362,7 @@ void SettingRulesTest::displayPair5To4HasNoEntryAndDisabledPixelValues()
     QVERIFY(!entryOf(state, "Pixel Y").enabled);
 }
 
-void SettingRulesTest::fieldOrderIsShownAs_data()
+void TestSettingRules::fieldOrderIsShownAs_data()
 {
     QTest::addColumn<int>("interlaceMode");
     QTest::addColumn<int>("fieldOrder");
@@ -385,7 +385,7 @@ void SettingRulesTest::fieldOrderIsShownAs_data()
     QTest::newRow("progressive, any other order") << 0 << 7 << none << true;
 }
 
-void SettingRulesTest::fieldOrderIsShownAs()
+void TestSettingRules::fieldOrderIsShownAs()
 {
     QFETCH(int, interlaceMode);
     QFETCH(int, fieldOrder);
@@ -396,12 +396,12 @@ void SettingRulesTest::fieldOrderIsShownAs()
     QCOMPARE(entryOf(state, "Field Order"), (ConfigEntry{text, enabled}));
 }
 
-void SettingRulesTest::bottomFirstOnProgressiveMaterialIsNotShown()
+void TestSettingRules::bottomFirstOnProgressiveMaterialIsNotShown()
 {
     QVERIFY(!holds(describe({{0, 20, 0}, {0, 4112, 1}}).state, "Field Order"));
 }
 
-void SettingRulesTest::slicesAreNormalisedThoughAbsent_data()
+void TestSettingRules::slicesAreNormalisedThoughAbsent_data()
 {
     QTest::addColumn<int>("slices");
     QTest::addColumn<int>("multiSlice");
@@ -415,7 +415,7 @@ void SettingRulesTest::slicesAreNormalisedThoughAbsent_data()
     QTest::newRow("noise as claim") << 2 << 77 << 2 << 1;
 }
 
-void SettingRulesTest::slicesAreNormalisedThoughAbsent()
+void TestSettingRules::slicesAreNormalisedThoughAbsent()
 {
     QFETCH(int, slices);
     QFETCH(int, multiSlice);
@@ -427,7 +427,7 @@ void SettingRulesTest::slicesAreNormalisedThoughAbsent()
                                                                         {0, 2848, storedSlices}}));
 }
 
-void SettingRulesTest::slices0Stores1AndSlices2SetsMultiSlice()
+void TestSettingRules::slices0Stores1AndSlices2SetsMultiSlice()
 {
     WorkingRecord record = noisyRecord(1);
     apply(oneEntry("Slices", 0), record);
@@ -438,7 +438,7 @@ void SettingRulesTest::slices0Stores1AndSlices2SetsMultiSlice()
     QCOMPARE(int(record.view(0).multi_slice), 1);
 }
 
-void SettingRulesTest::constantBitrateSwitchesHrdOn()
+void TestSettingRules::constantBitrateSwitchesHrdOn()
 {
     WorkingRecord record = recordWith({{0, 176, 0}});
     apply(oneEntry("Bitrate Mode V0", QStringLiteral("Constant Bitrate")), record);
@@ -446,7 +446,7 @@ void SettingRulesTest::constantBitrateSwitchesHrdOn()
     QCOMPARE(int(record.view(0).hrd_mode), 1);
 }
 
-void SettingRulesTest::constantBitrateWithHrd0EndsWithHrdOff()
+void TestSettingRules::constantBitrateWithHrd0EndsWithHrdOff()
 {
     WorkingRecord record = recordWith({{0, 176, 1}});
     ConfigState state = oneEntry("Bitrate Mode V0", QStringLiteral("Constant Bitrate"));
@@ -456,15 +456,16 @@ void SettingRulesTest::constantBitrateWithHrd0EndsWithHrdOff()
     QCOMPARE(int(record.view(0).hrd_mode), 0);
 }
 
-void SettingRulesTest::otherModesLeaveHrd_data()
+void TestSettingRules::otherModesLeaveHrd_data()
 {
     QTest::addColumn<QString>("mode");
     for (const char* mode : {"Variable Bitrate", "Const. Quality - Constant Quantizer",
-                             "Const. Quality - Average Quantizer", "no such mode", ""})
+                             "Const. Quality - Average Quantizer", "no such mode", ""}) {
         QTest::newRow(*mode ? mode : "empty") << QString(QLatin1String(mode));
+    }
 }
 
-void SettingRulesTest::otherModesLeaveHrd()
+void TestSettingRules::otherModesLeaveHrd()
 {
     QFETCH(QString, mode);
     for (const int hrd : {0, 1, -9}) {
@@ -474,14 +475,14 @@ void SettingRulesTest::otherModesLeaveHrd()
     }
 }
 
-void SettingRulesTest::modeOfOneViewLeavesTheOthersHrd()
+void TestSettingRules::modeOfOneViewLeavesTheOthersHrd()
 {
     const WorkingRecord before = noisyRecord(4);
     QCOMPARE(changedBy(oneEntry("Bitrate Mode V2", QStringLiteral("Constant Bitrate")), before),
              expected(before, {{2, 72, 0}, {2, 176, 1}}));
 }
 
-void SettingRulesTest::unknownChromaTextStores420ButUnknownInterlaceNothing()
+void TestSettingRules::unknownChromaTextStores420ButUnknownInterlaceNothing()
 {
     const WorkingRecord before = noisyRecord(1);
     QCOMPARE(changedBy(oneEntry("Chroma Format", QStringLiteral("4:4:4")), before),
@@ -489,11 +490,11 @@ void SettingRulesTest::unknownChromaTextStores420ButUnknownInterlaceNothing()
     QCOMPARE(changedBy(oneEntry("Interlace", QStringLiteral("4:4:4")), before), QStringList());
 }
 
-void SettingRulesTest::refDistance1ShowsBBetween0()
+void TestSettingRules::refDistance1ShowsBBetween0()
 {
     const ConfigState state = describeAdvanced(Vocabulary(), 0, recordWith({{0, 12, 1}}).view(0));
     QCOMPARE(valueOf(state, "B Between"), QVariant(0));
 }
 
-QTEST_APPLESS_MAIN(SettingRulesTest)
+QTEST_APPLESS_MAIN(TestSettingRules)
 #include "tst_setting_rules.moc"

@@ -11,7 +11,7 @@
 /// What the record holds is described under its key, as a value of the right kind, enabled as the
 /// host's locks say. Every expectation is a place in the record, by the ledger or, for rules of one
 /// setting, written down here.
-class SettingsToStateTest : public QObject
+class TestSettingsToState : public QObject
 {
     Q_OBJECT
 
@@ -78,20 +78,25 @@ WorkingRecord describableRecord()
 QStringList differingKeys(const ConfigState& a, const ConfigState& b)
 {
     QStringList keys;
-    for (auto entry = a.entries().begin(); entry != a.entries().end(); ++entry)
-        if (!b.contains(entry.key()) || !(b.entry(entry.key()) == *entry))
+    for (auto entry = a.entries().begin(); entry != a.entries().end(); ++entry) {
+        if (!b.contains(entry.key()) || !(b.entry(entry.key()) == *entry)) {
             keys += entry.key();
-    for (const QString& key : b.entries().keys())
-        if (!a.contains(key))
+        }
+    }
+    for (const QString& key : b.entries().keys()) {
+        if (!a.contains(key)) {
             keys += key;
+        }
+    }
     return keys;
 }
 
 QStringList list(const QVector<const char*>& texts)
 {
     QStringList strings;
-    for (const char* text : texts)
+    for (const char* text : texts) {
         strings += QLatin1String(text);
+    }
     return strings;
 }
 
@@ -105,10 +110,12 @@ bool isNumber(const Setting& setting)
 std::optional<Part> partOf(const Setting& setting)
 {
     const QString page = QString::fromLatin1(setting.page);
-    if (!setting.key || page == QLatin1String("AVCVideoEncoderDlg"))
+    if (!setting.key || page == QLatin1String("AVCVideoEncoderDlg")) {
         return {};
-    if (page == QLatin1String("VideoFormatPage"))
+    }
+    if (page == QLatin1String("VideoFormatPage")) {
         return Basic;
+    }
     return setting.isOfRecord() || setting.isOfEachView() ? Views : Advanced;
 }
 
@@ -151,33 +158,40 @@ void addRow(Part part, const QString& key, const Cell& cell, int number, const Q
 
 } // namespace
 
-void SettingsToStateTest::fieldIsDescribedAs_data()
+void TestSettingsToState::fieldIsDescribedAs_data()
 {
     addColumns();
     for (const Setting& setting : ledger::settings()) {
         const std::optional<Part> part = partOf(setting);
         // The order of fields and the number of views have tests of their own.
-        if (!part || setting.is("field_order") || setting.is("num_views"))
+        if (!part || setting.is("field_order") || setting.is("num_views")) {
             continue;
+        }
         for (int view = 0; view < setting.viewCount(); ++view) {
             const auto row = [&](int code, const QVariant& value) {
                 addRow(*part, setting.keyOf(view), Cell(view, setting, code), code, value);
             };
-            if (isNumber(setting))
-                for (const int number : numbers)
+            if (isNumber(setting)) {
+                for (const int number : numbers) {
                     row(number, int(unsigned(number) - unsigned(setting.added())));
-            if (setting.kind == Kind::List)
-                for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member)))
+                }
+            }
+            if (setting.kind == Kind::List) {
+                for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member))) {
                     row(item.code, QString(QLatin1String(item.text)));
+                }
+            }
         }
     }
-    for (const OtherCodes& field : otherCodes)
-        for (const int code : field.codes)
+    for (const OtherCodes& field : otherCodes) {
+        for (const int code : field.codes) {
             addRow(field.part, QLatin1String(field.key), {0, field.offset, code}, code,
                    QString(QLatin1String(field.text)));
+        }
+    }
 }
 
-void SettingsToStateTest::fieldIsDescribedAs()
+void TestSettingsToState::fieldIsDescribedAs()
 {
     QFETCH(int, part);
     QFETCH(QString, key);
@@ -191,27 +205,32 @@ void SettingsToStateTest::fieldIsDescribedAs()
     QCOMPARE(state.entry(key), (ConfigEntry{value, true}));
 }
 
-void SettingsToStateTest::unknownCodeHasNoEntry_data()
+void TestSettingsToState::unknownCodeHasNoEntry_data()
 {
     addColumns();
     for (const Setting& setting : ledger::settings()) {
         // These show something for every code.
         if (setting.kind != Kind::List || setting.is("chroma_format") || setting.is("profile") ||
-            setting.is("level") || setting.is("video_type") || setting.is("field_order"))
+            setting.is("level") || setting.is("video_type") || setting.is("field_order")) {
             continue;
+        }
         QVector<int> codes = {INT_MIN, -8, -1, 12, 97, INT_MAX};
-        for (int code = 0; code <= 11; ++code)
+        for (int code = 0; code <= 11; ++code) {
             codes += code;
-        for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member)))
+        }
+        for (const auto& item : ledger::listedValues(QString::fromLatin1(setting.member))) {
             codes.removeAll(item.code);
-        for (int view = 0; view < setting.viewCount(); ++view)
-            for (const int code : codes)
+        }
+        for (int view = 0; view < setting.viewCount(); ++view) {
+            for (const int code : codes) {
                 addRow(*partOf(setting), setting.keyOf(view), Cell(view, setting, code), code,
                        QVariant());
+            }
+        }
     }
 }
 
-void SettingsToStateTest::unknownCodeHasNoEntry()
+void TestSettingsToState::unknownCodeHasNoEntry()
 {
     QFETCH(int, part);
     QFETCH(QString, key);
@@ -223,12 +242,13 @@ void SettingsToStateTest::unknownCodeHasNoEntry()
     QVERIFY(!after.contains(key));
     // Field order follows the interlace mode; nothing else follows anything.
     QStringList expected(key);
-    if (key == QLatin1String("Interlace"))
+    if (key == QLatin1String("Interlace")) {
         expected.prepend(QStringLiteral("Field Order"));
+    }
     QCOMPARE(differingKeys(before, after), expected);
 }
 
-void SettingsToStateTest::videoTypeIsDescribedAs_data()
+void TestSettingsToState::videoTypeIsDescribedAs_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("text");
@@ -240,7 +260,7 @@ void SettingsToStateTest::videoTypeIsDescribedAs_data()
     QTest::newRow("negative") << -1 << QStringLiteral("");
 }
 
-void SettingsToStateTest::videoTypeIsDescribedAs()
+void TestSettingsToState::videoTypeIsDescribedAs()
 {
     QFETCH(int, code);
     QFETCH(QString, text);
@@ -251,7 +271,7 @@ void SettingsToStateTest::videoTypeIsDescribedAs()
     QCOMPARE(describeVideoType(vocabulary(), ~0x2000, record.view(0)), (ConfigEntry{text, true}));
 }
 
-void SettingsToStateTest::fieldIsSeenByItsKeyAlone_data()
+void TestSettingsToState::fieldIsSeenByItsKeyAlone_data()
 {
     QTest::addColumn<Cells>("cells");
     QTest::addColumn<QStringList>("keys");
@@ -267,10 +287,11 @@ void SettingsToStateTest::fieldIsSeenByItsKeyAlone_data()
             const double other =
                 setting.second.code == now ? setting.first.code : setting.second.code;
             QStringList keys;
-            if (setting.kind == Kind::Aspect)
+            if (setting.kind == Kind::Aspect) {
                 keys = aspectKeys;
-            else if (partOf(setting))
+            } else if (partOf(setting)) {
                 keys = {setting.keyOf(view)};
+            }
             row(QStringLiteral("%1 of view %2").arg(QLatin1String(setting.member)).arg(view),
                 Cell(view, setting, other), keys);
         }
@@ -279,19 +300,20 @@ void SettingsToStateTest::fieldIsSeenByItsKeyAlone_data()
         list({"Field Order", "Interlace"}));
 }
 
-void SettingsToStateTest::fieldIsSeenByItsKeyAlone()
+void TestSettingsToState::fieldIsSeenByItsKeyAlone()
 {
     QFETCH(Cells, cells);
     const WorkingRecord before = describableRecord();
     WorkingRecord after = before;
     put(after, cells);
     QStringList seen;
-    for (const int part : {Basic, Advanced, Views})
+    for (const int part : {Basic, Advanced, Views}) {
         seen += differingKeys(described(part, before), described(part, after));
+    }
     QTEST(seen, "keys");
 }
 
-void SettingsToStateTest::reservedBytesAreSeenByNoKey()
+void TestSettingsToState::reservedBytesAreSeenByNoKey()
 {
     // Two records that have nothing in common but the fields.
     WorkingRecord one = describableRecord();
@@ -304,44 +326,49 @@ void SettingsToStateTest::reservedBytesAreSeenByNoKey()
         }
     }
     QVERIFY(differences(bytesOf(one), bytesOf(other)).size() > 8000);
-    for (const int part : {Basic, Advanced, Views})
+    for (const int part : {Basic, Advanced, Views}) {
         QCOMPARE(differingKeys(described(part, one), described(part, other)), QStringList());
+    }
     QCOMPARE(describeVideoType(vocabulary(), 0, one.view(0)),
              describeVideoType(vocabulary(), 0, other.view(0)));
 }
 
-void SettingsToStateTest::descriptionHasItsKeys_data()
+void TestSettingsToState::descriptionHasItsKeys_data()
 {
     QTest::addColumn<int>("part");
     QTest::addColumn<QStringList>("keys");
     const char* const names[] = {"basic", "advanced", "views"};
     for (const Part part : {Basic, Advanced, Views}) {
         QStringList keys;
-        for (const Setting& setting : ledger::settings())
-            for (int view = 0; partOf(setting) == part && view < setting.viewCount(); ++view)
+        for (const Setting& setting : ledger::settings()) {
+            for (int view = 0; partOf(setting) == part && view < setting.viewCount(); ++view) {
                 keys += setting.keyOf(view);
+            }
+        }
         keys.sort();
         QTest::newRow(names[part]) << int(part) << keys;
     }
 }
 
-void SettingsToStateTest::descriptionHasItsKeys()
+void TestSettingsToState::descriptionHasItsKeys()
 {
     QFETCH(int, part);
     const QStringList keys = described(part, describableRecord()).entries().keys();
     QTEST(keys, "keys");
 }
 
-void SettingsToStateTest::lockBitDisablesItsKeysAlone_data()
+void TestSettingsToState::lockBitDisablesItsKeysAlone_data()
 {
     QTest::addColumn<int>("flags");
     QTest::addColumn<QStringList>("disabled");
     QStringList all;
     for (int bit = 0; bit < 32; ++bit) {
         QStringList disabled;
-        for (const Setting& setting : ledger::settings())
-            if (setting.lockBit == bit && partOf(setting))
+        for (const Setting& setting : ledger::settings()) {
+            if (setting.lockBit == bit && partOf(setting)) {
                 disabled += setting.keyOf();
+            }
+        }
         disabled.sort();
         all += disabled;
         QTest::newRow(qPrintable(QStringLiteral("bit %1").arg(bit))) << int(1U << bit) << disabled;
@@ -351,25 +378,28 @@ void SettingsToStateTest::lockBitDisablesItsKeysAlone_data()
     QTest::newRow("every bit") << -1 << all;
 }
 
-void SettingsToStateTest::lockBitDisablesItsKeysAlone()
+void TestSettingsToState::lockBitDisablesItsKeysAlone()
 {
     QFETCH(int, flags);
     QStringList disabled;
     for (const int part : {Basic, Advanced, Views}) {
         const ConfigState state = described(part, describableRecord(), flags);
-        for (auto entry = state.entries().begin(); entry != state.entries().end(); ++entry)
-            if (!entry->enabled)
+        for (auto entry = state.entries().begin(); entry != state.entries().end(); ++entry) {
+            if (!entry->enabled) {
                 disabled += entry.key();
+            }
+        }
     }
     disabled.sort();
     QTEST(disabled, "disabled");
 }
 
-void SettingsToStateTest::eachViewIsDescribedFromItsOwnSlot()
+void TestSettingsToState::eachViewIsDescribedFromItsOwnSlot()
 {
     WorkingRecord record = describableRecord();
-    for (int view = 0; view < 4; ++view)
+    for (int view = 0; view < 4; ++view) {
         put(record, {{view, 24, 100 + view}, {view, 2904, 4 + view}, {view, 80, 5000 + view}});
+    }
     const ConfigState views = describeViews(vocabulary(), 0, record);
     for (int view = 0; view < 4; ++view) {
         QCOMPARE(describeBasic(vocabulary(), 0, record.view(view))
@@ -382,17 +412,18 @@ void SettingsToStateTest::eachViewIsDescribedFromItsOwnSlot()
     }
 }
 
-void SettingsToStateTest::oneViewShows0AdditionalViewsAndAllFourSlots()
+void TestSettingsToState::oneViewShows0AdditionalViewsAndAllFourSlots()
 {
     WorkingRecord record = describableRecord();
     put(record, {{Cell::Record, 0, 1}});
     const ConfigState views = describeViews(vocabulary(), 0, record);
     QCOMPARE(views.value(QStringLiteral("Number of views")), QVariant(0));
-    for (int view = 0; view < 4; ++view)
+    for (int view = 0; view < 4; ++view) {
         QVERIFY(views.contains(ofView("HRD", view)));
+    }
 }
 
-void SettingsToStateTest::countIsShownAsItIs_data()
+void TestSettingsToState::countIsShownAsItIs_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("shown");
@@ -406,7 +437,7 @@ void SettingsToStateTest::countIsShownAsItIs_data()
     QTest::newRow("INT_MIN") << INT_MIN << INT_MAX;
 }
 
-void SettingsToStateTest::countIsShownAsItIs()
+void TestSettingsToState::countIsShownAsItIs()
 {
     QFETCH(int, count);
     QFETCH(int, shown);
@@ -417,5 +448,5 @@ void SettingsToStateTest::countIsShownAsItIs()
     QCOMPARE(views.entries().size(), 70);
 }
 
-QTEST_APPLESS_MAIN(SettingsToStateTest)
+QTEST_APPLESS_MAIN(TestSettingsToState)
 #include "tst_settings_to_state.moc"

@@ -7,7 +7,7 @@
 /// An edit finds its way into the record: exactly the bytes of the edited setting, in the right
 /// views, and no other byte. Every expectation is a place in the record, by the ledger or, for
 /// rules of one setting, written down here.
-class StateToSettingsTest : public QObject
+class TestStateToSettings : public QObject
 {
     Q_OBJECT
 
@@ -54,9 +54,11 @@ bool isNumber(const Setting& setting)
 QVector<Setting> plainSettings(bool (*isMeant)(const Setting&))
 {
     QVector<Setting> found;
-    for (const Setting& setting : ledger::settings())
-        if (setting.key && isMeant(setting))
+    for (const Setting& setting : ledger::settings()) {
+        if (setting.key && isMeant(setting)) {
             found += setting;
+        }
+    }
     return found;
 }
 
@@ -158,7 +160,7 @@ int reached(int count)
 
 } // namespace
 
-void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount_data()
+void TestStateToSettings::generalKeyIsStoredInEveryViewBelowTheCount_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
@@ -167,17 +169,22 @@ void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount_data()
         const QString text = QLatin1String(key);
         QTest::newRow(rowName(text, value).constData()) << text << value << cells;
     };
-    for (const Setting& number : generalNumbers())
-        for (const Shown& shown : shownNumbers())
+    for (const Setting& number : generalNumbers()) {
+        for (const Shown& shown : shownNumbers()) {
             row(number.key, shown.value,
                 {{0, number.offset, wrapped(shown.number, number.added())}});
-    for (const Setting& list : generalLists())
-        for (const auto& item : ledger::listedValues(QString::fromLatin1(list.member)))
+        }
+    }
+    for (const Setting& list : generalLists()) {
+        for (const auto& item : ledger::listedValues(QString::fromLatin1(list.member))) {
             row(list.key, QString(QLatin1String(item.text)), {{0, list.offset, item.code}});
+        }
+    }
     // The fourth format has an empty text.
     row("Chroma Format", QString(QLatin1String("")), {{0, 2252, 4}});
-    for (const RateCase& rate : rates)
+    for (const RateCase& rate : rates) {
         row("Frame Rate", QString(QLatin1String(rate.text)), {{0, 32, rate.rate}});
+    }
 
     const char* const ratio = "Picture Aspect Ratio";
     row(ratio, QStringLiteral("Custom"), {{0, 2888, -1}, {0, 2892, -1}});
@@ -199,7 +206,7 @@ void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount_data()
     }
 }
 
-void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount()
+void TestStateToSettings::generalKeyIsStoredInEveryViewBelowTheCount()
 {
     QFETCH(QString, key);
     QFETCH(QVariant, value);
@@ -212,7 +219,7 @@ void StateToSettingsTest::generalKeyIsStoredInEveryViewBelowTheCount()
     }
 }
 
-void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount_data()
+void TestStateToSettings::viewKeyIsStoredInItsSlotWhateverTheCount_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
@@ -222,9 +229,11 @@ void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount_data()
         QTest::newRow(rowName(key, value).constData()) << key << value << cells;
     };
     for (int view = 0; view < 4; ++view) {
-        for (const Setting& number : viewNumbers())
-            for (const Shown& shown : shownNumbers())
+        for (const Setting& number : viewNumbers()) {
+            for (const Shown& shown : shownNumbers()) {
                 row(number.key, view, shown.value, {{view, number.offset, shown.number}});
+            }
+        }
         const char* const mode = "Bitrate Mode";
         row(mode, view, QStringLiteral("Constant Bitrate"), {{view, 72, 0}, {view, 176, 1}});
         row(mode, view, QStringLiteral("Variable Bitrate"), {{view, 72, 2}});
@@ -233,7 +242,7 @@ void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount_data()
     }
 }
 
-void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount()
+void TestStateToSettings::viewKeyIsStoredInItsSlotWhateverTheCount()
 {
     QFETCH(QString, key);
     QFETCH(QVariant, value);
@@ -246,7 +255,7 @@ void StateToSettingsTest::viewKeyIsStoredInItsSlotWhateverTheCount()
     }
 }
 
-void StateToSettingsTest::recordKeyIsStoredOnce_data()
+void TestStateToSettings::recordKeyIsStoredOnce_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
@@ -259,11 +268,12 @@ void StateToSettingsTest::recordKeyIsStoredOnce_data()
         row("Number of views", shown.value, {{Cell::Record, 0, wrapped(shown.number, 1)}});
         row("Split", shown.value, {{Cell::Record, 4, shown.number}});
     }
-    for (int additional = 0; additional <= 3; ++additional)
+    for (int additional = 0; additional <= 3; ++additional) {
         row("Number of views", double(additional), {{Cell::Record, 0, additional + 1}});
+    }
 }
 
-void StateToSettingsTest::recordKeyIsStoredOnce()
+void TestStateToSettings::recordKeyIsStoredOnce()
 {
     QFETCH(QString, key);
     QFETCH(QVariant, value);
@@ -276,7 +286,7 @@ void StateToSettingsTest::recordKeyIsStoredOnce()
     }
 }
 
-void StateToSettingsTest::unknownTextChangesNothing_data()
+void TestStateToSettings::unknownTextChangesNothing_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("text");
@@ -288,16 +298,19 @@ void StateToSettingsTest::unknownTextChangesNothing_data()
     for (const Setting& setting : all) {
         for (int view = 0; view < setting.viewCount(); ++view) {
             const QString key = setting.keyOf(view);
-            if (others.contains(key))
+            if (others.contains(key)) {
                 continue;
-            for (const char* text : {"", "no such item", "3", "progressive", "mbaff", "Off ", "25"})
+            }
+            for (const char* text :
+                 {"", "no such item", "3", "progressive", "mbaff", "Off ", "25"}) {
                 QTest::newRow(qPrintable(QStringLiteral("%1 = '%2'").arg(key, QLatin1String(text))))
                     << key << QString(QLatin1String(text));
+            }
         }
     }
 }
 
-void StateToSettingsTest::unknownTextChangesNothing()
+void TestStateToSettings::unknownTextChangesNothing()
 {
     QFETCH(QString, key);
     QFETCH(QString, text);
@@ -306,22 +319,24 @@ void StateToSettingsTest::unknownTextChangesNothing()
     QCOMPARE(changedBy(state, noisyRecord(2)), QStringList());
 }
 
-void StateToSettingsTest::nameThatIsNotFoundStores0_data()
+void TestStateToSettings::nameThatIsNotFoundStores0_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("offset");
     QTest::addColumn<QString>("text");
     const QVector<QPair<const char*, int>> fields = {
         {"Profile", 0}, {"Level", 4}, {"Video Type", 1804}, {"Restore Preset", 1804}};
-    for (const auto& field : fields)
-        for (const char* text : {"", "no such name", "high", "Multiview High", "High 422"})
+    for (const auto& field : fields) {
+        for (const char* text : {"", "no such name", "high", "Multiview High", "High 422"}) {
             QTest::newRow(qPrintable(
                 QStringLiteral("%1 = '%2'").arg(QLatin1String(field.first), QLatin1String(text))))
                 << QString(QLatin1String(field.first)) << field.second
                 << QString(QLatin1String(text));
+        }
+    }
 }
 
-void StateToSettingsTest::nameThatIsNotFoundStores0()
+void TestStateToSettings::nameThatIsNotFoundStores0()
 {
     QFETCH(QString, key);
     QFETCH(int, offset);
@@ -332,17 +347,18 @@ void StateToSettingsTest::nameThatIsNotFoundStores0()
     QCOMPARE(changedBy(state, before), expected(before, {{0, offset, 0}, {1, offset, 0}}));
 }
 
-void StateToSettingsTest::unknownKeyChangesNothing_data()
+void TestStateToSettings::unknownKeyChangesNothing_data()
 {
     QTest::addColumn<QString>("key");
     for (const char* key : {"", "Foo", "horizontal size", "Horizontal Size ", "Horizontal Size V0",
                             "Target Bitrate", "Target Bitrate V4", "Target Bitrate V", "HRD V01",
-                            "HRD V-1", "Pyramid B", "Number of Views"})
+                            "HRD V-1", "Pyramid B", "Number of Views"}) {
         QTest::newRow(qPrintable(QStringLiteral("'%1'").arg(QLatin1String(key))))
             << QString(QLatin1String(key));
+    }
 }
 
-void StateToSettingsTest::unknownKeyChangesNothing()
+void TestStateToSettings::unknownKeyChangesNothing()
 {
     QFETCH(QString, key);
     ConfigState state;
@@ -350,12 +366,12 @@ void StateToSettingsTest::unknownKeyChangesNothing()
     QCOMPARE(changedBy(state, noisyRecord(4)), QStringList());
 }
 
-void StateToSettingsTest::emptyStateChangesNothing()
+void TestStateToSettings::emptyStateChangesNothing()
 {
     QCOMPARE(changedBy({}, noisyRecord(4)), QStringList());
 }
 
-void StateToSettingsTest::manyKeysAtOnce()
+void TestStateToSettings::manyKeysAtOnce()
 {
     ConfigState state;
     state.insert(QString(), 6000);
@@ -375,7 +391,7 @@ void StateToSettingsTest::manyKeysAtOnce()
                                                          {1, 176, 1}}));
 }
 
-void StateToSettingsTest::presetIsThatOfRestorePresetBeforeVideoType_data()
+void TestStateToSettings::presetIsThatOfRestorePresetBeforeVideoType_data()
 {
     QTest::addColumn<QString>("restorePreset");
     QTest::addColumn<QString>("videoType");
@@ -393,16 +409,18 @@ void StateToSettingsTest::presetIsThatOfRestorePresetBeforeVideoType_data()
     QTest::newRow("unknown name chosen") << absent << QStringLiteral("stereo high") << 0;
 }
 
-void StateToSettingsTest::presetIsThatOfRestorePresetBeforeVideoType()
+void TestStateToSettings::presetIsThatOfRestorePresetBeforeVideoType()
 {
     QFETCH(QString, restorePreset);
     QFETCH(QString, videoType);
     QFETCH(int, code);
     ConfigState state;
-    if (!restorePreset.isNull())
+    if (!restorePreset.isNull()) {
         state.insert(QStringLiteral("Restore Preset"), restorePreset);
-    if (!videoType.isNull())
+    }
+    if (!videoType.isNull()) {
         state.insert(QStringLiteral("Video Type"), videoType);
+    }
     QCOMPARE(int(requestedPreset(Vocabulary(), state).value_or(-1)), code);
 
     const WorkingRecord before = noisyRecord(2);
@@ -410,7 +428,7 @@ void StateToSettingsTest::presetIsThatOfRestorePresetBeforeVideoType()
              code < 0 ? QStringList() : expected(before, {{0, 1804, code}, {1, 1804, code}}));
 }
 
-void StateToSettingsTest::restorePresetWithHorizontalSizeIgnoresTheSizeInEveryView()
+void TestStateToSettings::restorePresetWithHorizontalSizeIgnoresTheSizeInEveryView()
 {
     ConfigState state;
     state.insert(QStringLiteral("Restore Preset"), QStringLiteral("Stereo High"));
@@ -420,7 +438,7 @@ void StateToSettingsTest::restorePresetWithHorizontalSizeIgnoresTheSizeInEveryVi
     QCOMPARE(changedBy(state, before), expected(before, {{0, 1804, 2}, {1, 1804, 2}}));
 }
 
-void StateToSettingsTest::presetEndsTheGeneralSettingsOnly()
+void TestStateToSettings::presetEndsTheGeneralSettingsOnly()
 {
     ConfigState state;
     state.insert(QStringLiteral("Video Type"), QStringLiteral("Blu-ray 3D"));
@@ -431,14 +449,14 @@ void StateToSettingsTest::presetEndsTheGeneralSettingsOnly()
              expected(before, {{Cell::Record, 0, 1}, {0, 1804, 3}, {1, 1804, 3}, {1, 80, 5000}}));
 }
 
-void StateToSettingsTest::targetBitrateV1ChangesView1Alone()
+void TestStateToSettings::targetBitrateV1ChangesView1Alone()
 {
     const WorkingRecord before = noisyRecord(2);
     QCOMPARE(changedBy(oneEntry("Target Bitrate V1", 0x01020304), before),
              QStringList(QStringLiteral("view 1 +80: 04030201")));
 }
 
-void StateToSettingsTest::interlaceIsStoredInBothViewsOfTwo()
+void TestStateToSettings::interlaceIsStoredInBothViewsOfTwo()
 {
     const WorkingRecord before = noisyRecord(2);
     QCOMPARE(changedBy(oneEntry("Interlace", QStringLiteral("MBAFF")), before),
@@ -446,7 +464,7 @@ void StateToSettingsTest::interlaceIsStoredInBothViewsOfTwo()
                           QStringLiteral("view 1 +20: 02000000")}));
 }
 
-void StateToSettingsTest::numberOfViewsWithInterlaceReachesTheViewsOfTheOldCount()
+void TestStateToSettings::numberOfViewsWithInterlaceReachesTheViewsOfTheOldCount()
 {
     ConfigState state;
     state.insert(QStringLiteral("Number of views"), 0);
@@ -458,12 +476,12 @@ void StateToSettingsTest::numberOfViewsWithInterlaceReachesTheViewsOfTheOldCount
                                                     QStringLiteral("view 2 +20: 01000000")}));
 }
 
-void StateToSettingsTest::numberOfViews0StoresOneView()
+void TestStateToSettings::numberOfViews0StoresOneView()
 {
     const WorkingRecord before = noisyRecord(2);
     QCOMPARE(changedBy(oneEntry("Number of views", 0), before),
              QStringList(QStringLiteral("record +0: 01000000")));
 }
 
-QTEST_APPLESS_MAIN(StateToSettingsTest)
+QTEST_APPLESS_MAIN(TestStateToSettings)
 #include "tst_state_to_settings.moc"

@@ -8,7 +8,7 @@
 #include <QTranslator>
 
 /// The item texts of the encoder family: their order, their codes, and the names' maps.
-class ValueListsTest : public QObject
+class TestValueLists : public QObject
 {
     Q_OBJECT
 
@@ -39,16 +39,18 @@ using Plain = QVector<const char*>;
 QStringList written(const ItemList& list)
 {
     QStringList lines;
-    for (const ItemList::Item& item : list.items())
+    for (const ItemList::Item& item : list.items()) {
         lines += QStringLiteral("%1=%2").arg(item.text).arg(item.code);
+    }
     return lines;
 }
 
 QStringList written(const Coded& items)
 {
     QStringList lines;
-    for (const auto& item : items)
+    for (const auto& item : items) {
         lines += QStringLiteral("%1=%2").arg(QLatin1String(item.first)).arg(item.second);
+    }
     return lines;
 }
 
@@ -56,8 +58,9 @@ QStringList written(const Coded& items)
 Coded itemsOf(const char* member)
 {
     Coded items;
-    for (const auto& value : ledger::listedValues(QString::fromLatin1(member)))
+    for (const auto& value : ledger::listedValues(QString::fromLatin1(member))) {
         items += {value.text, value.code};
+    }
     return items;
 }
 
@@ -65,8 +68,9 @@ template <class Texts>
 QStringList texts(const Texts& list)
 {
     QStringList lines;
-    for (const char* text : list)
+    for (const char* text : list) {
         lines += QLatin1String(text);
+    }
     return lines;
 }
 
@@ -79,8 +83,9 @@ public:
     QString translate(const char* context, const char* source, const char*, int) const override
     {
         QString text = QLatin1String(source);
-        if (m_reversed)
+        if (m_reversed) {
             std::reverse(text.begin(), text.end());
+        }
         return QLatin1String(context) + QLatin1Char('|') + text;
     }
 
@@ -108,7 +113,7 @@ private:
 Q_DECLARE_METATYPE(ListName)
 Q_DECLARE_METATYPE(Coded)
 
-void ValueListsTest::listHasItsItemsInOrder_data()
+void TestValueLists::listHasItsItemsInOrder_data()
 {
     QTest::addColumn<ListName>("list");
     QTest::addColumn<Coded>("items");
@@ -129,7 +134,7 @@ void ValueListsTest::listHasItsItemsInOrder_data()
     row("levels", ListName::Levels, itemsOf("level"));
 }
 
-void ValueListsTest::listHasItsItemsInOrder()
+void TestValueLists::listHasItsItemsInOrder()
 {
     QFETCH(ListName, list);
     QFETCH(Coded, items);
@@ -137,7 +142,7 @@ void ValueListsTest::listHasItsItemsInOrder()
     QCOMPARE(written(vocabulary.list(list)), written(items));
 }
 
-void ValueListsTest::unusedListHasItsItemsInOrder_data()
+void TestValueLists::unusedListHasItsItemsInOrder_data()
 {
     QTest::addColumn<QStringList>("list");
     QTest::addColumn<QStringList>("items");
@@ -159,22 +164,23 @@ void ValueListsTest::unusedListHasItsItemsInOrder_data()
         {"Coarse-grain Scalability", "Medium-grain Scalability"});
 }
 
-void ValueListsTest::unusedListHasItsItemsInOrder()
+void TestValueLists::unusedListHasItsItemsInOrder()
 {
     QFETCH(QStringList, list);
     QTEST(list, "items");
 }
 
-void ValueListsTest::aspectRatios()
+void TestValueLists::aspectRatios()
 {
     QStringList lines;
     const Vocabulary vocabulary;
-    for (const auto& item : vocabulary.aspectRatios())
+    for (const auto& item : vocabulary.aspectRatios()) {
         lines += QStringLiteral("%1=%2,%3").arg(item.text).arg(item.x).arg(item.y);
+    }
     QCOMPARE(lines, texts(Plain{"Custom=-1,-1", "1:1=1,1", "4:3=4,3", "16:9=16,9"}));
 }
 
-void ValueListsTest::frameRates()
+void TestValueLists::frameRates()
 {
     const QVector<QPair<const char*, double>> expected = {
         {"7.60", 7.6},
@@ -201,7 +207,7 @@ void ValueListsTest::frameRates()
     }
 }
 
-void ValueListsTest::namesComeInTheOrderOfTheirTexts_data()
+void TestValueLists::namesComeInTheOrderOfTheirTexts_data()
 {
     QTest::addColumn<NameMap>("map");
     QTest::addColumn<Coded>("names");
@@ -211,17 +217,18 @@ void ValueListsTest::namesComeInTheOrderOfTheirTexts_data()
     QTest::newRow("levels") << vocabulary.levels() << itemsOf("level");
 }
 
-void ValueListsTest::namesComeInTheOrderOfTheirTexts()
+void TestValueLists::namesComeInTheOrderOfTheirTexts()
 {
     QFETCH(NameMap, map);
     QFETCH(Coded, names);
     QStringList lines;
-    for (auto name = map.constBegin(); name != map.constEnd(); ++name)
+    for (auto name = map.constBegin(); name != map.constEnd(); ++name) {
         lines += QStringLiteral("%1=%2").arg(name.key()).arg(name.value());
+    }
     QCOMPARE(lines, written(names));
 }
 
-void ValueListsTest::high422IsAProfileOnlyWhenOffered()
+void TestValueLists::high422IsAProfileOnlyWhenOffered()
 {
     QVERIFY(!Vocabulary().profiles().contains(QStringLiteral("High 422")));
     const Vocabulary offering(true);
@@ -233,7 +240,7 @@ void ValueListsTest::high422IsAProfileOnlyWhenOffered()
         written(Coded{{"Baseline", 0}, {"High", 3}, {"High 10", 4}, {"High 422", 5}, {"Main", 1}}));
 }
 
-void ValueListsTest::codeHasTheFirstTextInOrder()
+void TestValueLists::codeHasTheFirstTextInOrder()
 {
     ItemList list;
     list.append(QStringLiteral("first"), 7);
@@ -245,7 +252,7 @@ void ValueListsTest::codeHasTheFirstTextInOrder()
     QCOMPARE(list.codeOf(QStringLiteral("second")).value_or(0), 7);
 }
 
-void ValueListsTest::unknownTextHasNoCodeAndUnknownCodeNoText()
+void TestValueLists::unknownTextHasNoCodeAndUnknownCodeNoText()
 {
     const Vocabulary vocabulary;
     const ItemList& modes = vocabulary.list(ListName::PulldownModes);
@@ -255,7 +262,7 @@ void ValueListsTest::unknownTextHasNoCodeAndUnknownCodeNoText()
     QVERIFY(!modes.textOf(-1));
 }
 
-void ValueListsTest::textsAreComparedExactly_data()
+void TestValueLists::textsAreComparedExactly_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("letter case") << QStringLiteral("mbaff");
@@ -264,14 +271,14 @@ void ValueListsTest::textsAreComparedExactly_data()
     QTest::newRow("beginning") << QStringLiteral("MBA");
 }
 
-void ValueListsTest::textsAreComparedExactly()
+void TestValueLists::textsAreComparedExactly()
 {
     QFETCH(QString, text);
     const Vocabulary vocabulary;
     QVERIFY(!vocabulary.list(ListName::InterlaceModes).codeOf(text));
 }
 
-void ValueListsTest::textsAreTranslatedWhenTheVocabularyIsMade()
+void TestValueLists::textsAreTranslatedWhenTheVocabularyIsMade()
 {
     MarkingTranslator translator;
     const Vocabulary before;
@@ -296,7 +303,7 @@ void ValueListsTest::textsAreTranslatedWhenTheVocabularyIsMade()
                            {"AVCVideoEncoderDlg|Main", 1}}));
 }
 
-void ValueListsTest::translatedNamesComeInTheOrderOfTheTranslation()
+void TestValueLists::translatedNamesComeInTheOrderOfTheTranslation()
 {
     MarkingTranslator translator(true);
     const Installed installed(translator);
@@ -310,5 +317,5 @@ void ValueListsTest::translatedNamesComeInTheOrderOfTheTranslation()
                            {"AVCVideoEncoderDlg|hgiH wevitluM", 1}}));
 }
 
-QTEST_GUILESS_MAIN(ValueListsTest)
+QTEST_GUILESS_MAIN(TestValueLists)
 #include "tst_value_lists.moc"

@@ -9,7 +9,7 @@
 #include <cstring>
 
 /// The dialog's working storage: the record and, directly behind it, two further view slots.
-class WorkingRecordTest : public QObject
+class TestWorkingRecord : public QObject
 {
     Q_OBJECT
 
@@ -49,7 +49,7 @@ void addCounts()
 
 } // namespace
 
-void WorkingRecordTest::slotsLieAtOneStride_data()
+void TestWorkingRecord::slotsLieAtOneStride_data()
 {
     QTest::addColumn<int>("view");
     QTest::addColumn<int>("position");
@@ -59,7 +59,7 @@ void WorkingRecordTest::slotsLieAtOneStride_data()
     QTest::newRow("view 3") << 3 << 25204;
 }
 
-void WorkingRecordTest::slotsLieAtOneStride()
+void TestWorkingRecord::slotsLieAtOneStride()
 {
     QFETCH(int, view);
     QFETCH(int, position);
@@ -70,7 +70,7 @@ void WorkingRecordTest::slotsLieAtOneStride()
     QCOMPARE(&constant.view(view), &record.view(view));
 }
 
-void WorkingRecordTest::recordComesFirst()
+void TestWorkingRecord::recordComesFirst()
 {
     const WorkingRecord record;
     QCOMPARE(static_cast<const void*>(&record.settings), static_cast<const void*>(&record));
@@ -79,12 +79,12 @@ void WorkingRecordTest::recordComesFirst()
     QCOMPARE(int(sizeof record), 33520);
 }
 
-void WorkingRecordTest::countReachesFourSlotsAtMost_data()
+void TestWorkingRecord::countReachesFourSlotsAtMost_data()
 {
     addCounts();
 }
 
-void WorkingRecordTest::countReachesFourSlotsAtMost()
+void TestWorkingRecord::countReachesFourSlotsAtMost()
 {
     QFETCH(int, count);
     QFETCH(int, reached);
@@ -92,17 +92,18 @@ void WorkingRecordTest::countReachesFourSlotsAtMost()
     QCOMPARE(before.viewCount(), reached);
 
     Cells cells;
-    for (int view = 0; view < reached; ++view)
+    for (int view = 0; view < reached; ++view) {
         cells += {view, 24, 720};
+    }
     QCOMPARE(changedBy(oneEntry("Horizontal Size", 720), before), expected(before, cells));
 }
 
-void WorkingRecordTest::countFromOutsideIsKept_data()
+void TestWorkingRecord::countFromOutsideIsKept_data()
 {
     addCounts();
 }
 
-void WorkingRecordTest::countFromOutsideIsKept()
+void TestWorkingRecord::countFromOutsideIsKept()
 {
     QFETCH(int, count);
     WorkingRecord record = noisyRecord(count);
@@ -110,7 +111,7 @@ void WorkingRecordTest::countFromOutsideIsKept()
     QCOMPARE(int(record.settings.num_views), count);
 }
 
-void WorkingRecordTest::recordCopiedInAndOutWithoutEditIsUnchanged()
+void TestWorkingRecord::recordCopiedInAndOutWithoutEditIsUnchanged()
 {
     KvMvcSettings given;
     const WorkingRecord noise = noisyRecord(2);
@@ -128,7 +129,7 @@ void WorkingRecordTest::recordCopiedInAndOutWithoutEditIsUnchanged()
     QVERIFY(std::memcmp(&returned, &noise, sizeof returned) == 0);
 }
 
-void WorkingRecordTest::furtherSlotsAreNoPartOfTheRecord()
+void TestWorkingRecord::furtherSlotsAreNoPartOfTheRecord()
 {
     WorkingRecord record = noisyRecord(2);
     const KvMvcSettings before = record.settings;
@@ -137,7 +138,7 @@ void WorkingRecordTest::furtherSlotsAreNoPartOfTheRecord()
     QVERIFY(std::memcmp(&before, &record.settings, sizeof before) == 0);
 }
 
-void WorkingRecordTest::resetFurtherViewsAreLikeTheSecond()
+void TestWorkingRecord::resetFurtherViewsAreLikeTheSecond()
 {
     WorkingRecord record = noisyRecord(2);
     const QByteArray before = bytesOf(record);
@@ -148,16 +149,18 @@ void WorkingRecordTest::resetFurtherViewsAreLikeTheSecond()
     QVERIFY(after.mid(25204, 8316) == before.mid(8572, 8316));
 }
 
-void WorkingRecordTest::followingViewsKeepTheirRateControlOnly()
+void TestWorkingRecord::followingViewsKeepTheirRateControlOnly()
 {
     WorkingRecord record = noisyRecord(2);
     const QByteArray before = bytesOf(record);
     QByteArray expected = before.left(16888);
     for (const int view : {2, 3}) {
         QByteArray bytes = before.mid(8572, 8316);
-        for (const ledger::Setting& setting : ledger::settings())
-            if (setting.isOfEachView())
+        for (const ledger::Setting& setting : ledger::settings()) {
+            if (setting.isOfEachView()) {
                 bytes.replace(setting.offset, 4, before.mid(setting.position(view), 4));
+            }
+        }
         expected += bytes;
     }
     followSecondView(record);
@@ -165,14 +168,14 @@ void WorkingRecordTest::followingViewsKeepTheirRateControlOnly()
     QVERIFY(!differences(before, expected).isEmpty());
 }
 
-void WorkingRecordTest::twoViewsShowOneAdditionalView()
+void TestWorkingRecord::twoViewsShowOneAdditionalView()
 {
     const WorkingRecord record = noisyRecord(2);
     QCOMPARE(describeViews(Vocabulary(), 0, record).value(QStringLiteral("Number of views")),
              QVariant(1));
 }
 
-void WorkingRecordTest::frameRateOfZeroShows0()
+void TestWorkingRecord::frameRateOfZeroShows0()
 {
     WorkingRecord record = noisyRecord(1);
     put(record, {{0, 32, 0.0}});
@@ -181,5 +184,5 @@ void WorkingRecordTest::frameRateOfZeroShows0()
         QVariant(QStringLiteral("0")));
 }
 
-QTEST_APPLESS_MAIN(WorkingRecordTest)
+QTEST_APPLESS_MAIN(TestWorkingRecord)
 #include "tst_working_record.moc"

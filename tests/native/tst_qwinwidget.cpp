@@ -38,8 +38,9 @@ public:
 protected:
     bool eventFilter(QObject* object, QEvent* event) override
     {
-        if (event->type() == m_type && object->isWidgetType())
+        if (event->type() == m_type && object->isWidgetType()) {
             ++m_count;
+        }
         return false;
     }
 
@@ -108,8 +109,9 @@ TestQWinWidget::Fields::Fields(NativeWindowHandle window, bool firstEnabled)
     : host(window), first(new QLineEdit), second(new QLineEdit), third(new QLineEdit)
 {
     auto* const layout = new QVBoxLayout(&host);
-    for (QLineEdit* field : {first, second, third})
+    for (QLineEdit* field : {first, second, third}) {
         layout->addWidget(field);
+    }
     first->setEnabled(firstEnabled);
     host.show();
     QApplication::setActiveWindow(&host);
@@ -337,8 +339,9 @@ void TestQWinWidget::nativeFocusMessage()
     QFETCH(bool, firstEnabled);
     QFETCH(QByteArray, focused);
     Fields fields(windowNamed('H'), firstEnabled);
-    for (QWidget* widget : QWidgetList{&fields.host, fields.first, fields.second, fields.third})
+    for (QWidget* widget : QWidgetList{&fields.host, fields.first, fields.second, fields.third}) {
         widget->setAttribute(Qt::WA_KeyboardFocusChange, false);
+    }
     recordedNativeWindow().reason = reason;
     QWinWidget::MessageResult result = 0;
     QVERIFY(!fields.host.nativeEvent("windows_generic_MSG", nullptr, &result));

@@ -63,8 +63,9 @@ struct Embedded {
         : widget(host.window()), first(new QLineEdit), second(new QLineEdit), third(new QLineEdit)
     {
         auto* const layout = new QVBoxLayout(&widget);
-        for (QLineEdit* field : {first, second, third})
+        for (QLineEdit* field : {first, second, third}) {
             layout->addWidget(field);
+        }
         widget.setGeometry(10, 50, 300, 200);
         widget.show();
         host.setNextWindow(window());
@@ -197,8 +198,9 @@ void TestWin32Embedding::dialogStartsInItsFirstField()
     auto* const first = new QLineEdit;
     layout->addWidget(first);
     layout->addWidget(new QLineEdit);
-    if (activatedBefore)
+    if (activatedBefore) {
         QApplication::setActiveWindow(&dialog);
+    }
     bool focused = false;
     QTimer::singleShot(0, &dialog, [&] {
         focused = QTest::qWaitFor([&] { return QApplication::focusWidget() == first; });

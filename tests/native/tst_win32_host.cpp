@@ -95,14 +95,16 @@ public:
     /// Puts the window there, with the focus in its field, and opens the dialog by its menu.
     bool openDialog(const QRect& place)
     {
-        if (!QTest::qWaitFor([this] { return window() != nullptr; }, patience))
+        if (!QTest::qWaitFor([this] { return window() != nullptr; }, patience)) {
             return false;
+        }
         SetWindowPos(window(), nullptr, place.x(), place.y(), place.width(), place.height(),
                      SWP_NOZORDER);
         SetForegroundWindow(window());
         if (!QTest::qWaitFor([this] { return windowWithFocus() == control(controlName); },
-                             patience))
+                             patience)) {
             return false;
+        }
         // The example writes there again as soon as the call has returned.
         SendMessageW(control(controlResult), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
         PostMessageW(window(), WM_COMMAND, menuSettings, 0);
@@ -129,8 +131,9 @@ private:
         while ((found = FindWindowExW(nullptr, found, windowClass, title)) != nullptr) {
             DWORD process = 0;
             GetWindowThreadProcessId(found, &process);
-            if (process == DWORD(m_process.processId()) && IsWindowVisible(found))
+            if (process == DWORD(m_process.processId()) && IsWindowVisible(found)) {
                 return found;
+            }
         }
         return nullptr;
     }
@@ -215,8 +218,10 @@ void TestWin32Host::closed()
     Example example;
     QVERIFY(example.openDialog(QRect(100, 100, 600, 400)));
     // From the tabs to the picture's width.
-    for (const WORD key : {WORD(VK_TAB), WORD(VK_TAB), WORD('1'), WORD('2'), WORD('8'), WORD('0')})
+    for (const WORD key :
+         {WORD(VK_TAB), WORD(VK_TAB), WORD('1'), WORD('2'), WORD('8'), WORD('0')}) {
         press(key);
+    }
     if (way == "close") {
         // A posted message would overtake the keys.
         QTest::qWait(500);

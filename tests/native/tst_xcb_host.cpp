@@ -56,8 +56,9 @@ public:
     QRect frame(xcb_window_t window) const
     {
         while (const xcb_window_t parent = parentOf(window)) {
-            if (parent == root())
+            if (parent == root()) {
                 break;
+            }
             window = parent;
         }
         return place(window);
@@ -92,8 +93,9 @@ private:
         const std::unique_ptr<xcb_get_property_reply_t, Free> reply(xcb_get_property_reply(
             m_server, xcb_get_property(m_server, 0, window, atom(name), XCB_ATOM_ANY, 0, 64),
             nullptr));
-        if (!reply || reply->format != 32)
+        if (!reply || reply->format != 32) {
             return {};
+        }
         const auto* const values = static_cast<const quint32*>(xcb_get_property_value(reply.get()));
         return QVector<quint32>(values, values + reply->value_len);
     }
@@ -178,8 +180,9 @@ public:
     /// What the example says next; empty when it says nothing.
     QString nextLine()
     {
-        if (!QTest::qWaitFor([this] { return m_process.canReadLine(); }, patience))
+        if (!QTest::qWaitFor([this] { return m_process.canReadLine(); }, patience)) {
             return {};
+        }
         return QString::fromUtf8(m_process.readLine()).trimmed();
     }
     bool saidNothing() { return !m_process.canReadLine(); }

@@ -21,8 +21,9 @@ AllPages::AllPages()
 
 void AllPages::receive(const ConfigState& state)
 {
-    for (SettingsPage* page : containers())
+    for (SettingsPage* page : containers()) {
         page->receiveState(state);
+    }
 }
 
 bool AllPages::show()

@@ -61,9 +61,11 @@ QString fullName(const Control& control)
 
 SettingsPage* pageOf(const QWidget* widget)
 {
-    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (auto* page = qobject_cast<SettingsPage*>(parent))
+    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* page = qobject_cast<SettingsPage*>(parent)) {
             return page;
+        }
+    }
     return nullptr;
 }
 
@@ -72,10 +74,12 @@ QWidget* findOnPage(const QWidget* window, const QString& pageClass, const QStri
     QWidget* found = nullptr;
     for (QWidget* widget : window->findChildren<QWidget*>(name)) {
         const SettingsPage* const page = pageOf(widget);
-        if (!page || pageClass != QLatin1String(page->metaObject()->className()))
+        if (!page || pageClass != QLatin1String(page->metaObject()->className())) {
             continue;
-        if (found)
+        }
+        if (found) {
             return nullptr;
+        }
         found = widget;
     }
     return found;
@@ -84,20 +88,26 @@ QWidget* findOnPage(const QWidget* window, const QString& pageClass, const QStri
 QVariant shown(const QWidget* window, const Control& control)
 {
     if (control.name == QLatin1String("units")) {
-        for (int id = 0; id < unitCount; ++id)
-            if (unitButton(window, control.page, id)->isChecked())
+        for (int id = 0; id < unitCount; ++id) {
+            if (unitButton(window, control.page, id)->isChecked()) {
                 return id;
+            }
+        }
         return -1;
     }
     QWidget* const widget = findOnPage(window, control.page, control.name);
-    if (auto* list = qobject_cast<QComboBox*>(widget))
+    if (auto* list = qobject_cast<QComboBox*>(widget)) {
         return list->currentIndex() < 0 ? QStringLiteral("") : list->currentText();
-    if (auto* number = qobject_cast<QSpinBox*>(widget))
+    }
+    if (auto* number = qobject_cast<QSpinBox*>(widget)) {
         return number->value();
-    if (auto* slider = qobject_cast<QAbstractSlider*>(widget))
+    }
+    if (auto* slider = qobject_cast<QAbstractSlider*>(widget)) {
         return slider->value();
-    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         return button->isChecked();
+    }
     return {};
 }
 
@@ -106,18 +116,22 @@ bool isEnabledOnPage(const QWidget* window, const Control& control)
     const bool isGroup = control.name == QLatin1String("units");
     const QString name = isGroup ? QStringLiteral("units1Radio") : control.name;
     const QWidget* const widget = findOnPage(window, control.page, name);
-    if (!widget || !widget->isEnabledTo(pageOf(widget)))
+    if (!widget || !widget->isEnabledTo(pageOf(widget))) {
         return false;
-    for (int id = 1; isGroup && id < unitCount; ++id)
-        if (!unitButton(window, control.page, id)->isEnabledTo(pageOf(widget)))
+    }
+    for (int id = 1; isGroup && id < unitCount; ++id) {
+        if (!unitButton(window, control.page, id)->isEnabledTo(pageOf(widget))) {
             return false;
+        }
+    }
     return true;
 }
 
 ConfigState stateOf(QVariant Control::*value)
 {
     ConfigState state;
-    for (const Control& control : controls())
+    for (const Control& control : controls()) {
         state.insert(control.key, control.*value);
+    }
     return state;
 }

@@ -23,9 +23,10 @@ QString written(const QVariant& value)
 QString written(const ConfigState& state)
 {
     QStringList entries;
-    for (auto entry = state.entries().begin(); entry != state.entries().end(); ++entry)
+    for (auto entry = state.entries().begin(); entry != state.entries().end(); ++entry) {
         entries += entry.key() + QLatin1Char('=') + written(entry->value) +
                    (entry->enabled ? QString() : QStringLiteral(" (disabled)"));
+    }
     return entries.join(QStringLiteral("; "));
 }
 

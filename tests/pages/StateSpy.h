@@ -33,7 +33,8 @@ private:
 inline QStringList lines(std::initializer_list<const char*> texts)
 {
     QStringList list;
-    for (const char* text : texts)
+    for (const char* text : texts) {
         list += QString::fromUtf8(text);
+    }
     return list;
 }

@@ -12,7 +12,7 @@
 #include <QTest>
 
 /// The "Advanced Settings" tab: profile, level, and four sections.
-class AdvancedPageTest : public QObject
+class TestAdvancedPage : public QObject
 {
     Q_OBJECT
 
@@ -43,21 +43,22 @@ QComboBox* list(AllPages& pages, const char* name)
 QStringList items(const QComboBox* box)
 {
     QStringList texts;
-    for (int i = 0; i < box->count(); ++i)
+    for (int i = 0; i < box->count(); ++i) {
         texts += box->itemText(i);
+    }
     return texts;
 }
 
 } // namespace
 
-void AdvancedPageTest::sectionsComeInOrder()
+void TestAdvancedPage::sectionsComeInOrder()
 {
     AllPages pages;
     QCOMPARE(sectionTitles(pages.advanced),
              lines({"GOP Structure", "Motion Estimation", "Rate Distortion", "Miscellaneous"}));
 }
 
-void AdvancedPageTest::listsHoldTheNamesInTheMapsOrder()
+void TestAdvancedPage::listsHoldTheNamesInTheMapsOrder()
 {
     AllPages pages;
     const Vocabulary vocabulary;
@@ -66,11 +67,12 @@ void AdvancedPageTest::listsHoldTheNamesInTheMapsOrder()
     QCOMPARE(items(list(pages, "levelList")),
              lines({"1.0", "1.1", "1.2", "1.3", "1.6", "2.0", "2.1", "2.2", "3.0", "3.1", "3.2",
                     "4.0", "4.1", "4.2", "5.0", "5.1", "5.2", "Auto"}));
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         QVERIFY(!list(pages, "profileList")->itemData(i).isValid());
+    }
 }
 
-void AdvancedPageTest::listsAreReplacedByTheNextMaps()
+void TestAdvancedPage::listsAreReplacedByTheNextMaps()
 {
     AllPages pages;
     pages.advanced->setProfileLevelLists({{QStringLiteral("b"), 1}, {QStringLiteral("a"), 2}},
@@ -80,14 +82,14 @@ void AdvancedPageTest::listsAreReplacedByTheNextMaps()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void AdvancedPageTest::textThatIsNoItemLeavesNoneAndReportsNothing_data()
+void TestAdvancedPage::textThatIsNoItemLeavesNoneAndReportsNothing_data()
 {
     QTest::addColumn<QString>("key");
     QTest::newRow("profileList") << QStringLiteral("Profile");
     QTest::newRow("levelList") << QStringLiteral("Level");
 }
 
-void AdvancedPageTest::textThatIsNoItemLeavesNoneAndReportsNothing()
+void TestAdvancedPage::textThatIsNoItemLeavesNoneAndReportsNothing()
 {
     QFETCH(QString, key);
     AllPages pages;
@@ -100,7 +102,7 @@ void AdvancedPageTest::textThatIsNoItemLeavesNoneAndReportsNothing()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void AdvancedPageTest::disabledLevelGreysTheLevelListAlone()
+void TestAdvancedPage::disabledLevelGreysTheLevelListAlone()
 {
     AllPages pages;
     ConfigState state = stateOf(&Control::a);
@@ -111,7 +113,7 @@ void AdvancedPageTest::disabledLevelGreysTheLevelListAlone()
     QCOMPARE(list(pages, "levelList")->currentText(), QStringLiteral("4.1"));
 }
 
-void AdvancedPageTest::choosingAProfileReportsTheProfileAlone()
+void TestAdvancedPage::choosingAProfileReportsTheProfileAlone()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -121,7 +123,7 @@ void AdvancedPageTest::choosingAProfileReportsTheProfileAlone()
     QCOMPARE(list(pages, "levelList")->currentText(), QStringLiteral("4.1"));
 }
 
-void AdvancedPageTest::editOfAnyChildIsForwarded_data()
+void TestAdvancedPage::editOfAnyChildIsForwarded_data()
 {
     QTest::addColumn<QString>("box");
     QTest::addColumn<QStringList>("states");
@@ -134,7 +136,7 @@ void AdvancedPageTest::editOfAnyChildIsForwarded_data()
     row("MiscPage", "deblockingCheck", "Deblocking=true");
 }
 
-void AdvancedPageTest::editOfAnyChildIsForwarded()
+void TestAdvancedPage::editOfAnyChildIsForwarded()
 {
     QFETCH(QString, box);
     AllPages pages;
@@ -147,7 +149,7 @@ void AdvancedPageTest::editOfAnyChildIsForwarded()
     QTEST(states, "states");
 }
 
-void AdvancedPageTest::titlesAreBoldAndThePagesNormal()
+void TestAdvancedPage::titlesAreBoldAndThePagesNormal()
 {
     AllPages pages;
     QVERIFY(pages.advanced->findChild<ToolBox*>()->font().weight() == QFont::Bold);
@@ -164,5 +166,5 @@ void AdvancedPageTest::titlesAreBoldAndThePagesNormal()
     }
 }
 
-QTEST_MAIN(AdvancedPageTest)
+QTEST_MAIN(TestAdvancedPage)
 #include "tst_advanced_page.moc"

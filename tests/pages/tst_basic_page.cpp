@@ -14,7 +14,7 @@
 #include <memory>
 
 /// The "Basic Settings" tab: one section, and a device selector that nobody sees.
-class BasicPageTest : public QObject
+class TestBasicPage : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ const QString videoFormat = QStringLiteral("VideoFormatPage");
 
 } // namespace
 
-void BasicPageTest::deviceSelectorIsNeverVisible()
+void TestBasicPage::deviceSelectorIsNeverVisible()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -57,13 +57,13 @@ void BasicPageTest::deviceSelectorIsNeverVisible()
     }
 }
 
-void BasicPageTest::videoFormatIsTheOnlySection()
+void TestBasicPage::videoFormatIsTheOnlySection()
 {
     AllPages pages;
     QCOMPARE(sectionTitles(pages.basic), lines({"Video Format"}));
 }
 
-void BasicPageTest::collapsingTheOnlySectionLeavesItsRow()
+void TestBasicPage::collapsingTheOnlySectionLeavesItsRow()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -71,17 +71,19 @@ void BasicPageTest::collapsingTheOnlySectionLeavesItsRow()
     QVERIFY(button);
     user::click(button);
     QStringList visible;
-    for (const QWidget* widget : pages.basic->findChildren<QWidget*>())
+    for (const QWidget* widget : pages.basic->findChildren<QWidget*>()) {
         if (widget->isVisible() &&
             (widget->inherits("QLabel") || widget->inherits("QComboBox") ||
-             widget->inherits("QAbstractSpinBox") || widget->inherits("QAbstractButton")))
+             widget->inherits("QAbstractSpinBox") || widget->inherits("QAbstractButton"))) {
             visible +=
                 widget == button ? QStringLiteral("button") : widget->property("text").toString();
+        }
+    }
     visible.sort();
     QCOMPARE(visible, lines({"Video Format", "button"}));
 }
 
-void BasicPageTest::titlesAreBoldAndThePageNormal()
+void TestBasicPage::titlesAreBoldAndThePageNormal()
 {
     AllPages pages;
     QVERIFY(pages.basic->findChild<ToolBox*>()->font().weight() == QFont::Bold);
@@ -91,7 +93,7 @@ void BasicPageTest::titlesAreBoldAndThePageNormal()
     QVERIFY(pageOf(label)->font().weight() == QFont::Normal);
 }
 
-void BasicPageTest::editOfTheChildIsForwardedUnchanged()
+void TestBasicPage::editOfTheChildIsForwardedUnchanged()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -103,7 +105,7 @@ void BasicPageTest::editOfTheChildIsForwardedUnchanged()
     QCOMPARE(pages.spy.take(), lines({"Interlace='MBAFF'"}));
 }
 
-void BasicPageTest::stateReachesTheChild()
+void TestBasicPage::stateReachesTheChild()
 {
     BasicPage page;
     ConfigState state;
@@ -113,7 +115,7 @@ void BasicPageTest::stateReachesTheChild()
              QStringLiteral("MBAFF"));
 }
 
-void BasicPageTest::frameRateItemReachesTheChild()
+void TestBasicPage::frameRateItemReachesTheChild()
 {
     BasicPage page;
     const auto* const list = page.findChild<QComboBox*>(QStringLiteral("framerateList"));
@@ -122,7 +124,7 @@ void BasicPageTest::frameRateItemReachesTheChild()
     QCOMPARE(list->itemText(14), QStringLiteral("48"));
 }
 
-void BasicPageTest::childBelongsToThePage()
+void TestBasicPage::childBelongsToThePage()
 {
     auto page = std::make_unique<BasicPage>();
     QPointer<QWidget> child = page->findChild<SettingsPage*>();
@@ -131,5 +133,5 @@ void BasicPageTest::childBelongsToThePage()
     QVERIFY(!child);
 }
 
-QTEST_MAIN(BasicPageTest)
+QTEST_MAIN(TestBasicPage)
 #include "tst_basic_page.moc"

@@ -15,7 +15,7 @@
 
 /// What is particular to the pages of coding tools: GOP structure, motion estimation, rate
 /// distortion, miscellaneous.
-class CodingPagesTest : public QObject
+class TestCodingPages : public QObject
 {
     Q_OBJECT
 
@@ -70,7 +70,7 @@ void receive(AllPages& pages, const char* key, const QVariant& value)
 
 } // namespace
 
-void CodingPagesTest::typing250IntoTheIntervalReportsThreeTimesAndBBetweenOnce()
+void TestCodingPages::typing250IntoTheIntervalReportsThreeTimesAndBBetweenOnce()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -87,7 +87,7 @@ void CodingPagesTest::typing250IntoTheIntervalReportsThreeTimesAndBBetweenOnce()
     QCOMPARE(pages.spy.take(), lines({"B Between=2"}));
 }
 
-void CodingPagesTest::intervalOf400Shows300AndReportsNothing()
+void TestCodingPages::intervalOf400Shows300AndReportsNothing()
 {
     AllPages pages;
     receive(pages, "Interval I", 400);
@@ -95,14 +95,15 @@ void CodingPagesTest::intervalOf400Shows300AndReportsNothing()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void CodingPagesTest::disabledEntryGreysOneControlOfTheGopPage_data()
+void TestCodingPages::disabledEntryGreysOneControlOfTheGopPage_data()
 {
     QTest::addColumn<QString>("key");
-    for (const ledger::Setting& setting : ledger::settingsOn("GOPStructurePage"))
+    for (const ledger::Setting& setting : ledger::settingsOn("GOPStructurePage")) {
         QTest::newRow(setting.control) << setting.keyOf();
+    }
 }
 
-void CodingPagesTest::disabledEntryGreysOneControlOfTheGopPage()
+void TestCodingPages::disabledEntryGreysOneControlOfTheGopPage()
 {
     QFETCH(QString, key);
     AllPages pages;
@@ -110,14 +111,16 @@ void CodingPagesTest::disabledEntryGreysOneControlOfTheGopPage()
     state.insert(key, 1, false);
     pages.receive(state);
     QStringList disabled;
-    for (const QWidget* widget : pages.advanced->findChildren<QWidget*>())
+    for (const QWidget* widget : pages.advanced->findChildren<QWidget*>()) {
         // Parts of a control go with it.
-        if (!widget->isEnabled() && widget->parentWidget()->isEnabled())
+        if (!widget->isEnabled() && widget->parentWidget()->isEnabled()) {
             disabled += widget->objectName();
+        }
+    }
     QCOMPARE(disabled, QStringList(QLatin1String(QTest::currentDataTag())));
 }
 
-void CodingPagesTest::tickingFastSubblockReportsItAlone()
+void TestCodingPages::tickingFastSubblockReportsItAlone()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -125,7 +128,7 @@ void CodingPagesTest::tickingFastSubblockReportsItAlone()
     QCOMPARE(pages.spy.take(), lines({"Fast Subblock=true"}));
 }
 
-void CodingPagesTest::motionSearchOf128Shows99AndReportsNothing()
+void TestCodingPages::motionSearchOf128Shows99AndReportsNothing()
 {
     AllPages pages;
     receive(pages, "Motion Search", 128);
@@ -133,21 +136,22 @@ void CodingPagesTest::motionSearchOf128Shows99AndReportsNothing()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void CodingPagesTest::unknownSubpixelTextLeavesNoItem()
+void TestCodingPages::unknownSubpixelTextLeavesNoItem()
 {
     AllPages pages;
     receive(pages, "Subpixel Search", QStringLiteral("Eighth"));
     QCOMPARE(find<QComboBox>(pages, motion, "subSearchList")->currentIndex(), -1);
 }
 
-void CodingPagesTest::searchListsAreEmptyUntilFilled()
+void TestCodingPages::searchListsAreEmptyUntilFilled()
 {
     const MotionEstimationPage page;
-    for (const QComboBox* list : page.findChildren<QComboBox*>())
+    for (const QComboBox* list : page.findChildren<QComboBox*>()) {
         QCOMPARE(list->count(), 0);
+    }
 }
 
-void CodingPagesTest::fillingTheSearchListsTwiceKeepsTheItemsOnce()
+void TestCodingPages::fillingTheSearchListsTwiceKeepsTheItemsOnce()
 {
     MotionEstimationPage page;
     page.fillSearchLists();
@@ -156,7 +160,7 @@ void CodingPagesTest::fillingTheSearchListsTwiceKeepsTheItemsOnce()
     QCOMPARE(page.findChild<QComboBox*>(QStringLiteral("subSearchList"))->count(), 3);
 }
 
-void CodingPagesTest::draggingTheSliderReportsEveryValuePassed()
+void TestCodingPages::draggingTheSliderReportsEveryValuePassed()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -182,8 +186,9 @@ void CodingPagesTest::draggingTheSliderReportsEveryValuePassed()
     while (slider->value() < 40 && place.x() < slider->width()) {
         place.rx() += 1;
         QTest::mouseMove(slider, place);
-        if (slider->value() != last)
+        if (slider->value() != last) {
             expected += QStringLiteral("Contrast=%1").arg(slider->value());
+        }
         last = slider->value();
     }
     QTest::mouseRelease(slider, Qt::LeftButton, {}, place);
@@ -192,7 +197,7 @@ void CodingPagesTest::draggingTheSliderReportsEveryValuePassed()
     QCOMPARE(pages.spy.take(), expected);
 }
 
-void CodingPagesTest::readOutFollowsOnlyTheState()
+void TestCodingPages::readOutFollowsOnlyTheState()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -206,7 +211,7 @@ void CodingPagesTest::readOutFollowsOnlyTheState()
     QCOMPARE(readOut->text(), QStringLiteral("20"));
 }
 
-void CodingPagesTest::readOutShows_data()
+void TestCodingPages::readOutShows_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("number");
@@ -226,7 +231,7 @@ void CodingPagesTest::readOutShows_data()
     }
 }
 
-void CodingPagesTest::readOutShows()
+void TestCodingPages::readOutShows()
 {
     QFETCH(QString, key);
     QFETCH(int, number);
@@ -239,7 +244,7 @@ void CodingPagesTest::readOutShows()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void CodingPagesTest::threads0ShowsAuto()
+void TestCodingPages::threads0ShowsAuto()
 {
     AllPages pages;
     receive(pages, "Threads", 0);
@@ -248,7 +253,7 @@ void CodingPagesTest::threads0ShowsAuto()
     QCOMPARE(find<QSpinBox>(pages, misc, "threadsSpin")->text(), QStringLiteral("1"));
 }
 
-void CodingPagesTest::steppingDownFrom1ReportsThreads0()
+void TestCodingPages::steppingDownFrom1ReportsThreads0()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -261,7 +266,7 @@ void CodingPagesTest::steppingDownFrom1ReportsThreads0()
     QCOMPARE(pages.spy.take(), lines({"Threads=0"}));
 }
 
-void CodingPagesTest::slices0Shows1AndReportsNothing()
+void TestCodingPages::slices0Shows1AndReportsNothing()
 {
     AllPages pages;
     receive(pages, "Slices", 0);
@@ -269,12 +274,12 @@ void CodingPagesTest::slices0Shows1AndReportsNothing()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void CodingPagesTest::unknownEntropyTextLeavesNoItem()
+void TestCodingPages::unknownEntropyTextLeavesNoItem()
 {
     AllPages pages;
     receive(pages, "Entropy", QStringLiteral("cabac"));
     QCOMPARE(find<QComboBox>(pages, misc, "entropyList")->currentIndex(), -1);
 }
 
-QTEST_MAIN(CodingPagesTest)
+QTEST_MAIN(TestCodingPages)
 #include "tst_coding_pages.moc"

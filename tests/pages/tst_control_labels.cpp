@@ -6,7 +6,7 @@
 #include <QTest>
 
 /// Labels are one with the control that they stand beside.
-class ControlLabelsTest : public QObject
+class TestControlLabels : public QObject
 {
     Q_OBJECT
 
@@ -46,10 +46,13 @@ bool isSlider(const ledger::Setting& setting)
 /// The setting that the key stands for in any view.
 const ledger::Setting& settingOf(const QString& key)
 {
-    for (const ledger::Setting& setting : ledger::settings())
-        for (int view = 0; setting.key && view < setting.viewCount(); ++view)
-            if (setting.keyOf(view) == key)
+    for (const ledger::Setting& setting : ledger::settings()) {
+        for (int view = 0; setting.key && view < setting.viewCount(); ++view) {
+            if (setting.keyOf(view) == key) {
                 return setting;
+            }
+        }
+    }
     qFatal("no setting has the key %s", qPrintable(key));
 }
 
@@ -57,14 +60,15 @@ const ledger::Setting& settingOf(const QString& key)
 ConfigState without(const QStringList& keys)
 {
     ConfigState state = stateOf(&Control::a);
-    for (const QString& key : keys)
+    for (const QString& key : keys) {
         state.insert(key, state.value(key), false);
+    }
     return state;
 }
 
 } // namespace
 
-void ControlLabelsTest::rows()
+void TestControlLabels::rows()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("label");
@@ -76,19 +80,23 @@ void ControlLabelsTest::rows()
             << QString::fromLatin1(setting.control) << setting.keyOf(view);
     };
     for (const ledger::Setting& setting : ledger::settings()) {
-        if (!setting.label || setting.is("video_type"))
+        if (!setting.label || setting.is("video_type")) {
             continue;
-        for (int view = 0; view < setting.viewCount(); ++view)
+        }
+        for (int view = 0; view < setting.viewCount(); ++view) {
             row(setting, view, setting.label);
+        }
         // Two labels make the sentence of the IDR marker, two stand beside a slider.
-        if (setting.is("idr_marker"))
+        if (setting.is("idr_marker")) {
             row(setting, 0, "label_2");
-        if (isSlider(setting))
+        }
+        if (isSlider(setting)) {
             row(setting, 0, qPrintable(QLatin1String(setting.member) + QLatin1String("Label")));
+        }
     }
 }
 
-void ControlLabelsTest::labelShowsTheControlsTip()
+void TestControlLabels::labelShowsTheControlsTip()
 {
     QFETCH(QString, page);
     QFETCH(QString, label);
@@ -99,7 +107,7 @@ void ControlLabelsTest::labelShowsTheControlsTip()
     QCOMPARE(labelOn(pages, page, label)->toolTip(), tip);
 }
 
-void ControlLabelsTest::labelFollowsAnotherTip()
+void TestControlLabels::labelFollowsAnotherTip()
 {
     AllPages pages;
     const QString page = QStringLiteral("MiscPage");
@@ -108,7 +116,7 @@ void ControlLabelsTest::labelFollowsAnotherTip()
     QCOMPARE(labelOn(pages, page, QStringLiteral("label_3"))->toolTip(), QStringLiteral("another"));
 }
 
-void ControlLabelsTest::labelIsGreyWhileTheControlIsDisabled()
+void TestControlLabels::labelIsGreyWhileTheControlIsDisabled()
 {
     QFETCH(QString, page);
     QFETCH(QString, label);
@@ -128,15 +136,16 @@ void ControlLabelsTest::labelIsGreyWhileTheControlIsDisabled()
     // To look at only: a page disables controls, and nothing else.
     QVERIFY(shown->isEnabledTo(shown->parentWidget()));
     int grey = 0;
-    for (const QLabel* other : pages.window()->findChildren<QLabel*>())
+    for (const QLabel* other : pages.window()->findChildren<QLabel*>()) {
         grey += isGrey(other);
+    }
     const bool twice = setting.is("idr_marker") || isSlider(setting);
     QCOMPARE(grey, twice ? 2 : 1);
     pages.receive(without({}));
     QVERIFY(!isGrey(shown));
 }
 
-void ControlLabelsTest::labelOfADisabledPageIsGreyOnce()
+void TestControlLabels::labelOfADisabledPageIsGreyOnce()
 {
     AllPages pages;
     ConfigState state = without({});
@@ -148,7 +157,7 @@ void ControlLabelsTest::labelOfADisabledPageIsGreyOnce()
     QVERIFY(!isGrey(label));
 }
 
-void ControlLabelsTest::everyBuddyIsFollowed()
+void TestControlLabels::everyBuddyIsFollowed()
 {
     AllPages pages;
     int labels = 0;
@@ -156,18 +165,21 @@ void ControlLabelsTest::everyBuddyIsFollowed()
         QWidget* const control = label->buddy();
         // The sections' buttons are not named by a label that stands for a setting.
         if (!control || control->inherits("QToolButton") ||
-            control->objectName() == QLatin1String("deviceList"))
+            control->objectName() == QLatin1String("deviceList")) {
             continue;
+        }
         ++labels;
         control->setEnabled(false);
         QVERIFY2(isGrey(label), qPrintable(label->text()));
     }
     int wanted = 0;
-    for (const ledger::Setting& setting : ledger::settings())
-        if (setting.label && !setting.is("video_type"))
+    for (const ledger::Setting& setting : ledger::settings()) {
+        if (setting.label && !setting.is("video_type")) {
             wanted += setting.viewCount();
+        }
+    }
     QCOMPARE(labels, wanted);
 }
 
-QTEST_MAIN(ControlLabelsTest)
+QTEST_MAIN(TestControlLabels)
 #include "tst_control_labels.moc"

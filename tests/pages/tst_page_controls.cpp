@@ -6,7 +6,7 @@
 #include <QTest>
 
 /// Every control as it is built: kind, range, step, first value, items, width, label.
-class PageControlsTest : public QObject
+class TestPageControls : public QObject
 {
     Q_OBJECT
 
@@ -204,7 +204,7 @@ QVector<Built> viewsPages()
     const auto unit = [](const char* text) {
         return Properties{{"text", QString::fromLatin1(text)}, {"checked", false}};
     };
-    for (const char* page : {"View0Page", "View1Page", "View2Page", "View3Page"})
+    for (const char* page : {"View0Page", "View1Page", "View2Page", "View3Page"}) {
         all += {
             {page, "bitrateModeList", comboBox,
              width(140, 240) +
@@ -215,8 +215,7 @@ QVector<Built> viewsPages()
             {page, "groupBox", "QGroupBox", {{"title", QStringLiteral("Units")}}},
             {page, "units1Radio", radio, unit("Bitrate buffer (bytes), VBV buffers (%)")},
             {page, "units2Radio", radio, unit("Bitrate buffer (bits), VBV buffers (bits)")},
-            {page, "units3Radio", radio,
-             unit("Bitrate buffer (bits), VBV buffers (90  kHz clock)")},
+            {page, "units3Radio", radio, unit("Bitrate buffer (bits), VBV buffers (90  hz clock)")},
             {page, "bitrateBufferSpin", spinBox, amount},
             {page, "vbvInitialSpin", spinBox, amount},
             {page, "vbvTargetSpin", spinBox, amount},
@@ -233,18 +232,22 @@ QVector<Built> viewsPages()
             {page, "line_2", "QFrame", {{"minimumHeight", 16}}},
             {page, "line_3", "QFrame", {{"minimumHeight", 16}}},
         };
+    }
     return all;
 }
 
 QVariant propertyOf(const QWidget* widget, const QByteArray& name)
 {
-    if (name == "horizontalAlignment")
+    if (name == "horizontalAlignment") {
         return widget->property("alignment").toInt() & int(Qt::AlignHorizontal_Mask) &
                ~int(Qt::AlignAbsolute);
-    if (name == "horizontalPolicy")
+    }
+    if (name == "horizontalPolicy") {
         return int(widget->sizePolicy().horizontalPolicy());
-    if (name == "verticalPolicy")
+    }
+    if (name == "verticalPolicy") {
         return int(widget->sizePolicy().verticalPolicy());
+    }
     return widget->property(name.constData());
 }
 
@@ -264,10 +267,12 @@ const LabelRow labelRows[] = {
 /// What a setting's control is built as beyond the rows above.
 Properties ofLedger(const ledger::Setting& setting)
 {
-    if (setting.kind == ledger::Kind::Switch)
+    if (setting.kind == ledger::Kind::Switch) {
         return check(setting.caption);
-    if (setting.kind == ledger::Kind::Number)
+    }
+    if (setting.kind == ledger::Kind::Number) {
         return {{"minimum", setting.least}, {"maximum", setting.most}};
+    }
     return {{"enabled", true}};
 }
 
@@ -287,30 +292,33 @@ const char* kindOf(const ledger::Setting& setting)
 
 Q_DECLARE_METATYPE(Properties)
 
-void PageControlsTest::controlIsBuiltAs_data()
+void TestPageControls::controlIsBuiltAs_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("kind");
     QTest::addColumn<Properties>("properties");
     const QVector<Built> all = videoFormat() + advancedPages() + viewsPages();
-    for (const Built& built : all)
+    for (const Built& built : all) {
         QTest::newRow(qPrintable(
             QStringLiteral("%1.%2").arg(QLatin1String(built.page), QLatin1String(built.name))))
             << QString(QLatin1String(built.page)) << QString(QLatin1String(built.name))
             << QString(QLatin1String(built.kind)) << built.properties;
+    }
     for (const ledger::Setting& setting : ledger::settings()) {
         // The units are radio buttons, each with a row of its own.
-        if (!setting.key || setting.is("video_type") || setting.kind == ledger::Kind::Radio)
+        if (!setting.key || setting.is("video_type") || setting.kind == ledger::Kind::Radio) {
             continue;
-        for (int view = 0; view < setting.viewCount(); ++view)
+        }
+        for (int view = 0; view < setting.viewCount(); ++view) {
             QTest::addRow("%s.%s by the ledger", qPrintable(setting.pageOf(view)), setting.control)
                 << setting.pageOf(view) << QString(QLatin1String(setting.control))
                 << QString(QLatin1String(kindOf(setting))) << ofLedger(setting);
+        }
     }
 }
 
-void PageControlsTest::controlIsBuiltAs()
+void TestPageControls::controlIsBuiltAs()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -333,7 +341,7 @@ void PageControlsTest::controlIsBuiltAs()
     }
 }
 
-void PageControlsTest::labelReads_data()
+void TestPageControls::labelReads_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("label");
@@ -345,16 +353,20 @@ void PageControlsTest::labelReads_data()
             << page << QString(QLatin1String(label)) << QString(QLatin1String(text))
             << QString(QLatin1String(buddy));
     };
-    for (const LabelRow& label : labelRows)
+    for (const LabelRow& label : labelRows) {
         row(QLatin1String(label.page), label.label, label.text, label.buddy);
+    }
     // Those of the view pages before a state has set the units.
-    for (const ledger::Setting& setting : ledger::settings())
-        for (int view = 0; setting.label && view < setting.viewCount(); ++view)
-            if (!setting.is("video_type"))
+    for (const ledger::Setting& setting : ledger::settings()) {
+        for (int view = 0; setting.label && view < setting.viewCount(); ++view) {
+            if (!setting.is("video_type")) {
                 row(setting.pageOf(view), setting.label, setting.caption, setting.control);
+            }
+        }
+    }
 }
 
-void PageControlsTest::labelReads()
+void TestPageControls::labelReads()
 {
     QFETCH(QString, page);
     QFETCH(QString, label);
@@ -372,7 +384,7 @@ void PageControlsTest::labelReads()
     }
 }
 
-void PageControlsTest::listHasItemsInOrder_data()
+void TestPageControls::listHasItemsInOrder_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
@@ -389,15 +401,17 @@ void PageControlsTest::listHasItemsInOrder_data()
                "29.97", "30.00", "50.00", "59.94", "60.00"}));
     for (const ledger::Setting& setting : ledger::settings()) {
         // Presets, profiles and levels are the dialog's names; see TestDialogEdits.
-        if (setting.kind != ledger::Kind::List || setting.group == ledger::Group::Stream)
+        if (setting.kind != ledger::Kind::List || setting.group == ledger::Group::Stream) {
             continue;
-        for (int view = 0; view < setting.viewCount(); ++view)
+        }
+        for (int view = 0; view < setting.viewCount(); ++view) {
             row(qPrintable(setting.pageOf(view)), setting.control,
                 ledger::listedTexts(QString::fromLatin1(setting.member)));
+        }
     }
 }
 
-void PageControlsTest::listHasItemsInOrder()
+void TestPageControls::listHasItemsInOrder()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -413,16 +427,20 @@ void PageControlsTest::listHasItemsInOrder()
     QTEST(items, "items");
 }
 
-void PageControlsTest::everyControlIsKnown()
+void TestPageControls::everyControlIsKnown()
 {
     // Walks what was built, so that no control escapes the tables of these tests.
     QStringList known = lines({"BasicPage.deviceList", "VideoFormatPage.aspectRatioCheck"});
-    for (const Control& control : controls())
-        if (control.name != QLatin1String("units"))
+    for (const Control& control : controls()) {
+        if (control.name != QLatin1String("units")) {
             known += fullName(control);
-    for (int view = 0; view < 4; ++view)
-        for (const char* name : {"units1Radio", "units2Radio", "units3Radio", "onesecCheck"})
+        }
+    }
+    for (int view = 0; view < 4; ++view) {
+        for (const char* name : {"units1Radio", "units2Radio", "units3Radio", "onesecCheck"}) {
             known += QStringLiteral("View%1Page.%2").arg(view).arg(QLatin1String(name));
+        }
+    }
     known.sort();
 
     AllPages pages;
@@ -433,15 +451,16 @@ void PageControlsTest::everyControlIsKnown()
             widget->inherits("QSlider") || widget->inherits("QCheckBox") ||
             widget->inherits("QRadioButton") || widget->inherits("QPushButton") ||
             (widget->inherits("QLineEdit") && !widget->focusProxy());
-        if (isControl && pageOf(widget))
+        if (isControl && pageOf(widget)) {
             found += QLatin1String(pageOf(widget)->metaObject()->className()) + QLatin1Char('.') +
                      widget->objectName();
+        }
     }
     found.sort();
     QCOMPARE(found, known);
 }
 
-void PageControlsTest::eachKeyHasOneControl()
+void TestPageControls::eachKeyHasOneControl()
 {
     QStringList keys;
     QStringList names;
@@ -454,14 +473,15 @@ void PageControlsTest::eachKeyHasOneControl()
     QCOMPARE(names.removeDuplicates(), 0);
 }
 
-void PageControlsTest::eachControlHasOneKey_data()
+void TestPageControls::eachControlHasOneKey_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < controls().size(); ++i)
+    for (int i = 0; i < controls().size(); ++i) {
         QTest::newRow(qPrintable(controls()[i].key)) << i;
+    }
 }
 
-void PageControlsTest::eachControlHasOneKey()
+void TestPageControls::eachControlHasOneKey()
 {
     QFETCH(int, index);
     const Control& changed = controls()[index];
@@ -471,12 +491,14 @@ void PageControlsTest::eachControlHasOneKey()
     state.insert(changed.key, changed.b);
     pages.receive(state);
     QStringList moved;
-    for (const Control& control : controls())
-        if (shown(pages.window(), control) != control.a)
+    for (const Control& control : controls()) {
+        if (shown(pages.window(), control) != control.a) {
             moved += fullName(control);
+        }
+    }
     QCOMPARE(moved, QStringList(fullName(changed)));
     QCOMPARE(shown(pages.window(), changed), changed.b);
 }
 
-QTEST_MAIN(PageControlsTest)
+QTEST_MAIN(TestPageControls)
 #include "tst_page_controls.moc"

@@ -12,7 +12,7 @@
 #include <QTest>
 
 /// What the user does with a control comes out as states of one entry under the control's key.
-class PageEditsTest : public QObject
+class TestPageEdits : public QObject
 {
     Q_OBJECT
 
@@ -58,9 +58,10 @@ public:
     explicit OpenPages(const char* mode = "Variable Bitrate")
     {
         ConfigState state = stateOf(&Control::a);
-        for (int view = 0; view < 4; ++view)
+        for (int view = 0; view < 4; ++view) {
             state.insert(QStringLiteral("Bitrate Mode V%1").arg(view),
                          QString(QLatin1String(mode)));
+        }
         receive(state);
     }
 };
@@ -81,9 +82,11 @@ bool isTracked(const ledger::Setting& setting)
 void addControls(int type)
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < controls().size(); ++i)
-        if (controls()[i].a.userType() == type && controls()[i].name != QLatin1String("units"))
+    for (int i = 0; i < controls().size(); ++i) {
+        if (controls()[i].a.userType() == type && controls()[i].name != QLatin1String("units")) {
             QTest::newRow(qPrintable(fullName(controls()[i]))) << i;
+        }
+    }
 }
 
 QString entry(const QString& key, const QVariant& value)
@@ -94,12 +97,12 @@ QString entry(const QString& key, const QVariant& value)
 
 } // namespace
 
-void PageEditsTest::chosenItemIsReported_data()
+void TestPageEdits::chosenItemIsReported_data()
 {
     addControls(QMetaType::QString);
 }
 
-void PageEditsTest::chosenItemIsReported()
+void TestPageEdits::chosenItemIsReported()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -113,12 +116,12 @@ void PageEditsTest::chosenItemIsReported()
     QCOMPARE(pages.spy.take(), QStringList(entry(control.key, control.a)));
 }
 
-void PageEditsTest::sameItemChosenAgainIsReportedAgain_data()
+void TestPageEdits::sameItemChosenAgainIsReportedAgain_data()
 {
     addControls(QMetaType::QString);
 }
 
-void PageEditsTest::sameItemChosenAgainIsReportedAgain()
+void TestPageEdits::sameItemChosenAgainIsReportedAgain()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -133,7 +136,7 @@ void PageEditsTest::sameItemChosenAgainIsReportedAgain()
     }
 }
 
-void PageEditsTest::itemChosenByMouseIsReported()
+void TestPageEdits::itemChosenByMouseIsReported()
 {
     OpenPages pages;
     QVERIFY(pages.show());
@@ -154,12 +157,12 @@ void PageEditsTest::itemChosenByMouseIsReported()
     QCOMPARE(pages.spy.take(), lines({"Pulldown='Auto'"}));
 }
 
-void PageEditsTest::clickedCheckBoxIsReported_data()
+void TestPageEdits::clickedCheckBoxIsReported_data()
 {
     addControls(QMetaType::Bool);
 }
 
-void PageEditsTest::clickedCheckBoxIsReported()
+void TestPageEdits::clickedCheckBoxIsReported()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -173,7 +176,7 @@ void PageEditsTest::clickedCheckBoxIsReported()
     QCOMPARE(pages.spy.take(), QStringList(entry(control.key, control.a)));
 }
 
-void PageEditsTest::typedNumberIsReported_data()
+void TestPageEdits::typedNumberIsReported_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
@@ -185,22 +188,27 @@ void PageEditsTest::typedNumberIsReported_data()
             << page << QString(QLatin1String(name)) << typed << states;
     };
     for (const ledger::Setting& setting : ledger::settings()) {
-        if (setting.kind != ledger::Kind::Number || !QByteArray(setting.control).endsWith("Spin"))
+        if (setting.kind != ledger::Kind::Number || !QByteArray(setting.control).endsWith("Spin")) {
             continue;
+        }
         for (int view = 0; view < setting.viewCount(); ++view) {
             const QString typed = setting.second.state.toString();
             const QString key = setting.keyOf(view);
             QStringList states;
             // With every key, or once, when editing ends.
             for (int length = isTracked(setting) ? 1 : int(typed.size()); length <= typed.size();
-                 ++length)
-                if (typed.left(length) != QLatin1String("-"))
+                 ++length) {
+                if (typed.left(length) != QLatin1String("-")) {
                     states += key + QLatin1Char('=') + typed.left(length);
+                }
+            }
             // Both slots of the fullness hang on the initial one, none on the target.
-            if (setting.is("vbv_initial"))
+            if (setting.is("vbv_initial")) {
                 states += states;
-            if (setting.is("vbv_target"))
+            }
+            if (setting.is("vbv_target")) {
                 states.clear();
+            }
             row(setting.pageOf(view), setting.control, typed, states);
         }
     }
@@ -210,7 +218,7 @@ void PageEditsTest::typedNumberIsReported_data()
     row(video, "pixelYSpin", QStringLiteral("33"), lines({"Pixel Y=3", "Pixel Y=33"}));
 }
 
-void PageEditsTest::typedNumberIsReported()
+void TestPageEdits::typedNumberIsReported()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -226,7 +234,7 @@ void PageEditsTest::typedNumberIsReported()
     QCOMPARE(field->value(), typed.toInt());
 }
 
-void PageEditsTest::numberIsCommittedByReturnWhereTypingIsNotReported()
+void TestPageEdits::numberIsCommittedByReturnWhereTypingIsNotReported()
 {
     OpenPages pages;
     QVERIFY(pages.show());
@@ -244,7 +252,7 @@ void PageEditsTest::numberIsCommittedByReturnWhereTypingIsNotReported()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageEditsTest::numberIsCommittedByFocusLossWhereTypingIsNotReported()
+void TestPageEdits::numberIsCommittedByFocusLossWhereTypingIsNotReported()
 {
     OpenPages pages;
     QVERIFY(pages.show());
@@ -259,7 +267,7 @@ void PageEditsTest::numberIsCommittedByFocusLossWhereTypingIsNotReported()
     QCOMPARE(pages.spy.take(), lines({"B Between=3"}));
 }
 
-void PageEditsTest::arrowKeyIsReported_data()
+void TestPageEdits::arrowKeyIsReported_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
@@ -285,7 +293,7 @@ void PageEditsTest::arrowKeyIsReported_data()
                "VBV Initial V1=70"}));
 }
 
-void PageEditsTest::arrowKeyIsReported()
+void TestPageEdits::arrowKeyIsReported()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -301,7 +309,7 @@ void PageEditsTest::arrowKeyIsReported()
     QTEST(states, "states");
 }
 
-void PageEditsTest::arrowButtonIsReported()
+void TestPageEdits::arrowButtonIsReported()
 {
     OpenPages pages;
     QVERIFY(pages.show());
@@ -319,7 +327,7 @@ void PageEditsTest::arrowButtonIsReported()
     QCOMPARE(pages.spy.take(), lines({"Horizontal Size=722"}));
 }
 
-void PageEditsTest::sliderKeyIsReported_data()
+void TestPageEdits::sliderKeyIsReported_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("states");
@@ -334,7 +342,7 @@ void PageEditsTest::sliderKeyIsReported_data()
                                           "Complexity=100"});
 }
 
-void PageEditsTest::sliderKeyIsReported()
+void TestPageEdits::sliderKeyIsReported()
 {
     QFETCH(QString, name);
     OpenPages pages;
@@ -343,20 +351,22 @@ void PageEditsTest::sliderKeyIsReported()
     QVERIFY(slider);
     user::reveal(slider);
     slider->setFocus();
-    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End})
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End}) {
         QTest::keyClick(slider, key);
+    }
     const QStringList states = pages.spy.take();
     QTEST(states, "states");
 }
 
-void PageEditsTest::clickedUnitIsReported_data()
+void TestPageEdits::clickedUnitIsReported_data()
 {
     QTest::addColumn<int>("view");
-    for (int view = 0; view < 4; ++view)
+    for (int view = 0; view < 4; ++view) {
         QTest::newRow(qPrintable(QStringLiteral("view %1").arg(view))) << view;
+    }
 }
 
-void PageEditsTest::clickedUnitIsReported()
+void TestPageEdits::clickedUnitIsReported()
 {
     QFETCH(int, view);
     OpenPages pages;
@@ -373,7 +383,7 @@ void PageEditsTest::clickedUnitIsReported()
     }
 }
 
-void PageEditsTest::arrowKeyAmongTheUnitsIsReported()
+void TestPageEdits::arrowKeyAmongTheUnitsIsReported()
 {
     OpenPages pages;
     QVERIFY(pages.show());
@@ -386,14 +396,16 @@ void PageEditsTest::arrowKeyAmongTheUnitsIsReported()
     QCOMPARE(pages.spy.take(), lines({"Units V0=2"}));
 }
 
-void PageEditsTest::programmaticChoiceIsNotReported()
+void TestPageEdits::programmaticChoiceIsNotReported()
 {
     OpenPages pages;
-    for (auto* const list : pages.window()->findChildren<QComboBox*>())
-        for (int i = 0; i < list->count(); ++i)
+    for (auto* const list : pages.window()->findChildren<QComboBox*>()) {
+        for (int i = 0; i < list->count(); ++i) {
             list->setCurrentIndex(i);
+        }
+    }
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-QTEST_MAIN(PageEditsTest)
+QTEST_MAIN(TestPageEdits)
 #include "tst_page_edits.moc"

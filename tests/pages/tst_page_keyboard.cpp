@@ -14,7 +14,7 @@
 #include <algorithm>
 
 /// The pages worked without a mouse.
-class PageKeyboardTest : public QObject
+class TestPageKeyboard : public QObject
 {
     Q_OBJECT
 
@@ -47,9 +47,10 @@ public:
     explicit TabPages(int tab, int height = 3200)
     {
         ConfigState state = stateOf(&Control::a);
-        for (int view = 0; view < 4; ++view)
+        for (int view = 0; view < 4; ++view) {
             state.insert(QStringLiteral("Bitrate Mode V%1").arg(view),
                          QStringLiteral("Variable Bitrate"));
+        }
         receive(state);
         window()->setCurrentIndex(tab);
         show();
@@ -68,12 +69,14 @@ public:
         for (int i = 0; i < 400; ++i) {
             QTest::keyClick(QApplication::focusWidget(), key);
             QWidget* const now = QApplication::focusWidget();
-            if (!passed.isEmpty() && now == passed.first())
+            if (!passed.isEmpty() && now == passed.first()) {
                 break;
-            if (now && page()->isAncestorOf(now))
+            }
+            if (now && page()->isAncestorOf(now)) {
                 passed += now;
-            else if (!passed.isEmpty())
+            } else if (!passed.isEmpty()) {
                 break;
+            }
         }
         return passed;
     }
@@ -81,16 +84,18 @@ public:
 
 QString nameOf(const QWidget* widget)
 {
-    if (qobject_cast<const QToolButton*>(widget))
+    if (qobject_cast<const QToolButton*>(widget)) {
         return QStringLiteral("[%1]").arg(widget->accessibleName());
+    }
     return widget->objectName();
 }
 
 QStringList names(const QVector<QWidget*>& widgets)
 {
     QStringList list;
-    for (const QWidget* widget : widgets)
+    for (const QWidget* widget : widgets) {
         list += nameOf(widget);
+    }
     return list;
 }
 
@@ -101,14 +106,17 @@ QStringList controlsOn(const char* page)
     for (const ledger::Setting& setting : ledger::settingsOn(page)) {
         const QString control = QString::fromLatin1(setting.control);
         // Constant quality alone shows them.
-        if (control.contains(QLatin1String("quant"), Qt::CaseInsensitive))
+        if (control.contains(QLatin1String("quant"), Qt::CaseInsensitive)) {
             continue;
-        if (control == QLatin1String("aspectRatioList"))
+        }
+        if (control == QLatin1String("aspectRatioList")) {
             stops += QStringLiteral("aspectRatioCheck");
+        }
         // The chosen one of the units stands for all: the arrow keys go between them.
         stops += control == QLatin1String("units") ? QStringLiteral("units2Radio") : control;
-        if (control == QLatin1String("vbvTargetSpin"))
+        if (control == QLatin1String("vbvTargetSpin")) {
             stops += QStringLiteral("onesecCheck");
+        }
     }
     return stops;
 }
@@ -123,7 +131,7 @@ void addTabs()
 
 } // namespace
 
-void PageKeyboardTest::tabGoesThroughThePage_data()
+void TestPageKeyboard::tabGoesThroughThePage_data()
 {
     QTest::addColumn<int>("tab");
     QTest::addColumn<QStringList>("stops");
@@ -138,12 +146,13 @@ void PageKeyboardTest::tabGoesThroughThePage_data()
                                      controlsOn("RateDistortionPage") + lines({"[Miscellaneous]"}) +
                                      controlsOn("MiscPage");
     QStringList views = controlsOn("ViewsPage");
-    for (const char* title : {"[Base View]", "[View 1]", "[View 2]", "[View 3]"})
+    for (const char* title : {"[Base View]", "[View 1]", "[View 2]", "[View 3]"}) {
         views += lines({title}) + controlsOn("View%1Page");
+    }
     QTest::newRow("views") << int(ViewsTab) << views;
 }
 
-void PageKeyboardTest::tabGoesThroughThePage()
+void TestPageKeyboard::tabGoesThroughThePage()
 {
     QFETCH(int, tab);
     TabPages pages(tab);
@@ -151,12 +160,12 @@ void PageKeyboardTest::tabGoesThroughThePage()
     QTEST(stops, "stops");
 }
 
-void PageKeyboardTest::tabGoesFromTopToBottom_data()
+void TestPageKeyboard::tabGoesFromTopToBottom_data()
 {
     addTabs();
 }
 
-void PageKeyboardTest::tabGoesFromTopToBottom()
+void TestPageKeyboard::tabGoesFromTopToBottom()
 {
     QFETCH(int, tab);
     TabPages pages(tab);
@@ -171,12 +180,12 @@ void PageKeyboardTest::tabGoesFromTopToBottom()
     QVERIFY(!last.isNull());
 }
 
-void PageKeyboardTest::backtabGoesBack_data()
+void TestPageKeyboard::backtabGoesBack_data()
 {
     addTabs();
 }
 
-void PageKeyboardTest::backtabGoesBack()
+void TestPageKeyboard::backtabGoesBack()
 {
     QFETCH(int, tab);
     TabPages pages(tab);
@@ -186,14 +195,15 @@ void PageKeyboardTest::backtabGoesBack()
     QCOMPARE(back, forward);
 }
 
-void PageKeyboardTest::sectionButtonComesBeforeItsPage()
+void TestPageKeyboard::sectionButtonComesBeforeItsPage()
 {
     // Pages that are older than the box, younger, and from another window.
     QFrame window;
     const auto makePage = [](QWidget* parent, const QStringList& fields) {
         auto* const page = new QFrame(parent);
-        for (const QString& field : fields)
+        for (const QString& field : fields) {
             (new QLineEdit(page))->setObjectName(field);
+        }
         return page;
     };
     makePage(&window, lines({"before"}));
@@ -206,44 +216,50 @@ void PageKeyboardTest::sectionButtonComesBeforeItsPage()
 
     QStringList chain;
     for (QWidget* widget = window.nextInFocusChain(); widget != &window;
-         widget = widget->nextInFocusChain())
-        if (widget->focusPolicy() != Qt::NoFocus)
+         widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() != Qt::NoFocus) {
             chain += nameOf(widget);
+        }
+    }
     QCOMPARE(chain, lines({"before", "[older]", "a", "b", "[foreign]", "c", "[empty]", "[younger]",
                            "d", "e"}));
 }
 
-void PageKeyboardTest::collapsedSectionIsPassedOver()
+void TestPageKeyboard::collapsedSectionIsPassedOver()
 {
     TabPages pages(AdvancedTab);
-    for (auto* const button : pages.advanced->findChildren<QToolButton*>())
-        if (button->accessibleName() != QLatin1String("Motion Estimation"))
+    for (auto* const button : pages.advanced->findChildren<QToolButton*>()) {
+        if (button->accessibleName() != QLatin1String("Motion Estimation")) {
             button->click();
+        }
+    }
     QCOMPARE(names(pages.stops()), controlsOn("AdvancedPage") +
                                        lines({"[GOP Structure]", "[Motion Estimation]"}) +
                                        controlsOn("MotionEstimationPage") +
                                        lines({"[Rate Distortion]", "[Miscellaneous]"}));
 }
 
-void PageKeyboardTest::focusedControlIsScrolledIntoView()
+void TestPageKeyboard::focusedControlIsScrolledIntoView()
 {
     TabPages pages(AdvancedTab, 400);
     const auto* const area = pages.advanced->findChild<QScrollArea*>();
     for (const QWidget* widget : pages.stops()) {
-        if (!area->isAncestorOf(widget))
+        if (!area->isAncestorOf(widget)) {
             continue;
+        }
         auto* const stop = const_cast<QWidget*>(widget);
         stop->setFocus(Qt::TabFocusReason);
         QTest::keyClick(stop, Qt::Key_Tab);
         const QWidget* const now = QApplication::focusWidget();
-        if (!now || !area->widget()->isAncestorOf(now))
+        if (!now || !area->widget()->isAncestorOf(now)) {
             continue;
+        }
         const QRect place(now->mapTo(area->viewport(), QPoint()), now->size());
         QVERIFY2(area->viewport()->rect().intersects(place), qPrintable(nameOf(now)));
     }
 }
 
-void PageKeyboardTest::spaceCollapsesASection()
+void TestPageKeyboard::spaceCollapsesASection()
 {
     TabPages pages(BasicTab);
     auto* const button = pages.basic->findChild<QToolButton*>();
@@ -265,33 +281,38 @@ namespace
 /// Whether a text names the control: its own, a label that is its buddy, or one for screen readers.
 bool isNamed(const QWidget* control, const QWidget* window)
 {
-    if (!control->accessibleName().isEmpty() || !control->property("text").toString().isEmpty())
+    if (!control->accessibleName().isEmpty() || !control->property("text").toString().isEmpty()) {
         return true;
-    for (const QLabel* label : window->findChildren<QLabel*>())
-        if (label->buddy() == control && label->text().size() > 1)
+    }
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+        if (label->buddy() == control && label->text().size() > 1) {
             return true;
+        }
+    }
     return false;
 }
 
 } // namespace
 
-void PageKeyboardTest::everyControlHasANameForAssistiveTechnology()
+void TestPageKeyboard::everyControlHasANameForAssistiveTechnology()
 {
     for (const int tab : {BasicTab, AdvancedTab, ViewsTab}) {
         TabPages pages(tab);
-        for (const QWidget* widget : pages.stops())
+        for (const QWidget* widget : pages.stops()) {
             QVERIFY2(isNamed(widget, pages.window()), qPrintable(nameOf(widget)));
+        }
     }
 }
 
-void PageKeyboardTest::everyControlHasATip()
+void TestPageKeyboard::everyControlHasATip()
 {
     for (const int tab : {BasicTab, AdvancedTab, ViewsTab}) {
         TabPages pages(tab);
-        for (const QWidget* widget : pages.stops())
+        for (const QWidget* widget : pages.stops()) {
             QVERIFY2(!widget->toolTip().isEmpty(), qPrintable(nameOf(widget)));
+        }
     }
 }
 
-QTEST_MAIN(PageKeyboardTest)
+QTEST_MAIN(TestPageKeyboard)
 #include "tst_page_keyboard.moc"

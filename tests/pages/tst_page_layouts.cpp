@@ -11,7 +11,7 @@
 #include <iterator>
 
 /// Where the controls stand: cells of the grids, order in the rows, and the pages' titles.
-class PageLayoutsTest : public QObject
+class TestPageLayouts : public QObject
 {
     Q_OBJECT
 
@@ -45,12 +45,15 @@ QLayout* findLayout(const QWidget* window, const QString& pageClass, const QStri
     for (QLayout* layout : window->findChildren<QLayout*>(name)) {
         const QWidget* const parent = layout->parentWidget();
         const auto* page = qobject_cast<const SettingsPage*>(parent);
-        if (!page)
+        if (!page) {
             page = pageOf(parent);
-        if (!page || pageClass != QLatin1String(page->metaObject()->className()))
+        }
+        if (!page || pageClass != QLatin1String(page->metaObject()->className())) {
             continue;
-        if (found)
+        }
+        if (found) {
             return nullptr;
+        }
         found = layout;
     }
     return found;
@@ -59,10 +62,12 @@ QLayout* findLayout(const QWidget* window, const QString& pageClass, const QStri
 /// An item of a layout by its name; spacers have none.
 QString nameOf(QLayoutItem* item)
 {
-    if (item->widget())
+    if (item->widget()) {
         return item->widget()->objectName();
-    if (item->layout())
+    }
+    if (item->layout()) {
         return item->layout()->objectName();
+    }
     return item->expandingDirections() & Qt::Vertical ? QStringLiteral("(vertical spacer)")
                                                       : QStringLiteral("(horizontal spacer)");
 }
@@ -70,8 +75,9 @@ QString nameOf(QLayoutItem* item)
 QStringList itemsOf(const QLayout* layout)
 {
     QStringList names;
-    for (int i = 0; i < layout->count(); ++i)
+    for (int i = 0; i < layout->count(); ++i) {
         names += nameOf(layout->itemAt(i));
+    }
     return names;
 }
 
@@ -243,8 +249,9 @@ const Spacer spacers[] = {
 
 QLayoutItem* itemAt(QLayout* layout, int row, int column)
 {
-    if (auto* const grid = qobject_cast<QGridLayout*>(layout))
+    if (auto* const grid = qobject_cast<QGridLayout*>(layout)) {
         return grid->itemAtPosition(row, column);
+    }
     return layout->itemAt(layout->count() - 1);
 }
 
@@ -253,7 +260,7 @@ QLayoutItem* itemAt(QLayout* layout, int row, int column)
 Q_DECLARE_METATYPE(Cell)
 Q_DECLARE_METATYPE(Spacer)
 
-void PageLayoutsTest::pageHasTitle_data()
+void TestPageLayouts::pageHasTitle_data()
 {
     QTest::addColumn<QString>("title");
     const auto row = [](const char* page, const char* title) {
@@ -273,13 +280,14 @@ void PageLayoutsTest::pageHasTitle_data()
     row("View3Page", "View3 Page");
 }
 
-void PageLayoutsTest::pageHasTitle()
+void TestPageLayouts::pageHasTitle()
 {
     AllPages pages;
     int found = 0;
     for (const QFrame* page : pages.window()->findChildren<QFrame*>()) {
-        if (!page->inherits(QTest::currentDataTag()))
+        if (!page->inherits(QTest::currentDataTag())) {
             continue;
+        }
         ++found;
         const QString title = page->windowTitle();
         QTEST(title, "title");
@@ -287,17 +295,18 @@ void PageLayoutsTest::pageHasTitle()
     QCOMPARE(found, 1);
 }
 
-void PageLayoutsTest::widgetStandsInCell_data()
+void TestPageLayouts::widgetStandsInCell_data()
 {
     QTest::addColumn<Cell>("cell");
     const QVector<Cell> all = allCells();
-    for (const Cell& cell : all)
+    for (const Cell& cell : all) {
         QTest::newRow(qPrintable(
             QStringLiteral("%1.%2").arg(QLatin1String(cell.page), QLatin1String(cell.widget))))
             << cell;
+    }
 }
 
-void PageLayoutsTest::widgetStandsInCell()
+void TestPageLayouts::widgetStandsInCell()
 {
     QFETCH(Cell, cell);
     AllPages pages;
@@ -317,15 +326,16 @@ void PageLayoutsTest::widgetStandsInCell()
     QCOMPARE(columns, cell.columns);
 }
 
-void PageLayoutsTest::spacerHasSize_data()
+void TestPageLayouts::spacerHasSize_data()
 {
     QTest::addColumn<Spacer>("spacer");
-    for (const Spacer& spacer : spacers)
+    for (const Spacer& spacer : spacers) {
         QTest::addRow("%s.%s %dx%d", spacer.page, spacer.layout, spacer.width, spacer.height)
             << spacer;
+    }
 }
 
-void PageLayoutsTest::spacerHasSize()
+void TestPageLayouts::spacerHasSize()
 {
     QFETCH(Spacer, spacer);
     AllPages pages;
@@ -338,7 +348,7 @@ void PageLayoutsTest::spacerHasSize()
     QCOMPARE(item->expandingDirections(), Qt::Orientations(spacer.direction));
 }
 
-void PageLayoutsTest::layoutHoldsInOrder_data()
+void TestPageLayouts::layoutHoldsInOrder_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("layout");
@@ -364,9 +374,11 @@ void PageLayoutsTest::layoutHoldsInOrder_data()
 
     const char* const distortion = "RateDistortionPage";
     QStringList switches;
-    for (const ledger::Setting& setting : ledger::settingsOn(distortion))
-        if (setting.kind == ledger::Kind::Switch)
+    for (const ledger::Setting& setting : ledger::settingsOn(distortion)) {
+        if (setting.kind == ledger::Kind::Switch) {
             switches += QString::fromLatin1(setting.control);
+        }
+    }
     row(distortion, "vboxLayout", switches + lines({"line", "adaptiveGroup", below}));
     row(distortion, "vboxLayout1", lines({"vboxLayout2", "vboxLayout4", "vboxLayout6"}));
     row(distortion, "vboxLayout2", lines({"label", "hboxLayout"}));
@@ -385,16 +397,18 @@ void PageLayoutsTest::layoutHoldsInOrder_data()
     for (const char* view : viewPages) {
         for (const char* grid : {"gridLayout_2", "gridLayout"}) {
             QStringList items;
-            for (const Cell& cell : viewCells)
-                if (std::strcmp(cell.grid, grid) == 0)
+            for (const Cell& cell : viewCells) {
+                if (std::strcmp(cell.grid, grid) == 0) {
                     items += QString::fromLatin1(cell.widget);
+                }
+            }
             row(view, grid, items);
         }
         row(view, "vboxLayout", lines({"units1Radio", "units2Radio", "units3Radio"}));
     }
 }
 
-void PageLayoutsTest::layoutHoldsInOrder()
+void TestPageLayouts::layoutHoldsInOrder()
 {
     QFETCH(QString, page);
     QFETCH(QString, layout);
@@ -405,7 +419,7 @@ void PageLayoutsTest::layoutHoldsInOrder()
     QTEST(items, "items");
 }
 
-void PageLayoutsTest::groupBoxWithoutTitle_data()
+void TestPageLayouts::groupBoxWithoutTitle_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("BasicPage") << QStringLiteral("deviceGroup");
@@ -413,7 +427,7 @@ void PageLayoutsTest::groupBoxWithoutTitle_data()
     QTest::newRow("ViewsPage") << QStringLiteral("groupBox");
 }
 
-void PageLayoutsTest::groupBoxWithoutTitle()
+void TestPageLayouts::groupBoxWithoutTitle()
 {
     QFETCH(QString, name);
     AllPages pages;
@@ -423,7 +437,7 @@ void PageLayoutsTest::groupBoxWithoutTitle()
     QCOMPARE(box->title(), QString());
 }
 
-void PageLayoutsTest::labelIsBold_data()
+void TestPageLayouts::labelIsBold_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
@@ -435,7 +449,7 @@ void PageLayoutsTest::labelIsBold_data()
     row("AdvancedPage", "levelLabel");
 }
 
-void PageLayoutsTest::labelIsBold()
+void TestPageLayouts::labelIsBold()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -448,7 +462,7 @@ void PageLayoutsTest::labelIsBold()
     QVERIFY(!label->wordWrap());
 }
 
-void PageLayoutsTest::viewPageEndsWithASpacerInRow16()
+void TestPageLayouts::viewPageEndsWithASpacerInRow16()
 {
     AllPages pages;
     for (int view = 0; view < 4; ++view) {
@@ -472,7 +486,7 @@ void PageLayoutsTest::viewPageEndsWithASpacerInRow16()
 }
 
 // Those without a spacer of a size that is to be seen.
-void PageLayoutsTest::pageEndsWithItsLastRow_data()
+void TestPageLayouts::pageEndsWithItsLastRow_data()
 {
     QTest::addColumn<int>("tab");
     QTest::addColumn<QString>("mode");
@@ -484,11 +498,12 @@ void PageLayoutsTest::pageEndsWithItsLastRow_data()
     row("MotionEstimationPage", 1);
     for (const char* mode :
          {"Constant Bitrate", "Variable Bitrate", "Const. Quality - Constant Quantizer",
-          "Const. Quality - Average Quantizer"})
+          "Const. Quality - Average Quantizer"}) {
         row("View0Page", 2, mode);
+    }
 }
 
-void PageLayoutsTest::pageEndsWithItsLastRow()
+void TestPageLayouts::pageEndsWithItsLastRow()
 {
     QFETCH(int, tab);
     QFETCH(QString, mode);
@@ -505,15 +520,17 @@ void PageLayoutsTest::pageEndsWithItsLastRow()
     const auto roomBelow = [found] {
         int bottom = 0;
         for (const QWidget* widget :
-             found->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            if (widget->isVisible())
+             found->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (widget->isVisible()) {
                 bottom = qMax(bottom, widget->geometry().bottom() + 1);
+            }
+        }
         return found->height() - bottom;
     };
     QTRY_COMPARE(roomBelow(), 4);
 }
 
-void PageLayoutsTest::fieldsOfThePictureFormatEndAtOneEdge()
+void TestPageLayouts::fieldsOfThePictureFormatEndAtOneEdge()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -522,9 +539,10 @@ void PageLayoutsTest::fieldsOfThePictureFormatEndAtOneEdge()
             ->geometry()
             .right();
     };
-    for (const char* name : {"heightSpin", "pixelYSpin", "aspectRatioList", "interlaceList"})
+    for (const char* name : {"heightSpin", "pixelYSpin", "aspectRatioList", "interlaceList"}) {
         QCOMPARE(right(name), right("framerateList"));
+    }
 }
 
-QTEST_MAIN(PageLayoutsTest)
+QTEST_MAIN(TestPageLayouts)
 #include "tst_page_layouts.moc"

@@ -7,7 +7,7 @@
 #include <QTest>
 
 /// The pages as their meta-objects show them: class names, the one signal, slots in order.
-class PageSlotsTest : public QObject
+class TestPageSlots : public QObject
 {
     Q_OBJECT
 
@@ -42,15 +42,18 @@ const char* const classes[] = {"BasicPage",
 void addClasses()
 {
     QTest::addColumn<QString>("className");
-    for (const char* name : classes)
+    for (const char* name : classes) {
         QTest::newRow(name) << QString(QLatin1String(name));
+    }
 }
 
 const QFrame* findPage(QWidget* window, const QString& className)
 {
-    for (const QFrame* frame : window->findChildren<QFrame*>())
-        if (className == QLatin1String(frame->metaObject()->className()))
+    for (const QFrame* frame : window->findChildren<QFrame*>()) {
+        if (className == QLatin1String(frame->metaObject()->className())) {
             return frame;
+        }
+    }
     return nullptr;
 }
 
@@ -58,36 +61,40 @@ const QFrame* findPage(QWidget* window, const QString& className)
 QStringList methods(const QMetaObject* meta, QMetaMethod::MethodType type)
 {
     QStringList signatures;
-    for (int i = QFrame::staticMetaObject.methodCount(); i < meta->methodCount(); ++i)
-        if (meta->method(i).methodType() == type)
+    for (int i = QFrame::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
+        if (meta->method(i).methodType() == type) {
             signatures += QLatin1String(meta->method(i).methodSignature());
+        }
+    }
     return signatures;
 }
 
 } // namespace
 
-void PageSlotsTest::classIsThere_data()
+void TestPageSlots::classIsThere_data()
 {
     addClasses();
 }
 
-void PageSlotsTest::classIsThere()
+void TestPageSlots::classIsThere()
 {
     QFETCH(QString, className);
     AllPages pages;
     int count = 0;
-    for (const QFrame* frame : pages.window()->findChildren<QFrame*>())
-        if (className == QLatin1String(frame->metaObject()->className()))
+    for (const QFrame* frame : pages.window()->findChildren<QFrame*>()) {
+        if (className == QLatin1String(frame->metaObject()->className())) {
             ++count;
+        }
+    }
     QCOMPARE(count, 1);
 }
 
-void PageSlotsTest::theOneSignalIsStateChanged_data()
+void TestPageSlots::theOneSignalIsStateChanged_data()
 {
     addClasses();
 }
 
-void PageSlotsTest::theOneSignalIsStateChanged()
+void TestPageSlots::theOneSignalIsStateChanged()
 {
     QFETCH(QString, className);
     AllPages pages;
@@ -97,7 +104,7 @@ void PageSlotsTest::theOneSignalIsStateChanged()
              lines({"stateChanged(ConfigState)"}));
 }
 
-void PageSlotsTest::slotsComeInOrder_data()
+void TestPageSlots::slotsComeInOrder_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<QStringList>("slotNames");
@@ -130,7 +137,7 @@ void PageSlotsTest::slotsComeInOrder_data()
     row("MiscPage", lines({"slotChangeDeblocking(bool)", "slotChangeEntropy(QString)",
                            "slotChangeSlices(int)", "slotChangeThreads(int)"}));
     row("ViewsPage", lines({"slotChangeNumLayers(int)", "slotChangeSplit(bool)"}));
-    for (const char* view : {"View0Page", "View1Page", "View2Page", "View3Page"})
+    for (const char* view : {"View0Page", "View1Page", "View2Page", "View3Page"}) {
         row(view,
             lines({"slotChangeBitrateMode(QString)", "slotChangeTargetRate(int)",
                    "slotChangeMaxRate(int)", "slotChangeBuffer(int)", "slotChangeISize(int)",
@@ -139,9 +146,10 @@ void PageSlotsTest::slotsComeInOrder_data()
                    "slotChangeQuantMax(int)", "slotChangeQuantMin(int)", "slotChangeHRD(bool)",
                    "slotChangeVBVInitial(int)", "slotChangeVBVTarget(int)",
                    "slotChangeUnits(QAbstractButton*)", "slotChangeOneSec(bool)"}));
+    }
 }
 
-void PageSlotsTest::slotsComeInOrder()
+void TestPageSlots::slotsComeInOrder()
 {
     QFETCH(QString, className);
     AllPages pages;
@@ -151,12 +159,12 @@ void PageSlotsTest::slotsComeInOrder()
     QTEST(slotNames, "slotNames");
 }
 
-void PageSlotsTest::toolBoxHasNeither()
+void TestPageSlots::toolBoxHasNeither()
 {
     QCOMPARE(ToolBox::staticMetaObject.superClass()->className(), "QFrame");
     QCOMPARE(methods(&ToolBox::staticMetaObject, QMetaMethod::Signal), QStringList());
     QCOMPARE(methods(&ToolBox::staticMetaObject, QMetaMethod::Slot), QStringList());
 }
 
-QTEST_MAIN(PageSlotsTest)
+QTEST_MAIN(TestPageSlots)
 #include "tst_page_slots.moc"

@@ -8,7 +8,7 @@
 #include <climits>
 
 /// A state that comes to the pages sets every control, switches off what is off, and is not echoed.
-class PageStatesTest : public QObject
+class TestPageStates : public QObject
 {
     Q_OBJECT
 
@@ -39,45 +39,50 @@ namespace
 QStringList shownValues(AllPages& pages)
 {
     QStringList values;
-    for (const Control& control : controls())
+    for (const Control& control : controls()) {
         values += fullName(control) + QLatin1Char('=') + shown(pages.window(), control).toString();
+    }
     return values;
 }
 
 QStringList values(QVariant Control::*value)
 {
     QStringList texts;
-    for (const Control& control : controls())
+    for (const Control& control : controls()) {
         texts += fullName(control) + QLatin1Char('=') + (control.*value).toString();
+    }
     return texts;
 }
 
 QStringList disabledControls(AllPages& pages)
 {
     QStringList names;
-    for (const Control& control : controls())
-        if (!isEnabledOnPage(pages.window(), control))
+    for (const Control& control : controls()) {
+        if (!isEnabledOnPage(pages.window(), control)) {
             names += fullName(control);
+        }
+    }
     return names;
 }
 
 void addControls()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < controls().size(); ++i)
+    for (int i = 0; i < controls().size(); ++i) {
         QTest::newRow(qPrintable(controls()[i].key)) << i;
+    }
 }
 
 } // namespace
 
-void PageStatesTest::secondStateReplacesTheFirst_data()
+void TestPageStates::secondStateReplacesTheFirst_data()
 {
     QTest::addColumn<bool>("reversed");
     QTest::newRow("first, then second") << false;
     QTest::newRow("second, then first") << true;
 }
 
-void PageStatesTest::secondStateReplacesTheFirst()
+void TestPageStates::secondStateReplacesTheFirst()
 {
     QFETCH(bool, reversed);
     const auto one = reversed ? &Control::b : &Control::a;
@@ -92,12 +97,12 @@ void PageStatesTest::secondStateReplacesTheFirst()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageStatesTest::absentKeyReadsAsEmptyValue_data()
+void TestPageStates::absentKeyReadsAsEmptyValue_data()
 {
     addControls();
 }
 
-void PageStatesTest::absentKeyReadsAsEmptyValue()
+void TestPageStates::absentKeyReadsAsEmptyValue()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -105,9 +110,11 @@ void PageStatesTest::absentKeyReadsAsEmptyValue()
         AllPages pages;
         pages.receive(stateOf(value));
         ConfigState state;
-        for (const Control& other : controls())
-            if (other.key != control.key)
+        for (const Control& other : controls()) {
+            if (other.key != control.key) {
                 state.insert(other.key, other.*value);
+            }
+        }
         pages.receive(state);
         QCOMPARE(shown(pages.window(), control), control.absent);
         QVERIFY(isEnabledOnPage(pages.window(), control));
@@ -115,12 +122,12 @@ void PageStatesTest::absentKeyReadsAsEmptyValue()
     }
 }
 
-void PageStatesTest::disabledEntryDisablesItsControlAlone_data()
+void TestPageStates::disabledEntryDisablesItsControlAlone_data()
 {
     addControls();
 }
 
-void PageStatesTest::disabledEntryDisablesItsControlAlone()
+void TestPageStates::disabledEntryDisablesItsControlAlone()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -131,46 +138,52 @@ void PageStatesTest::disabledEntryDisablesItsControlAlone()
 
     QStringList expected(fullName(control));
     // The aspect ratio goes with the sizes, and the buffer with the one-second box only.
-    if (control.name == QLatin1String("widthSpin") || control.name == QLatin1String("heightSpin"))
+    if (control.name == QLatin1String("widthSpin") || control.name == QLatin1String("heightSpin")) {
         expected += QStringLiteral("VideoFormatPage.aspectRatioList");
+    }
     if (control.name == QLatin1String("aspectRatioList") ||
-        control.name == QLatin1String("bitrateBufferSpin"))
+        control.name == QLatin1String("bitrateBufferSpin")) {
         expected.clear();
+    }
     QCOMPARE(disabledControls(pages), expected);
 }
 
-void PageStatesTest::disabledEntryShowsItsValueAndReportsNothing()
+void TestPageStates::disabledEntryShowsItsValueAndReportsNothing()
 {
     AllPages pages;
     ConfigState state;
-    for (const Control& control : controls())
+    for (const Control& control : controls()) {
         state.insert(control.key, control.b, false);
+    }
     pages.receive(state);
     QCOMPARE(shownValues(pages), values(&Control::b));
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageStatesTest::enabledEntryEnablesAgain()
+void TestPageStates::enabledEntryEnablesAgain()
 {
     AllPages pages;
     ConfigState locked;
-    for (const Control& control : controls())
+    for (const Control& control : controls()) {
         locked.insert(control.key, control.a, false);
+    }
     pages.receive(locked);
     QVERIFY(disabledControls(pages).size() > 100);
     pages.receive(stateOf(&Control::a));
     QCOMPARE(disabledControls(pages), QStringList());
 }
 
-void PageStatesTest::unknownTextLeavesNoItem_data()
+void TestPageStates::unknownTextLeavesNoItem_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < controls().size(); ++i)
-        if (controls()[i].a.userType() == QMetaType::QString)
+    for (int i = 0; i < controls().size(); ++i) {
+        if (controls()[i].a.userType() == QMetaType::QString) {
             QTest::newRow(qPrintable(controls()[i].key)) << i;
+        }
+    }
 }
 
-void PageStatesTest::unknownTextLeavesNoItem()
+void TestPageStates::unknownTextLeavesNoItem()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -186,7 +199,7 @@ void PageStatesTest::unknownTextLeavesNoItem()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageStatesTest::textIsMatchedWithItsLetterCase()
+void TestPageStates::textIsMatchedWithItsLetterCase()
 {
     AllPages pages;
     ConfigState state;
@@ -197,7 +210,7 @@ void PageStatesTest::textIsMatchedWithItsLetterCase()
     QCOMPARE(list->currentIndex(), -1);
 }
 
-void PageStatesTest::numberOutOfRangeIsShownAsTheNearest_data()
+void TestPageStates::numberOutOfRangeIsShownAsTheNearest_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("number");
@@ -207,8 +220,9 @@ void PageStatesTest::numberOutOfRangeIsShownAsTheNearest_data()
             << key << number << shownNumber;
     };
     for (const ledger::Setting& setting : ledger::settings()) {
-        if (setting.kind != ledger::Kind::Number)
+        if (setting.kind != ledger::Kind::Number) {
             continue;
+        }
         for (int view = 0; view < setting.viewCount(); ++view) {
             row(setting.keyOf(view), setting.least - 1, setting.least);
             row(setting.keyOf(view), INT_MIN, setting.least);
@@ -220,7 +234,7 @@ void PageStatesTest::numberOutOfRangeIsShownAsTheNearest_data()
     }
 }
 
-void PageStatesTest::numberOutOfRangeIsShownAsTheNearest()
+void TestPageStates::numberOutOfRangeIsShownAsTheNearest()
 {
     QFETCH(QString, key);
     QFETCH(int, number);
@@ -231,8 +245,9 @@ void PageStatesTest::numberOutOfRangeIsShownAsTheNearest()
     pages.receive(state);
     int found = 0;
     for (const Control& control : controls()) {
-        if (control.key != key)
+        if (control.key != key) {
             continue;
+        }
         ++found;
         QCOMPARE(shown(pages.window(), control), QVariant(shownNumber));
     }
@@ -240,7 +255,7 @@ void PageStatesTest::numberOutOfRangeIsShownAsTheNearest()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageStatesTest::valueOfAnotherKindIsConverted_data()
+void TestPageStates::valueOfAnotherKindIsConverted_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
@@ -258,7 +273,7 @@ void PageStatesTest::valueOfAnotherKindIsConverted_data()
     row("text by a number", "Interlace", 2, QStringLiteral(""));
 }
 
-void PageStatesTest::valueOfAnotherKindIsConverted()
+void TestPageStates::valueOfAnotherKindIsConverted()
 {
     QFETCH(QString, key);
     QFETCH(QVariant, value);
@@ -267,20 +282,22 @@ void PageStatesTest::valueOfAnotherKindIsConverted()
     state.insert(key, value);
     pages.receive(state);
     for (const Control& control : controls()) {
-        if (control.key != key)
+        if (control.key != key) {
             continue;
+        }
         const QVariant shownValue = shown(pages.window(), control);
         QTEST(shownValue, "shownValue");
     }
 }
 
-void PageStatesTest::signalsAreUnblockedAfterwards()
+void TestPageStates::signalsAreUnblockedAfterwards()
 {
     AllPages pages;
     pages.receive(stateOf(&Control::a));
-    for (const QObject* object : pages.window()->findChildren<QObject*>())
+    for (const QObject* object : pages.window()->findChildren<QObject*>()) {
         QVERIFY2(!object->signalsBlocked(), qPrintable(object->objectName()));
+    }
 }
 
-QTEST_MAIN(PageStatesTest)
+QTEST_MAIN(TestPageStates)
 #include "tst_page_states.moc"

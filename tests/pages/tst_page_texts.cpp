@@ -14,7 +14,7 @@
 
 /// Texts in another language: each is asked for in its context, and what a state carries is found
 /// in the lists.
-class PageTextsTest : public QObject
+class TestPageTexts : public QObject
 {
     Q_OBJECT
 
@@ -58,8 +58,9 @@ private:
 
 QString textOf(const QWidget* widget)
 {
-    if (const auto* list = qobject_cast<const QComboBox*>(widget))
+    if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
         return list->itemText(0);
+    }
     return widget->property("text").toString();
 }
 
@@ -67,7 +68,7 @@ QString textOf(const QWidget* widget)
 
 Q_DECLARE_METATYPE(ListName)
 
-void PageTextsTest::textIsAskedForInItsContext_data()
+void TestPageTexts::textIsAskedForInItsContext_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("name");
@@ -86,23 +87,26 @@ void PageTextsTest::textIsAskedForInItsContext_data()
     other("GOPStructurePage", "label_2", "IGOPStructurePage|I-frame as IDR.");
     for (const ledger::Setting& setting : ledger::settings()) {
         // The presets are the dialog's own; profiles and levels are its names, too.
-        if (!setting.key || setting.is("video_type"))
+        if (!setting.key || setting.is("video_type")) {
             continue;
+        }
         const QString member = QString::fromLatin1(setting.member);
         for (int view = 0; view < setting.viewCount(); ++view) {
             const QString page = setting.pageOf(view);
-            if (setting.caption)
+            if (setting.caption) {
                 row(page, setting.label ? setting.label : setting.control,
                     QStringLiteral("I%1|%2").arg(page, QLatin1String(setting.caption)));
+            }
             if (setting.kind == ledger::Kind::List && !setting.is("profile") &&
-                !setting.is("level"))
+                !setting.is("level")) {
                 row(page, setting.control,
                     page + QLatin1Char('|') + ledger::listedTexts(member).first());
+            }
         }
     }
 }
 
-void PageTextsTest::textIsAskedForInItsContext()
+void TestPageTexts::textIsAskedForInItsContext()
 {
     QFETCH(QString, page);
     QFETCH(QString, name);
@@ -114,7 +118,7 @@ void PageTextsTest::textIsAskedForInItsContext()
     QTEST(text, "text");
 }
 
-void PageTextsTest::windowTitleIsAskedForInTheLayoutsContext_data()
+void TestPageTexts::windowTitleIsAskedForInTheLayoutsContext_data()
 {
     QTest::addColumn<QString>("title");
     const auto row = [](const char* page, const char* title) {
@@ -128,41 +132,46 @@ void PageTextsTest::windowTitleIsAskedForInTheLayoutsContext_data()
     row("View3Page", "IView3Page|View3 Page");
 }
 
-void PageTextsTest::windowTitleIsAskedForInTheLayoutsContext()
+void TestPageTexts::windowTitleIsAskedForInTheLayoutsContext()
 {
     const Translator translator(true);
     AllPages pages;
     QStringList titles;
-    for (const QFrame* page : pages.window()->findChildren<QFrame*>())
-        if (page->inherits(QTest::currentDataTag()))
+    for (const QFrame* page : pages.window()->findChildren<QFrame*>()) {
+        if (page->inherits(QTest::currentDataTag())) {
             titles += page->windowTitle();
+        }
+    }
     QCOMPARE(titles.size(), 1);
     QTEST(titles.first(), "title");
 }
 
-void PageTextsTest::sectionTitleIsAskedForInThePagesContext_data()
+void TestPageTexts::sectionTitleIsAskedForInThePagesContext_data()
 {
     QTest::addColumn<QString>("title");
     for (const char* title :
          {"BasicPage|Video Format", "AdvancedPage|GOP Structure", "AdvancedPage|Motion Estimation",
           "AdvancedPage|Rate Distortion", "AdvancedPage|Miscellaneous", "ViewsPage|Base View",
-          "ViewsPage|View 1", "ViewsPage|View 2", "ViewsPage|View 3"})
+          "ViewsPage|View 1", "ViewsPage|View 2", "ViewsPage|View 3"}) {
         QTest::newRow(title) << QString(QLatin1String(title));
+    }
 }
 
-void PageTextsTest::sectionTitleIsAskedForInThePagesContext()
+void TestPageTexts::sectionTitleIsAskedForInThePagesContext()
 {
     QFETCH(QString, title);
     const Translator translator(true);
     AllPages pages;
     int found = 0;
-    for (const QLabel* label : pages.window()->findChildren<QLabel*>())
-        if (label->text() == title)
+    for (const QLabel* label : pages.window()->findChildren<QLabel*>()) {
+        if (label->text() == title) {
             ++found;
+        }
+    }
     QCOMPARE(found, 1);
 }
 
-void PageTextsTest::everyListTextIsFound_data()
+void TestPageTexts::everyListTextIsFound_data()
 {
     QTest::addColumn<bool>("translated");
     QTest::addColumn<QString>("key");
@@ -185,19 +194,21 @@ void PageTextsTest::everyListTextIsFound_data()
         row("Profile", ListName::Profiles);
         row("Level", ListName::Levels);
         for (const char* key :
-             {"Bitrate Mode V0", "Bitrate Mode V1", "Bitrate Mode V2", "Bitrate Mode V3"})
+             {"Bitrate Mode V0", "Bitrate Mode V1", "Bitrate Mode V2", "Bitrate Mode V3"}) {
             row(key, ListName::BitrateModes);
+        }
     }
 }
 
-void PageTextsTest::everyListTextIsFound()
+void TestPageTexts::everyListTextIsFound()
 {
     QFETCH(bool, translated);
     QFETCH(QString, key);
     QFETCH(ListName, list);
     std::unique_ptr<Translator> translator;
-    if (translated)
+    if (translated) {
         translator = std::make_unique<Translator>(false);
+    }
     const Vocabulary vocabulary;
     AllPages pages;
     pages.advanced->setProfileLevelLists(vocabulary.profiles(), vocabulary.levels());
@@ -215,7 +226,7 @@ void PageTextsTest::everyListTextIsFound()
     QVERIFY(vocabulary.list(list).items().size() > 1);
 }
 
-void PageTextsTest::visibilityFollowsTheTranslatedMode()
+void TestPageTexts::visibilityFollowsTheTranslatedMode()
 {
     const Translator translator(false);
     AllPages pages;
@@ -233,7 +244,7 @@ void PageTextsTest::visibilityFollowsTheTranslatedMode()
     QVERIFY(!findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"))->isVisible());
 }
 
-void PageTextsTest::unitLabelsAreAskedForInThePagesContext_data()
+void TestPageTexts::unitLabelsAreAskedForInThePagesContext_data()
 {
     QTest::addColumn<int>("view");
     QTest::addColumn<int>("units");
@@ -249,11 +260,11 @@ void PageTextsTest::unitLabelsAreAskedForInThePagesContext_data()
         row(0, {"Bitrate buffer (bytes)", "VBV buffer initial (%)", "VBV buffer target (%)"});
         row(1, {"Bitrate buffer (bits)", "VBV buffer initial (bits)", "VBV buffer target (bits)"});
         row(2,
-            {"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)", "VBV buffer target (90 kHz)"});
+            {"Bitrate buffer (bits)", "VBV buffer initial (90 hz)", "VBV buffer target (90 hz)"});
     }
 }
 
-void PageTextsTest::unitLabelsAreAskedForInThePagesContext()
+void TestPageTexts::unitLabelsAreAskedForInThePagesContext()
 {
     QFETCH(int, view);
     QFETCH(int, units);
@@ -270,5 +281,5 @@ void PageTextsTest::unitLabelsAreAskedForInThePagesContext()
     QTEST(labels, "labels");
 }
 
-QTEST_MAIN(PageTextsTest)
+QTEST_MAIN(TestPageTexts)
 #include "tst_page_texts.moc"

@@ -10,7 +10,7 @@
 #include <QWheelEvent>
 
 /// The wheel over a control that has no focus scrolls the page and changes nothing.
-class PageWheelTest : public QObject
+class TestPageWheel : public QObject
 {
     Q_OBJECT
 
@@ -32,9 +32,11 @@ namespace
 
 QScrollArea* scrollAreaAround(const QWidget* widget)
 {
-    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(parent))
+    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
             return area;
+        }
+    }
     return nullptr;
 }
 
@@ -46,11 +48,13 @@ void addControls(bool insideSections)
     for (int i = 0; i < controls().size(); ++i) {
         const Control& control = controls()[i];
         const QWidget* const widget = findOnPage(pages.window(), control.page, control.name);
-        if (!widget || widget->inherits("QCheckBox"))
+        if (!widget || widget->inherits("QCheckBox")) {
             continue;
+        }
         const bool inside = scrollAreaAround(widget) != nullptr;
-        if (inside || !insideSections)
+        if (inside || !insideSections) {
             QTest::newRow(qPrintable(fullName(control))) << i;
+        }
     }
 }
 
@@ -82,17 +86,19 @@ public:
     {
         const bool quantizer = control.name.contains(QLatin1String("quant"), Qt::CaseInsensitive);
         state = stateOf(&Control::a);
-        for (int view = 0; view < 4; ++view)
+        for (int view = 0; view < 4; ++view) {
             state.insert(QStringLiteral("Bitrate Mode V%1").arg(view),
                          quantizer ? QStringLiteral("Const. Quality - Average Quantizer")
                                    : QStringLiteral("Variable Bitrate"));
+        }
         receive(state);
         show();
         window()->resize(440, 260);
         widget = findOnPage(window(), control.page, control.name);
         user::reveal(widget);
-        if (QApplication::focusWidget())
+        if (QApplication::focusWidget()) {
             QApplication::focusWidget()->clearFocus();
+        }
         spy.take();
     }
 
@@ -102,30 +108,31 @@ public:
 
 } // namespace
 
-void PageWheelTest::wheelOverUnfocusedControlChangesNothing_data()
+void TestPageWheel::wheelOverUnfocusedControlChangesNothing_data()
 {
     addControls(false);
 }
 
-void PageWheelTest::wheelOverUnfocusedControlChangesNothing()
+void TestPageWheel::wheelOverUnfocusedControlChangesNothing()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
     OpenPages pages(control);
     QVERIFY(pages.widget->isVisible());
     const QVariant before = shown(pages.window(), control);
-    for (const int notches : {-1, 1, -3, 5})
+    for (const int notches : {-1, 1, -3, 5}) {
         turnWheel(pages.widget, notches);
+    }
     QCOMPARE(shown(pages.window(), control), before);
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageWheelTest::wheelOverUnfocusedControlScrollsThePage_data()
+void TestPageWheel::wheelOverUnfocusedControlScrollsThePage_data()
 {
     addControls(true);
 }
 
-void PageWheelTest::wheelOverUnfocusedControlScrollsThePage()
+void TestPageWheel::wheelOverUnfocusedControlScrollsThePage()
 {
     QFETCH(int, index);
     OpenPages pages(controls()[index]);
@@ -140,12 +147,12 @@ void PageWheelTest::wheelOverUnfocusedControlScrollsThePage()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void PageWheelTest::wheelGivesNoFocus_data()
+void TestPageWheel::wheelGivesNoFocus_data()
 {
     addControls(false);
 }
 
-void PageWheelTest::wheelGivesNoFocus()
+void TestPageWheel::wheelGivesNoFocus()
 {
     QFETCH(int, index);
     OpenPages pages(controls()[index]);
@@ -154,17 +161,20 @@ void PageWheelTest::wheelGivesNoFocus()
     QVERIFY(!pages.widget->hasFocus());
 }
 
-void PageWheelTest::wheelOverFocusedControlChangesIt_data()
+void TestPageWheel::wheelOverFocusedControlChangesIt_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < controls().size(); ++i)
+    for (int i = 0; i < controls().size(); ++i) {
         for (const char* name : {"VideoFormatPage.widthSpin", "VideoFormatPage.pulldownList",
-                                 "RateDistortionPage.brightnessSlider", "View2Page.iSizeSpin"})
-            if (fullName(controls()[i]) == QLatin1String(name))
+                                 "RateDistortionPage.brightnessSlider", "View2Page.iSizeSpin"}) {
+            if (fullName(controls()[i]) == QLatin1String(name)) {
                 QTest::newRow(name) << i;
+            }
+        }
+    }
 }
 
-void PageWheelTest::wheelOverFocusedControlChangesIt()
+void TestPageWheel::wheelOverFocusedControlChangesIt()
 {
     QFETCH(int, index);
     const Control& control = controls()[index];
@@ -176,5 +186,5 @@ void PageWheelTest::wheelOverFocusedControlChangesIt()
     QCOMPARE(pages.spy.take().size(), 1);
 }
 
-QTEST_MAIN(PageWheelTest)
+QTEST_MAIN(TestPageWheel)
 #include "tst_page_wheel.moc"

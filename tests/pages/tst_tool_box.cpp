@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 /// The scrollable column of collapsible sections.
-class ToolBoxTest : public QObject
+class TestToolBox : public QObject
 {
     Q_OBJECT
 
@@ -61,8 +61,9 @@ public:
             pages += page;
             labels += label;
         }
-        for (auto* const button : box.findChildren<QToolButton*>())
+        for (auto* const button : box.findChildren<QToolButton*>()) {
             buttons += button;
+        }
         area = box.findChild<QScrollArea*>();
     }
 
@@ -75,9 +76,11 @@ public:
 
     QLabel* title(int section) const
     {
-        for (auto* const label : box.findChildren<QLabel*>())
-            if (label->text() == QStringLiteral("Section %1").arg(section))
+        for (auto* const label : box.findChildren<QLabel*>()) {
+            if (label->text() == QStringLiteral("Section %1").arg(section)) {
                 return label;
+            }
+        }
         return nullptr;
     }
 
@@ -140,7 +143,7 @@ QImage arrow(const QToolButton* button)
 
 } // namespace
 
-void ToolBoxTest::boxIsBuiltOfItsParts()
+void TestToolBox::boxIsBuiltOfItsParts()
 {
     ToolBox box;
     QVERIFY(box.inherits("QFrame"));
@@ -164,7 +167,7 @@ void ToolBoxTest::boxIsBuiltOfItsParts()
     QCOMPARE(int(grid->alignment()), int(Qt::AlignTop));
 }
 
-void ToolBoxTest::windowFlagsArePassedOn()
+void TestToolBox::windowFlagsArePassedOn()
 {
     QWidget parent;
     const ToolBox box(&parent, Qt::Tool);
@@ -172,7 +175,7 @@ void ToolBoxTest::windowFlagsArePassedOn()
     QCOMPARE(box.windowType(), Qt::Tool);
 }
 
-void ToolBoxTest::sectionsStandInPairsOfRows()
+void TestToolBox::sectionsStandInPairsOfRows()
 {
     ThreeSections sections;
     QCOMPARE(sections.buttons.size(), 3);
@@ -189,13 +192,14 @@ void ToolBoxTest::sectionsStandInPairsOfRows()
             int place[4] = {};
             grid->getItemPosition(grid->indexOf(widgets[j]), &place[0], &place[1], &place[2],
                                   &place[3]);
-            for (int k = 0; k < 4; ++k)
+            for (int k = 0; k < 4; ++k) {
                 QCOMPARE(place[k], places[j][k]);
+            }
         }
     }
 }
 
-void ToolBoxTest::sectionStartsExpanded()
+void TestToolBox::sectionStartsExpanded()
 {
     ThreeSections sections;
     QVERIFY(sections.show(600));
@@ -206,7 +210,7 @@ void ToolBoxTest::sectionStartsExpanded()
     QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
 }
 
-void ToolBoxTest::clickCollapsesAndExpandsItsSectionAlone()
+void TestToolBox::clickCollapsesAndExpandsItsSectionAlone()
 {
     ThreeSections sections;
     QVERIFY(sections.show(600));
@@ -220,12 +224,13 @@ void ToolBoxTest::clickCollapsesAndExpandsItsSectionAlone()
     QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
 }
 
-void ToolBoxTest::anyNumberOfSectionsMayBeOpen()
+void TestToolBox::anyNumberOfSectionsMayBeOpen()
 {
     ThreeSections sections;
     QVERIFY(sections.show(600));
-    for (QToolButton* button : sections.buttons)
+    for (QToolButton* button : sections.buttons) {
         click(button);
+    }
     QCOMPARE(sections.visible(), (QList<bool>{false, false, false}));
     click(sections.buttons[2]);
     QCOMPARE(sections.visible(), (QList<bool>{false, false, true}));
@@ -233,7 +238,7 @@ void ToolBoxTest::anyNumberOfSectionsMayBeOpen()
     QCOMPARE(sections.visible(), (QList<bool>{true, false, true}));
 }
 
-void ToolBoxTest::arrowShowsTheState()
+void TestToolBox::arrowShowsTheState()
 {
     ThreeSections sections;
     QVERIFY(!picture(down).isNull());
@@ -245,14 +250,14 @@ void ToolBoxTest::arrowShowsTheState()
     QCOMPARE(arrow(sections.buttons[1]), picture(down));
 }
 
-void ToolBoxTest::iconFilesAreTheCallers()
+void TestToolBox::iconFilesAreTheCallers()
 {
     ToolBox box;
     box.addSection(new QFrame, QStringLiteral("Swapped"), right, down);
     QCOMPARE(arrow(box.findChild<QToolButton*>()), picture(right));
 }
 
-void ToolBoxTest::sectionPointsDownWhenOpenAndRightWhenClosed()
+void TestToolBox::sectionPointsDownWhenOpenAndRightWhenClosed()
 {
     ToolBox box;
     auto* const page = new QFrame;
@@ -267,7 +272,7 @@ void ToolBoxTest::sectionPointsDownWhenOpenAndRightWhenClosed()
     QCOMPARE(arrow(button), picture(right));
 }
 
-void ToolBoxTest::titleIsBoldWhilePagesLabelsAreNormal()
+void TestToolBox::titleIsBoldWhilePagesLabelsAreNormal()
 {
     ThreeSections sections;
     for (int i = 0; i < 3; ++i) {
@@ -276,7 +281,7 @@ void ToolBoxTest::titleIsBoldWhilePagesLabelsAreNormal()
     }
 }
 
-void ToolBoxTest::gridClosesUpOverACollapsedPage()
+void TestToolBox::gridClosesUpOverACollapsedPage()
 {
     ThreeSections sections;
     QVERIFY(sections.show(600));
@@ -288,19 +293,20 @@ void ToolBoxTest::gridClosesUpOverACollapsedPage()
     QTRY_COMPARE(sections.title(1)->y(), before);
 }
 
-void ToolBoxTest::areaScrollsWhenSectionsAreTallerThanTheBox()
+void TestToolBox::areaScrollsWhenSectionsAreTallerThanTheBox()
 {
     ThreeSections sections;
     QVERIFY(sections.show(200));
     const QScrollBar* const bar = sections.area->verticalScrollBar();
     QVERIFY(bar->isVisible());
     QVERIFY(bar->maximum() > 100);
-    for (QToolButton* button : sections.buttons)
+    for (QToolButton* button : sections.buttons) {
         click(button);
+    }
     QTRY_VERIFY(!bar->isVisible());
 }
 
-void ToolBoxTest::buttonIsNamedAfterItsSection()
+void TestToolBox::buttonIsNamedAfterItsSection()
 {
     ThreeSections sections;
     for (int i = 0; i < 3; ++i) {
@@ -310,7 +316,7 @@ void ToolBoxTest::buttonIsNamedAfterItsSection()
     }
 }
 
-void ToolBoxTest::focusedControlStaysWhereItIs_data()
+void TestToolBox::focusedControlStaysWhereItIs_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("after");
@@ -319,7 +325,7 @@ void ToolBoxTest::focusedControlStaysWhereItIs_data()
     QTest::newRow("nothing changes") << 300 << 300;
 }
 
-void ToolBoxTest::focusedControlStaysWhereItIs()
+void TestToolBox::focusedControlStaysWhereItIs()
 {
     QFETCH(int, before);
     QFETCH(int, after);
@@ -337,7 +343,7 @@ void ToolBoxTest::focusedControlStaysWhereItIs()
     QCOMPARE(sections.placeOf(sections.labels[1]), place);
 }
 
-void ToolBoxTest::focusedControlStaysInSightAtTheEnds()
+void TestToolBox::focusedControlStaysInSightAtTheEnds()
 {
     Scrolled sections;
     QVERIFY(sections.ready);
@@ -354,7 +360,7 @@ void ToolBoxTest::focusedControlStaysInSightAtTheEnds()
     QVERIFY(sections.area->viewport()->rect().contains(shown));
 }
 
-void ToolBoxTest::columnStaysWithoutAFocusedControl()
+void TestToolBox::columnStaysWithoutAFocusedControl()
 {
     Scrolled sections;
     QVERIFY(sections.ready);
@@ -364,19 +370,21 @@ void ToolBoxTest::columnStaysWithoutAFocusedControl()
     QCOMPARE(sections.bar()->value(), 350);
 }
 
-void ToolBoxTest::sectionsStayTogetherInAHighBox()
+void TestToolBox::sectionsStayTogetherInAHighBox()
 {
     ThreeSections sections;
     // As the pages of the dialog end.
-    for (QFrame* page : sections.pages)
+    for (QFrame* page : sections.pages) {
         static_cast<QVBoxLayout*>(page->layout())->addStretch();
+    }
     QVERIFY(sections.show(900));
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         QVERIFY(sections.pages[i]->height() < 150);
+    }
     QVERIFY(sections.title(2)->geometry().bottom() < 400);
 }
 
-void ToolBoxTest::backgroundIsThatOfTheWindowBehind()
+void TestToolBox::backgroundIsThatOfTheWindowBehind()
 {
     QWidget window;
     QPalette palette = window.palette();
@@ -397,5 +405,5 @@ void ToolBoxTest::backgroundIsThatOfTheWindowBehind()
              QColor(Qt::cyan));
 }
 
-QTEST_MAIN(ToolBoxTest)
+QTEST_MAIN(TestToolBox)
 #include "tst_tool_box.moc"

@@ -10,7 +10,7 @@
 #include <QTest>
 
 /// The picture format's own rules: keeping the aspect ratio, one more frame rate, what is enabled.
-class VideoFormatPageTest : public QObject
+class TestVideoFormatPage : public QObject
 {
     Q_OBJECT
 
@@ -61,8 +61,9 @@ public:
         state.insert(QStringLiteral("Vertical Size"), height);
         state.insert(QStringLiteral("Picture Aspect Ratio"), QString(QLatin1String(ratio)));
         page.receiveState(state);
-        if (keep)
+        if (keep) {
             user::click(keepRatio());
+        }
         spy.take();
     }
 
@@ -86,16 +87,17 @@ void addRows(const QVector<QPair<QPair<const char*, int>, const char*>>& rows)
     QTest::addColumn<QString>("ratio");
     QTest::addColumn<int>("number");
     QTest::addColumn<QStringList>("states");
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         QTest::newRow(qPrintable(
             QStringLiteral("%1, %2").arg(QLatin1String(row.first.first)).arg(row.first.second)))
             << QString(QLatin1String(row.first.first)) << row.first.second
             << (row.second ? lines({row.second}) : QStringList());
+    }
 }
 
 } // namespace
 
-void VideoFormatPageTest::widthWithKeptRatioReportsTheHeight_data()
+void TestVideoFormatPage::widthWithKeptRatioReportsTheHeight_data()
 {
     addRows({
         {{"16:9", 1024}, "Horizontal Size=1024; Vertical Size=576"},
@@ -109,7 +111,7 @@ void VideoFormatPageTest::widthWithKeptRatioReportsTheHeight_data()
     });
 }
 
-void VideoFormatPageTest::widthWithKeptRatioReportsTheHeight()
+void TestVideoFormatPage::widthWithKeptRatioReportsTheHeight()
 {
     QFETCH(QString, ratio);
     QFETCH(int, number);
@@ -119,7 +121,7 @@ void VideoFormatPageTest::widthWithKeptRatioReportsTheHeight()
     QTEST(states, "states");
 }
 
-void VideoFormatPageTest::heightWithKeptRatioReportsTheWidth_data()
+void TestVideoFormatPage::heightWithKeptRatioReportsTheWidth_data()
 {
     addRows({
         {{"16:9", 720}, "Horizontal Size=1280; Vertical Size=720"},
@@ -133,7 +135,7 @@ void VideoFormatPageTest::heightWithKeptRatioReportsTheWidth_data()
     });
 }
 
-void VideoFormatPageTest::heightWithKeptRatioReportsTheWidth()
+void TestVideoFormatPage::heightWithKeptRatioReportsTheWidth()
 {
     QFETCH(QString, ratio);
     QFETCH(int, number);
@@ -143,7 +145,7 @@ void VideoFormatPageTest::heightWithKeptRatioReportsTheWidth()
     QTEST(states, "states");
 }
 
-void VideoFormatPageTest::ratioChosenWithKeptRatioReportsTheWidth_data()
+void TestVideoFormatPage::ratioChosenWithKeptRatioReportsTheWidth_data()
 {
     addRows({
         {{"4:3", 288}, "Horizontal Size=384; Picture Aspect Ratio='4:3'"},
@@ -153,7 +155,7 @@ void VideoFormatPageTest::ratioChosenWithKeptRatioReportsTheWidth_data()
     });
 }
 
-void VideoFormatPageTest::ratioChosenWithKeptRatioReportsTheWidth()
+void TestVideoFormatPage::ratioChosenWithKeptRatioReportsTheWidth()
 {
     QFETCH(QString, ratio);
     QFETCH(int, number);
@@ -163,7 +165,7 @@ void VideoFormatPageTest::ratioChosenWithKeptRatioReportsTheWidth()
     QTEST(states, "states");
 }
 
-void VideoFormatPageTest::sizesAreReportedAloneUnlessTheRatioIsKept()
+void TestVideoFormatPage::sizesAreReportedAloneUnlessTheRatioIsKept()
 {
     OpenPage page("16:9", false);
     user::type(page.width(), QStringLiteral("1024"));
@@ -173,7 +175,7 @@ void VideoFormatPageTest::sizesAreReportedAloneUnlessTheRatioIsKept()
              lines({"Horizontal Size=1024", "Vertical Size=720", "Picture Aspect Ratio='4:3'"}));
 }
 
-void VideoFormatPageTest::customRatioCouplesNothing()
+void TestVideoFormatPage::customRatioCouplesNothing()
 {
     OpenPage page("Custom", true);
     user::type(page.width(), QStringLiteral("1024"));
@@ -181,7 +183,7 @@ void VideoFormatPageTest::customRatioCouplesNothing()
     QCOMPARE(page.spy.take(), lines({"Horizontal Size=1024", "Vertical Size=720"}));
 }
 
-void VideoFormatPageTest::ratioThatIsNoItemReportsTheHeightAgainButNoWidth()
+void TestVideoFormatPage::ratioThatIsNoItemReportsTheHeightAgainButNoWidth()
 {
     OpenPage page("", true, 352, 288);
     QCOMPARE(page.ratio()->currentIndex(), -1);
@@ -191,7 +193,7 @@ void VideoFormatPageTest::ratioThatIsNoItemReportsTheHeightAgainButNoWidth()
     QCOMPARE(page.spy.take(), lines({"Vertical Size=500"}));
 }
 
-void VideoFormatPageTest::unknownRatioMayLoseALineByTruncation()
+void TestVideoFormatPage::unknownRatioMayLoseALineByTruncation()
 {
     // 42 / (42 / 19.0) is a little less than 19.
     OpenPage page("", true, 352, 19);
@@ -199,7 +201,7 @@ void VideoFormatPageTest::unknownRatioMayLoseALineByTruncation()
     QCOMPARE(page.spy.take(), lines({"Horizontal Size=42; Vertical Size=18"}));
 }
 
-void VideoFormatPageTest::switchingKeepOnReportsTheWidthAndOffNothing()
+void TestVideoFormatPage::switchingKeepOnReportsTheWidthAndOffNothing()
 {
     OpenPage page("1:1", false, 352, 480);
     user::click(page.keepRatio());
@@ -210,7 +212,7 @@ void VideoFormatPageTest::switchingKeepOnReportsTheWidthAndOffNothing()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void VideoFormatPageTest::switchingKeepOnReportsNothingWithoutARatio()
+void TestVideoFormatPage::switchingKeepOnReportsNothingWithoutARatio()
 {
     for (const char* ratio : {"Custom", ""}) {
         OpenPage page(ratio, false);
@@ -220,7 +222,7 @@ void VideoFormatPageTest::switchingKeepOnReportsNothingWithoutARatio()
     }
 }
 
-void VideoFormatPageTest::keepSlotAsksTheBoxNotItsArgument()
+void TestVideoFormatPage::keepSlotAsksTheBoxNotItsArgument()
 {
     OpenPage page("1:1", false, 352, 480);
     page.page.slotChangeAspectRatioCheck(true);
@@ -231,7 +233,7 @@ void VideoFormatPageTest::keepSlotAsksTheBoxNotItsArgument()
     QCOMPARE(page.spy.take(), lines({"Horizontal Size=480"}));
 }
 
-void VideoFormatPageTest::otherSizeIsNotSetByThePage()
+void TestVideoFormatPage::otherSizeIsNotSetByThePage()
 {
     OpenPage page("16:9", true, 352, 288);
     user::type(page.width(), QStringLiteral("1024"));
@@ -240,7 +242,7 @@ void VideoFormatPageTest::otherSizeIsNotSetByThePage()
     QCOMPARE(page.width()->value(), 1024);
 }
 
-void VideoFormatPageTest::computedWidthBeyondTheRangeIsReportedAsComputed()
+void TestVideoFormatPage::computedWidthBeyondTheRangeIsReportedAsComputed()
 {
     OpenPage page("16:9", true);
     user::type(page.height(), QStringLiteral("4096"));
@@ -253,7 +255,7 @@ void VideoFormatPageTest::computedWidthBeyondTheRangeIsReportedAsComputed()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void VideoFormatPageTest::widthAndHeightAreReportedOnceEditingEnds()
+void TestVideoFormatPage::widthAndHeightAreReportedOnceEditingEnds()
 {
     OpenPage page("Custom", false);
     for (QSpinBox* const field : {page.width(), page.height()}) {
@@ -268,7 +270,7 @@ void VideoFormatPageTest::widthAndHeightAreReportedOnceEditingEnds()
     }
 }
 
-void VideoFormatPageTest::keepAspectRatioSurvivesEveryState()
+void TestVideoFormatPage::keepAspectRatioSurvivesEveryState()
 {
     OpenPage page("4:3", true);
     page.page.receiveState({});
@@ -279,7 +281,7 @@ void VideoFormatPageTest::keepAspectRatioSurvivesEveryState()
     QVERIFY(page.keepRatio()->isChecked());
 }
 
-void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize_data()
+void TestVideoFormatPage::aspectRatioIsDisabledWithEitherSize_data()
 {
     QTest::addColumn<bool>("width");
     QTest::addColumn<bool>("height");
@@ -294,7 +296,7 @@ void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize_data()
     QTest::newRow("both locked") << false << false << true << true << false;
 }
 
-void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize()
+void TestVideoFormatPage::aspectRatioIsDisabledWithEitherSize()
 {
     QFETCH(bool, width);
     QFETCH(bool, height);
@@ -314,16 +316,17 @@ void VideoFormatPageTest::aspectRatioIsDisabledWithEitherSize()
     QCOMPARE(open.ratio()->isEnabled(), enabled);
 }
 
-void VideoFormatPageTest::listsAreEmptyUntilFilled()
+void TestVideoFormatPage::listsAreEmptyUntilFilled()
 {
     const VideoFormatPage page;
     const auto lists = page.findChildren<QComboBox*>();
     QCOMPARE(lists.size(), 8);
-    for (const QComboBox* list : lists)
+    for (const QComboBox* list : lists) {
         QCOMPARE(list->count(), 0);
+    }
 }
 
-void VideoFormatPageTest::fillingTheListsTwiceKeepsTheItemsOnce()
+void TestVideoFormatPage::fillingTheListsTwiceKeepsTheItemsOnce()
 {
     OpenPage page("Custom", false);
     page.page.fillLists();
@@ -332,7 +335,7 @@ void VideoFormatPageTest::fillingTheListsTwiceKeepsTheItemsOnce()
     QCOMPARE(page.find<QComboBox>("pulldownList")->count(), 8);
 }
 
-void VideoFormatPageTest::secondFrameRateItemIsNotAdded()
+void TestVideoFormatPage::secondFrameRateItemIsNotAdded()
 {
     OpenPage page("Custom", false);
     page.page.addFramerateItem(QStringLiteral("48"));
@@ -343,7 +346,7 @@ void VideoFormatPageTest::secondFrameRateItemIsNotAdded()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void VideoFormatPageTest::frameRateItemMayRepeatOneOfTheList()
+void TestVideoFormatPage::frameRateItemMayRepeatOneOfTheList()
 {
     OpenPage page("Custom", false);
     page.page.addFramerateItem(QStringLiteral("23.98"));
@@ -352,7 +355,7 @@ void VideoFormatPageTest::frameRateItemMayRepeatOneOfTheList()
     QCOMPARE(page.rate()->itemText(14), QStringLiteral("23.98"));
 }
 
-void VideoFormatPageTest::addedFrameRateIsShownAndReported()
+void TestVideoFormatPage::addedFrameRateIsShownAndReported()
 {
     OpenPage page("Custom", false);
     page.page.addFramerateItem(QStringLiteral("48"));
@@ -365,5 +368,5 @@ void VideoFormatPageTest::addedFrameRateIsShownAndReported()
     QCOMPARE(page.spy.take(), lines({"Frame Rate='24.00'", "Frame Rate='48'"}));
 }
 
-QTEST_MAIN(VideoFormatPageTest)
+QTEST_MAIN(TestVideoFormatPage)
 #include "tst_video_format_page.moc"

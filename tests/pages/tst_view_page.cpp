@@ -19,7 +19,7 @@
 
 /// Rate control of one view. Every test runs on each of the four pages, which differ in the suffix
 /// of their keys only.
-class ViewPageTest : public QObject
+class TestViewPage : public QObject
 {
     Q_OBJECT
 
@@ -162,7 +162,7 @@ using Edit = std::function<void(const OpenPage&)>;
 Q_DECLARE_METATYPE(Edit)
 
 // The rows of every test.
-void ViewPageTest::initTestCase_data()
+void TestViewPage::initTestCase_data()
 {
     QTest::addColumn<int>("view");
     QTest::newRow("View0Page") << 0;
@@ -171,7 +171,7 @@ void ViewPageTest::initTestCase_data()
     QTest::newRow("View3Page") << 3;
 }
 
-void ViewPageTest::init()
+void TestViewPage::init()
 {
     failOnToolkitWarnings();
     QFETCH_GLOBAL(int, view);
@@ -179,20 +179,22 @@ void ViewPageTest::init()
 }
 
 /// Puts the suffix behind the keys: "HRD=1" to "HRD V2=1". The empty key has none.
-QStringList ViewPageTest::keyed(std::initializer_list<const char*> states) const
+QStringList TestViewPage::keyed(std::initializer_list<const char*> states) const
 {
     QStringList all;
     for (const char* state : states) {
         QStringList entries = QString::fromLatin1(state).split(QStringLiteral("; "));
-        for (QString& entry : entries)
-            if (!entry.startsWith(QLatin1Char('=')))
+        for (QString& entry : entries) {
+            if (!entry.startsWith(QLatin1Char('='))) {
                 entry.insert(entry.indexOf(QLatin1Char('=')), QStringLiteral(" V%1").arg(m_view));
+            }
+        }
         all += entries.join(QStringLiteral("; "));
     }
     return all;
 }
 
-void ViewPageTest::targetAboveMaximumRaisesIt()
+void TestViewPage::targetAboveMaximumRaisesIt()
 {
     OpenPage page(m_view);
     user::type(page.spin("targetRateSpin"), QStringLiteral("6000"));
@@ -200,7 +202,7 @@ void ViewPageTest::targetAboveMaximumRaisesIt()
     QCOMPARE(page.spin("maxRateSpin")->value(), 6000);
 }
 
-void ViewPageTest::targetUpToMaximumLeavesIt()
+void TestViewPage::targetUpToMaximumLeavesIt()
 {
     OpenPage page(m_view);
     user::type(page.spin("targetRateSpin"), QStringLiteral("5000"));
@@ -209,7 +211,7 @@ void ViewPageTest::targetUpToMaximumLeavesIt()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 123456);
 }
 
-void ViewPageTest::maximumBelowTargetLowersIt()
+void TestViewPage::maximumBelowTargetLowersIt()
 {
     OpenPage page(m_view);
     user::type(page.spin("maxRateSpin"), QStringLiteral("3000"));
@@ -220,7 +222,7 @@ void ViewPageTest::maximumBelowTargetLowersIt()
     QCOMPARE(page.spy.take(), keyed({"Max Bitrate=3001", "Max Bitrate=3000"}));
 }
 
-void ViewPageTest::maximumAboveTargetIsReportedAloneAndLeavesTheBuffer()
+void TestViewPage::maximumAboveTargetIsReportedAloneAndLeavesTheBuffer()
 {
     OpenPage page(m_view);
     user::type(page.spin("maxRateSpin"), QStringLiteral("9000"));
@@ -229,7 +231,7 @@ void ViewPageTest::maximumAboveTargetIsReportedAloneAndLeavesTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 123456);
 }
 
-void ViewPageTest::steppingTheTargetRaisesTheMaximumToo()
+void TestViewPage::steppingTheTargetRaisesTheMaximumToo()
 {
     OpenPage page(m_view);
     page.spin("targetRateSpin")->setFocus();
@@ -237,7 +239,7 @@ void ViewPageTest::steppingTheTargetRaisesTheMaximumToo()
     QCOMPARE(page.spy.take(), keyed({"Max Bitrate=14000; Target Bitrate=14000"}));
 }
 
-void ViewPageTest::oneSecondBoxSetsTheBuffer_data()
+void TestViewPage::oneSecondBoxSetsTheBuffer_data()
 {
     QTest::addColumn<int>("units");
     QTest::addColumn<int>("target");
@@ -254,7 +256,7 @@ void ViewPageTest::oneSecondBoxSetsTheBuffer_data()
     row("clock", Clock, 6001, "=6001; Bitrate Buffer=6001", 6001);
 }
 
-void ViewPageTest::oneSecondBoxSetsTheBuffer()
+void TestViewPage::oneSecondBoxSetsTheBuffer()
 {
     QFETCH(int, units);
     QFETCH(int, target);
@@ -270,7 +272,7 @@ void ViewPageTest::oneSecondBoxSetsTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), buffer);
 }
 
-void ViewPageTest::oneSecondBoxDisablesTheBuffer()
+void TestViewPage::oneSecondBoxDisablesTheBuffer()
 {
     OpenPage page(m_view);
     QVERIFY(page.spin("bitrateBufferSpin")->isEnabled());
@@ -286,7 +288,7 @@ void ViewPageTest::oneSecondBoxDisablesTheBuffer()
     QCOMPARE(page.spy.take(), lines({"=4000"}));
 }
 
-void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data()
+void TestViewPage::bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data()
 {
     QTest::addColumn<Edit>("edit");
     const auto row = [](const char* name, const Edit& edit) { QTest::newRow(name) << edit; };
@@ -299,7 +301,7 @@ void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data()
 }
 
 // Each of these edits writes the buffer before any state returns.
-void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt()
+void TestViewPage::bufferStaysDisabledWhileTheOneSecondBoxSetsIt()
 {
     QFETCH(Edit, edit);
     OpenPage page(m_view);
@@ -310,7 +312,7 @@ void ViewPageTest::bufferStaysDisabledWhileTheOneSecondBoxSetsIt()
     QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
 }
 
-void ViewPageTest::targetWithOneSecondBoxSetsTheBuffer()
+void TestViewPage::targetWithOneSecondBoxSetsTheBuffer()
 {
     OpenPage page(m_view);
     user::click(page.oneSecond());
@@ -323,7 +325,7 @@ void ViewPageTest::targetWithOneSecondBoxSetsTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 8000);
 }
 
-void ViewPageTest::maximumBelowTargetWithOneSecondBoxSetsTheBuffer()
+void TestViewPage::maximumBelowTargetWithOneSecondBoxSetsTheBuffer()
 {
     OpenPage page(m_view);
     page.receive("Units", int(Bytes));
@@ -334,7 +336,7 @@ void ViewPageTest::maximumBelowTargetWithOneSecondBoxSetsTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 375);
 }
 
-void ViewPageTest::maximumAboveTargetWithOneSecondBoxLeavesTheBuffer()
+void TestViewPage::maximumAboveTargetWithOneSecondBoxLeavesTheBuffer()
 {
     OpenPage page(m_view);
     user::click(page.oneSecond());
@@ -344,7 +346,7 @@ void ViewPageTest::maximumAboveTargetWithOneSecondBoxLeavesTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 4000);
 }
 
-void ViewPageTest::unitsWithOneSecondBoxSetTheBuffer()
+void TestViewPage::unitsWithOneSecondBoxSetTheBuffer()
 {
     OpenPage page(m_view);
     user::click(page.oneSecond());
@@ -356,7 +358,7 @@ void ViewPageTest::unitsWithOneSecondBoxSetTheBuffer()
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), 4000);
 }
 
-void ViewPageTest::oneSecondBoxSurvivesEveryState()
+void TestViewPage::oneSecondBoxSurvivesEveryState()
 {
     OpenPage page(m_view);
     QVERIFY(!page.oneSecond()->isChecked());
@@ -370,7 +372,7 @@ void ViewPageTest::oneSecondBoxSurvivesEveryState()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::oneSecondBoxWinsOverTheStatesEnabling()
+void TestViewPage::oneSecondBoxWinsOverTheStatesEnabling()
 {
     OpenPage page(m_view);
     page.put("Bitrate Buffer", 5, false);
@@ -382,7 +384,7 @@ void ViewPageTest::oneSecondBoxWinsOverTheStatesEnabling()
     QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
 }
 
-void ViewPageTest::unitsSetLabelsMaximaAndSteps_data()
+void TestViewPage::unitsSetLabelsMaximaAndSteps_data()
 {
     QTest::addColumn<int>("units");
     QTest::addColumn<QStringList>("labels");
@@ -396,11 +398,10 @@ void ViewPageTest::unitsSetLabelsMaximaAndSteps_data()
                           << lines({"Bitrate buffer (bits)", "VBV buffer initial (bits)",
                                     "VBV buffer target (bits)"})
                           << QList<int>{largest, largest, largest, 8192, 8192, 8192};
-    QTest::newRow("bits and clock")
-        << int(Clock)
-        << lines({"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)",
-                  "VBV buffer target (90 kHz)"})
-        << QList<int>{largest, largest, largest, 8192, 1, 1};
+    QTest::newRow("bits and clock") << int(Clock)
+                                    << lines({"Bitrate buffer (bits)", "VBV buffer initial (90 hz)",
+                                              "VBV buffer target (90 hz)"})
+                                    << QList<int>{largest, largest, largest, 8192, 1, 1};
 }
 
 namespace
@@ -409,24 +410,27 @@ namespace
 QStringList unitLabels(const OpenPage& page)
 {
     QStringList texts;
-    for (const char* name : {"bitrateBufferLabel", "vbvInitialLabel", "vbvTargetLabel"})
+    for (const char* name : {"bitrateBufferLabel", "vbvInitialLabel", "vbvTargetLabel"}) {
         texts += page.find<QLabel>(name)->text();
+    }
     return texts;
 }
 
 QList<int> unitLimits(const OpenPage& page)
 {
     QList<int> limits;
-    for (const char* name : {"bitrateBufferSpin", "vbvInitialSpin", "vbvTargetSpin"})
+    for (const char* name : {"bitrateBufferSpin", "vbvInitialSpin", "vbvTargetSpin"}) {
         limits += page.spin(name)->maximum();
-    for (const char* name : {"bitrateBufferSpin", "vbvInitialSpin", "vbvTargetSpin"})
+    }
+    for (const char* name : {"bitrateBufferSpin", "vbvInitialSpin", "vbvTargetSpin"}) {
         limits += page.spin(name)->singleStep();
+    }
     return limits;
 }
 
 } // namespace
 
-void ViewPageTest::unitsSetLabelsMaximaAndSteps()
+void TestViewPage::unitsSetLabelsMaximaAndSteps()
 {
     QFETCH(int, units);
     QFETCH(QStringList, labels);
@@ -442,7 +446,7 @@ void ViewPageTest::unitsSetLabelsMaximaAndSteps()
     }
 }
 
-void ViewPageTest::unknownUnitsLeaveEverything_data()
+void TestViewPage::unknownUnitsLeaveEverything_data()
 {
     QTest::addColumn<int>("units");
     QTest::newRow("3") << 3;
@@ -450,7 +454,7 @@ void ViewPageTest::unknownUnitsLeaveEverything_data()
     QTest::newRow("largest") << largest;
 }
 
-void ViewPageTest::unknownUnitsLeaveEverything()
+void TestViewPage::unknownUnitsLeaveEverything()
 {
     QFETCH(int, units);
     OpenPage page(m_view);
@@ -459,15 +463,16 @@ void ViewPageTest::unknownUnitsLeaveEverything()
     QCOMPARE(unitLabels(page),
              lines({"Bitrate buffer (bytes)", "VBV buffer initial (%)", "VBV buffer target (%)"}));
     QCOMPARE(unitLimits(page), (QList<int>{largest, 100, 100, 1024, 1, 1}));
-    for (const Units id : {Bytes, Bits, Clock})
+    for (const Units id : {Bytes, Bits, Clock}) {
         QVERIFY(!page.units(id)->isChecked());
+    }
     // A known one is chosen again.
     page.receive("Units", int(Clock));
     QVERIFY(page.units(Clock)->isChecked());
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::switchingUnitsConvertsNothing()
+void TestViewPage::switchingUnitsConvertsNothing()
 {
     OpenPage page(m_view);
     page.receive("Bitrate Buffer", 8000000);
@@ -484,7 +489,7 @@ void ViewPageTest::switchingUnitsConvertsNothing()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::fullnessAbove100PercentIsClampedAndReportedTwice()
+void TestViewPage::fullnessAbove100PercentIsClampedAndReportedTwice()
 {
     OpenPage page(m_view);
     page.put("VBV Initial", 101);
@@ -500,7 +505,7 @@ void ViewPageTest::fullnessAbove100PercentIsClampedAndReportedTwice()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::targetFullnessAbove100PercentIsClampedAndNotReported()
+void TestViewPage::targetFullnessAbove100PercentIsClampedAndNotReported()
 {
     OpenPage page(m_view);
     page.put("VBV Target", 5000);
@@ -509,7 +514,7 @@ void ViewPageTest::targetFullnessAbove100PercentIsClampedAndNotReported()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::fullnessIsClampedAfterSwitchingToPercent()
+void TestViewPage::fullnessIsClampedAfterSwitchingToPercent()
 {
     OpenPage page(m_view);
     page.receive("VBV Initial", 90000);
@@ -520,7 +525,7 @@ void ViewPageTest::fullnessIsClampedAfterSwitchingToPercent()
     QCOMPARE(page.spy.take(), keyed({"VBV Initial=100", "VBV Initial=100"}));
 }
 
-void ViewPageTest::largeFullnessIsShownAsSoonAsTheUnitsAllowIt()
+void TestViewPage::largeFullnessIsShownAsSoonAsTheUnitsAllowIt()
 {
     OpenPage page(m_view);
     page.receive("Units", int(Bytes));
@@ -532,7 +537,7 @@ void ViewPageTest::largeFullnessIsShownAsSoonAsTheUnitsAllowIt()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::fullnessInUnknownUnitsKeepsTheLimit()
+void TestViewPage::fullnessInUnknownUnitsKeepsTheLimit()
 {
     OpenPage page(m_view);
     page.receive("Units", int(Bytes));
@@ -542,7 +547,7 @@ void ViewPageTest::fullnessInUnknownUnitsKeepsTheLimit()
     QCOMPARE(page.spy.take(), QStringList());
 }
 
-void ViewPageTest::modeAndHrdDecideWhatIsVisible_data()
+void TestViewPage::modeAndHrdDecideWhatIsVisible_data()
 {
     QTest::addColumn<QString>("mode");
     QTest::addColumn<int>("hrd");
@@ -563,7 +568,7 @@ void ViewPageTest::modeAndHrdDecideWhatIsVisible_data()
     row("other letter case", "variable bitrate", 1, lines({"sizes"}));
 }
 
-void ViewPageTest::modeAndHrdDecideWhatIsVisible()
+void TestViewPage::modeAndHrdDecideWhatIsVisible()
 {
     QFETCH(QString, mode);
     QFETCH(int, hrd);
@@ -590,18 +595,20 @@ void ViewPageTest::modeAndHrdDecideWhatIsVisible()
         QStringList found;
         for (const auto& group : groups) {
             int shown = 0;
-            for (const char* name : group.second)
+            for (const char* name : group.second) {
                 shown += page.isVisible(name);
+            }
             QVERIFY2(shown == 0 || shown == group.second.size(), group.first);
-            if (shown > 0)
+            if (shown > 0) {
                 found += QLatin1String(group.first);
+            }
         }
         QCOMPARE(found, visible);
         QCOMPARE(page.spy.take(), QStringList());
     }
 }
 
-void ViewPageTest::variableBitrateWithoutHrdHidesMaximumAndBuffers()
+void TestViewPage::variableBitrateWithoutHrdHidesMaximumAndBuffers()
 {
     OpenPage page(m_view);
     page.receive("HRD", 0);
@@ -610,14 +617,14 @@ void ViewPageTest::variableBitrateWithoutHrdHidesMaximumAndBuffers()
     QVERIFY(!page.isVisible("groupBoxBuffers"));
 }
 
-void ViewPageTest::hrdOtherThan1CountsAsOff_data()
+void TestViewPage::hrdOtherThan1CountsAsOff_data()
 {
     QTest::addColumn<int>("hrd");
     QTest::newRow("2") << 2;
     QTest::newRow("-1") << -1;
 }
 
-void ViewPageTest::hrdOtherThan1CountsAsOff()
+void TestViewPage::hrdOtherThan1CountsAsOff()
 {
     QFETCH(int, hrd);
     OpenPage page(m_view);
@@ -626,7 +633,7 @@ void ViewPageTest::hrdOtherThan1CountsAsOff()
     QVERIFY(page.find<QCheckBox>("hrdCheck")->isChecked());
 }
 
-void ViewPageTest::hrdSwitchIsAlwaysVisible()
+void TestViewPage::hrdSwitchIsAlwaysVisible()
 {
     OpenPage page(m_view);
     for (const char* mode : {constant, variable, constantQuantizer, averageQuantizer, ""}) {
@@ -639,7 +646,7 @@ void ViewPageTest::hrdSwitchIsAlwaysVisible()
     }
 }
 
-void ViewPageTest::hiddenIsNotDisabled()
+void TestViewPage::hiddenIsNotDisabled()
 {
     OpenPage page(m_view);
     page.receive("Bitrate Mode", QString(QLatin1String(constantQuantizer)));
@@ -649,7 +656,7 @@ void ViewPageTest::hiddenIsNotDisabled()
     }
 }
 
-void ViewPageTest::editOfVbvTargetReportsNothingAndOfVbvInitialTwice()
+void TestViewPage::editOfVbvTargetReportsNothingAndOfVbvInitialTwice()
 {
     OpenPage page(m_view);
     user::type(page.spin("vbvTargetSpin"), QStringLiteral("4711"));
@@ -659,7 +666,7 @@ void ViewPageTest::editOfVbvTargetReportsNothingAndOfVbvInitialTwice()
     QCOMPARE(page.spy.take(), keyed({"VBV Initial=4711", "VBV Initial=4711"}));
 }
 
-void ViewPageTest::chosenModeIsReportedAsItsText()
+void TestViewPage::chosenModeIsReportedAsItsText()
 {
     OpenPage page(m_view);
     QVERIFY(user::choose(page.find<QComboBox>("bitrateModeList"), QLatin1String(constant)));
@@ -668,13 +675,13 @@ void ViewPageTest::chosenModeIsReportedAsItsText()
     QVERIFY(page.isVisible("maxRateSpin"));
 }
 
-void ViewPageTest::modeListIsEmptyUntilFilled()
+void TestViewPage::modeListIsEmptyUntilFilled()
 {
     const auto page = makePage(m_view);
     QCOMPARE(page->findChild<QComboBox*>()->count(), 0);
 }
 
-void ViewPageTest::fillingTheModesTwiceKeepsTheItemsOnce()
+void TestViewPage::fillingTheModesTwiceKeepsTheItemsOnce()
 {
     const auto page = makePage(m_view);
     page->fillBitrateModes();
@@ -682,5 +689,5 @@ void ViewPageTest::fillingTheModesTwiceKeepsTheItemsOnce()
     QCOMPARE(page->findChild<QComboBox*>()->count(), 4);
 }
 
-QTEST_MAIN(ViewPageTest)
+QTEST_MAIN(TestViewPage)
 #include "tst_view_page.moc"

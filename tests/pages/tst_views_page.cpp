@@ -16,7 +16,7 @@
 #include <climits>
 
 /// The "Views" tab: how many views there are decides which of them can be edited.
-class ViewsPageTest : public QObject
+class TestViewsPage : public QObject
 {
     Q_OBJECT
 
@@ -48,8 +48,9 @@ QStringList enabledPages(AllPages& pages)
     for (int view = 0; view < 4; ++view) {
         const QString page = QStringLiteral("View%1Page").arg(view);
         const auto* const control = findOnPage(pages.window(), page, QStringLiteral("hrdCheck"));
-        if (pageOf(control)->isEnabled())
+        if (pageOf(control)->isEnabled()) {
             names += page;
+        }
     }
     return names;
 }
@@ -102,13 +103,13 @@ ConfigState withNumber(int number)
 
 } // namespace
 
-void ViewsPageTest::sectionsComeInOrder()
+void TestViewsPage::sectionsComeInOrder()
 {
     AllPages pages;
     QCOMPARE(sectionTitles(pages.views), lines({"Base View", "View 1", "View 2", "View 3"}));
 }
 
-void ViewsPageTest::numberOfViewsEnablesPages_data()
+void TestViewsPage::numberOfViewsEnablesPages_data()
 {
     QTest::addColumn<QStringList>("enabled");
     QTest::newRow("0") << lines({"View0Page"});
@@ -117,7 +118,7 @@ void ViewsPageTest::numberOfViewsEnablesPages_data()
     QTest::newRow("3") << lines({"View0Page", "View1Page", "View2Page", "View3Page"});
 }
 
-void ViewsPageTest::numberOfViewsEnablesPages()
+void TestViewsPage::numberOfViewsEnablesPages()
 {
     QFETCH(QStringList, enabled);
     const int number = QByteArray(QTest::currentDataTag()).toInt();
@@ -131,7 +132,7 @@ void ViewsPageTest::numberOfViewsEnablesPages()
     QCOMPARE(enabledPages(pages), enabled);
 }
 
-void ViewsPageTest::numberOutOfRangeIsComparedUnsigned_data()
+void TestViewsPage::numberOutOfRangeIsComparedUnsigned_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<int>("shownNumber");
@@ -141,7 +142,7 @@ void ViewsPageTest::numberOutOfRangeIsComparedUnsigned_data()
     QTest::newRow("INT_MIN") << INT_MIN << 0;
 }
 
-void ViewsPageTest::numberOutOfRangeIsComparedUnsigned()
+void TestViewsPage::numberOutOfRangeIsComparedUnsigned()
 {
     QFETCH(int, number);
     QFETCH(int, shownNumber);
@@ -154,7 +155,7 @@ void ViewsPageTest::numberOutOfRangeIsComparedUnsigned()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void ViewsPageTest::absentNumberEnablesTheBaseViewOnly()
+void TestViewsPage::absentNumberEnablesTheBaseViewOnly()
 {
     AllPages pages;
     pages.receive(withNumber(3));
@@ -162,7 +163,7 @@ void ViewsPageTest::absentNumberEnablesTheBaseViewOnly()
     QCOMPARE(enabledPages(pages), lines({"View0Page"}));
 }
 
-void ViewsPageTest::eachPageIsToldAndThenEnabled_data()
+void TestViewsPage::eachPageIsToldAndThenEnabled_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("number");
@@ -177,7 +178,7 @@ void ViewsPageTest::eachPageIsToldAndThenEnabled_data()
                   "View2Page disabled", "View3Page told", "View3Page disabled"});
 }
 
-void ViewsPageTest::eachPageIsToldAndThenEnabled()
+void TestViewsPage::eachPageIsToldAndThenEnabled()
 {
     QFETCH(int, before);
     QFETCH(int, number);
@@ -199,7 +200,7 @@ void ViewsPageTest::eachPageIsToldAndThenEnabled()
     QTEST(spy.order, "order");
 }
 
-void ViewsPageTest::changingTheNumberReportsItAloneAndEnablesNothingYet()
+void TestViewsPage::changingTheNumberReportsItAloneAndEnablesNothingYet()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -212,7 +213,7 @@ void ViewsPageTest::changingTheNumberReportsItAloneAndEnablesNothingYet()
     QCOMPARE(enabledPages(pages), lines({"View0Page", "View1Page", "View2Page"}));
 }
 
-void ViewsPageTest::splitIsReported()
+void TestViewsPage::splitIsReported()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -220,14 +221,15 @@ void ViewsPageTest::splitIsReported()
     QCOMPARE(pages.spy.take(), lines({"Split=true"}));
 }
 
-void ViewsPageTest::editOfAnyViewIsForwardedUnchanged_data()
+void TestViewsPage::editOfAnyViewIsForwardedUnchanged_data()
 {
     QTest::addColumn<int>("view");
-    for (int view = 0; view < 4; ++view)
+    for (int view = 0; view < 4; ++view) {
         QTest::newRow(qPrintable(QString::number(view))) << view;
+    }
 }
 
-void ViewsPageTest::editOfAnyViewIsForwardedUnchanged()
+void TestViewsPage::editOfAnyViewIsForwardedUnchanged()
 {
     QFETCH(int, view);
     AllPages pages;
@@ -242,7 +244,7 @@ void ViewsPageTest::editOfAnyViewIsForwardedUnchanged()
     QCOMPARE(pages.spy.take(), expected);
 }
 
-void ViewsPageTest::disabledViewKeepsItsValuesAndItsSectionOpens()
+void TestViewsPage::disabledViewKeepsItsValuesAndItsSectionOpens()
 {
     AllPages pages;
     QVERIFY(pages.show());
@@ -262,7 +264,7 @@ void ViewsPageTest::disabledViewKeepsItsValuesAndItsSectionOpens()
     QCOMPARE(pages.spy.take(), QStringList());
 }
 
-void ViewsPageTest::titlesAreBoldAndThePagesNormal()
+void TestViewsPage::titlesAreBoldAndThePagesNormal()
 {
     AllPages pages;
     QVERIFY(pages.views->findChild<ToolBox*>()->font().weight() == QFont::Bold);
@@ -275,5 +277,5 @@ void ViewsPageTest::titlesAreBoldAndThePagesNormal()
     }
 }
 
-QTEST_MAIN(ViewsPageTest)
+QTEST_MAIN(TestViewsPage)
 #include "tst_views_page.moc"

@@ -1,6 +1,5 @@
 // The encoder library as a caller has it: its defaults, and what its check complains of.
-#ifndef KV_TEST_ENCODER_LIBRARY_H
-#define KV_TEST_ENCODER_LIBRARY_H
+#pragma once
 
 #include <kv_config_gui_mvc/companion_check.h>
 
@@ -36,12 +35,13 @@ public:
     KvMvcSettings defaults(int preset) const
     {
         KvMvcSettings settings{};
-        if (m_defaults)
+        if (m_defaults) {
             m_defaults(&settings, 0, preset, 0);
+        }
         return settings;
     }
     KvMvcCheck check() const { return m_check; }
-    /** Errors as "E: ...", warnings as "W: ...", one a line; empty for settings that are taken. */
+    /// Errors as "E: ...", warnings as "W: ...", one a line; empty for settings that are taken.
     QByteArray complaintsOf(KvMvcSettings settings) const
     {
         QByteArray complaints;
@@ -57,5 +57,3 @@ private:
 };
 
 } // namespace kvtest
-
-#endif

@@ -31,8 +31,9 @@ KvMvcSettingsIoGetApi load(const char* library)
 int main(int count, char** arguments)
 {
     const auto getApi = count == 3 ? load(arguments[1]) : nullptr;
-    if (!getApi)
+    if (!getApi) {
         return 3;
+    }
     const auto read = reinterpret_cast<KvMvcReadSettings>(getApi(KV_MVC_SETTINGS_IO_READER));
     return read(&settings, arguments[2]);
 }

@@ -1,6 +1,5 @@
 // A folder for settings files, and the library that reads and writes them.
-#ifndef KV_TEST_SETTINGS_FOLDER_H
-#define KV_TEST_SETTINGS_FOLDER_H
+#pragma once
 
 #include "SettingsLibrary.h"
 
@@ -14,9 +13,9 @@
 namespace kvtest
 {
 
-constexpr char kOldText[] = "[record]\nnum_views = 7\n[view 0]\n";
+constexpr char oldText[] = "[record]\nnum_views = 7\n[view 0]\n";
 
-/** A record that is told from others by its number of views. */
+/// A record that is told from others by its number of views.
 inline KvMvcSettings recordOfViews(int views)
 {
     KvMvcSettings settings{};
@@ -24,7 +23,7 @@ inline KvMvcSettings recordOfViews(int views)
     return settings;
 }
 
-/** What a test of settings files stands on; new for each test function. */
+/// What a test of settings files stands on; new for each test function.
 class SettingsFolder
 {
 protected:
@@ -56,7 +55,7 @@ protected:
         QFile in(QString::fromUtf8(file));
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("cannot be opened");
     }
-    /** Everything that the folder holds. */
+    /// Everything that the folder holds.
     QStringList names() const
     {
         return QDir(m_folder->path())
@@ -69,5 +68,3 @@ protected:
 };
 
 } // namespace kvtest
-
-#endif

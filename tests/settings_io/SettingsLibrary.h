@@ -1,6 +1,5 @@
 // The settings file library as a caller has it, and what it prints.
-#ifndef KV_TEST_SETTINGS_LIBRARY_H
-#define KV_TEST_SETTINGS_LIBRARY_H
+#pragma once
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -24,12 +23,13 @@
 namespace kvtest
 {
 
-/** Standard error of the whole process, as text, while `work` runs. */
+/// Standard error of the whole process, as text, while `work` runs.
 inline QByteArray standardErrorOf(const std::function<void()>& work)
 {
     QTemporaryFile file;
-    if (!file.open())
+    if (!file.open()) {
         return "no temporary file";
+    }
     std::fflush(stderr);
     const int former = ::dup(STDERR_FILENO);
     ::dup2(file.handle(), STDERR_FILENO);
@@ -41,7 +41,7 @@ inline QByteArray standardErrorOf(const std::function<void()>& work)
     return file.readAll();
 }
 
-/** Whether the process has a library of this base name loaded. */
+/// Whether the process has a library of this base name loaded.
 inline bool isInProcess(const char* library)
 {
 #ifdef Q_OS_WIN
@@ -55,14 +55,15 @@ inline bool isInProcess(const char* library)
 class SettingsLibrary
 {
 public:
-    /** The toolkit appends the system's suffix of libraries. */
+    /// The toolkit appends the system's suffix of libraries.
     explicit SettingsLibrary(const QString& folder = qEnvironmentVariable("KV_BIN_DIR"))
         : m_library(folder + QStringLiteral("/kv_mvc_settings_io"))
     {
         const auto getApi =
             reinterpret_cast<KvMvcSettingsIoGetApi>(m_library.resolve(KV_MVC_SETTINGS_IO_GET_API));
-        if (!getApi)
+        if (!getApi) {
             return;
+        }
         m_getApi = getApi;
         m_read = reinterpret_cast<KvMvcReadSettings>(getApi(KV_MVC_SETTINGS_IO_READER));
         m_write = reinterpret_cast<KvMvcWriteSettings>(getApi(KV_MVC_SETTINGS_IO_WRITER));
@@ -73,10 +74,10 @@ public:
 
     bool isLoaded() const { return m_read && m_write; }
     QString loadError() const { return m_library.errorString(); }
-    /** The exported function itself. */
+    /// The exported function itself.
     KvMvcSettingsIoGetApi getApi() const { return m_getApi; }
 
-    /** The result; what is printed goes to `messages`. */
+    /// The result; what is printed goes to `messages`.
     int read(KvMvcSettings& settings, const QByteArray& path)
     {
         int result = -1;
@@ -104,7 +105,7 @@ inline bool same(const KvMvcSettings& left, const KvMvcSettings& right)
     return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
-/** A record of which every byte is `byte`. */
+/// A record of which every byte is `byte`.
 inline KvMvcSettings filledRecord(int byte)
 {
     KvMvcSettings settings;
@@ -112,12 +113,10 @@ inline KvMvcSettings filledRecord(int byte)
     return settings;
 }
 
-/** UTF-8 that was read as Latin-1 and encoded again, as callers do it. */
+/// UTF-8 that was read as Latin-1 and encoded again, as callers do it.
 inline QByteArray doubleConverted(const QByteArray& path)
 {
     return QString::fromLatin1(path).toUtf8();
 }
 
 } // namespace kvtest
-
-#endif

@@ -1,6 +1,5 @@
 // The systems' own words for what is refused, as they stand in messages.
-#ifndef KV_TEST_SYSTEM_WORDS_H
-#define KV_TEST_SYSTEM_WORDS_H
+#pragma once
 
 #include <QByteArray>
 #include <QString>
@@ -21,12 +20,13 @@ struct SystemWords {
 
 #ifdef Q_OS_WIN
 
-/** In the user's language, so asked of the system: without its full stop. */
+/// In the user's language, so asked of the system: without its full stop.
 inline QByteArray wordsOf(DWORD error)
 {
     QString words = qt_error_string(static_cast<int>(error)).trimmed();
-    if (words.endsWith(QLatin1Char('.')))
+    if (words.endsWith(QLatin1Char('.'))) {
         words.chop(1);
+    }
     return words.toUtf8();
 }
 
@@ -47,5 +47,3 @@ inline SystemWords systemWords()
 #endif
 
 } // namespace kvtest
-
-#endif

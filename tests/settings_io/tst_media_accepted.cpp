@@ -16,9 +16,9 @@ using kvtest::SettingsLibrary;
 namespace
 {
 
-constexpr int kAuto = 100;
+constexpr int autoLevel = 100;
 
-/** What a file is made of, what its settings come to, and what is told of it. */
+/// What a file is made of, what its settings come to, and what is told of it.
 struct Fitted {
     const char* name;
     const char* file;
@@ -31,22 +31,22 @@ struct Fitted {
     const char* note; // its beginning; empty: nothing is told
 };
 
-constexpr char kLevelNote[] = "its level is not kept, Auto is taken (";
-constexpr char kSizeNote[] = "its picture is cut to a size that can be coded (";
+constexpr char levelNote[] = "its level is not kept, Auto is taken (";
+constexpr char sizeNote[] = "its picture is cut to a size that can be coded (";
 
 // clang-format off
-constexpr Fitted kFitted[] = {
+constexpr Fitted fitted[] = {
     // name                                file        size         rate   arguments of ffmpeg                                               w     h    rate level  refs dist slices note
     {"one reference, no B-frames",        "one.mp4",  "640x360",   "25",  "-c:v libx264 -pix_fmt yuv420p -refs 1 -bf 0 -level 3",             640, 360, 25,  30,    1,   1,   1,  ""},
     {"nothing but I-frames",              "intra.ts", "640x360",   "25",  "-c:v libx264 -pix_fmt yuv420p -g 1 -level 3",                      640, 360, 25,  30,    1,   3,   1,  ""},
     {"High 10 at 3.1: five slices",       "ten.ts",   "1280x720",  "25",  "-c:v libx264 -pix_fmt yuv420p10le -x264-params b-pyramid=none:ref=3 -preset fast -level 3.1", 1280, 720, 25, 31,   3,   4,   5,  "more slices are taken than it has ("},
     {"High 4:2:2 at 3.1: five slices",    "two.ts",   "1280x720",  "25",  "-c:v libx264 -pix_fmt yuv422p -x264-params b-pyramid=none:ref=3 -preset fast -level 3.1",     1280, 720, 25, 31,   3,   4,   5,  "more slices are taken than it has ("},
     {"level 1, just its rate",            "small.ts", "176x144",   "15",  "-vf noise=alls=9:allf=t -c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -b:v 60k -maxrate 60k -bufsize 20k -level 1", 176, 144, 15, 10, 2, 4, 1, ""},
-    {"level 1, more than its rate",       "over.ts",  "176x144",   "15",  "-vf noise=alls=50:allf=t -c:v libx264 -qp 20 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1", 176, 144, 15, kAuto, 2, 3, 1, kLevelNote},
-    {"level 1, more than its size",       "large.ts", "352x288",   "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1",                   352, 288, 25,  kAuto, 2,   4,   1,  kLevelNote},
-    {"level 3, more references",          "refs.ts",  "720x576",   "25",  "-c:v libx264 -pix_fmt yuv420p -refs 12 -bf 0 -level 3",            720, 576, 25,  kAuto, 12,  1,   1,  kLevelNote},
-    {"a level beyond the table",          "beyond.ts", "640x360",  "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=3 -level 6.2",                 640, 360, 25,  kAuto, 3,   4,   1,  "its level is not among the settings, Auto is taken"},
-    {"486 lines in two fields",           "ntsc.m2v", "720x486",   "30000/1001", "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0", 720, 484, 30000 / 1001.0, kAuto, 4, 3, 4, kSizeNote},
+    {"level 1, more than its rate",       "over.ts",  "176x144",   "15",  "-vf noise=alls=50:allf=t -c:v libx264 -qp 20 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1", 176, 144, 15, autoLevel, 2, 3, 1, levelNote},
+    {"level 1, more than its size",       "large.ts", "352x288",   "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1",                   352, 288, 25,  autoLevel, 2,   4,   1,  levelNote},
+    {"level 3, more references",          "refs.ts",  "720x576",   "25",  "-c:v libx264 -pix_fmt yuv420p -refs 12 -bf 0 -level 3",            720, 576, 25,  autoLevel, 12,  1,   1,  levelNote},
+    {"a level beyond the table",          "beyond.ts", "640x360",  "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=3 -level 6.2",                 640, 360, 25,  autoLevel, 3,   4,   1,  "its level is not among the settings, Auto is taken"},
+    {"486 lines in two fields",           "ntsc.m2v", "720x486",   "30000/1001", "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0", 720, 484, 30000 / 1001.0, autoLevel, 4, 3, 4, sizeNote},
     {"odd columns, 4:4:4",                "odd.ts",   "319x241",   "25",  "-c:v libx264 -pix_fmt yuv444p -x264-params b-pyramid=none:ref=2 -level 3",                   318, 241, 25,  30,    2,   4,   1,  "its profile is not among the settings"},
     {"few rows",          "low.ts",   "320x32",    "25",  "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 3",                   320, 32,  25,  30,    2,   4,   1,  ""},
     {"slow motion",                       "slow.mp4", "320x240",   "240", "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 5.2",                 320, 240, 120, 52,    2,   4,   1,  "a part of its frame rate is taken ("},
@@ -82,21 +82,23 @@ void TestMediaAccepted::initTestCase()
 {
     QVERIFY(m_library.isLoaded());
     QCOMPARE(m_encoder.complaintsOf(m_encoder.defaults(0)), QByteArray());
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
 }
 
 void TestMediaAccepted::everyMediumOfTheTests_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kvtest::kMedia)); ++row)
-        QTest::newRow(kvtest::kMedia[row].file) << row;
+    for (int row = 0; row < int(std::size(kvtest::media)); ++row) {
+        QTest::newRow(kvtest::media[row].file) << row;
+    }
 }
 
 void TestMediaAccepted::everyMediumOfTheTests()
 {
     QFETCH(int, row);
-    const kvtest::Medium& medium = kvtest::kMedia[row];
+    const kvtest::Medium& medium = kvtest::media[row];
     const QString name = file(medium.file);
     const QByteArray error = makeMedia(medium, name);
     QVERIFY2(error.isEmpty(), error.constData());
@@ -105,22 +107,24 @@ void TestMediaAccepted::everyMediumOfTheTests()
     QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
     QCOMPARE(settings.views[0].width, medium.width);
     QCOMPARE(settings.views[0].height, medium.height);
-    QCOMPARE(settings.views[0].level, medium.level != 0 ? medium.level : kAuto);
-    if (medium.references > 0)
+    QCOMPARE(settings.views[0].level, medium.level != 0 ? medium.level : autoLevel);
+    if (medium.references > 0) {
         QCOMPARE(settings.views[0].num_ref_frames, medium.references);
+    }
 }
 
 void TestMediaAccepted::whatIsChanged_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kFitted)); ++row)
-        QTest::newRow(kFitted[row].name) << row;
+    for (int row = 0; row < int(std::size(fitted)); ++row) {
+        QTest::newRow(fitted[row].name) << row;
+    }
 }
 
 void TestMediaAccepted::whatIsChanged()
 {
     QFETCH(int, row);
-    const Fitted& expected = kFitted[row];
+    const Fitted& expected = fitted[row];
     const QString name = file(expected.file);
     const QByteArray error =
         makeMedia(picture(expected.size, expected.rate) + QStringLiteral("-g 10 ") +
@@ -139,14 +143,15 @@ void TestMediaAccepted::whatIsChanged()
     QCOMPARE(view.num_ref_frames, expected.references);
     QCOMPARE(view.ref_distance, expected.distance);
     QCOMPARE(view.num_slices, expected.slices);
-    if (expected.note[0] == '\0')
+    if (expected.note[0] == '\0') {
         QCOMPARE(m_library.messages, QByteArray());
-    else
+    } else {
         QVERIFY2(m_library.messages.contains(name.toUtf8() + ": note: " + expected.note),
                  m_library.messages.constData());
+    }
 }
 
-/** Half as much again as the average is the default's proportion; level 1 ends at 96,000 bit/s. */
+/// Half as much again as the average is the default's proportion; level 1 ends at 96,000 bit/s.
 void TestMediaAccepted::maximumsThatAreMadeUpGiveWayToTheLevel()
 {
     const QString name = file("narrow.ts");
@@ -253,10 +258,11 @@ void TestMediaAccepted::signalledBuffersStay()
         QCOMPARE(view.max_bitrate, maximum);
         QCOMPARE(view.bitrate_buffer, buffer);
         QCOMPARE(view.hrd_mode, 1);
-        if (rate != 0)
+        if (rate != 0) {
             QCOMPARE(view.bitrate, rate);
-        else
+        } else {
             QVERIFY(view.bitrate < maximum);
+        }
     }
 }
 

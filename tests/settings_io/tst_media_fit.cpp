@@ -15,9 +15,9 @@ using kvtest::EncoderLibrary;
 namespace
 {
 
-constexpr int kAuto = 100;
+constexpr int autoLevel = 100;
 
-/** A progressive stream of 1920 x 1080, 25 frames a second, 8 Mbit/s, High at level 4. */
+/// A progressive stream of 1920 x 1080, 25 frames a second, 8 Mbit/s, High at level 4.
 KvMediaInfo plainStream()
 {
     KvMediaInfo info{};
@@ -37,7 +37,7 @@ KvMediaInfo plainStream()
     return info;
 }
 
-/** What of the stream is told, joined by lines; the encoder's words are left out. */
+/// What of the stream is told, joined by lines; the encoder's words are left out.
 QByteArray withoutWords(const std::vector<std::string>& notes)
 {
     QByteArray text;
@@ -48,13 +48,13 @@ QByteArray withoutWords(const std::vector<std::string>& notes)
     return text;
 }
 
-/** Takes nothing but fewer than three slices, and does not say why. */
+/// Takes nothing but fewer than three slices, and does not say why.
 int32_t fewSlicesInSilence(KvMvcLookup, KvMvcSettings* settings, int32_t, int32_t)
 {
     return settings->views[0].num_slices < 3 ? 0 : 7;
 }
 
-/** Takes nothing. */
+/// Takes nothing.
 int32_t never(KvMvcLookup lookup, KvMvcSettings* settings, int32_t, int32_t)
 {
     const auto error = reinterpret_cast<KvMvcPrintf>(lookup("err_printf"));
@@ -63,13 +63,14 @@ int32_t never(KvMvcLookup lookup, KvMvcSettings* settings, int32_t, int32_t)
     return 1;
 }
 
-/** Takes everything with one slice, if it is called as it should be. */
+/// Takes everything with one slice, if it is called as it should be.
 int32_t corrects(KvMvcLookup lookup, KvMvcSettings* settings, int32_t stage, int32_t)
 {
     if (stage != 3 || lookup("malloc") == nullptr || lookup("free") == nullptr ||
         lookup("inf_printf") == nullptr || lookup("prg_printf") == nullptr ||
-        lookup("unheard_of") != nullptr)
+        lookup("unheard_of") != nullptr) {
         return 1;
+    }
     reinterpret_cast<KvMvcPrintf>(lookup("wrn_printf"))("from %d", settings->views[0].num_slices);
     settings->views[0].num_slices = 1;
     return 0;
@@ -115,11 +116,11 @@ struct Row {
 };
 
 // clang-format off
-const Row kRows[] = {
+const Row rows[] = {
     {"nothing to be done", [](KvMediaInfo&) {},
         {{&View::level, 40, 40}, {&View::num_slices, 4, 4}, {&View::bitrate, 8000000, 8000000}, {&View::max_bitrate, 12000000, 12000000}}, ""},
     {"one reference and a level too low", [](KvMediaInfo& info) { info.num_ref_frames = 1; info.level_idc = 10; },
-        {{&View::level, kAuto, kAuto}, {&View::num_ref_frames, 1, 1}, {&View::ref_distance, 1, 1}, {&View::adaptive_b, 0, 0}}, "its level is not kept, Auto is taken\n"},
+        {{&View::level, autoLevel, autoLevel}, {&View::num_ref_frames, 1, 1}, {&View::ref_distance, 1, 1}, {&View::adaptive_b, 0, 0}}, "its level is not kept, Auto is taken\n"},
     {"two references keep the B-frames", [](KvMediaInfo& info) { info.num_ref_frames = 2; },
         {{&View::num_ref_frames, 2, 2}, {&View::ref_distance, 3, 3}}, ""},
     {"High 10 of 60 frames at 4.2", [](KvMediaInfo& info) { info.profile_idc = 110; info.bit_depth_luma = info.bit_depth_chroma = 10; info.level_idc = 42; info.frame_rate_num = 60; },
@@ -127,11 +128,11 @@ const Row kRows[] = {
     {"High 4:2:2 MBAFF", [](KvMediaInfo& info) { info.profile_idc = 122; info.chroma_format = 2; info.scan = KV_MEDIA_MBAFF; info.level_idc = 41; },
         {{&View::level, 41, 41}, {&View::num_slices, 5, 5}, {&View::multi_slice, 1, 1}, {&View::interlace_mode, KV_MVC_MBAFF, KV_MVC_MBAFF}}, ""},
     {"interlaced beyond 4.1", [](KvMediaInfo& info) { info.scan = KV_MEDIA_INTERLACED; info.level_idc = 50; },
-        {{&View::level, kAuto, kAuto}, {&View::interlace_mode, KV_MVC_INTERLACED, KV_MVC_INTERLACED}}, "its level is not kept, Auto is taken\n"},
+        {{&View::level, autoLevel, autoLevel}, {&View::interlace_mode, KV_MVC_INTERLACED, KV_MVC_INTERLACED}}, "its level is not kept, Auto is taken\n"},
     {"a maximum beyond the level", [](KvMediaInfo& info) { info.hrd_bit_rate = 40000000; info.hrd_buffer_size = 20000000; },
-        {{&View::level, kAuto, kAuto}, {&View::max_bitrate, 40000000, 40000000}, {&View::bitrate_buffer, 2500000, 2500000}}, "its level is not kept, Auto is taken\n"},
+        {{&View::level, autoLevel, autoLevel}, {&View::max_bitrate, 40000000, 40000000}, {&View::bitrate_buffer, 2500000, 2500000}}, "its level is not kept, Auto is taken\n"},
     {"a buffer beyond the level", [](KvMediaInfo& info) { info.hrd_bit_rate = 20000000; info.hrd_buffer_size = 50000000; },
-        {{&View::level, kAuto, kAuto}, {&View::max_bitrate, 20000000, 20000000}, {&View::bitrate_buffer, 6250000, 6250000}}, "its level is not kept, Auto is taken\n"},
+        {{&View::level, autoLevel, autoLevel}, {&View::max_bitrate, 20000000, 20000000}, {&View::bitrate_buffer, 6250000, 6250000}}, "its level is not kept, Auto is taken\n"},
     {"a maximum beyond every level", [](KvMediaInfo& info) { info.hrd_bit_rate = 2000000000; info.hrd_buffer_size = 20000000; },
         {{&View::level, 40, 40}, {&View::width, 1920, 1920}, {&View::num_ref_frames, 4, 4}}, "a lower bit rate is taken than it has\n"},
     {"sixteen references of 3840 x 2160", [](KvMediaInfo& info) { info.width = 3840; info.height = 2160; info.level_idc = 51; info.num_ref_frames = 16; },
@@ -143,7 +144,7 @@ const Row kRows[] = {
     {"three views of three references", [](KvMediaInfo& info) { info.num_views = 3; info.frame_rate_num = 10; info.mvc_level_idc = 40; info.num_ref_frames = 3; info.dependent_bit_rate = 2000000; },
         {{&View::num_ref_frames, 3, 2}, {&View::ref_distance, 3, 3}, {&View::level, 40, 40}, {&View::bitrate, 6000000, 1000000}}, ""},
     {"two views of five references", [](KvMediaInfo& info) { info.num_views = 2; info.mvc_level_idc = 40; info.num_ref_frames = 5; info.dependent_bit_rate = 2000000; },
-        {{&View::num_ref_frames, 5, 5}, {&View::level, kAuto, kAuto}, {&View::bitrate, 6000000, 2000000}}, "its level is not kept, Auto is taken\n"},
+        {{&View::num_ref_frames, 5, 5}, {&View::level, autoLevel, autoLevel}, {&View::bitrate, 6000000, 2000000}}, "its level is not kept, Auto is taken\n"},
     {"the second view's maximum is made up", [](KvMediaInfo& info) { info.num_views = 2; info.mvc_level_idc = 40; info.hrd_bit_rate = 18000000; info.hrd_buffer_size = 18000000; info.bit_rate = 29000000; info.dependent_bit_rate = 11000000; },
         {{&View::level, 40, 40}, {&View::max_bitrate, 18000000, 11000000}, {&View::bitrate, 18000000, 11000000}}, ""},
 };
@@ -152,26 +153,29 @@ const Row kRows[] = {
 void TestMediaFit::streamsAreFitted_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kRows)); ++row)
-        QTest::newRow(kRows[row].name) << row;
+    for (int row = 0; row < int(std::size(rows)); ++row) {
+        QTest::newRow(rows[row].name) << row;
+    }
 }
 
 void TestMediaFit::streamsAreFitted()
 {
     QFETCH(int, row);
     KvMediaInfo info = plainStream();
-    kRows[row].change(info);
+    rows[row].change(info);
     KvMvcSettings settings = settingsOf(info);
     const auto notes = kv::fitToEncoder(m_encoder.check(), info, settings);
-    for (const auto& expected : kRows[row].expected) {
-        if (!expected.field)
+    for (const auto& expected : rows[row].expected) {
+        if (!expected.field) {
             break;
+        }
         QCOMPARE(settings.views[0].*expected.field, expected.first);
         QCOMPARE(settings.views[1].*expected.field, expected.second);
     }
-    QCOMPARE(withoutWords(notes), QByteArray(kRows[row].notes));
-    if (!QByteArray(kRows[row].notes).contains("refuses"))
+    QCOMPARE(withoutWords(notes), QByteArray(rows[row].notes));
+    if (!QByteArray(rows[row].notes).contains("refuses")) {
         QCOMPARE(m_encoder.complaintsOf(settings), QByteArray());
+    }
 }
 
 void TestMediaFit::referencesThatAreMadeUpGiveWayWithoutAWord()
@@ -189,7 +193,7 @@ void TestMediaFit::referencesThatAreMadeUpGiveWayWithoutAWord()
     QCOMPARE(settings.views[0].num_ref_frames, 5); // all that level 5.1 holds of this size
 }
 
-/** Half the rate would take one of the complaints away, and not the one that counts. */
+/// Half the rate would take one of the complaints away, and not the one that counts.
 void TestMediaFit::whatWouldNotHelpIsNotDone()
 {
     KvMediaInfo info = plainStream();
@@ -203,8 +207,9 @@ void TestMediaFit::whatWouldNotHelpIsNotDone()
     const auto notes = kv::fitToEncoder(m_encoder.check(), info, settings);
     QVERIFY(kvtest::same(settings, applied));
     QVERIFY(!notes.empty());
-    for (const std::string& note : notes)
+    for (const std::string& note : notes) {
         QVERIFY2(note.rfind("the encoder refuses the settings: ", 0) == 0, note.c_str());
+    }
 }
 
 void TestMediaFit::checksWithoutWords()
@@ -248,7 +253,7 @@ void TestMediaFit::ratesOfOtherUnits_data()
     QTest::newRow("bytes and percent") << int(KV_MVC_UNITS_BYTES_PERCENT) << 500000 << 50 << 80;
     QTest::newRow("bits") << int(KV_MVC_UNITS_BITS) << 4000000 << 2000000 << 3200000;
     // The buffer takes a half of a second at 8 Mbit/s.
-    QTest::newRow("bits and 90 kHz") << int(KV_MVC_UNITS_BITS_90KHZ) << 4000000 << 22500 << 36000;
+    QTest::newRow("bits and 90 hz") << int(KV_MVC_UNITS_BITS_90KHZ) << 4000000 << 22500 << 36000;
 }
 
 void TestMediaFit::ratesOfOtherUnits()

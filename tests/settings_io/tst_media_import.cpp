@@ -19,7 +19,7 @@ using kvtest::SettingsLibrary;
 namespace
 {
 
-/** What a file is made of, and the settings that both views get from it. */
+/// What a file is made of, and the settings that both views get from it.
 struct Import {
     const char* file;
     const char* size;
@@ -30,14 +30,14 @@ struct Import {
     int interlace, order, aspectX, aspectY, profile, level, chroma, depth, references;
 };
 
-constexpr int kDefault = -1000; // the preset's own value
-constexpr int kAuto = 100;
+constexpr int default = -1000; // the preset's own value
+constexpr int autoLevel = 100;
 constexpr double k23976 = 24000 / 1001.0;
 constexpr double k29970 = 30000 / 1001.0;
 constexpr double k59940 = 60000 / 1001.0;
 
 // clang-format off
-constexpr Import kImports[] = {
+constexpr Import imports[] = {
     // file          size         rate          arguments of ffmpeg                                          w     h     rate    int ord aspect  prof level chroma depth refs
     {"base.mp4",    "176x144",   "15",         "-c:v libx264 -profile:v baseline -level 1.1 -pix_fmt yuv420p -refs 1", 176, 144, 15, 0, 0, 1, 1,    0, 11,    2, 8,  1},
     {"main.MP4",    "352x288",   "25",         "-c:v libx264 -profile:v main -level 2 -pix_fmt yuv420p -refs 2 -x264-params b-pyramid=none", 352, 288, 25, 0, 0, 1, 1, 1, 20, 2, 8, 2},
@@ -49,14 +49,14 @@ constexpr Import kImports[] = {
     {"two.mp4",     "640x360",   "50",         "-c:v libx264 -pix_fmt yuv422p10le -x264-params b-pyramid=none:ref=2 -level 3.1", 640, 360, 50, 0, 0, 1, 1, 5, 31, 3, 10, 2},
     {"grey.mp4",    "320x240",   "10",         "-c:v libx264 -pix_fmt gray -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 0, 0, 1, 1, 3, 13, 1, 8, 2},
     {"full.mp4",    "320x240",   "10",         "-c:v libx264 -pix_fmt yuv444p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 0, 0, 1, 1, 5, 13, 3, 8, 2},
-    {"es.m2v",      "352x288",   "25",         "-c:v mpeg2video -pix_fmt yuv420p",            352,  288,  25,     0, 0, 1, 1,    3, kAuto, 2, 8,  kDefault},
-    {"es.mpv",      "352x288",   "24",         "-f mpeg2video -c:v mpeg2video -pix_fmt yuv420p", 352, 288, 24,   0, 0, 1, 1,    3, kAuto, 2, 8,  kDefault},
-    {"one.mpeg",    "352x288",   "30",         "-f mpeg -c:v mpeg1video -pix_fmt yuv420p",    352,  288,  30,     0, 0, 1, 1,    3, kAuto, 2, 8,  kDefault},
-    {"ps.mpg",      "720x576",   "25",         "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0 -aspect 4:3", 720, 576, 25, 1, 1, 16, 15, 3, kAuto, 2, 8, kDefault},
-    {"dvd.vob",     "720x576",   "25",         "-target pal-dvd -aspect 16:9",                720,  576,  25,     0, 0, 64, 45,  3, kAuto, 2, 8,  kDefault},
-    {"ps.m2p",      "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, k29970, 0, 0, 4, 3, 3, kAuto, 2, 8, kDefault},
-    {"ps.mp2",      "352x288",   "25",         "-f vob -c:v mpeg2video -pix_fmt yuv420p",     352,  288,  25,     0, 0, 1, 1,    3, kAuto, 2, 8,  kDefault},
-    {"studio.mxf",  "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, 0, 1, 1, 5, kAuto, 3, 8, kDefault},
+    {"es.m2v",      "352x288",   "25",         "-c:v mpeg2video -pix_fmt yuv420p",            352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
+    {"es.mpv",      "352x288",   "24",         "-f mpeg2video -c:v mpeg2video -pix_fmt yuv420p", 352, 288, 24,   0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
+    {"one.mpeg",    "352x288",   "30",         "-f mpeg -c:v mpeg1video -pix_fmt yuv420p",    352,  288,  30,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
+    {"ps.mpg",      "720x576",   "25",         "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0 -aspect 4:3", 720, 576, 25, 1, 1, 16, 15, 3, autoLevel, 2, 8, default},
+    {"dvd.vob",     "720x576",   "25",         "-target pal-dvd -aspect 16:9",                720,  576,  25,     0, 0, 64, 45,  3, autoLevel, 2, 8,  default},
+    {"ps.m2p",      "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, k29970, 0, 0, 4, 3, 3, autoLevel, 2, 8, default},
+    {"ps.mp2",      "352x288",   "25",         "-f vob -c:v mpeg2video -pix_fmt yuv420p",     352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
+    {"studio.mxf",  "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, 0, 1, 1, 5, autoLevel, 3, 8, default},
     {"other.mkv",   "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 0, 0, 1, 1, 3, 13, 2, 8, 2},
 };
 // clang-format on
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
 private:
     QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
-    /** Makes a stream of views in a transport stream. */
+    /// Makes a stream of views in a transport stream.
     QByteArray makeViews(int profile, int views, const QString& name);
 
     QTemporaryDir m_folder;
@@ -102,8 +102,9 @@ private:
 
 void TestMediaImport::initTestCase()
 {
-    if (!kvtest::hasFfmpeg())
+    if (!kvtest::hasFfmpeg()) {
         QSKIP("the ffmpeg program makes the media of this test");
+    }
     QVERIFY(presetDefaults(KV_MVC_STEREO_HIGH).views[0].width > 0);
 }
 
@@ -116,14 +117,15 @@ void TestMediaImport::init()
 void TestMediaImport::streamsBecomeSettings_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(kImports)); ++row)
-        QTest::newRow(kImports[row].file) << row;
+    for (int row = 0; row < int(std::size(imports)); ++row) {
+        QTest::newRow(imports[row].file) << row;
+    }
 }
 
 void TestMediaImport::streamsBecomeSettings()
 {
     QFETCH(int, row);
-    const Import& expected = kImports[row];
+    const Import& expected = imports[row];
     const QString name = file(expected.file);
     const QByteArray error = makeMedia(
         picture(expected.size, expected.rate, 0.6) + QLatin1String(expected.arguments), name);
@@ -150,7 +152,7 @@ void TestMediaImport::streamsBecomeSettings()
         QCOMPARE(view.chroma_format, expected.chroma);
         QCOMPARE(view.bit_depth_luma, expected.depth);
         QCOMPARE(view.bit_depth_chroma, expected.depth);
-        QCOMPARE(view.num_ref_frames, expected.references == kDefault
+        QCOMPARE(view.num_ref_frames, expected.references == default
                                           ? defaults.views[0].num_ref_frames
                                           : expected.references);
         QVERIFY(view.bitrate > 0);
@@ -199,8 +201,9 @@ void TestMediaImport::whatTheStreamDoesNotTellIsThePresets()
                            &KvMvcViewSettings::pyramid_b,
                            &KvMvcViewSettings::weighted_p,
                            &KvMvcViewSettings::num_slices,
-                           &KvMvcViewSettings::multi_slice})
+                           &KvMvcViewSettings::multi_slice}) {
             to.*field = from.*field;
+        }
         to.frame_rate = from.frame_rate;
     }
     QVERIFY(same(settings, expected));
@@ -214,8 +217,9 @@ QByteArray TestMediaImport::makeViews(int profile, int views, const QString& nam
         base);
     QFile in(base);
     QFile out(file("views.h264"));
-    if (!error.isEmpty() || !in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
+    if (!error.isEmpty() || !in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly)) {
         return "no base view: " + error;
+    }
     out.write(kvtest::withViews(in.readAll(), profile, 31, views, 0.5));
     out.close();
     return makeMedia(QStringLiteral("-f h264 -r 25 -i ") + out.fileName() +
@@ -275,8 +279,9 @@ void TestMediaImport::signalledBuffersAreTaken()
     QCOMPARE(view.max_bitrate, 3000000);
     QCOMPARE(view.bitrate_buffer, bytes ? 250000 : 2000000);
     QVERIFY(view.bitrate < 3000000);
-    if (bytes)
+    if (bytes) {
         QCOMPARE(view.vbv_initial, presetDefaults(0).views[0].vbv_initial);
+    }
 }
 
 void TestMediaImport::whatHasNoSettingIsNoted()
@@ -408,9 +413,10 @@ void TestMediaImport::missingLibrariesAreNamed()
         makeMedia(picture("320x240", "25") + QStringLiteral("-c:v libx264 -pix_fmt yuv420p"), name);
     QVERIFY2(error.isEmpty(), error.constData());
     QTemporaryDir folder;
-    for (const QString& part : present + QStringList(QStringLiteral("kv_mvc_settings_io.so")))
+    for (const QString& part : present + QStringList(QStringLiteral("kv_mvc_settings_io.so"))) {
         QVERIFY(QFile::copy(qEnvironmentVariable("KV_BIN_DIR") + QLatin1Char('/') + part,
                             folder.filePath(part)));
+    }
     SettingsLibrary library(folder.path());
     QVERIFY(library.isLoaded());
     KvMvcSettings settings = filledRecord(0x5A);
@@ -436,9 +442,10 @@ void TestMediaImport::theFirstNamesOfTheLibrariesAreTriedFirst()
                                     {"kv_media_probe.so", "kv_media_probe_x.so"},
                                     {"kv_media_probe_worker", "kv_media_probe_worker"},
                                     {"kv_mvcenc.so", "kv_mvcenc_b.so"}};
-    for (const auto& part : parts)
+    for (const auto& part : parts) {
         QVERIFY(
             QFile::copy(from + QLatin1String(part[0]), folder.filePath(QLatin1String(part[1]))));
+    }
     // Under the second names there is nothing that could be loaded.
     for (const char* part : {"kv_media_probe.so", "kv_mvcenc.so"}) {
         QFile broken(folder.filePath(QLatin1String(part)));
@@ -460,8 +467,9 @@ void TestMediaImport::nothingStaysLoaded()
     QVERIFY2(error.isEmpty(), error.constData());
     KvMvcSettings settings{};
     QCOMPARE(m_library->read(settings, name.toUtf8()), 0);
-    for (const char* library : {"kv_media_probe", "kv_mvcenc", "libavformat"})
+    for (const char* library : {"kv_media_probe", "kv_mvcenc", "libavformat"}) {
         QVERIFY2(!kvtest::isInProcess(library), library);
+    }
     QVERIFY(kvtest::isInProcess("kv_mvc_settings_io"));
     m_library.reset();
     QVERIFY(!kvtest::isInProcess("kv_mvc_settings_io"));

@@ -10,14 +10,14 @@ namespace
 {
 
 #ifdef Q_OS_WIN
-const QString kSuffix = QStringLiteral(".dll");
-const QString kSystemPath = QStringLiteral("PATH");
+const QString suffix = QStringLiteral(".dll");
+const QString systemPath = QStringLiteral("PATH");
 #else
-const QString kSuffix = QStringLiteral(".so");
-const QString kSystemPath = QStringLiteral("LD_LIBRARY_PATH");
+const QString suffix = QStringLiteral(".so");
+const QString systemPath = QStringLiteral("LD_LIBRARY_PATH");
 #endif
 
-/** Library files that are there: "folder/base name"; with an exclamation mark, no real ones. */
+/// Library files that are there: "folder/base name"; with an exclamation mark, no real ones.
 using Files = QStringList;
 
 class TestMediaLibraries : public QObject
@@ -30,46 +30,49 @@ private Q_SLOTS:
     void theCurrentFolderHasNone();
 
 private:
-    /** What is loaded when the host program reads a media file, and how that ends. */
+    /// What is loaded when the host program reads a media file, and how that ends.
     static QStringList loadedWith(const Files& files, const QString& current, int& result);
 };
 
-/** Copies the stub that such a library is, or makes a file that cannot be loaded. */
+/// Copies the stub that such a library is, or makes a file that cannot be loaded.
 void put(const QString& folder, QString file)
 {
     const bool broken = file.endsWith(QLatin1Char('!'));
-    if (broken)
+    if (broken) {
         file.chop(1);
-    const QString path = folder + QLatin1Char('/') + file + kSuffix;
+    }
+    const QString path = folder + QLatin1Char('/') + file + suffix;
     const char* stub = file.contains(QLatin1String("probe")) ? "KV_STUB_PROBE" : "KV_STUB_ENCODER";
     QFile text(path);
-    if (broken)
+    if (broken) {
         QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no library") > 0);
-    else
+    } else {
         QVERIFY(QFile::copy(qEnvironmentVariable(stub), path));
+    }
 }
 
 QStringList TestMediaLibraries::loadedWith(const Files& files, const QString& current, int& result)
 {
     QTemporaryDir folder;
     const auto in = [&](const QString& name) { return folder.path() + QLatin1Char('/') + name; };
-    for (const char* name : {"host", "own", "system", "else"})
+    for (const char* name : {"host", "own", "system", "else"}) {
         QDir(folder.path()).mkdir(QLatin1String(name));
+    }
     const QString program = qEnvironmentVariable("KV_IMPORT_HOST");
     const QString host = in(QStringLiteral("host/") + QFileInfo(program).fileName());
-    const QString library = in(QStringLiteral("own/kv_mvc_settings_io") + kSuffix);
+    const QString library = in(QStringLiteral("own/kv_mvc_settings_io") + suffix);
     QFile::copy(program, host);
-    QFile::copy(qEnvironmentVariable("KV_BIN_DIR") + QStringLiteral("/kv_mvc_settings_io") +
-                    kSuffix,
+    QFile::copy(qEnvironmentVariable("KV_BIN_DIR") + QStringLiteral("/kv_mvc_settings_io") + suffix,
                 library);
-    for (const QString& file : files)
+    for (const QString& file : files) {
         put(folder.path(), file);
+    }
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("KV_STUB_LOG"), in(QStringLiteral("log")));
-    const QString former = environment.value(kSystemPath);
-    environment.insert(kSystemPath, in(QStringLiteral("system")) +
-                                        (former.isEmpty() ? QString() : QDir::listSeparator()) +
-                                        former);
+    const QString former = environment.value(systemPath);
+    environment.insert(systemPath, in(QStringLiteral("system")) +
+                                       (former.isEmpty() ? QString() : QDir::listSeparator()) +
+                                       former);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(in(current));
@@ -79,9 +82,9 @@ QStringList TestMediaLibraries::loadedWith(const Files& files, const QString& cu
     QFile log(in(QStringLiteral("log")));
     if (log.open(QIODevice::ReadOnly | QIODevice::Text)) {
         for (const QByteArray& line : log.readAll().split('\n')) {
-            if (line.startsWith("load "))
-                loaded +=
-                    QDir::fromNativeSeparators(QString::fromUtf8(line.mid(5))).remove(kSuffix);
+            if (line.startsWith("load ")) {
+                loaded += QDir::fromNativeSeparators(QString::fromUtf8(line.mid(5))).remove(suffix);
+            }
         }
     }
     return loaded;
@@ -132,7 +135,7 @@ void TestMediaLibraries::librariesAreFoundAsTheDialogFindsThem()
     QCOMPARE(result, 0);
 }
 
-/** A film's folder may hold anything. */
+/// A film's folder may hold anything.
 void TestMediaLibraries::theCurrentFolderHasNone()
 {
     int result = -1;

@@ -8,7 +8,7 @@
 
 using kvtest::doubleConverted;
 using kvtest::filledRecord;
-using kvtest::kOldText;
+using kvtest::oldText;
 using kvtest::recordOfViews;
 using kvtest::same;
 using kvtest::systemWords;
@@ -45,8 +45,9 @@ private Q_SLOTS:
 void TestSettingsFile::onlyTheTwoCodesAreKnown()
 {
     const KvMvcSettingsIoGetApi getApi = m_library->getApi();
-    for (const int code : {0, 1, 8192, 8195, -1})
+    for (const int code : {0, 1, 8192, 8195, -1}) {
         QVERIFY(!getApi(code));
+    }
     QVERIFY(getApi(8193));
     QVERIFY(getApi(8194));
     QVERIFY(getApi(8193) != getApi(8194));
@@ -77,7 +78,7 @@ void TestSettingsFile::aRecordComesBackFromAFile()
 void TestSettingsFile::nothingStaysLoaded()
 {
     KvMvcSettings settings{};
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     QCOMPARE(m_library->read(settings, path("a.ini")), 0);
     QVERIFY(kvtest::isInProcess("kv_mvc_settings_io"));
     m_library.reset();
@@ -127,7 +128,7 @@ void TestSettingsFile::filesThatCannotBeReadAreRefused()
 void TestSettingsFile::unknownSuffixesAreJudgedByContent()
 {
     for (const char* name : {"settings", "settings.txt", "settings.ini.bak", "mp4", ".cfg"}) {
-        put(path(name), kOldText);
+        put(path(name), oldText);
         KvMvcSettings settings{};
         QCOMPARE(m_library->read(settings, path(name)), 0);
         QCOMPARE(settings.num_views, 7);
@@ -142,7 +143,7 @@ void TestSettingsFile::unknownSuffixesAreJudgedByContent()
         QVERIFY2(m_library->messages.contains("media"), m_library->messages.constData());
         QVERIFY(same(settings, filledRecord(0x5A)));
     }
-    put(path("text.mp4"), kOldText); // the suffix says media, whatever is in it
+    put(path("text.mp4"), oldText); // the suffix says media, whatever is in it
     KvMvcSettings settings{};
     QVERIFY(m_library->read(settings, path("text.mp4")) != 0);
     put(path("binary.CFG"), "\xFF\xFE"); // and here settings
@@ -169,7 +170,7 @@ void TestSettingsFile::namesBeyondAscii()
     QFETCH(QByteArray, name);
     const QByteArray file = path(name);
     for (const QByteArray& passed : {file, doubleConverted(file)}) {
-        put(file, kOldText);
+        put(file, oldText);
         KvMvcSettings settings{};
         QCOMPARE(m_library->read(settings, passed), 0);
         QCOMPARE(settings.num_views, 7);
@@ -202,10 +203,12 @@ void TestSettingsFile::bothReadingsOfAName()
     QFETCH(bool, undoneIsMeant);
     const QByteArray undone = path("\xC3\xA4.ini");
     const QByteArray plain = path("\xC3\x83\xC2\xA4.ini");
-    if (plainExists)
-        put(plain, kOldText);
-    if (undoneExists)
-        put(undone, kOldText);
+    if (plainExists) {
+        put(plain, oldText);
+    }
+    if (undoneExists) {
+        put(undone, oldText);
+    }
     QCOMPARE(m_library->write(recordOfViews(3), plain), 0);
     const QByteArray written = undoneIsMeant ? undone : plain;
     const QByteArray other = undoneIsMeant ? plain : undone;
@@ -225,15 +228,16 @@ void TestSettingsFile::aFolderWithTheOneNameDecidesForANewFile()
 
 void TestSettingsFile::theFileIsReplacedNotRewritten()
 {
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     std::error_code error;
     std::filesystem::create_hard_link(QString::fromUtf8(path("a.ini")).toStdU16String(),
                                       QString::fromUtf8(path("b.ini")).toStdU16String(), error);
-    if (error)
+    if (error) {
         QSKIP("this file system has no hard links");
+    }
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
     QVERIFY(get(path("a.ini")).contains("num_views = 3"));
-    QCOMPARE(get(path("b.ini")), QByteArray(kOldText)); // the former file, whole
+    QCOMPARE(get(path("b.ini")), QByteArray(oldText)); // the former file, whole
 }
 
 void TestSettingsFile::writingLeavesNothingElseBehind()

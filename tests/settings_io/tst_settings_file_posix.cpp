@@ -20,7 +20,7 @@
 #include <unistd.h>
 
 using kvtest::filledRecord;
-using kvtest::kOldText;
+using kvtest::oldText;
 using kvtest::recordOfViews;
 using kvtest::same;
 
@@ -88,14 +88,15 @@ void TestSettingsFilePosix::aPipeIsRefusedWithoutWaiting()
 void TestSettingsFilePosix::modeIsKept_data()
 {
     QTest::addColumn<int>("mode");
-    for (const int mode : {0600, 0640, 0644, 0660, 0666, 0755, 02664})
+    for (const int mode : {0600, 0640, 0644, 0660, 0666, 0755, 02664}) {
         QTest::addRow("%o", mode) << mode;
+    }
 }
 
 void TestSettingsFilePosix::modeIsKept()
 {
     QFETCH(int, mode);
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     QCOMPARE(::chmod(path("a.ini").constData(), static_cast<mode_t>(mode)), 0);
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
     struct stat status = {};
@@ -117,9 +118,10 @@ void TestSettingsFilePosix::aNewFileGetsTheUmasksMode()
 
 void TestSettingsFilePosix::ownerAndGroupAreKept()
 {
-    put(path("a.ini"), kOldText);
-    if (::chown(path("a.ini").constData(), 65534, 65533) != 0)
+    put(path("a.ini"), oldText);
+    if (::chown(path("a.ini").constData(), 65534, 65533) != 0) {
         QSKIP("only root may give files away");
+    }
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
     struct stat status = {};
     QCOMPARE(::stat(path("a.ini").constData(), &status), 0);
@@ -129,9 +131,10 @@ void TestSettingsFilePosix::ownerAndGroupAreKept()
 
 void TestSettingsFilePosix::extendedAttributesAreKept()
 {
-    put(path("a.ini"), kOldText);
-    if (::setxattr(path("a.ini").constData(), "user.origin", "studio", 6, 0) != 0)
+    put(path("a.ini"), oldText);
+    if (::setxattr(path("a.ini").constData(), "user.origin", "studio", 6, 0) != 0) {
         QSKIP("this file system has no extended attributes");
+    }
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
     char value[16] = "";
     QCOMPARE(::getxattr(path("a.ini").constData(), "user.origin", value, sizeof value), ssize_t(6));
@@ -155,8 +158,9 @@ void TestSettingsFilePosix::symbolicLinksAreKept()
     makeFolder("folder");
     const QByteArray real = path(target);
     const QByteArray link = target.startsWith('/') ? real : target;
-    if (targetExists)
-        put(real, kOldText);
+    if (targetExists) {
+        put(real, oldText);
+    }
     QCOMPARE(::symlink("second.ini", path("first.ini").constData()), 0);
     QCOMPARE(::symlink(link.constData(), path("second.ini").constData()), 0);
     QCOMPARE(m_library->write(recordOfViews(3), path("first.ini")), 0);
@@ -176,11 +180,11 @@ void TestSettingsFilePosix::aRingOfLinksIsRefused()
 
 void TestSettingsFilePosix::whoReadsMeanwhileSeesTheOldText()
 {
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     QFile former(QString::fromUtf8(path("a.ini")));
     QVERIFY(former.open(QIODevice::ReadOnly));
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
-    QCOMPARE(former.readAll(), QByteArray(kOldText));
+    QCOMPARE(former.readAll(), QByteArray(oldText));
     QVERIFY(get(path("a.ini")).contains("num_views = 3"));
 }
 
@@ -188,21 +192,22 @@ void TestSettingsFilePosix::aReadOnlyFileIsNotReplaced()
 {
     if (::geteuid() == 0) {
         // Root may write to everything but this; needs a file system that knows the flag.
-        put(path("a.ini"), kOldText);
+        put(path("a.ini"), oldText);
         if (QProcess::execute(QStringLiteral("chattr"),
-                              {QStringLiteral("+i"), QString::fromUtf8(path("a.ini"))}) != 0)
+                              {QStringLiteral("+i"), QString::fromUtf8(path("a.ini"))}) != 0) {
             QSKIP("neither an ordinary user nor a file system with immutable files");
+        }
         const int result = m_library->write(recordOfViews(3), path("a.ini"));
         QProcess::execute(QStringLiteral("chattr"),
                           {QStringLiteral("-i"), QString::fromUtf8(path("a.ini"))});
         QVERIFY(result != 0);
     } else {
-        put(path("a.ini"), kOldText);
+        put(path("a.ini"), oldText);
         QCOMPARE(::chmod(path("a.ini").constData(), 0444), 0);
         QVERIFY(m_library->write(recordOfViews(3), path("a.ini")) != 0);
         QCOMPARE(m_library->messages, path("a.ini") + ": Permission denied\n");
     }
-    QCOMPARE(get(path("a.ini")), QByteArray(kOldText));
+    QCOMPARE(get(path("a.ini")), QByteArray(oldText));
     QCOMPARE(names(), QStringList(QStringLiteral("a.ini")));
 }
 
@@ -210,17 +215,18 @@ void TestSettingsFilePosix::aFullDiskLeavesTheOldFile()
 {
     const QByteArray disk = path("disk");
     QVERIFY(QDir().mkdir(QString::fromUtf8(disk)));
-    if (::mount("tmpfs", disk.constData(), "tmpfs", 0, "size=64k") != 0)
+    if (::mount("tmpfs", disk.constData(), "tmpfs", 0, "size=64k") != 0) {
         QSKIP("no file system can be mounted here; the next test stands for this one");
+    }
     const auto unmount = qScopeGuard([&] { ::umount2(disk.constData(), MNT_DETACH); });
-    put(disk + "/a.ini", kOldText);
+    put(disk + "/a.ini", oldText);
     QFile filler(QString::fromUtf8(disk + "/filler"));
     QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     while (filler.write(QByteArray(4096, 'x')) == 4096) {
     }
     QVERIFY(m_library->write(filledRecord(0x5A), disk + "/a.ini") != 0);
     QCOMPARE(m_library->messages, disk + "/a.ini: No space left on device\n");
-    QCOMPARE(get(disk + "/a.ini"), QByteArray(kOldText));
+    QCOMPARE(get(disk + "/a.ini"), QByteArray(oldText));
     QCOMPARE(QDir(QString::fromUtf8(disk))
                  .entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
              QStringList({QStringLiteral("a.ini"), QStringLiteral("filler")}));
@@ -231,7 +237,7 @@ void TestSettingsFilePosix::aFullDiskLeavesTheOldFile()
 
 void TestSettingsFilePosix::aFileSizeLimitLeavesTheOldFile()
 {
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     struct rlimit former = {};
     QCOMPARE(::getrlimit(RLIMIT_FSIZE, &former), 0);
     struct rlimit small = former;
@@ -243,7 +249,7 @@ void TestSettingsFilePosix::aFileSizeLimitLeavesTheOldFile()
     std::signal(SIGXFSZ, handler);
     QVERIFY(result != 0);
     QCOMPARE(m_library->messages, path("a.ini") + ": File too large\n");
-    QCOMPARE(get(path("a.ini")), QByteArray(kOldText));
+    QCOMPARE(get(path("a.ini")), QByteArray(oldText));
     QCOMPARE(names(), QStringList(QStringLiteral("a.ini")));
 }
 
@@ -265,7 +271,7 @@ void TestSettingsFilePosix::aPipeWithAReaderIsWrittenTo()
 
 volatile std::sig_atomic_t brokenPipes = 0;
 
-/** The writer waits, since the pipe is full, when its reader goes. */
+/// The writer waits, since the pipe is full, when its reader goes.
 void TestSettingsFilePosix::aReaderThatGoesIsAnError()
 {
     QCOMPARE(::mkfifo(path("pipe.ini").constData(), 0600), 0);

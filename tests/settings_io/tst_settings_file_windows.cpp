@@ -14,7 +14,7 @@
 #include <windows.h>
 
 using kvtest::filledRecord;
-using kvtest::kOldText;
+using kvtest::oldText;
 using kvtest::recordOfViews;
 using kvtest::same;
 using kvtest::wordsOf;
@@ -22,7 +22,7 @@ using kvtest::wordsOf;
 namespace
 {
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 std::wstring wide(const QByteArray& path)
 {
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void namesThatAreNoTextAreRefused();
 
 private:
-    /** Makes a symbolic link, where that is possible; relative to the link. */
+    /// Makes a symbolic link, where that is possible; relative to the link.
     bool makeLink(const char* link, const char* target) const;
 };
 
@@ -81,33 +81,33 @@ void TestSettingsFileWindows::attributesAreKept_data()
 void TestSettingsFileWindows::attributesAreKept()
 {
     QFETCH(int, attributes);
-    constexpr DWORD kLookedAt =
+    constexpr DWORD lookedAt =
         FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_READONLY;
     const std::wstring file = wide(path("a.ini"));
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     QVERIFY(SetFileAttributesW(file.c_str(), attributes != 0 ? static_cast<DWORD>(attributes)
                                                              : FILE_ATTRIBUTE_NORMAL));
     QCOMPARE(m_library->write(recordOfViews(3), path("a.ini")), 0);
-    QCOMPARE(static_cast<int>(GetFileAttributesW(file.c_str()) & kLookedAt), attributes);
+    QCOMPARE(static_cast<int>(GetFileAttributesW(file.c_str()) & lookedAt), attributes);
     QVERIFY(get(path("a.ini")).contains("num_views = 3"));
 }
 
 void TestSettingsFileWindows::aReadOnlyFileIsNotReplaced()
 {
     const std::wstring file = wide(path("a.ini"));
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     QVERIFY(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
     const auto release =
         qScopeGuard([&] { SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL); });
     QVERIFY(m_library->write(recordOfViews(3), path("a.ini")) != 0);
     QCOMPARE(m_library->messages, path("a.ini") + ": " + wordsOf(ERROR_ACCESS_DENIED) + "\n");
-    QCOMPARE(get(path("a.ini")), QByteArray(kOldText));
+    QCOMPARE(get(path("a.ini")), QByteArray(oldText));
     QCOMPARE(names(), QStringList(QStringLiteral("a.ini")));
 }
 
 void TestSettingsFileWindows::aFileThatIsInUseIsRefused()
 {
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     const HANDLE user = openShared(path("a.ini"), 0);
     QVERIFY(user != INVALID_HANDLE_VALUE);
     KvMvcSettings settings = filledRecord(0x5A);
@@ -121,13 +121,13 @@ void TestSettingsFileWindows::aFileThatIsInUseIsRefused()
     QVERIFY(same(settings, filledRecord(0x5A)));
     QVERIFY(writeResult != 0);
     QCOMPARE(m_library->messages, message);
-    QCOMPARE(get(path("a.ini")), QByteArray(kOldText));
+    QCOMPARE(get(path("a.ini")), QByteArray(oldText));
     QCOMPARE(names(), QStringList(QStringLiteral("a.ini")));
 }
 
 void TestSettingsFileWindows::aFileThatIsFreeAMomentLaterIsReplaced()
 {
-    put(path("a.ini"), kOldText);
+    put(path("a.ini"), oldText);
     const HANDLE scanner = openShared(path("a.ini"), FILE_SHARE_READ);
     QVERIFY(scanner != INVALID_HANDLE_VALUE);
     std::thread closing([=] {
@@ -143,8 +143,8 @@ void TestSettingsFileWindows::aFileThatIsFreeAMomentLaterIsReplaced()
 
 void TestSettingsFileWindows::whoReadsMeanwhileSeesTheOldText()
 {
-    put(path("a.ini"), kOldText);
-    const HANDLE reader = openShared(path("a.ini"), kShareAll);
+    put(path("a.ini"), oldText);
+    const HANDLE reader = openShared(path("a.ini"), shareAll);
     QVERIFY(reader != INVALID_HANDLE_VALUE);
     const int result = m_library->write(recordOfViews(3), path("a.ini"));
     char text[100] = "";
@@ -153,15 +153,15 @@ void TestSettingsFileWindows::whoReadsMeanwhileSeesTheOldText()
     CloseHandle(reader);
     QVERIFY2(result == 0, m_library->messages.constData());
     QVERIFY(isRead);
-    QCOMPARE(QByteArray(text), QByteArray(kOldText));
+    QCOMPARE(QByteArray(text), QByteArray(oldText));
     QVERIFY(get(path("a.ini")).contains("num_views = 3"));
 }
 
 void TestSettingsFileWindows::aFileThatIsBeingWrittenCanBeRead()
 {
-    put(path("a.ini"), kOldText);
-    const HANDLE writer = CreateFileW(wide(path("a.ini")).c_str(), GENERIC_WRITE | DELETE,
-                                      kShareAll, nullptr, OPEN_EXISTING, 0, nullptr);
+    put(path("a.ini"), oldText);
+    const HANDLE writer = CreateFileW(wide(path("a.ini")).c_str(), GENERIC_WRITE | DELETE, shareAll,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
     QVERIFY(writer != INVALID_HANDLE_VALUE);
     KvMvcSettings settings{};
     const int result = m_library->read(settings, path("a.ini"));
@@ -172,9 +172,9 @@ void TestSettingsFileWindows::aFileThatIsBeingWrittenCanBeRead()
 
 bool TestSettingsFileWindows::makeLink(const char* link, const char* target) const
 {
-    constexpr DWORD kUnprivileged = 0x2; // for those who have developer mode switched on
+    constexpr DWORD unprivileged = 0x2; // for those who have developer mode switched on
     const std::wstring name = wide(path(link));
-    CreateSymbolicLinkW(name.c_str(), wide(target).c_str(), kUnprivileged);
+    CreateSymbolicLinkW(name.c_str(), wide(target).c_str(), unprivileged);
     const DWORD attributes = GetFileAttributesW(name.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
 }
@@ -190,9 +190,10 @@ void TestSettingsFileWindows::symbolicLinksAreKept()
 {
     QFETCH(QByteArray, target);
     makeFolder("folder");
-    put(path(target), kOldText);
-    if (!makeLink("second.ini", target.constData()) || !makeLink("first.ini", "second.ini"))
+    put(path(target), oldText);
+    if (!makeLink("second.ini", target.constData()) || !makeLink("first.ini", "second.ini")) {
         QSKIP("no symbolic links can be made here");
+    }
     QCOMPARE(m_library->write(recordOfViews(3), path("first.ini")), 0);
     QVERIFY(QFileInfo(QString::fromUtf8(path("first.ini"))).isSymLink());
     QVERIFY(QFileInfo(QString::fromUtf8(path("second.ini"))).isSymLink());
@@ -202,8 +203,9 @@ void TestSettingsFileWindows::symbolicLinksAreKept()
 
 void TestSettingsFileWindows::aLinkToNothingIsRefused()
 {
-    if (!makeLink("link.ini", "none.ini"))
+    if (!makeLink("link.ini", "none.ini")) {
         QSKIP("no symbolic links can be made here");
+    }
     QVERIFY(m_library->write(recordOfViews(3), path("link.ini")) != 0);
     QCOMPARE(m_library->messages, path("link.ini") + ": the link leads to no file: " +
                                       wordsOf(ERROR_FILE_NOT_FOUND) + "\n");
@@ -214,8 +216,9 @@ void TestSettingsFileWindows::devicesAreRefused_data()
 {
     QTest::addColumn<QByteArray>("name");
     for (const char* name : {"NUL", "nul", "CON", "AUX", "PRN", "COM1", "LPT9", R"(\\.\NUL)",
-                             R"(\\.\C:)", "//./CON", R"(\\.\pipe\kv-settings-test)"})
+                             R"(\\.\C:)", "//./CON", R"(\\.\pipe\kv-settings-test)"}) {
         QTest::newRow(name) << QByteArray(name);
+    }
 }
 
 void TestSettingsFileWindows::devicesAreRefused()
@@ -232,11 +235,12 @@ void TestSettingsFileWindows::devicesAreRefused()
 void TestSettingsFileWindows::deviceNamesWithASuffixAreNoBlackHole_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char* name : {"CON.cfg", "nul.ini", "Aux.cfg", "nul"})
+    for (const char* name : {"CON.cfg", "nul.ini", "Aux.cfg", "nul"}) {
         QTest::newRow(name) << QByteArray(name);
+    }
 }
 
-/** Older versions take these for devices in every folder, newer ones for files. */
+/// Older versions take these for devices in every folder, newer ones for files.
 void TestSettingsFileWindows::deviceNamesWithASuffixAreNoBlackHole()
 {
     QFETCH(QByteArray, name);
@@ -333,8 +337,9 @@ void TestSettingsFileWindows::namesOfServers()
 {
     const QByteArray folder = path("");
     QByteArray share = "//localhost/" + folder.left(1) + '$' + folder.mid(2);
-    if (!QFileInfo::exists(QString::fromUtf8(share)))
+    if (!QFileInfo::exists(QString::fromUtf8(share))) {
         QSKIP("this computer does not share its drives with itself");
+    }
     for (const QByteArray& name :
          {share + "a.ini", QByteArray(share + "b.ini").replace('/', '\\')}) {
         QCOMPARE(m_library->write(recordOfViews(3), name), 0);
@@ -348,8 +353,9 @@ void TestSettingsFileWindows::namesOfServers()
 void TestSettingsFileWindows::namesThatNoFileCanHave_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char* name : {"a?.ini", "a*.ini", "a<b.ini", "a|b.ini", "a\"b.ini", "a\tb.ini"})
+    for (const char* name : {"a?.ini", "a*.ini", "a<b.ini", "a|b.ini", "a\"b.ini", "a\tb.ini"}) {
         QTest::newRow(name) << QByteArray(name);
+    }
 }
 
 void TestSettingsFileWindows::namesThatNoFileCanHave()

@@ -16,7 +16,7 @@ using kvtest::same;
 namespace
 {
 
-/** A whole file around lines of the first view; those begin in line 3. */
+/// A whole file around lines of the first view; those begin in line 3.
 QByteArray inViewZero(const QByteArray& lines)
 {
     return "[record]\n[view 0]\n" + lines;
@@ -30,7 +30,7 @@ std::string firstProblem(const QByteArray& text)
                             : std::to_string(problems[0].line) + ": " + problems[0].reason;
 }
 
-/** One field of the first view set to something by a line, then the record. */
+/// One field of the first view set to something by a line, then the record.
 KvMvcSettings readLine(const QByteArray& line)
 {
     KvMvcSettings settings = filledRecord(0x5A);
@@ -75,8 +75,9 @@ void TestSettingsText::anyRecordComesBackByteForByte()
         KvMvcSettings settings{};
         auto* bytes = reinterpret_cast<unsigned char*>(&settings);
         const unsigned rarity = round % 4 == 0 ? 1 : round % 4 == 1 ? 2 : round % 4 == 2 ? 40 : 400;
-        for (std::size_t at = 0; at < sizeof settings; ++at)
+        for (std::size_t at = 0; at < sizeof settings; ++at) {
             bytes[at] = random() % rarity == 0 ? anyByte() : 0;
+        }
         KvMvcSettings back = filledRecord(0x5A);
         const auto problems = kv::parseSettings(kv::formatSettings(settings), back);
         QVERIFY2(problems.empty(), problems.empty() ? "" : problems[0].reason.c_str());
@@ -86,11 +87,12 @@ void TestSettingsText::anyRecordComesBackByteForByte()
 
 void TestSettingsText::everyBytePositionComesBack()
 {
-    constexpr std::size_t kStep = 97; // no multiple of any field's size
-    for (std::size_t first = 0; first < kStep; ++first) {
+    constexpr std::size_t step = 97; // no multiple of any field's size
+    for (std::size_t first = 0; first < step; ++first) {
         KvMvcSettings settings{};
-        for (std::size_t at = first; at < sizeof settings; at += kStep)
+        for (std::size_t at = first; at < sizeof settings; at += step) {
             reinterpret_cast<unsigned char*>(&settings)[at] = 0x80;
+        }
         KvMvcSettings back = filledRecord(0x5A);
         QVERIFY(kv::parseSettings(kv::formatSettings(settings), back).empty());
         QVERIFY2(same(settings, back), qPrintable(QStringLiteral("from byte %1").arg(first)));
@@ -196,8 +198,9 @@ void TestSettingsText::levels_data()
     row("214748364.7", 2147483647, "214748364.7");
     row("-214748364.8", std::numeric_limits<int>::min(), "-214748364.8");
     for (const char* wrong : {"", ".", "4.", ".4", "-.4", "4.10", "4,0", "4.0.0", "+4.0", "4.x",
-                              "4.-", "214748364.8", "level 4", "1b"})
+                              "4.-", "214748364.8", "level 4", "1b"}) {
         QTest::newRow(wrong) << QByteArray(wrong) << 0 << QByteArray();
+    }
 }
 
 void TestSettingsText::levels()
@@ -422,11 +425,12 @@ void TestSettingsText::problemsNameTheirLine_data()
     row("rate in words", "frame_rate = film",
         "3: bad value 'film' for 'frame_rate': expected a number, a fraction or a bit pattern");
     for (const char* bad : {"inf", "nan", "1e999", "1/0", "1/-2", "1/2/3", "0x7ff8", "25,0",
-                            "0x7ff800000000000g", "0x7ff80000000000000"})
+                            "0x7ff800000000000g", "0x7ff80000000000000"}) {
         QTest::addRow("rate %s", bad)
             << inViewZero(QByteArray("frame_rate = ") + bad)
             << QByteArray("3: bad value '") + bad +
                    "' for 'frame_rate': expected a number, a fraction or a bit pattern";
+    }
     row("odd digits", "bytes 260 = 000", "3: bad bytes: expected pairs of hexadecimal digits");
     row("split pair", "bytes 260 = 0 0", "3: bad bytes: expected pairs of hexadecimal digits");
     row("no digits", "bytes 260 = 0g", "3: bad bytes: expected pairs of hexadecimal digits");

@@ -35,9 +35,10 @@ void ModalWatch::look()
     } else if (++m_idle > longestStay) {
         m_forced = true;
         m_idle = 0;
-        if (auto* dialog = qobject_cast<QDialog*>(window))
+        if (auto* dialog = qobject_cast<QDialog*>(window)) {
             dialog->reject();
-        else
+        } else {
             window->close();
+        }
     }
 }

@@ -19,8 +19,9 @@ QByteArray littleEndian(Number number)
 
 QString place(int position)
 {
-    if (position < recordHead)
+    if (position < recordHead) {
         return QStringLiteral("record +%1").arg(position);
+    }
     return QStringLiteral("view %1 +%2")
         .arg((position - recordHead) / viewSize)
         .arg((position - recordHead) % viewSize);
@@ -29,10 +30,12 @@ QString place(int position)
 template <class Target>
 void putInto(Target& target, const Cells& cells)
 {
-    for (const Cell& cell : cells)
-        if (cell.position() + cell.bytes.size() <= qsizetype(sizeof target))
+    for (const Cell& cell : cells) {
+        if (cell.position() + cell.bytes.size() <= qsizetype(sizeof target)) {
             std::memcpy(reinterpret_cast<char*>(&target) + cell.position(), cell.bytes.constData(),
                         size_t(cell.bytes.size()));
+        }
+    }
 }
 
 } // namespace
@@ -78,19 +81,23 @@ void put(KvMvcSettings& settings, const Cells& cells)
 QStringList differences(const QByteArray& before, const QByteArray& after)
 {
     QStringList list;
-    for (int at = 0; at < before.size(); at += wordSize)
-        if (std::memcmp(before.constData() + at, after.constData() + at, wordSize) != 0)
+    for (int at = 0; at < before.size(); at += wordSize) {
+        if (std::memcmp(before.constData() + at, after.constData() + at, wordSize) != 0) {
             list +=
                 place(at) + QLatin1String(": ") + QLatin1String(after.mid(at, wordSize).toHex());
+        }
+    }
     return list;
 }
 
 QStringList expectedDifferences(const QByteArray& before, const Cells& cells)
 {
     QByteArray after = before;
-    for (const Cell& cell : cells)
-        if (cell.position() + cell.bytes.size() <= before.size())
+    for (const Cell& cell : cells) {
+        if (cell.position() + cell.bytes.size() <= before.size()) {
             after.replace(cell.position(), cell.bytes.size(), cell.bytes);
+        }
+    }
     return differences(before, after);
 }
 
@@ -98,8 +105,9 @@ KvMvcSettings exampleSettings()
 {
     KvMvcSettings settings;
     auto* const bytes = reinterpret_cast<unsigned char*>(&settings);
-    for (size_t i = 0; i < sizeof settings; ++i)
+    for (size_t i = 0; i < sizeof settings; ++i) {
         bytes[i] = static_cast<unsigned char>(i * 31 + i / 256 * 7 + 1);
+    }
 
     // What tests rely on; all else is the ledger's first value, and switches are off.
     const QHash<QString, double> own = {

@@ -15,15 +15,21 @@ namespace user
 
 void reveal(QWidget* widget)
 {
-    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (auto* tabs = qobject_cast<QTabWidget*>(parent))
-            for (int i = 0; i < tabs->count(); ++i)
-                if (tabs->widget(i)->isAncestorOf(widget))
+    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(parent)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                if (tabs->widget(i)->isAncestorOf(widget)) {
                     tabs->setCurrentIndex(i);
+                }
+            }
+        }
+    }
     QCoreApplication::processEvents();
-    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(parent))
+    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
             area->ensureWidgetVisible(widget);
+        }
+    }
     QCoreApplication::processEvents();
 }
 
@@ -39,13 +45,15 @@ bool choose(QComboBox* list, const QString& text)
 {
     reveal(list);
     const int index = list->findText(text);
-    if (index < 0 || !list->isEnabled() || !list->isVisible())
+    if (index < 0 || !list->isEnabled() || !list->isVisible()) {
         return false;
+    }
     list->setFocus();
     QTest::keyClick(list, Qt::Key_F4);
     QTest::keyClick(list->view(), Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
+    for (int i = 0; i < index; ++i) {
         QTest::keyClick(list->view(), Qt::Key_Down);
+    }
     QTest::keyClick(list->view(), Qt::Key_Return);
     return true;
 }
@@ -74,8 +82,9 @@ QWidget* findOnly(const QWidget* parent, const QString& className, const QString
     int count = 0;
     const auto widgets = parent->findChildren<QWidget*>(name);
     for (QWidget* widget : widgets) {
-        if (!widget->inherits(className.toLatin1().constData()))
+        if (!widget->inherits(className.toLatin1().constData())) {
             continue;
+        }
         only = widget;
         ++count;
     }

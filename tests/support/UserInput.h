@@ -38,11 +38,15 @@ template <class Control>
 Control* findControl(const QWidget* window, const char* pageClass, const char* name)
 {
     QList<const QWidget*> widgets = {window};
-    for (const QWidget* child : window->findChildren<QWidget*>())
+    for (const QWidget* child : window->findChildren<QWidget*>()) {
         widgets += child;
-    for (const QWidget* page : widgets)
-        if (page->inherits(pageClass))
-            if (auto* control = page->findChild<Control*>(QLatin1String(name)))
+    }
+    for (const QWidget* page : widgets) {
+        if (page->inherits(pageClass)) {
+            if (auto* control = page->findChild<Control*>(QLatin1String(name))) {
                 return control;
+            }
+        }
+    }
     return nullptr;
 }

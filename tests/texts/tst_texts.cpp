@@ -23,8 +23,9 @@ QStringList conversionsOf(const char* format)
     QStringList conversions;
     for (const char* at = std::strchr(format, '%'); at; at = std::strchr(at, '%')) {
         const char* const end = at + 1 + std::strspn(at + 1, "-+ #0123456789.*hlLqjzt$'");
-        if (*end != '%')
+        if (*end != '%') {
             conversions += QString::fromUtf8(at, int(end - at) + 1);
+        }
         at = *end ? end + 1 : end;
     }
     return conversions;
@@ -88,8 +89,9 @@ void TestTexts::conversions()
     QFETCH(QStringList, conversions);
     // A lone sign at the end reads as a conversion of nothing, which no source has.
     QStringList found = conversionsOf(format.constData());
-    for (QString& conversion : found)
+    for (QString& conversion : found) {
         conversion.remove(QChar(0));
+    }
     QCOMPARE(found, conversions);
 }
 

@@ -22,9 +22,10 @@ constexpr int longestWait = 10000; // ms
 QString withVariables(QString line)
 {
     static const QRegularExpression variable(QStringLiteral("\\$([A-Z_]+)"));
-    for (auto match = variable.match(line); match.hasMatch(); match = variable.match(line))
+    for (auto match = variable.match(line); match.hasMatch(); match = variable.match(line)) {
         line.replace(match.capturedStart(), match.capturedLength(),
                      qEnvironmentVariable(match.captured(1).toLatin1().constData()));
+    }
     return line;
 }
 
@@ -33,32 +34,38 @@ Widget* find(QWidget* dialog, const QString& name)
 {
     // The same page exists once a view: the first visible one is meant.
     const auto candidates = dialog->findChildren<Widget*>();
-    for (Widget* widget : candidates)
+    for (Widget* widget : candidates) {
         if (widget->isVisibleTo(dialog) &&
-            (widget->objectName() == name || widget->accessibleName() == name))
+            (widget->objectName() == name || widget->accessibleName() == name)) {
             return widget;
+        }
+    }
     return nullptr;
 }
 
 void scrollTo(QWidget* widget)
 {
-    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(parent))
+    for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
             area->ensureWidgetVisible(widget);
+        }
+    }
 }
 
 bool choose(QComboBox* box, const QString& text)
 {
     const int index = box->findText(text);
-    if (index < 0 || !box->isEnabled())
+    if (index < 0 || !box->isEnabled()) {
         return false;
+    }
     // With the keyboard, so that the box reports a choice of the user.
     box->setFocus();
     while (box->currentIndex() != index) {
         const int before = box->currentIndex();
         QTest::keyClick(box, box->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
-        if (box->currentIndex() == before)
+        if (box->currentIndex() == before) {
             return false;
+        }
     }
     return true;
 }
@@ -85,16 +92,19 @@ QObject* AutopilotPlugin::create(const QString&, const QString& script)
 
 Autopilot::Autopilot(const QStringList& lines)
 {
-    for (const QString& line : lines)
-        if (!line.trimmed().isEmpty() && !line.startsWith(QLatin1Char('#')))
+    for (const QString& line : lines) {
+        if (!line.trimmed().isEmpty() && !line.startsWith(QLatin1Char('#'))) {
             m_lines.append(withVariables(line.trimmed()));
+        }
+    }
     QTimer::singleShot(stepInterval, this, &Autopilot::playNext);
 }
 
 void Autopilot::playNext()
 {
-    if (m_lines.isEmpty())
+    if (m_lines.isEmpty()) {
         return;
+    }
     QWidget* const dialog = QApplication::activeModalWidget();
     // Ahead of the step, which may close the dialog and with it the event loop that called.
     QTimer::singleShot(stepInterval, this, &Autopilot::playNext);
@@ -114,12 +124,14 @@ void Autopilot::play(QWidget* dialog, const QString& line)
     const QString text = rest.section(QLatin1Char(' '), 1);
 
     if (command == QLatin1String("grab")) {
-        if (!dialog->grab().save(rest))
+        if (!dialog->grab().save(rest)) {
             fail(line, QStringLiteral("cannot write the picture"));
+        }
         return;
     }
-    if (command == QLatin1String("size"))
+    if (command == QLatin1String("size")) {
         return dialog->resize(name.toInt(), text.toInt());
+    }
     if (command == QLatin1String("key")) {
         const QKeySequence keys(rest);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -129,22 +141,25 @@ void Autopilot::play(QWidget* dialog, const QString& line)
 #endif
     }
     if (command == QLatin1String("tab")) {
-        if (auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget")))
+        if (auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget"))) {
             return tabs->setCurrentIndex(rest.toInt());
+        }
         fail(line, QStringLiteral("no tabs"));
     }
 
     const bool wholeName = command == QLatin1String("click") || command == QLatin1String("show");
     auto* const widget = find<QWidget>(dialog, wholeName ? rest : name);
-    if (!widget)
+    if (!widget) {
         fail(line, QStringLiteral("no such widget"));
+    }
     scrollTo(widget);
     auto* const box = qobject_cast<QComboBox*>(widget);
     auto* const field = qobject_cast<QAbstractSpinBox*>(widget);
     auto* const button = qobject_cast<QAbstractButton*>(widget);
     if (command == QLatin1String("choose") && box) {
-        if (!choose(box, text))
+        if (!choose(box, text)) {
             fail(line, QStringLiteral("no such item"));
+        }
     } else if (command == QLatin1String("type") && field) {
         type(field, text);
     } else if (command == QLatin1String("click") && button) {
