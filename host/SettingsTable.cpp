@@ -34,7 +34,7 @@ constexpr ValueName bufferUnits[] = {{KV_MVC_UNITS_BYTES_PERCENT, "bytes"_l1},
                                      {KV_MVC_UNITS_BITS_90KHZ, "bits"_l1}};
 constexpr ValueName fullnessUnits[] = {{KV_MVC_UNITS_BYTES_PERCENT, "%"_l1},
                                        {KV_MVC_UNITS_BITS, "bits"_l1},
-                                       {KV_MVC_UNITS_BITS_90KHZ, "ticks of 90 hz"_l1}};
+                                       {KV_MVC_UNITS_BITS_90KHZ, "ticks of 90 kHz"_l1}};
 
 template <std::size_t size>
 consteval std::array<Setting, size> inDialogOrder(std::array<Setting, size> settings)

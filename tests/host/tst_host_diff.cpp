@@ -74,8 +74,8 @@ void TestHostDiff::changesArePrintedOneALine()
                             "Reserved bytes, base view: 1 differ\n"
                             "Picture structure, view 1: MBAFF -> Progressive\n"
                             "Bitrate mode, view 1: Constant Bitrate -> 9 (unknown)\n"
-                            "VBV buffer initial, view 1: 54000 ticks of 90 hz -> 60000 "
-                            "ticks of 90 hz\n"
+                            "VBV buffer initial, view 1: 54000 ticks of 90 kHz -> 60000 "
+                            "ticks of 90 kHz\n"
                             "Reserved bytes, view 1: 2 differ\n"));
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 1);

@@ -35,8 +35,8 @@ void TestUnitLabels::areTranslatedOnEveryPage_data()
         {QStringLiteral("Puffer (Bit)"), QStringLiteral("VBV-Anfangsfüllung (Bit)"),
          QStringLiteral("VBV-Zielfüllung (Bit)")});
     row("de", 2,
-        {QStringLiteral("Puffer (Bit)"), QStringLiteral("VBV-Anfangsfüllung (90 hz)"),
-         QStringLiteral("VBV-Zielfüllung (90 hz)")});
+        {QStringLiteral("Puffer (Bit)"), QStringLiteral("VBV-Anfangsfüllung (90 kHz)"),
+         QStringLiteral("VBV-Zielfüllung (90 kHz)")});
     row("jp", 0,
         {QStringLiteral("ビットレートバッファ (バイト)"), QStringLiteral("VBV 初期値 (%)"),
          QStringLiteral("VBV 目標値 (%)")});
@@ -44,8 +44,8 @@ void TestUnitLabels::areTranslatedOnEveryPage_data()
         {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期値 (ビット)"),
          QStringLiteral("VBV 目標値 (ビット)")});
     row("jp", 2,
-        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期値 (90 hz)"),
-         QStringLiteral("VBV 目標値 (90 hz)")});
+        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期値 (90 kHz)"),
+         QStringLiteral("VBV 目標値 (90 kHz)")});
 }
 
 void TestUnitLabels::areTranslatedOnEveryPage()

@@ -215,7 +215,7 @@ QVector<Built> viewsPages()
             {page, "groupBox", "QGroupBox", {{"title", QStringLiteral("Units")}}},
             {page, "units1Radio", radio, unit("Bitrate buffer (bytes), VBV buffers (%)")},
             {page, "units2Radio", radio, unit("Bitrate buffer (bits), VBV buffers (bits)")},
-            {page, "units3Radio", radio, unit("Bitrate buffer (bits), VBV buffers (90  hz clock)")},
+            {page, "units3Radio", radio, unit("Bitrate buffer (bits), VBV buffers (90  kHz clock)")},
             {page, "bitrateBufferSpin", spinBox, amount},
             {page, "vbvInitialSpin", spinBox, amount},
             {page, "vbvTargetSpin", spinBox, amount},

@@ -260,7 +260,7 @@ void TestPageTexts::unitLabelsAreAskedForInThePagesContext_data()
         row(0, {"Bitrate buffer (bytes)", "VBV buffer initial (%)", "VBV buffer target (%)"});
         row(1, {"Bitrate buffer (bits)", "VBV buffer initial (bits)", "VBV buffer target (bits)"});
         row(2,
-            {"Bitrate buffer (bits)", "VBV buffer initial (90 hz)", "VBV buffer target (90 hz)"});
+            {"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)", "VBV buffer target (90 kHz)"});
     }
 }
 

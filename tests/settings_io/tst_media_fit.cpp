@@ -253,7 +253,7 @@ void TestMediaFit::ratesOfOtherUnits_data()
     QTest::newRow("bytes and percent") << int(KV_MVC_UNITS_BYTES_PERCENT) << 500000 << 50 << 80;
     QTest::newRow("bits") << int(KV_MVC_UNITS_BITS) << 4000000 << 2000000 << 3200000;
     // The buffer takes a half of a second at 8 Mbit/s.
-    QTest::newRow("bits and 90 hz") << int(KV_MVC_UNITS_BITS_90KHZ) << 4000000 << 22500 << 36000;
+    QTest::newRow("bits and 90 kHz") << int(KV_MVC_UNITS_BITS_90KHZ) << 4000000 << 22500 << 36000;
 }
 
 void TestMediaFit::ratesOfOtherUnits()

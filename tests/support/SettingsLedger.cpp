@@ -242,7 +242,7 @@ const QVector<NamedValues> namedRows = {
     {{QStringLiteral("bitrate_units")},
      {{0, "Bytes and percent", "bytes and percent", false},
       {1, "Bits", "bits", false},
-      {2, "Bits and 90 hz", "bits and 90 hz", false}}},
+      {2, "Bits and 90 kHz", "bits and 90 kHz", false}}},
     // Numbers of which one has a name.
     {{QStringLiteral("display_aspect_x"), QStringLiteral("display_aspect_y")},
      {{-1, "Custom", "custom", false}}},
