@@ -24,6 +24,10 @@ KvMediaCoding codingOf(const PictureTrack& track, bool isWhole)
     coding.adaptive_b = facts.adaptiveB ? 1 : 0;
     coding.reference_b = facts.referenceB ? 1 : 0;
     coding.pyramid_b = facts.pyramidB ? 1 : 0;
+    int32_t* quantizers[] = {&coding.quantizer_i, &coding.quantizer_p, &coding.quantizer_b};
+    for (std::size_t kind = 0; kind < facts.quantizers.size(); ++kind) {
+        *quantizers[kind] = facts.quantizers[kind].value_or(KV_MEDIA_QUANTIZER_NOT_KNOWN);
+    }
     return coding;
 }
 

@@ -1,6 +1,7 @@
 #include "h264_gop.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <numeric>
 #include <tuple>
@@ -139,6 +140,19 @@ void describeI(Frames frames, const std::vector<std::size_t>& shown, CodingFacts
     }
 }
 
+std::optional<int> averageQuantizer(Frames frames, FrameKind kind)
+{
+    double sum = 0;
+    int count = 0;
+    for (const CodedFrame& frame : frames) {
+        if (frame.kind == kind && frame.quantizer) {
+            sum += *frame.quantizer;
+            ++count;
+        }
+    }
+    return count == 0 ? std::nullopt : std::optional(static_cast<int>(std::lround(sum / count)));
+}
+
 int mostFrequentSlices(Frames frames)
 {
     std::map<int, int> counts;
@@ -169,6 +183,9 @@ CodingFacts factsOfFrames(std::span<const CodedFrame> all, bool isWhole)
     const std::vector<std::size_t> shown = shownOrder(frames);
     facts.frames = static_cast<int>(all.size());
     facts.slices = mostFrequentSlices(all);
+    for (const FrameKind kind : {FrameKind::I, FrameKind::P, FrameKind::B}) {
+        facts.quantizers[static_cast<std::size_t>(kind)] = averageQuantizer(all, kind);
+    }
     describeB(frames, shown, facts);
     describeI(frames, shown, facts);
     return facts;

@@ -1,23 +1,27 @@
 // What the frames of a stream's beginning tell about how it is coded.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace kv
 {
 
 enum class FrameKind { I, P, B };
+constexpr int frameKinds = 3;
 
 /// A frame, or the two fields of one, in the order of decoding.
 struct CodedFrame {
     FrameKind kind = FrameKind::I;
     bool isIdr = false;
     bool isReference = false;
-    int slices = 0;        ///< of the picture, or of the first field
-    int structure = -1;    ///< pic_struct; -1: not told
-    uint32_t sequence = 0; ///< how many IDR pictures came up to it
-    int64_t order = 0;     ///< picture order count, within the sequence
+    int slices = 0;               ///< of the picture, or of the first field
+    std::optional<int> quantizer; ///< of the first slice
+    int structure = -1;           ///< pic_struct; -1: not told
+    uint32_t sequence = 0;        ///< how many IDR pictures came up to it
+    int64_t order = 0;            ///< picture order count, within the sequence
 };
 
 /// What the frames of a beginning tell about how a view is coded. 0 or less where nothing is told
@@ -35,6 +39,7 @@ struct CodingFacts {
     bool adaptiveB = false; ///< other numbers occur, too
     bool referenceB = false; ///< B pictures are references
     bool pyramidB = false;   ///< ... and are decoded before B pictures that are shown earlier
+    std::array<std::optional<int>, frameKinds> quantizers; ///< average of each kind
 };
 
 /// The shortest row of frames whose repetition shows fields more than once (Table D-1).

@@ -92,6 +92,7 @@ void PictureTrack::beginPicture(const SliceHeader& slice, const SequenceParamete
     CodedFrame frame;
     frame.isIdr = slice.isIdr;
     frame.isReference = slice.isReference;
+    frame.quantizer = slice.quantizer;
     frame.structure = structure.value_or(-1);
     frame.order = orderOf(slice, sequence);
     frame.sequence = m_sequences;

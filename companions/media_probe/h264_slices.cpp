@@ -115,6 +115,17 @@ void readReferences(BitReader& reader, bool both, uint32_t (&references)[2])
     }
 }
 
+/// 26 and what the set says, and slice_qp_delta (7.4.2.2, 7.4.3).
+std::optional<int32_t> quantizerOf(BitReader& reader, int32_t initial)
+{
+    constexpr int64_t least = -36; // of 14 bits a sample
+    constexpr int64_t most = 51;
+    const int64_t quantizer = int64_t(initial) + reader.signedGolomb();
+    return reader.overrun() || quantizer < least || quantizer > most
+               ? std::nullopt
+               : std::optional(static_cast<int32_t>(quantizer));
+}
+
 /// From the order of pictures to the deblocking filter.
 void readPrediction(BitReader& reader, const SequenceParameters& sequence,
                     const PictureParameters& picture, SliceHeader& slice)
@@ -140,7 +151,7 @@ void readPrediction(BitReader& reader, const SequenceParameters& sequence,
     if (picture.cabac && predicted) {
         reader.unsignedGolomb(); // cabac_init_idc
     }
-    reader.signedGolomb(); // slice_qp_delta
+    slice.quantizer = quantizerOf(reader, picture.quantizer);
     if (slice.kind == SliceKind::SwitchingP) {
         reader.bits(1);
     }
@@ -196,9 +207,11 @@ std::optional<PictureParameters> parsePictureParameters(Bytes payload)
     }
     picture.weightedP = reader.flag();
     picture.weightedB = reader.bits(2);
-    for (int quantizer = 0; quantizer < 3; ++quantizer) {
-        reader.signedGolomb();
-    }
+    constexpr int32_t middle = 26;
+    constexpr int32_t widest = 100; // far beyond what can be
+    picture.quantizer = middle + std::clamp(reader.signedGolomb(), -widest, widest);
+    reader.signedGolomb(); // pic_init_qs_minus26
+    reader.signedGolomb(); // chroma_qp_index_offset
     picture.deblockingControl = reader.flag();
     reader.bits(1); // constrained_intra_pred_flag
     picture.redundantPictures = reader.flag();

@@ -15,6 +15,7 @@ struct PictureParameters {
     uint32_t references[2] = {1, 1};
     bool weightedP = false;
     uint32_t weightedB = 0; ///< weighted_bipred_idc
+    int32_t quantizer = 26; ///< that slices differ from
     bool deblockingControl = false;
     bool redundantPictures = false;
 };
@@ -32,10 +33,11 @@ struct SliceHeader {
     bool field = false;
     bool bottomField = false;
     uint32_t idrPicture = 0;
-    uint32_t orderBits = 0;         ///< pic_order_cnt_lsb
-    int32_t orderDeltas[2] = {};    ///< of a frame's fields; in order type 0 the second alone
-    bool resetsOrder = false;       ///< memory_management_control_operation 5
-    std::optional<bool> deblocking; ///< none where the header cannot be read to there
+    uint32_t orderBits = 0;           ///< pic_order_cnt_lsb
+    int32_t orderDeltas[2] = {};      ///< of a frame's fields; in order type 0 the second alone
+    bool resetsOrder = false;         ///< memory_management_control_operation 5
+    std::optional<int32_t> quantizer; ///< SliceQPY; none where the header cannot be read to there
+    std::optional<bool> deblocking;   ///< none where the header cannot be read to there
 };
 
 /// @return None for a damaged or impossible set, and for one with slice groups.

@@ -44,6 +44,25 @@ void apply(int32_t told, int32_t& field, const char* name, Strings& untold)
     }
 }
 
+/// Quantizers that the encoder has, and a range that holds them.
+void applyQuantizers(const KvMediaCoding& coding, KvMvcViewSettings& view)
+{
+    constexpr int32_t least = -12; // of 10 bits a sample
+    constexpr int32_t most = 51;
+    const struct {
+        int32_t told;
+        int32_t KvMvcViewSettings::*field;
+    } quantizers[] = {{coding.quantizer_i, &KvMvcViewSettings::quant_i},
+                      {coding.quantizer_p, &KvMvcViewSettings::quant_p},
+                      {coding.quantizer_b, &KvMvcViewSettings::quant_b}};
+    for (const auto& quantizer : quantizers) {
+        if (quantizer.told != KV_MEDIA_QUANTIZER_NOT_KNOWN) {
+            view.*quantizer.field = std::clamp(quantizer.told, least, most);
+            view.quant_min = std::min(view.quant_min, view.*quantizer.field);
+        }
+    }
+}
+
 void applyTools(const KvMediaCoding& coding, KvMvcViewSettings& view, Strings& untold)
 {
     apply(coding.entropy_mode, view.entropy_mode, "entropy coding", untold);
@@ -51,6 +70,7 @@ void applyTools(const KvMediaCoding& coding, KvMvcViewSettings& view, Strings& u
         apply(coding.weighted_p, view.weighted_p, "weighted prediction", untold);
     }
     apply(coding.deblocking, view.deblocking, "deblocking", untold);
+    applyQuantizers(coding, view);
     if (coding.slices > 0) {
         view.num_slices = coding.slices;
         view.multi_slice = coding.slices > 1 ? 1 : 0;

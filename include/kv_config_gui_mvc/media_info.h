@@ -52,6 +52,9 @@ enum KvMediaPulldown {
     KV_MEDIA_PULLDOWN_OTHER = 7       /**< in another way */
 };
 
+/** KvMediaCoding::quantizer_i and so on: there are no such pictures. */
+enum { KV_MEDIA_QUANTIZER_NOT_KNOWN = 100 };
+
 /**
  * How a view of an H.264 stream is coded, as its first frames show. Never grows: what comes later
  * is added to KvMediaInfo.
@@ -69,6 +72,10 @@ typedef struct KvMediaCoding {
     int32_t adaptive_b;   /**< 1: rows of B pictures are of several lengths */
     int32_t reference_b;  /**< 1: B pictures are references */
     int32_t pyramid_b;    /**< 1: and are decoded before B pictures that are shown earlier */
+    int32_t quantizer_i;  /**< of I pictures, the average of slices (SliceQPY, 7.4.3): -36 to 51, or
+                               KV_MEDIA_QUANTIZER_NOT_KNOWN */
+    int32_t quantizer_p;  /**< of P pictures, likewise */
+    int32_t quantizer_b;  /**< of B pictures, likewise */
 } KvMediaCoding;
 
 /** The facts of a file's main video stream. Owned by the caller. */

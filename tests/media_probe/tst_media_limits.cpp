@@ -371,10 +371,11 @@ void TestMediaLimits::damagedFilesEndSoon()
         QSKIP("the ffmpeg program makes the media of this test");
     }
     std::mt19937 random(11);
-    for (const char* name : {"flip.ts", "flip.mp4", "flip.vob", "flip.mxf"}) {
+    for (const char* name :
+         {"flip.ts", "flip.mp4", "flip.vob", "flip.mxf", "flip.mkv", "flip.y4m"}) {
         const QString file = m_folder.filePath(QLatin1String(name));
-        const QByteArray error =
-            makeMedia(picture("176x144", "25", 0.4) + QStringLiteral("-threads 1"), file);
+        const QByteArray error = makeMedia(
+            picture("176x144", "25", 0.4) + QStringLiteral("-pix_fmt yuv420p -threads 1"), file);
         QVERIFY2(error.isEmpty(), error.constData());
         QFile in(file);
         QVERIFY(in.open(QIODevice::ReadOnly));

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void initTestCase();
     void codingsBecomeSettings_data();
     void codingsBecomeSettings();
+    void quantizersAreThoseOfThePictures();
     void repeatedFieldsArePulldown_data();
     void repeatedFieldsArePulldown();
 
@@ -142,6 +143,26 @@ void TestCodingImport::codingsBecomeSettings()
         if (expected.references != untold) {
             compare(&KvMvcViewSettings::num_ref_frames, expected.references);
         }
+    }
+}
+
+/// x264 divides and multiplies the step of P pictures by 1.4 and 1.3 for I and B pictures; six
+/// quantizers double it.
+void TestCodingImport::quantizersAreThoseOfThePictures()
+{
+    const QString name = m_folder.filePath(QStringLiteral("quantizers.mp4"));
+    const QByteArray error = makeMedia(
+        QStringLiteral("-f lavfi -i testsrc=size=176x144:rate=25 -frames:v 30 -c:v libx264 "
+                       "-pix_fmt yuv420p -level 3 -x264-params "
+                       "qp=30:ipratio=1.4:pbratio=1.3:bframes=2:b-adapt=0:keyint=10"),
+        name);
+    QVERIFY2(error.isEmpty(), error.constData());
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    for (const KvMvcViewSettings& view : settings.views) {
+        QCOMPARE(view.quant_i, 27);
+        QCOMPARE(view.quant_p, 30);
+        QCOMPARE(view.quant_b, 32);
     }
 }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void initTestCase();
     void streamsBecomeSettings_data();
     void streamsBecomeSettings();
+    void quantizersOfPictures();
     void buffersOfStreams();
 
 private:
@@ -141,6 +142,27 @@ void TestMultiviewImport::streamsBecomeSettings()
             QCOMPARE(rate, file.isSplit != 0 ? 25.0 : presetRate);
         }
     }
+}
+
+void TestMultiviewImport::quantizersOfPictures()
+{
+    const QByteArray stream =
+        ReferenceEncoder(m_folder.path())
+            .encode(QStringLiteral("FramesToBeEncoded=7 NumberBFrames=2 QPISlice=24 QPPSlice=27 "
+                                   "QPBSlice=31"));
+    QVERIFY(!stream.isEmpty());
+    const QString name = m_folder.filePath(QStringLiteral("quantizers.264"));
+    QVERIFY(kvtest::writeFile(name, stream));
+    KvMvcSettings settings{};
+    QVERIFY2(m_library.read(settings, name.toUtf8()) == 0, m_library.messages.constData());
+    QCOMPARE(settings.views[0].quant_i, 24);
+    QCOMPARE(settings.views[0].quant_p, 27);
+    QCOMPARE(settings.views[0].quant_b, 31);
+    // The other view has P pictures alone, of 24, 27 and 27: the first is that of an I picture.
+    const KvMvcSettings preset = kvtest::EncoderLibrary().defaults(KV_MVC_STEREO_HIGH);
+    QCOMPARE(settings.views[1].quant_i, preset.views[1].quant_i);
+    QCOMPARE(settings.views[1].quant_p, 26);
+    QCOMPARE(settings.views[1].quant_b, 31);
 }
 
 /// (2 to the power of 6 + 4) * 300 bit/s, (2 to the power of 4 + 6) * 200 bits.
