@@ -30,33 +30,33 @@ struct Import {
     int interlace, order, aspectX, aspectY, profile, level, chroma, depth, references;
 };
 
-constexpr int default = -1000; // the preset's own value
+constexpr int untold = -1000; // the preset's own value
 constexpr int autoLevel = 100;
-constexpr double k23976 = 24000 / 1001.0;
-constexpr double k29970 = 30000 / 1001.0;
-constexpr double k59940 = 60000 / 1001.0;
+constexpr double filmRate = 24000 / 1001.0;
+constexpr double ntscRate = 30000 / 1001.0;
+constexpr double ntscFieldRate = 60000 / 1001.0;
 
 // clang-format off
 constexpr Import imports[] = {
     // file          size         rate          arguments of ffmpeg                                          w     h     rate    int ord aspect  prof level chroma depth refs
     {"base.mp4",    "176x144",   "15",         "-c:v libx264 -profile:v baseline -level 1.1 -pix_fmt yuv420p -refs 1", 176, 144, 15, 0, 0, 1, 1,    0, 11,    2, 8,  1},
     {"main.MP4",    "352x288",   "25",         "-c:v libx264 -profile:v main -level 2 -pix_fmt yuv420p -refs 2 -x264-params b-pyramid=none", 352, 288, 25, 0, 0, 1, 1, 1, 20, 2, 8, 2},
-    {"film.m2t",    "1920x1080", "24000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 4.1 -refs 3", 1920, 1080, k23976, 0, 0, 1, 1, 3, 41, 2, 8, 3},
-    {"fast.ts",     "1280x720",  "60000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 3.2 -refs 2", 1280, 720, k59940, 0, 0, 1, 1, 3, 32, 2, 8, 2},
+    {"film.m2t",    "1920x1080", "24000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 4.1 -refs 3", 1920, 1080, filmRate, 0, 0, 1, 1, 3, 41, 2, 8, 3},
+    {"fast.ts",     "1280x720",  "60000/1001", "-c:v libx264 -preset ultrafast -x264-params 8x8dct=1 -pix_fmt yuv420p -level 3.2 -refs 2", 1280, 720, ntscFieldRate, 0, 0, 1, 1, 3, 32, 2, 8, 2},
     {"tff.ts",      "720x576",   "25",         "-c:v libx264 -flags +ilme+ildct -x264-params tff=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3 -aspect 16:9", 720, 576, 25, 2, 0, 64, 45, 3, 30, 2, 8, 2},
-    {"bff.trp",     "720x480",   "30000/1001", "-f mpegts -c:v libx264 -flags +ilme+ildct -x264-params bff=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3 -aspect 4:3", 720, 480, k29970, 2, 1, 8, 9, 3, 30, 2, 8, 2},
+    {"bff.trp",     "720x480",   "30000/1001", "-f mpegts -c:v libx264 -flags +ilme+ildct -x264-params bff=1:b-pyramid=none:ref=2 -pix_fmt yuv420p -level 3 -aspect 4:3", 720, 480, ntscRate, 2, 1, 8, 9, 3, 30, 2, 8, 2},
     {"ten.m4p",     "640x360",   "24",         "-f mp4 -c:v libx264 -pix_fmt yuv420p10le -x264-params b-pyramid=none:ref=2 -level 3", 640, 360, 24, 0, 0, 1, 1, 4, 30, 2, 10, 2},
     {"two.mp4",     "640x360",   "50",         "-c:v libx264 -pix_fmt yuv422p10le -x264-params b-pyramid=none:ref=2 -level 3.1", 640, 360, 50, 0, 0, 1, 1, 5, 31, 3, 10, 2},
     {"grey.mp4",    "320x240",   "10",         "-c:v libx264 -pix_fmt gray -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 0, 0, 1, 1, 3, 13, 1, 8, 2},
     {"full.mp4",    "320x240",   "10",         "-c:v libx264 -pix_fmt yuv444p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 10, 0, 0, 1, 1, 5, 13, 3, 8, 2},
-    {"es.m2v",      "352x288",   "25",         "-c:v mpeg2video -pix_fmt yuv420p",            352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
-    {"es.mpv",      "352x288",   "24",         "-f mpeg2video -c:v mpeg2video -pix_fmt yuv420p", 352, 288, 24,   0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
-    {"one.mpeg",    "352x288",   "30",         "-f mpeg -c:v mpeg1video -pix_fmt yuv420p",    352,  288,  30,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
-    {"ps.mpg",      "720x576",   "25",         "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0 -aspect 4:3", 720, 576, 25, 1, 1, 16, 15, 3, autoLevel, 2, 8, default},
-    {"dvd.vob",     "720x576",   "25",         "-target pal-dvd -aspect 16:9",                720,  576,  25,     0, 0, 64, 45,  3, autoLevel, 2, 8,  default},
-    {"ps.m2p",      "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, k29970, 0, 0, 4, 3, 3, autoLevel, 2, 8, default},
-    {"ps.mp2",      "352x288",   "25",         "-f vob -c:v mpeg2video -pix_fmt yuv420p",     352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  default},
-    {"studio.mxf",  "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, 0, 1, 1, 5, autoLevel, 3, 8, default},
+    {"es.m2v",      "352x288",   "25",         "-c:v mpeg2video -pix_fmt yuv420p",            352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  untold},
+    {"es.mpv",      "352x288",   "24",         "-f mpeg2video -c:v mpeg2video -pix_fmt yuv420p", 352, 288, 24,   0, 0, 1, 1,    3, autoLevel, 2, 8,  untold},
+    {"one.mpeg",    "352x288",   "30",         "-f mpeg -c:v mpeg1video -pix_fmt yuv420p",    352,  288,  30,     0, 0, 1, 1,    3, autoLevel, 2, 8,  untold},
+    {"ps.mpg",      "720x576",   "25",         "-c:v mpeg2video -pix_fmt yuv420p -flags +ilme+ildct -top 0 -aspect 4:3", 720, 576, 25, 1, 1, 16, 15, 3, autoLevel, 2, 8, untold},
+    {"dvd.vob",     "720x576",   "25",         "-target pal-dvd -aspect 16:9",                720,  576,  25,     0, 0, 64, 45,  3, autoLevel, 2, 8,  untold},
+    {"ps.m2p",      "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, ntscRate, 0, 0, 4, 3, 3, autoLevel, 2, 8, untold},
+    {"ps.mp2",      "352x288",   "25",         "-f vob -c:v mpeg2video -pix_fmt yuv420p",     352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  untold},
+    {"studio.mxf",  "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, 0, 1, 1, 5, autoLevel, 3, 8, untold},
     {"other.mkv",   "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 0, 0, 1, 1, 3, 13, 2, 8, 2},
 };
 // clang-format on
@@ -152,7 +152,7 @@ void TestMediaImport::streamsBecomeSettings()
         QCOMPARE(view.chroma_format, expected.chroma);
         QCOMPARE(view.bit_depth_luma, expected.depth);
         QCOMPARE(view.bit_depth_chroma, expected.depth);
-        QCOMPARE(view.num_ref_frames, expected.references == default
+        QCOMPARE(view.num_ref_frames, expected.references == untold
                                           ? defaults.views[0].num_ref_frames
                                           : expected.references);
         QVERIFY(view.bitrate > 0);
