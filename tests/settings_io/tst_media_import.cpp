@@ -201,7 +201,10 @@ void TestMediaImport::whatTheStreamDoesNotTellIsThePresets()
                            &KvMvcViewSettings::pyramid_b,
                            &KvMvcViewSettings::weighted_p,
                            &KvMvcViewSettings::num_slices,
-                           &KvMvcViewSettings::multi_slice}) {
+                           &KvMvcViewSettings::multi_slice,
+                           &KvMvcViewSettings::quant_i,
+                           &KvMvcViewSettings::quant_p,
+                           &KvMvcViewSettings::quant_b}) {
             to.*field = from.*field;
         }
         to.frame_rate = from.frame_rate;
