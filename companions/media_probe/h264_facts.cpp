@@ -98,10 +98,11 @@ void describeScan(KvMediaInfo& info, const SequenceParameters& base, const Pictu
 void describeH264(KvMediaInfo& info, const H264Scan& scan, bool isWhole)
 {
     info.codec = KV_MEDIA_CODEC_H264;
-    if (!scan.base()) {
+    const std::optional<SequenceParameters>& set = scan.base();
+    if (!set) {
         return;
     }
-    const SequenceParameters& base = *scan.base();
+    const SequenceParameters& base = *set;
     info.profile_idc = static_cast<int32_t>(base.profile);
     info.constraint_flags = static_cast<int32_t>(base.constraintFlags);
     info.level_idc = static_cast<int32_t>(base.level);

@@ -116,20 +116,23 @@ void H264Scan::visitSlice(Bytes head, Bytes payload, const Sequences& sequences,
                           PictureTrack& track)
 {
     const auto id = pictureParametersOfSlice(payload);
-    if (!id || !m_pictures[*id]) {
+    if (!id) {
         return;
     }
-    const PictureParameters& picture = *m_pictures[*id];
-    const auto& sequence = sequences[picture.sequence];
+    const auto& picture = m_pictures[*id];
+    if (!picture) {
+        return;
+    }
+    const auto& sequence = sequences[picture->sequence];
     if (!sequence) {
         return;
     }
     const bool isBase = &track == &m_basePictures;
-    if (const auto slice = parseSlice(head, payload, *sequence, picture)) {
-        track.visit(*slice, *sequence, picture, isBase ? m_structure : std::nullopt);
+    if (const auto slice = parseSlice(head, payload, *sequence, *picture)) {
+        track.visit(*slice, *sequence, *picture, isBase ? m_structure : std::nullopt);
     }
     if (isBase) {
-        m_activeSequence = picture.sequence;
+        m_activeSequence = picture->sequence;
         m_structure.reset();
     }
 }

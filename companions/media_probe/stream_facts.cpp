@@ -185,7 +185,8 @@ bool isContainer(const MediaInput& input, const char* name)
 /// FFmpeg takes 25 pictures a second for an elementary stream that does not tell a number.
 bool isRateMadeUp(const MediaInput& input, const H264Scan& scan)
 {
-    const Usability usability = scan.base() ? scan.base()->usability : Usability{};
+    const std::optional<SequenceParameters>& base = scan.base();
+    const Usability usability = base ? base->usability : Usability{};
     return isContainer(input, "h264") && (usability.timeScale == 0 || usability.unitsInTick == 0);
 }
 

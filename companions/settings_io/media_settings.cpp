@@ -45,8 +45,8 @@ constexpr double standardRates[] = {24000 / 1001.0, 24, 25, 30000 / 1001.0, 30, 
 /// Rounded time stamps stray less; 24 and 23.976 differ by ten times as much.
 constexpr double rateTolerance = 0.0001;
 
-template <std::size_t Count>
-const CodePair* find(const CodePair (&pairs)[Count], int32_t stream)
+template <std::size_t count>
+const CodePair* find(const CodePair (&pairs)[count], int32_t stream)
 {
     const auto pair = std::ranges::find(pairs, stream, &CodePair::stream);
     return pair == std::end(pairs) ? nullptr : pair;
