@@ -49,36 +49,44 @@ public:
 
     explicit TransportStream(bool timed) : m_timed(timed) {}
 
-    /// @param furtherFirst The further stream comes first in the table and in each picture.
+    /// The streams of each program, in the order of its table and of each picture: whether they
+    /// are the further view's.
+    using Programs = QList<QList<bool>>;
+
     /// @param ticks Between pictures, of 90,000 a second.
-    QByteArray write(const QList<ViewPictures>& pictures, bool furtherFirst, qint64 ticks)
+    QByteArray write(const QList<ViewPictures>& pictures, const Programs& programs, qint64 ticks)
     {
-        qint64 time = 90'000;
-        for (const ViewPictures& picture : pictures) {
-            if ((time - 90'000) % (ticks * 10) == 0) {
-                writeTables({furtherFirst, !furtherFirst});
+        constexpr int tableDistance = 10; // pictures
+        for (int at = 0; at < pictures.size(); ++at) {
+            if (at % tableDistance == 0) {
+                writeTables(programs);
             }
-            for (const bool further : {furtherFirst, !furtherFirst}) {
-                writePicture(further ? furtherPid : basePid, further ? 0xE2 : 0xE0,
-                             further ? picture.further : picture.base, time);
+            for (const QList<bool>& program : programs) {
+                for (const bool further : program) {
+                    writePicture(pictures[at], further, at * ticks);
+                }
             }
-            time += ticks;
         }
         return m_bytes;
+    }
+
+    /// One program of both.
+    QByteArray write(const QList<ViewPictures>& pictures, bool furtherFirst, qint64 ticks)
+    {
+        return write(pictures, Programs{{furtherFirst, !furtherFirst}}, ticks);
     }
 
     /// As a file of both views' files in turn, each with tables of its own: ten pictures of the
     /// further view, then those of the base view.
     QByteArray writeInterleaved(const QList<ViewPictures>& pictures, qint64 ticks)
     {
-        constexpr qsizetype extent = 10;
-        for (qsizetype begin = 0; begin < pictures.size(); begin += extent) {
+        constexpr int extent = 10;
+        const int count = static_cast<int>(pictures.size());
+        for (int begin = 0; begin < count; begin += extent) {
             for (const bool further : {true, false}) {
-                writeTables({further});
-                for (qsizetype at = begin; at < std::min(begin + extent, pictures.size()); ++at) {
-                    writePicture(further ? furtherPid : basePid, further ? 0xE2 : 0xE0,
-                                 further ? pictures[at].further : pictures[at].base,
-                                 90'000 + at * ticks);
+                writeTables({{further}});
+                for (int at = begin; at < std::min(begin + extent, count); ++at) {
+                    writePicture(pictures[at], further, at * ticks);
                 }
             }
         }
@@ -126,20 +134,39 @@ private:
         return field;
     }
 
-    /// @param views Whether each stream in the table is the further one.
-    void writeTables(const QList<bool>& views)
+    void writeTables(const Programs& programs)
     {
         const QByteArray version("\xC1\0\0", 3);
-        writeSection(0, 0,
-                     QByteArray("\0\1", 2) + version + QByteArray("\0\1", 2) + pidField(tablePid));
-        QByteArray streams;
-        for (const bool further : views) {
-            streams += QByteArray(1, further ? '\x20' : '\x1B') +
-                       pidField(further ? furtherPid : basePid) + QByteArray("\xF0\0", 2);
+        QByteArray list;
+        for (int at = 0; at < programs.size(); ++at) {
+            list += number(at) + pidField(tablePid + at);
         }
-        writeSection(tablePid, 2,
-                     QByteArray("\0\1", 2) + version + pidField(basePid) + QByteArray("\xF0\0", 2) +
-                         streams);
+        writeSection(0, 0, QByteArray("\0\1", 2) + version + list);
+        for (int at = 0; at < programs.size(); ++at) {
+            QByteArray streams;
+            for (const bool further : programs[at]) {
+                streams += QByteArray(1, further ? '\x20' : '\x1B') +
+                           pidField(further ? furtherPid : basePid) + QByteArray("\xF0\0", 2);
+            }
+            writeSection(tablePid + at, 2,
+                         number(at) + version + pidField(basePid) + QByteArray("\xF0\0", 2) +
+                             streams);
+        }
+    }
+
+    /// program_number, from 1.
+    static QByteArray number(int program)
+    {
+        QByteArray field(1, '\0');
+        field += static_cast<char>(program + 1);
+        return field;
+    }
+
+    void writePicture(const ViewPictures& picture, bool further, qint64 time)
+    {
+        constexpr qint64 start = 90'000;
+        writePicture(further ? furtherPid : basePid, further ? 0xE2 : 0xE0,
+                     further ? picture.further : picture.base, start + time);
     }
 
     void writePicture(int pid, int stream, const QByteArray& units, qint64 time)
