@@ -21,7 +21,7 @@ using Field = std::int32_t V::*;
 inline constexpr Severity corrected = Severity::Warning;
 
 template <class... Args, class Row>
-consteval ViewRule<Args...> ruleOf(const Row& row)
+constexpr ViewRule<Args...> ruleOf(const Row& row)
 {
     const FieldMessage& message = row.message;
     return {message.id.at, corrected, message.texts(), message.basis};
@@ -38,13 +38,9 @@ struct Range {
     int shownLess; ///< what the user sees is the field less this
     ViewRule<int, int, int, int> rule;
 
-    consteval explicit Range(const FieldRow<Owner>& row)
-        : field(row.field),
-          low(row.low),
-          high(row.high),
-          shownLess(row.less),
-          rule(ruleOf<int, int, int, int>(row))
+    static constexpr Range of(const FieldRow<Owner>& row)
     {
+        return {row.field, row.low, row.high, row.less, ruleOf<int, int, int, int>(row)};
     }
 };
 
@@ -53,9 +49,9 @@ struct NotNegative {
     Field field;
     ViewRule<int> rule;
 
-    consteval explicit NotNegative(const FieldRow<V>& row)
-        : field(row.field), rule(ruleOf<int>(row))
+    static constexpr NotNegative of(const FieldRow<V>& row)
     {
+        return {row.field, ruleOf<int>(row)};
     }
 };
 
@@ -65,9 +61,7 @@ struct Switch {
     std::int32_t Owner::*field;
     ViewRule<int> rule;
 
-    consteval explicit Switch(const FieldRow<Owner>& row) : field(row.field), rule(ruleOf<int>(row))
-    {
-    }
+    static constexpr Switch of(const FieldRow<Owner>& row) { return {row.field, ruleOf<int>(row)}; }
 };
 
 /// An enumerated field: codes that its list does not have become the fallback.
@@ -77,12 +71,9 @@ struct Code {
     int fallback;
     ViewRule<int> rule;
 
-    consteval explicit Code(const FieldRow<V>& row)
-        : field(row.field),
-          values(row.values),
-          fallback(fallbackOf(row.list).code),
-          rule(ruleOf<int>(row))
+    static constexpr Code of(const FieldRow<V>& row)
     {
+        return {row.field, row.values, fallbackOf(row.list).code, ruleOf<int>(row)};
     }
 };
 
@@ -91,9 +82,7 @@ struct Depth {
     Field field;
     ViewRule<int, int> rule;
 
-    consteval explicit Depth(const FieldRow<V>& row) : field(row.field), rule(ruleOf<int, int>(row))
-    {
-    }
+    static constexpr Depth of(const FieldRow<V>& row) { return {row.field, ruleOf<int, int>(row)}; }
 };
 
 inline int offsetValue(int value, int offset)

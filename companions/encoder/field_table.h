@@ -32,7 +32,7 @@ enum class Sharing {
 struct Text {
     char at[128] = {};
 
-    consteval Text(std::initializer_list<std::string_view> parts)
+    constexpr Text(std::initializer_list<std::string_view> parts)
     {
         std::size_t end = 0;
         for (const std::string_view part : parts) {
@@ -51,7 +51,7 @@ struct FieldMessage {
     Text other; ///< of another view; empty: there is no other value
     const char* basis;
 
-    consteval FieldMessage(Sharing shared, Text name, std::string_view sentence,
+    constexpr FieldMessage(Sharing shared, Text name, std::string_view sentence,
                            const char* restsOn)
         : id(name),
           base{shared == Sharing::RateControl ? "Base view: " : "", sentence},
@@ -84,7 +84,7 @@ struct FieldFacts {
 struct Fallback {
     List list;
     int code;
-    std::string_view now = "";
+    std::string_view now = {};
 };
 inline constexpr Fallback fallbacks[] = {
     {List::VideoType, KV_MVC_VIDEO_TYPE_NONE, "no preset is set now"},
@@ -98,12 +98,12 @@ inline constexpr Fallback fallbacks[] = {
     {List::EntropyMode, KV_MVC_CAVLC},
 };
 
-consteval const Fallback& fallbackOf(List list)
+constexpr const Fallback& fallbackOf(List list)
 {
     return *std::ranges::find(fallbacks, list, &Fallback::list);
 }
 
-consteval Text idOf(const FieldFacts& facts)
+constexpr Text idOf(const FieldFacts& facts)
 {
     if (facts.rule.empty()) {
         return {};
@@ -113,7 +113,7 @@ consteval Text idOf(const FieldFacts& facts)
 }
 
 /// What is said of a field that had to be corrected.
-consteval Text sentenceOf(const FieldFacts& facts)
+constexpr Text sentenceOf(const FieldFacts& facts)
 {
     if (facts.rule.empty()) {
         return {};
@@ -151,7 +151,7 @@ consteval Text sentenceOf(const FieldFacts& facts)
     }
 }
 
-consteval const char* basisOf(const FieldFacts& facts)
+constexpr const char* basisOf(const FieldFacts& facts)
 {
     if (*facts.basis) {
         return facts.basis;
@@ -174,13 +174,13 @@ struct FieldRow : FieldFacts {
     std::int32_t Owner::*field; ///< null: a double
     FieldMessage message;
 
-    consteval FieldRow(std::int32_t Owner::*member, const FieldFacts& facts)
+    constexpr FieldRow(std::int32_t Owner::*member, const FieldFacts& facts)
         : FieldFacts(facts),
           field(member),
           message(facts.shared, idOf(facts), sentenceOf(facts).at, basisOf(facts))
     {
     }
-    consteval FieldRow(double Owner::*, const FieldFacts& facts)
+    constexpr FieldRow(double Owner::*, const FieldFacts& facts)
         : FieldRow(static_cast<std::int32_t Owner::*>(nullptr), facts)
     {
     }
@@ -206,7 +206,7 @@ inline constexpr FieldRow<KvMvcViewSettings> viewFields[] = {
 
 /// Pointers to those rows of a table that `wanted` takes.
 template <const auto& table, auto wanted>
-consteval auto selectFields()
+constexpr auto selectFields()
 {
     std::array<decltype(&table[0]), std::ranges::count_if(table, wanted)> selected{};
     auto* next = selected.data();
@@ -218,17 +218,22 @@ consteval auto selectFields()
     return selected;
 }
 
-/// The rows with a rule that `wanted` takes, each as a Row, in the order of their messages.
-template <class Row, const auto& table, auto wanted>
-consteval auto rulesOfFields()
-{
+/// Those of them that have a rule, in the order of their messages.
+template <const auto& table, auto wanted>
+constexpr auto fieldsWithRule = [] {
     auto selected =
         selectFields<table, [](const auto& row) { return row.hasRule() && wanted(row); }>();
     std::ranges::sort(selected, {}, [](const auto* row) { return row->said; });
-    const auto make = [&]<std::size_t... at>(std::index_sequence<at...>) consteval {
-        return std::array{Row(*selected[at])...};
-    };
-    return make(std::make_index_sequence<std::tuple_size_v<decltype(selected)>>());
+    return selected;
+}();
+
+/// The same, each made into a Row.
+template <class Row, const auto& table, auto wanted>
+constexpr auto rulesOfFields()
+{
+    return []<std::size_t... at>(std::index_sequence<at...>) {
+        return std::array{Row::of(*fieldsWithRule<table, wanted>[at])...};
+    }(std::make_index_sequence<fieldsWithRule<table, wanted>.size()>());
 }
 
 } // namespace kv::encoder

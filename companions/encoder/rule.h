@@ -111,7 +111,7 @@ struct ViewText {
 /// A rule whose message names the view, except for what is said of the base view or of all.
 template <class... Args>
 struct ViewRule : RuleInfo {
-    consteval ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
+    constexpr ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
         : RuleInfo{ruleId, kind, message.base, message.other, restsOn}
     {
         if (!formatTakes<Args...>(message.base) ||
@@ -139,11 +139,11 @@ constexpr auto rulesOf(const Rows& rows)
     return list;
 }
 
-/// One list of several.
+/// One list of several arrays.
 template <class... Lists>
 constexpr auto joinRules(const Lists&... lists)
 {
-    constexpr std::size_t total = (... + (sizeof(Lists) / sizeof(const RuleInfo*)));
+    constexpr std::size_t total = (... + std::tuple_size_v<Lists>);
     std::array<const RuleInfo*, total> all{};
     std::size_t next = 0;
     const auto append = [&](const auto& list) {

@@ -20,7 +20,7 @@ constexpr auto recordSwitches = rulesOfFields<Switch<KvMvcSettings>, recordField
 
 /// The rules of one kind about fields that the dialog sets for all views.
 template <class Row, FieldKind kind>
-consteval auto generalRules()
+constexpr auto generalRules()
 {
     return rulesOfFields<Row, viewFields, [](auto& row) {
         return row.kind == kind && row.shared != Sharing::RateControl;
@@ -47,7 +47,7 @@ void correctFrameRate(KvMvcViewSettings& view, Report& report)
     report.say(frameRateValue, old);
 }
 
-constexpr const RuleInfo* singles[] = {&frameRateValue};
+constexpr auto singles = std::to_array<const RuleInfo*>({&frameRateValue});
 constexpr auto rules =
     joinRules(rulesOf(recordRanges), rulesOf(recordSwitches), singles, rulesOf(depths),
               rulesOf(codes), rulesOf(switches), rulesOf(ranges));

@@ -184,8 +184,8 @@ void judgeVectors(const Stream& stream, const Level& level, Report& report)
     }
 }
 
-constexpr const RuleInfo* singles[] = {&dpb,        &dpbViews,    &dpbHalf,
-                                       &slicesMost, &slicesLeast, &vectors};
+constexpr auto singles = std::to_array<const RuleInfo*>(
+    {&dpb, &dpbViews, &dpbHalf, &slicesMost, &slicesLeast, &vectors});
 constexpr auto rules = joinRules(singles, rulesOf(pictureBytes));
 
 } // namespace

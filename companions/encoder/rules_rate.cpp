@@ -178,11 +178,25 @@ void judgeView(const Stream& stream, int v, Report& report)
     judgeQuantizers(stream, v, report);
 }
 
-constexpr const RuleInfo* singles[] = {
-    &constantMaximum, &targetMaximum, &raisedMaximum, &targetFullness, &noTarget,       &noMaximum,
-    &noBuffer,        &noFrameRate,   &emptyStart,    &fullStart,      &iPicture,       &shortStart,
-    &shortBuffer,     &rounded,       &withQuantizer, &unlimited,      &quantizerOrder,
-};
+constexpr auto singles = std::to_array<const RuleInfo*>({
+    &constantMaximum,
+    &targetMaximum,
+    &raisedMaximum,
+    &targetFullness,
+    &noTarget,
+    &noMaximum,
+    &noBuffer,
+    &noFrameRate,
+    &emptyStart,
+    &fullStart,
+    &iPicture,
+    &shortStart,
+    &shortBuffer,
+    &rounded,
+    &withQuantizer,
+    &unlimited,
+    &quantizerOrder,
+});
 constexpr auto rules = joinRules(singles, rulesOf(quantizers));
 
 } // namespace

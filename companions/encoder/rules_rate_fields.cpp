@@ -11,7 +11,7 @@ namespace
 
 /// The rules of some kinds about fields that each view has for itself.
 template <class Row, FieldKind... kinds>
-consteval auto eachViewRules()
+constexpr auto eachViewRules()
 {
     return rulesOfFields<Row, viewFields, [](auto& row) {
         return (... || (row.kind == kinds)) && row.shared == Sharing::RateControl;
@@ -29,11 +29,13 @@ struct PercentMessage {
     Field field;
     FieldMessage message;
 
-    consteval explicit PercentMessage(const FieldRow<V>& row)
-        : field(row.field),
-          message(row.shared, {row.message.id.at, "-percent"},
-                  Text{row.name, " was %d %%; it is now 100 %%."}.at, "percent end at 100")
+    static constexpr PercentMessage of(const FieldRow<V>& row)
     {
+        return {row.field,
+                {row.shared,
+                 {row.message.id.at, "-percent"},
+                 Text{row.name, " was %d %%; it is now 100 %%."}.at,
+                 "percent end at 100"}};
     }
 };
 constexpr auto percentMessages = eachViewRules<PercentMessage, FieldKind::Fullness>();
@@ -42,13 +44,13 @@ struct Percentage {
     Field field;
     ViewRule<int> rule;
 
-    consteval explicit Percentage(const PercentMessage& row)
-        : field(row.field), rule(ruleOf<int>(row))
+    static constexpr Percentage of(const PercentMessage& row)
     {
+        return {row.field, ruleOf<int>(row)};
     }
 };
-constexpr Percentage percentages[] = {Percentage(percentMessages[0]),
-                                      Percentage(percentMessages[1])};
+constexpr Percentage percentages[] = {Percentage::of(percentMessages[0]),
+                                      Percentage::of(percentMessages[1])};
 static_assert(std::size(percentages) == percentMessages.size());
 
 int quantizerShift(const KvMvcViewSettings& view)
