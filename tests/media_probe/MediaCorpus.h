@@ -59,6 +59,8 @@ inline constexpr Medium media[] = {
     {"v210.mov",          "320x240",   "25",         "-c:v v210 -pix_fmt yuv422p10le",     320, 240, 25, 1,      P, T, 1, 1,   2, 10, 0, 0, -1, true},
     {"planar.avi",        "320x240",   "25",         "-c:v rawvideo -pix_fmt yuv422p",     320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
     {"packed.mov",        "320x240",   "25",         "-c:v rawvideo -pix_fmt uyvy422",     320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
+    {"storedTopFirst.mov", "720x576",  "25",         "-c:v mjpeg -pix_fmt yuvj420p -field_order tb", 720, 576, 25, 1, I, B, 1, 1, 1, 8, 0, 0, -1},
+    {"storedBottomFirst.mov", "720x576", "25",       "-c:v mjpeg -pix_fmt yuvj420p -field_order bt", 720, 576, 25, 1, I, T, 1, 1, 1, 8, 0, 0, -1},
     {"huffman.avi",       "320x240",   "25",         "-c:v huffyuv -pix_fmt yuv422p",      320, 240, 25, 1,      P, T, 1, 1,   2, 8,  0, 0, -1, true},
     {"windows.wmv",       "320x240",   "25",         "-c:v wmv2 -pix_fmt yuv420p",         320, 240, 25, 1,      P, T, 1, 1,   1, 8,  0, 0, -1},
     {"av1.mp4",           "320x240",   "25",         "-c:v libaom-av1 -cpu-used 8 -pix_fmt yuv420p10le", 320, 240, 25, 1, P, T, 1, 1, 1, 10, 0, 0, -1},

@@ -122,6 +122,7 @@ class TestH264Headers : public QObject
 private Q_SLOTS:
     void sequenceParameterSets_data();
     void sequenceParameterSets();
+    void pictureOrders();
     void aspectRatioCodes_data();
     void aspectRatioCodes();
     void bufferModels();
@@ -137,6 +138,7 @@ private Q_SLOTS:
     void viewsOfSubsetParameterSets();
     void viewsBehindAVui();
     void onlySubsetSetsOfMultiviewProfilesTellViews();
+    void theFirstSetDescribesTheBaseView();
     void emulationPreventionIsRemoved_data();
     void emulationPreventionIsRemoved();
     void unitsAreFoundBetweenStartCodes_data();
@@ -178,6 +180,26 @@ void TestH264Headers::sequenceParameterSets()
     QCOMPARE(read->framesOnly, set.framesOnly);
     QCOMPARE(read->mbaff, set.mbaff);
     QCOMPARE(read->views, 1u);
+}
+
+void TestH264Headers::pictureOrders()
+{
+    const auto orderOf = [](const Set& set) {
+        const auto read =
+            kv::parseSequenceParameters(bytesOf(setData(set).bits(0, 1).payload()), false);
+        return read ? read->order : kv::PictureOrder();
+    };
+    const kv::PictureOrder byBits = orderOf(parameterSets[1]);
+    QCOMPARE(byBits.type, 0u);
+    QCOMPARE(byBits.bits, 6);
+
+    const kv::PictureOrder byCycle = orderOf(parameterSets[3]);
+    QCOMPARE(byCycle.type, 1u);
+    QCOMPARE(byCycle.nonReference, -3);
+    QCOMPARE(byCycle.topToBottom, 5);
+    QCOMPARE(byCycle.cycle, (std::vector<int32_t>{1, -1000000, 7}));
+
+    QCOMPARE(orderOf(parameterSets[0]).type, 2u);
 }
 
 void TestH264Headers::aspectRatioCodes_data()
@@ -389,6 +411,17 @@ void TestH264Headers::onlySubsetSetsOfMultiviewProfilesTellViews()
     }
     QVERIFY(scan.subset());
     QCOMPARE(scan.subset()->views, 3u);
+}
+
+void TestH264Headers::theFirstSetDescribesTheBaseView()
+{
+    const QByteArray stream = nalUnit(3, 7, setData(parameterSets[1]).bits(0, 1).payload()) +
+                              nalUnit(3, 7, setData(parameterSets[0]).bits(0, 1).payload());
+    kv::H264Scan scan;
+    kv::forEachNalUnit(bytesOf(stream), 0, [&](const kv::NalUnit& unit) { scan.visit(unit); });
+    QVERIFY(scan.base());
+    QCOMPARE(scan.base()->width, 1920u);
+    QCOMPARE(scan.base()->height, 1080u);
 }
 
 void TestH264Headers::emulationPreventionIsRemoved_data()

@@ -321,6 +321,9 @@ void TestMediaLimits::truncatedFiles_data()
     QTest::newRow("pictures lost")
         << "front.mp4"
         << "-c:v libx264 -pix_fmt yuv420p -movflags faststart" << 0.9 << QByteArray("truncated");
+    QTest::newRow("the last picture cut")
+        << "last.mp4"
+        << "-c:v libx264 -pix_fmt yuv420p -movflags faststart" << 0.9999 << QByteArray("truncated");
 }
 
 void TestMediaLimits::truncatedFiles()
