@@ -16,7 +16,7 @@ QString fileOf(const KvMvcLibrary& library)
 
 QString reasonOf(const KvMvcLibrary& library)
 {
-    const QString words = QString::fromUtf8(library.reason);
+    QString words = QString::fromUtf8(library.reason);
 #ifdef Q_OS_WIN
     // The system's words do not name the file there.
     return QStringLiteral("cannot load '%1': %2").arg(fileOf(library), words);
@@ -36,7 +36,7 @@ Library::Library(const QString& directory, std::vector<const char*> baseNames)
         return;
     }
     // The loader's own words are worth more than ours only when there is something to load.
-    throw Failure(m_library.isBeside
+    throw Failure(m_library.is_beside
                       ? reasonOf(m_library)
                       : QStringLiteral("cannot find the library %1, neither in '%2' "
                                        "nor where the system looks")

@@ -26,6 +26,8 @@
 
 #include "companions.h"
 
+/* C has no nullptr. NOLINTBEGIN(modernize-use-nullptr) */
+
 /** The kinds of messages; progress is none. */
 enum KvMvcMessageKind {
     KV_MVC_MESSAGE_ERROR = 0,
@@ -251,5 +253,7 @@ static inline void kvMvcFreeMessages(KvMvcMessageList* list)
     list->messages = NULL;
     list->count = 0;
 }
+
+/* NOLINTEND(modernize-use-nullptr) */
 
 #endif

@@ -45,6 +45,8 @@
 
 #include "companions.h"
 
+/* C has no nullptr. NOLINTBEGIN(modernize-use-nullptr) */
+
 /** Room for a path or a reason in bytes, with the terminating zero; what is longer is no path. */
 enum { KV_MVC_LIBRARY_TEXT = 4096 };
 
@@ -59,8 +61,8 @@ enum KvMvcLibraryFlags {
 
 /** A library that has been opened, or why it has not. Owned by the caller. */
 typedef struct KvMvcLibrary {
-    void* handle;     /**< the system's; null: none is open */
-    int32_t isBeside; /**< whether `file` lies in one of the folders, and is no name to look for */
+    void* handle;      /**< the system's; null: none is open */
+    int32_t is_beside; /**< whether `file` lies in one of the folders, and is no name to look for */
     /** What was opened; else what `reason` is about. UTF-8. */
     char file[KV_MVC_LIBRARY_TEXT];
     /**
@@ -158,18 +160,18 @@ static inline void* kvMvcLoadFile(const KvMvcLibrary* library, int32_t flags, ch
     /* What a library needs is looked for beside it; the flags for that take full paths only. */
     const DWORD folders = LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
     const DWORD folderSearch =
-        library->isBeside ? folders | LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR : folders;
-    const DWORD pathSearch = library->isBeside ? LOAD_WITH_ALTERED_SEARCH_PATH : 0;
+        library->is_beside ? folders | LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR : folders;
+    const DWORD pathSearch = library->is_beside ? LOAD_WITH_ALTERED_SEARCH_PATH : 0;
     wchar_t name[KV_MVC_LIBRARY_TEXT];
     wchar_t path[KV_MVC_LIBRARY_TEXT] = L"";
     DWORD former = 0;
     HMODULE handle;
     kvMvcWideText(library->file, name);
-    if (library->isBeside) {
+    if (library->is_beside) {
         GetFullPathNameW(name, KV_MVC_LIBRARY_TEXT, path, NULL);
     }
     SetThreadErrorMode(SEM_FAILCRITICALERRORS, &former); /* no box of the system's own */
-    handle = LoadLibraryExW(library->isBeside ? path : name, NULL,
+    handle = LoadLibraryExW(library->is_beside ? path : name, NULL,
                             (flags & KV_MVC_LIBRARY_WINDOWS_PATH) ? pathSearch : folderSearch);
     if (handle == NULL) {
         kvMvcErrorText(GetLastError(), reason);
@@ -198,12 +200,10 @@ static inline void kvMvcOwnFolder(char* text)
 {
     static const char here = 0;
     Dl_info own;
-    text[0] = '\0';
-    if (dladdr(&here, &own) != 0 && own.dli_fname != NULL && own.dli_fname[0] == '/' &&
-        strlen(own.dli_fname) < KV_MVC_LIBRARY_TEXT) {
-        strcpy(text, own.dli_fname);
-        kvMvcCutToFolder(text);
-    }
+    const int known = dladdr(&here, &own) != 0 && own.dli_fname != NULL &&
+                      own.dli_fname[0] == '/' && strlen(own.dli_fname) < KV_MVC_LIBRARY_TEXT;
+    snprintf(text, KV_MVC_LIBRARY_TEXT, "%s", known ? own.dli_fname : "");
+    kvMvcCutToFolder(text);
 }
 
 static inline int kvMvcIsThere(const char* file)
@@ -263,14 +263,14 @@ static inline int kvMvcOpenLibrary(KvMvcLibrary* library, const char* folder,
     memset(library, 0, sizeof *library);
     for (; *names != NULL; ++names) {
         memset(&tried, 0, sizeof tried);
-        tried.isBeside =
+        tried.is_beside =
             kvMvcFileIn(host, *names, tried.file) || kvMvcFileIn(folder, *names, tried.file);
-        if (!tried.isBeside) {
+        if (!tried.is_beside) {
             snprintf(tried.file, sizeof tried.file, "%s" KV_MVC_LIBRARY_SUFFIX, *names);
         }
         tried.handle = kvMvcLoadFile(&tried, flags, tried.reason);
         /* The system's words are worth more where there is something to load. */
-        if (tried.handle != NULL || tried.isBeside || !library->isBeside) {
+        if (tried.handle != NULL || tried.is_beside || !library->is_beside) {
             *library = tried;
         }
         if (tried.handle != NULL) {
@@ -308,5 +308,7 @@ static inline void kvMvcCloseLibrary(KvMvcLibrary* library)
     }
     library->handle = NULL;
 }
+
+/* NOLINTEND(modernize-use-nullptr) */
 
 #endif

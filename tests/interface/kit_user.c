@@ -28,13 +28,13 @@ static int open_one(const char* folder, int32_t flags, const char* const* names)
     KvMvcLibrary library;
     KvMvcDefaults defaults;
     if (!kvMvcOpenLibrary(&library, folder, names, flags)) {
-        printf("none\n%s\n%s\n%s\n", library.isBeside ? "beside" : "by name", library.file,
+        printf("none\n%s\n%s\n%s\n", library.is_beside ? "beside" : "by name", library.file,
                library.reason);
         return kvMvcFindFunction(&library, KV_MVC_ENCODER_DEFAULTS) == NULL ? 0 : 4;
     }
     defaults = (KvMvcDefaults)kvMvcFindFunction(&library, KV_MVC_ENCODER_DEFAULTS);
     printf("%d\n%s\n%s\n%s\n", defaults != NULL ? (int)defaults(NULL, 0, 0, 0) : -1,
-           library.isBeside ? "beside" : "by name", library.file, library.reason);
+           library.is_beside ? "beside" : "by name", library.file, library.reason);
     if (kvMvcFindFunction(&library, "no_such_function") != NULL) {
         return 4;
     }
