@@ -398,10 +398,11 @@ void TestViewPage::unitsSetLabelsMaximaAndSteps_data()
                           << lines({"Bitrate buffer (bits)", "VBV buffer initial (bits)",
                                     "VBV buffer target (bits)"})
                           << QList<int>{largest, largest, largest, 8192, 8192, 8192};
-    QTest::newRow("bits and clock") << int(Clock)
-                                    << lines({"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)",
-                                              "VBV buffer target (90 kHz)"})
-                                    << QList<int>{largest, largest, largest, 8192, 1, 1};
+    QTest::newRow("bits and clock")
+        << int(Clock)
+        << lines({"Bitrate buffer (bits)", "VBV buffer initial (90 kHz)",
+                  "VBV buffer target (90 kHz)"})
+        << QList<int>{largest, largest, largest, 8192, 1, 1};
 }
 
 namespace
