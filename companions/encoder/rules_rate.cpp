@@ -118,8 +118,9 @@ void judgeFullness(const Stream& stream, int v, Report& report)
     }
     const std::int64_t bits = bufferBits(view);
     const std::int64_t rate = limitRate(view);
-    if (view.frame_size_i > bits / 8) {
-        report.sayOf(v, iPicture, static_cast<double>(bits / 8), view.frame_size_i);
+    const std::int64_t bytes = bits / 8;
+    if (view.frame_size_i > bytes) {
+        report.sayOf(v, iPicture, static_cast<double>(bytes), view.frame_size_i);
     }
     if (const double time = static_cast<double>(bits) / static_cast<double>(rate); time < 0.5) {
         report.sayOf(v, shortBuffer, seconds(time));
