@@ -61,7 +61,10 @@ struct FieldMessage {
     {
     }
 
-    constexpr ViewText texts() const { return {base.at, *other.at ? other.at : nullptr}; }
+    constexpr ViewText texts() const
+    {
+        return {base.at, *other.at ? other.at : nullptr, *other.at != '\0'};
+    }
 };
 
 /// The columns of the table.

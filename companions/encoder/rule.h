@@ -93,6 +93,8 @@ struct Rule : RuleInfo {
 struct ViewText {
     const char* base;
     const char* other; ///< null: all views have the same value
+    /// GCC's sanitizers take no comparison of an object's address with null for constant.
+    bool hasOther = other != nullptr;
 };
 
 /// A message about a setting that each view has for itself.
@@ -115,7 +117,7 @@ struct ViewRule : RuleInfo {
         : RuleInfo{ruleId, kind, message.base, message.other, restsOn}
     {
         if (!formatTakes<Args...>(message.base) ||
-            (message.other && !formatTakes<int, Args...>(message.other))) {
+            (message.hasOther && !formatTakes<int, Args...>(message.other))) {
             throw "the conversions of the format do not match the argument types";
         }
     }
