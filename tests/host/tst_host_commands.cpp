@@ -152,7 +152,7 @@ void TestHostCommands::everyCommandHasHelp()
     // Help is given whatever else is wrong with the line.
     const HostProgram::Result result =
         program.run({command, QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
-                     QStringLiteral("--help")});
+                     QStringLiteral("--bogus"), QStringLiteral("--help")});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output.section(QLatin1Char('\n'), 0, 0), usage);

@@ -8,10 +8,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <random>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
 using kvtest::makeMedia;
 using kvtest::picture;
@@ -151,6 +153,7 @@ private Q_SLOTS:
     void damagedFilesEndSoon();
     void workersThatFailAreReported_data();
     void workersThatFailAreReported();
+    void noWorkerIsLeft();
     void childrenStayedSmall();
 
 private:
@@ -436,6 +439,13 @@ void TestMediaLimits::workersThatFailAreReported()
     QCOMPARE(library.probe(media), result);
     QCOMPARE(QByteArray(library.info.reason), reason);
     QVERIFY(timer.elapsed() < longest);
+}
+
+void TestMediaLimits::noWorkerIsLeft()
+{
+    QCOMPARE(probe(put(QStringLiteral("some.mpg"), "Dear reader,\n")), int(KV_MEDIA_UNREADABLE));
+    QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1);
+    QCOMPARE(errno, ECHILD);
 }
 
 void TestMediaLimits::childrenStayedSmall()

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void checksWithoutWords();
     void everyWordOfARefusalIsTold();
     void correctionsAreTakenAndTold();
+    void aSignalledBufferIsTheBaseViews();
+    void noReferencesAreNothingButIPictures();
     void ratesOfOtherUnits_data();
     void ratesOfOtherUnits();
 
@@ -241,6 +243,42 @@ void TestMediaFit::correctionsAreTakenAndTold()
     QCOMPARE(notes.size(), std::size_t(1));
     QCOMPARE(notes[0], std::string("the encoder corrects the settings: from 4"));
     QCOMPARE(settings.views[0].num_slices, 1);
+}
+
+void TestMediaFit::aSignalledBufferIsTheBaseViews()
+{
+    KvMediaInfo info = plainStream();
+    info.num_views = 2;
+    info.mvc_profile_idc = 128;
+    info.mvc_level_idc = 40;
+    info.bit_rate = 12000000;
+    info.dependent_bit_rate = 4000000;
+    info.hrd_bit_rate = 10000000;
+    info.hrd_buffer_size = 5000000;
+    const KvMvcSettings settings = settingsOf(info);
+    QCOMPARE(settings.views[0].bitrate, 8000000);
+    QCOMPARE(settings.views[0].max_bitrate, 10000000);
+    QCOMPARE(settings.views[0].bitrate_buffer, 625000);
+    // In the proportion of the preset: 10, 15 and 15 Mbit.
+    QCOMPARE(settings.views[1].bitrate, 4000000);
+    QCOMPARE(settings.views[1].max_bitrate, 6000000);
+    QCOMPARE(settings.views[1].bitrate_buffer, 750000);
+}
+
+void TestMediaFit::noReferencesAreNothingButIPictures()
+{
+    KvMediaInfo info = plainStream();
+    info.num_ref_frames = 0;
+    KvMvcSettings settings = m_encoder.defaults(0);
+    for (KvMvcViewSettings& view : settings.views) {
+        view.force_i = 12;
+    }
+    kv::applyMedia(info, settings);
+    for (const KvMvcViewSettings& view : settings.views) {
+        QCOMPARE(view.i_interval, 1);
+        QCOMPARE(view.force_i, 1);
+        QCOMPARE(view.num_ref_frames, 1);
+    }
 }
 
 void TestMediaFit::ratesOfOtherUnits_data()

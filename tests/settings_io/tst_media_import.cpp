@@ -57,6 +57,7 @@ constexpr Import imports[] = {
     {"ps.m2p",      "480x480",   "30000/1001", "-f svcd -c:v mpeg2video -pix_fmt yuv420p -aspect 4:3", 480, 480, ntscRate, 0, 0, 4, 3, 3, autoLevel, 2, 8, untold},
     {"ps.mp2",      "352x288",   "25",         "-f vob -c:v mpeg2video -pix_fmt yuv420p",     352,  288,  25,     0, 0, 1, 1,    3, autoLevel, 2, 8,  untold},
     {"studio.mxf",  "1920x1080", "25",         "-c:v mpeg2video -pix_fmt yuv422p -flags +ilme+ildct -top 1 -b:v 50M -minrate 50M -maxrate 50M -bufsize 36408333", 1920, 1080, 25, 1, 0, 1, 1, 5, autoLevel, 3, 8, untold},
+    {"lowest.mp4",  "176x144",   "10",         "-c:v libx264 -pix_fmt yuv420p -x264-params level=1b:8x8dct=1:b-pyramid=none:ref=2", 176, 144, 10, 0, 0, 1, 1, 3, 11, 2, 8, 2},
     {"other.mkv",   "320x240",   "25",         "-c:v libx264 -pix_fmt yuv420p -x264-params b-pyramid=none:ref=2 -level 1.3", 320, 240, 25, 0, 0, 1, 1, 3, 13, 2, 8, 2},
 };
 // clang-format on
