@@ -87,14 +87,12 @@ QStringList repeated(QStringList texts)
 void TestSettingsFields::membersHaveOneRow_data()
 {
     QTest::addColumn<std::size_t>("bytes");
-    QTest::addColumn<int>("members");
-    QTest::newRow("KvMvcSettings") << std::size_t{256} << 2;
-    QTest::newRow("KvMvcViewSettings") << std::size_t{8316} << 61;
+    QTest::newRow("KvMvcSettings") << std::size_t{256};
+    QTest::newRow("KvMvcViewSettings") << std::size_t{8316};
 }
 
 void TestSettingsFields::membersHaveOneRow()
 {
-    QFETCH(const int, members);
     const QString structure = QString::fromLatin1(QTest::currentDataTag());
     QStringList named = matches(bodyOf(structure), "\\b(?:int32_t|double) (\\w+);");
     QStringList listed;
@@ -103,8 +101,8 @@ void TestSettingsFields::membersHaveOneRow()
     }
     named.sort();
     listed.sort();
+    QVERIFY(!named.isEmpty());
     QCOMPARE(listed, named);
-    QCOMPARE(named.size(), members);
 }
 
 void TestSettingsFields::rowsAndReservedBytesFillTheStructure()
