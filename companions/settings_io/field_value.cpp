@@ -15,6 +15,22 @@ namespace
 constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t rateDigits = 16; // a double's bit pattern in hexadecimal
 
+/// The rates that the dialog shows rounded: as it does, what is meant, and how a rate is written
+/// that is those very decimals.
+struct RoundedRate {
+    std::string_view shown;
+    int numerator; ///< over 1001
+    std::string_view decimals;
+};
+constexpr RoundedRate roundedRates[] = {
+    {"23.98", 24000, "2398/100"}, {"29.97", 30000, "2997/100"}, {"59.94", 60000, "5994/100"}};
+
+const RoundedRate* findRoundedRate(std::string_view text)
+{
+    const auto rate = std::ranges::find(roundedRates, text, &RoundedRate::shown);
+    return rate == std::end(roundedRates) ? nullptr : rate;
+}
+
 char lower(char letter)
 {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -50,8 +66,10 @@ std::string formatRate(double rate)
         }
         return text;
     }
-    const std::string text = fraction(rate);
-    return text.empty() ? decimal(rate) : text;
+    const std::string ratio = fraction(rate);
+    const std::string text = ratio.empty() ? decimal(rate) : ratio;
+    const RoundedRate* rounded = findRoundedRate(text);
+    return rounded ? std::string(rounded->decimals) : text;
 }
 
 std::optional<double> parseBitPattern(std::string_view digits)
@@ -70,10 +88,13 @@ std::optional<double> parseRate(std::string_view text)
     if (text.starts_with("0x")) {
         return parseBitPattern(text.substr(2));
     }
+    if (const RoundedRate* rounded = findRoundedRate(text)) {
+        return rounded->numerator / 1001.0;
+    }
     const auto slash = text.find('/');
     if (slash != text.npos) {
-        const auto numerator = parseDecimal<std::int64_t>(text.substr(0, slash));
-        const auto denominator = parseDecimal<std::int64_t>(text.substr(slash + 1));
+        const auto numerator = parseDecimal<std::int64_t>(trimmed(text.substr(0, slash)));
+        const auto denominator = parseDecimal<std::int64_t>(trimmed(text.substr(slash + 1)));
         if (!numerator || !denominator || *denominator <= 0) {
             return std::nullopt;
         }
@@ -83,35 +104,71 @@ std::optional<double> parseRate(std::string_view text)
     return rate && std::isfinite(*rate) ? rate : std::nullopt; // "inf" and "nan" are numbers to it
 }
 
-/// Levels are spelled with a dot, so that a code of one digit is never taken for a level.
-std::string formatLevel(std::int32_t code)
-{
-    const std::int64_t tenths = std::abs(std::int64_t{code});
-    std::string text(code < 0 ? "-" : "");
-    return text.append(decimal(tenths / 10)).append(".").append(decimal(tenths % 10));
-}
-
-/// "4.0" and "4" are level 4; "40", as stream analyzers have it, is its code.
+/// "4" is level 4; "40", as stream analyzers have it, is its code.
 std::optional<std::int32_t> parseLevel(std::string_view text)
 {
-    const auto dot = text.find('.');
-    if (dot == text.npos) {
-        const auto number = parseDecimal<std::int32_t>(text);
-        return number && *number > 0 && *number < 10 ? *number * 10 : number;
+    const auto number = parseDecimal<std::int32_t>(text);
+    return number && *number > 0 && *number < 10 ? *number * 10 : number;
+}
+
+/// Decimal digits, perhaps with a point, times a power of ten: exactly, or not at all.
+std::optional<std::int64_t> parseScaled(std::string_view text, std::int64_t factor)
+{
+    const auto point = std::min(text.find('.'), text.size());
+    std::string digits(text.substr(0, point));
+    for (const char digit : text.substr(std::min(point + 1, text.size()))) {
+        digits += digit;
+        if (factor % 10 != 0) {
+            return std::nullopt;
+        }
+        factor /= 10;
     }
-    const bool one = dot > 0 && text[dot - 1] != '-' && dot + 2 == text.size();
-    const std::string digits = std::string(text.substr(0, dot)).append(text.substr(dot + 1));
-    return one ? parseDecimal<std::int32_t>(digits) : std::nullopt;
+    const auto number = parseDecimal<std::int32_t>(digits);
+    return number && text.back() != '.' ? std::optional(*number * factor) : std::nullopt;
+}
+
+/// "20M" and "1.5 k" beside whole numbers.
+std::optional<std::int32_t> parseAmount(std::string_view text)
+{
+    struct Unit {
+        char letter;
+        std::int64_t factor;
+    };
+    static constexpr Unit units[] = {{'k', 1'000}, {'m', 1'000'000}, {'g', 1'000'000'000}};
+    const auto unit =
+        std::ranges::find(units, text.empty() ? '\0' : lower(text.back()), &Unit::letter);
+    if (unit == std::end(units)) {
+        return parseDecimal<std::int32_t>(text);
+    }
+    const auto amount = parseScaled(trimmed(text.substr(0, text.size() - 1)), unit->factor);
+    const bool fits = amount && *amount == static_cast<std::int32_t>(*amount);
+    return fits ? std::optional(static_cast<std::int32_t>(*amount)) : std::nullopt;
 }
 
 std::optional<std::int32_t> parseInteger(const Field& field, std::string_view text)
 {
-    const auto known = std::ranges::find_if(
-        field.values, [&](const NamedValue& row) { return equalIgnoringCase(row.name, text); });
+    const auto known = std::ranges::find_if(field.values, [&](const NamedValue& row) {
+        return equalIgnoringCase(row.name.empty() ? row.text : row.name, text) ||
+               equalIgnoringCase(row.text, text);
+    });
     if (known != field.values.end()) {
         return known->value;
     }
-    return field.kind == FieldKind::Level ? parseLevel(text) : parseDecimal<std::int32_t>(text);
+    const auto number = field.kind == FieldKind::Level ? parseLevel(text)
+                        : isAmount(field)              ? parseAmount(text)
+                                                       : parseDecimal<std::int32_t>(text);
+    return number && takesNumber(field, *number) ? number : std::nullopt;
+}
+
+/// "a, b or c"
+std::string alternatives(const std::vector<std::string>& texts)
+{
+    std::string all;
+    for (const std::string& text : texts) {
+        all += &text == &texts.front() ? "" : &text == &texts.back() ? " or " : ", ";
+        all += text;
+    }
+    return all;
 }
 
 std::string expectation(const Field& field)
@@ -119,17 +176,28 @@ std::string expectation(const Field& field)
     if (field.kind == FieldKind::Rate) {
         return "a number, a fraction or a bit pattern";
     }
-    std::string text;
+    std::vector<std::string> texts;
     for (const NamedValue& row : field.values) {
-        text.append(row.name).append(", ");
+        if (!row.name.empty() || field.isCode()) {
+            texts.push_back(row.name.empty() ? decimal(row.value) : std::string(row.name));
+        }
     }
-    if (field.kind == FieldKind::Level) {
-        return text + "or another number with one decimal";
+    if (!field.isCode()) {
+        texts.emplace_back(isAmount(field) ? "a whole number of 32 bits, as it is or in k, M or G"
+                                           : "a whole number of 32 bits");
     }
-    return text.empty() ? "a whole number of 32 bits" : text + "or a whole number of 32 bits";
+    return alternatives(texts);
 }
 
 } // namespace
+
+std::string_view trimmed(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t";
+    const auto first = text.find_first_not_of(blanks);
+    return first == text.npos ? std::string_view()
+                              : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
 
 bool equalIgnoringCase(std::string_view left, std::string_view right)
 {
@@ -150,6 +218,25 @@ template std::optional<std::int64_t> parseDecimal(std::string_view text);
 template std::optional<std::size_t> parseDecimal(std::string_view text);
 template std::optional<double> parseDecimal(std::string_view text);
 
+bool isAmount(const Field& field)
+{
+    return field.kind == FieldKind::Amount || field.kind == FieldKind::Buffer ||
+           field.kind == FieldKind::Fullness;
+}
+
+bool takesNumber(const Field& field, std::int32_t number)
+{
+    return !field.isCode() ||
+           std::ranges::find(field.values, number, &NamedValue::value) != field.values.end();
+}
+
+bool hasText(const Field& field, const unsigned char* base)
+{
+    std::int32_t value = 0;
+    std::memcpy(&value, base + field.offset, sizeof value);
+    return takesNumber(field, value);
+}
+
 std::string formatField(const Field& field, const unsigned char* base)
 {
     if (field.kind == FieldKind::Rate) {
@@ -160,10 +247,8 @@ std::string formatField(const Field& field, const unsigned char* base)
     std::int32_t value = 0;
     std::memcpy(&value, base + field.offset, sizeof value);
     const auto known = std::ranges::find(field.values, value, &NamedValue::value);
-    if (known != field.values.end()) {
-        return std::string(known->name);
-    }
-    return field.kind == FieldKind::Level ? formatLevel(value) : decimal(value);
+    const bool hasName = known != field.values.end() && !known->name.empty();
+    return hasName ? std::string(known->name) : decimal(value);
 }
 
 std::string parseField(const Field& field, std::string_view text, unsigned char* base)

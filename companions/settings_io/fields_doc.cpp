@@ -1,7 +1,7 @@
 // Prints docs/settings-fields.md: the field table, with the meanings that the public header gives.
 //
 // Usage: kv_settings_fields_doc HEADER
-#include "settings_fields.h"
+#include "field_value.h"
 
 #include <cstdio>
 #include <fstream>
@@ -38,17 +38,36 @@ Meanings readMeanings(const std::string& header)
     return meanings;
 }
 
-std::string valueNames(const kv::Field& field)
+std::string code(std::string_view text)
+{
+    return std::string("`").append(text).append("`");
+}
+
+/// One value: as files are written, as the dialog shows it where that reads otherwise, its number.
+std::string valueText(const kv::NamedValue& row)
+{
+    const std::string number = std::to_string(row.value);
+    const bool hasName = !row.name.empty();
+    std::string text = hasName ? code(row.name) : number;
+    if (!kv::equalIgnoringCase(row.name, row.text)) {
+        text.append(" or ").append(code(row.text));
+    }
+    return hasName ? text.append(" ").append(number) : text;
+}
+
+std::string valueTexts(const kv::Field& field)
 {
     std::string text;
     for (const kv::NamedValue& row : field.values) {
-        text += text.empty() ? "" : ", ";
-        text.append("`").append(row.name).append("` ").append(std::to_string(row.value));
+        text.append(text.empty() ? "" : ", ").append(valueText(row));
     }
-    if (field.kind == kv::FieldKind::Level) {
-        return text + "; level";
+    if (field.isCode()) {
+        return text;
     }
-    return text.empty() ? field.kind == kv::FieldKind::Rate ? "rate" : "number" : text;
+    text.append(text.empty() ? "" : ", ");
+    return text.append(field.kind == kv::FieldKind::Rate ? "rate"
+                       : kv::isAmount(field)             ? "amount"
+                                                         : "number");
 }
 
 bool printGroup(const kv::FieldGroup& group, const Meanings& meanings)
@@ -62,7 +81,7 @@ bool printGroup(const kv::FieldGroup& group, const Meanings& meanings)
             return false;
         }
         std::printf("| `%s` | %zu | %s | %s |\n", std::string(field.name).c_str(), field.offset,
-                    valueNames(field).c_str(), meaning->second.c_str());
+                    valueTexts(field).c_str(), meaning->second.c_str());
     }
     return true;
 }
@@ -81,9 +100,9 @@ int main(int count, char** arguments)
     const Meanings meanings = readMeanings(header.str());
     std::puts(
         "# Keys of settings files\n\n<!-- Written by kv_settings_fields_doc; do not edit. -->\n");
-    std::puts("[settings-file.md](settings-file.md) tells how such files are written. A field with "
-              "named values takes\nany other whole number too, a level any other level; the offset "
-              "is that in the section's part of the record.");
+    std::puts("[settings-file.md](settings-file.md) tells how such files are written, and what "
+              "a number, an\namount and a rate are. Behind a value is its number, which may stand "
+              "for it; the offset is that in the\nsection's part of the record.");
     const auto sections = kv::settingsSections().first(2); // all views have the same keys
     for (const kv::Section& section : sections) {
         std::printf("\n## [%s]%s\n", std::string(section.name).c_str(),

@@ -11,34 +11,18 @@ namespace kv
 namespace
 {
 
-/// The values of a list that settings files have a name for.
-template <std::size_t size>
-struct NamedValues {
-    std::array<NamedValue, size> rows;
-    std::size_t count;
-
-    constexpr operator std::span<const NamedValue>() const { return {rows.data(), count}; }
-};
-
 /// In the order of their codes, whatever the dialog's order is.
 template <std::size_t size>
-consteval NamedValues<size> namedValues(const NamedValue (&all)[size])
+consteval std::array<NamedValue, size> namedValues(std::array<NamedValue, size> values)
 {
-    NamedValues<size> values{};
-    for (const NamedValue& value : all) {
-        if (!value.name.empty()) {
-            values.rows[values.count++] = value;
-        }
-    }
-    std::ranges::sort(values.rows.begin(), values.rows.begin() + values.count, {},
-                      &NamedValue::value);
+    std::ranges::sort(values, {}, &NamedValue::value);
     return values;
 }
 
 constexpr std::span<const NamedValue> valuesOfPlain;
 // clang-format off
-#define KV_MVC_LIST(list) constexpr auto valuesOf##list = namedValues({
-#define KV_MVC_VALUE(code, key, text) {key, code},
+#define KV_MVC_LIST(list) constexpr auto valuesOf##list = namedValues(std::array{
+#define KV_MVC_VALUE(code, key, text) NamedValue{key, code, text},
 #define KV_MVC_LIST_END });
 #include <kv_config_gui_mvc/settings_fields.def>
 // clang-format on

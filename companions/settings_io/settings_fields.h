@@ -16,10 +16,11 @@ enum class FieldKind {
 #include <kv_config_gui_mvc/settings_fields.def>
 };
 
-/// The readable form of one value of a field.
+/// A value of a field, and what it is called.
 struct NamedValue {
-    std::string_view name;
+    std::string_view name; ///< as files are written; empty: as its number
     int32_t value;
+    std::string_view text; ///< as the dialog shows it
 };
 
 struct Field {
@@ -29,6 +30,13 @@ struct Field {
     std::span<const NamedValue> values; ///< in the order of their numbers; may be empty
 
     constexpr std::size_t size() const { return kind == FieldKind::Rate ? 8 : 4; }
+
+    /// Whether there are no other values than these.
+    constexpr bool isCode() const
+    {
+        return kind == FieldKind::Switch || kind == FieldKind::Code || kind == FieldKind::Level ||
+               kind == FieldKind::Depth;
+    }
 };
 
 /// Fields that stand together in a file, under a comment.

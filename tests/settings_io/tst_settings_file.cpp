@@ -90,9 +90,10 @@ void TestSettingsFile::errorsGoToStandardErrorWithFileAndLine()
     put(path("a.ini"), "[record]\nviews = 2\n[view 0]\nwidth = x\n");
     KvMvcSettings settings = filledRecord(0x5A);
     QVERIFY(m_library->read(settings, path("a.ini")) != 0);
-    QCOMPARE(m_library->messages,
-             path("a.ini") + ":2: unknown key 'views' in section 'record'\n" + path("a.ini") +
-                 ":4: bad value 'x' for 'width': expected a whole number of 32 bits\n");
+    QCOMPARE(
+        m_library->messages,
+        path("a.ini") + ":2: unknown key 'views' in section 'record'; did you mean 'num_views'?\n" +
+            path("a.ini") + ":4: bad value 'x' for 'width': expected a whole number of 32 bits\n");
     QVERIFY(same(settings, filledRecord(0x5A)));
 }
 

@@ -38,6 +38,13 @@ KvMvcSettings readLine(const QByteArray& line)
     return problems.empty() ? settings : filledRecord(0xEE);
 }
 
+/// Whether the setting has no other values than those with a name.
+bool isCode(const ledger::Setting& setting)
+{
+    return setting.kind == ledger::Kind::Switch || setting.kind == ledger::Kind::List ||
+           setting.kind == ledger::Kind::Radio;
+}
+
 class TestSettingsText : public QObject
 {
     Q_OBJECT
@@ -45,6 +52,8 @@ class TestSettingsText : public QObject
 private Q_SLOTS:
     void anyRecordComesBackByteForByte();
     void everyBytePositionComesBack();
+    void codesThatAFieldDoesNotHaveComeBack_data();
+    void codesThatAFieldDoesNotHaveComeBack();
     void numbersGoToTheirOffset_data();
     void numbersGoToTheirOffset();
     void viewsAndRecordAreApart();
@@ -52,6 +61,8 @@ private Q_SLOTS:
     void namesStandForTheirCodes();
     void levels_data();
     void levels();
+    void amounts_data();
+    void amounts();
     void frameRates_data();
     void frameRates();
     void frameRatesKeepTheirBits_data();
@@ -99,12 +110,41 @@ void TestSettingsText::everyBytePositionComesBack()
     }
 }
 
+void TestSettingsText::codesThatAFieldDoesNotHaveComeBack_data()
+{
+    QTest::addColumn<QString>("member");
+    for (const ledger::Setting& setting : ledger::viewNumbers()) {
+        if (isCode(setting)) {
+            QTest::newRow(setting.member) << QString::fromLatin1(setting.member);
+        }
+    }
+}
+
+void TestSettingsText::codesThatAFieldDoesNotHaveComeBack()
+{
+    QFETCH(QString, member);
+    const QByteArray key = member.toLatin1();
+    for (const int code : {-1, 11, 99, std::numeric_limits<int>::min()}) {
+        const bool isKnown = code == 11 && member == QLatin1String("level");
+        KvMvcSettings settings{};
+        ledger::put(settings, ledger::setting(member), 0, code);
+        const std::string text = kv::formatSettings(settings);
+        QCOMPARE(text.find(key + " = ") < text.find("[view 1]"), isKnown);
+        KvMvcSettings back{};
+        QVERIFY(kv::parseSettings(text, back).empty());
+        QVERIFY(same(back, settings));
+        const std::string problem =
+            firstProblem(inViewZero(key + " = " + QByteArray::number(code)));
+        QCOMPARE(problem.empty(), isKnown);
+    }
+}
+
 void TestSettingsText::numbersGoToTheirOffset_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<int>("offset");
     for (const ledger::Setting& setting : ledger::viewNumbers()) {
-        if (!setting.is("level")) { // see levels()
+        if (!isCode(setting)) {
             QTest::newRow(setting.member) << QByteArray(setting.member) << setting.offset;
         }
     }
@@ -143,13 +183,14 @@ void TestSettingsText::namesStandForTheirCodes_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("shown");
     QTest::addColumn<int>("value");
     for (const ledger::Setting& setting : ledger::viewNumbers()) {
         for (const auto& value : ledger::namedValues(QString::fromLatin1(setting.member))) {
             const QByteArray name =
                 value.spelling ? QByteArray(value.spelling) : QByteArray::number(value.code);
             QTest::addRow("%s = %s", setting.member, name.constData())
-                << QByteArray(setting.member) << name << value.code;
+                << QByteArray(setting.member) << name << QByteArray(value.text) << value.code;
         }
     }
 }
@@ -158,11 +199,13 @@ void TestSettingsText::namesStandForTheirCodes()
 {
     QFETCH(QByteArray, key);
     QFETCH(QByteArray, name);
+    QFETCH(QByteArray, shown);
     QFETCH(int, value);
     KvMvcSettings expected{};
     ledger::put(expected, ledger::setting(QString::fromLatin1(key)), 0, value);
     QVERIFY(same(readLine(key + " = " + name), expected));
     QVERIFY(same(readLine(key + "=" + name.toUpper()), expected));
+    QVERIFY(same(readLine(key + " = " + shown), expected));
     QVERIFY(same(readLine(key + " = " + QByteArray::number(value)), expected));
     const QByteArray text = QByteArray::fromStdString(kv::formatSettings(expected));
     QVERIFY(text.contains("\n" + key + " = " + name + "\n"));
@@ -180,25 +223,15 @@ void TestSettingsText::levels_data()
     row("4.0", 40, "4.0");
     row("40", 40, "4.0");
     row("1", 10, "1.0");
-    row("9", 90, "9.0");
     row("10", 10, "1.0");
     row("41", 41, "4.1");
-    row("6.2", 62, "6.2");
+    row("5.2", 52, "5.2");
     row("100", 100, "auto");
-    // Codes that no level has.
-    row("0", 0, "0.0");
-    row("0.4", 4, "0.4");
-    row("0.9", 9, "0.9");
-    row("43", 43, "4.3");
-    row("41.0", 410, "41.0");
-    row("-1", -1, "-0.1");
-    row("-0.1", -1, "-0.1");
-    row("-4", -4, "-0.4");
-    row("2147483647", 2147483647, "214748364.7");
-    row("214748364.7", 2147483647, "214748364.7");
-    row("-214748364.8", std::numeric_limits<int>::min(), "-214748364.8");
-    for (const char* wrong : {"", ".", "4.", ".4", "-.4", "4.10", "4,0", "4.0.0", "+4.0", "4.x",
-                              "4.-", "214748364.8", "level 4", "1b"}) {
+    row("AUTO", 100, "auto");
+    for (const char* wrong :
+         {"",    ".",   "4.",          ".4",      "-.4", "4.10", "4,0",  "4.0.0", "+4.0",
+          "4.x", "4.-", "214748364.8", "level 4", "1b",  "0",    "6",    "9",     "14",
+          "43",  "62",  "6.2",         "4.3",     "0.4", "-1",   "-0.1", "41.0",  "2147483647"}) {
         QTest::newRow(wrong) << QByteArray(wrong) << 0 << QByteArray();
     }
 }
@@ -212,7 +245,7 @@ void TestSettingsText::levels()
         QCOMPARE(firstProblem(inViewZero("level = " + text)),
                  "3: bad value '" + text.toStdString() +
                      "' for 'level': expected 1.0, 1.1, 1.2, 1.3, 1.6, 2.0, 2.1, 2.2, 3.0, 3.1, "
-                     "3.2, 4.0, 4.1, 4.2, 5.0, 5.1, 5.2, auto, or another number with one decimal");
+                     "3.2, 4.0, 4.1, 4.2, 5.0, 5.1, 5.2 or auto");
         return;
     }
     const KvMvcSettings settings = readLine("level = " + text);
@@ -222,6 +255,37 @@ void TestSettingsText::levels()
     KvMvcSettings back{};
     QVERIFY(kv::parseSettings(file, back).empty());
     QCOMPARE(back.views[0].level, code);
+}
+
+void TestSettingsText::amounts_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("bitrate");
+    const auto row = [](const char* text, int bitrate) {
+        QTest::newRow(text) << QByteArray(text) << bitrate;
+    };
+    row("20M", 20000000);
+    row("20 m", 20000000);
+    row("1.5M", 1500000);
+    row("1.234567M", 1234567);
+    row("64k", 64000);
+    row("0.5 K", 500);
+    row("2G", 2000000000);
+    row("2.147483647G", 2147483647);
+    row("-1k", -1000);
+    row("0M", 0);
+}
+
+void TestSettingsText::amounts()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(int, bitrate);
+    for (const char* key : {"bitrate", "max_bitrate", "bitrate_buffer", "vbv_initial", "vbv_target",
+                            "frame_size_i", "frame_size_bref"}) {
+        const KvMvcSettings settings = readLine(QByteArray(key) + " = " + line);
+        const QString member = QString::fromLatin1(key);
+        QCOMPARE(ledger::get(settings, ledger::setting(member), 0), double(bitrate));
+    }
 }
 
 void TestSettingsText::frameRates_data()
@@ -245,6 +309,16 @@ void TestSettingsText::frameRates_data()
     QTest::newRow("60000/1001") << QByteArray("60000/1001") << 60000 / 1001.0
                                 << QByteArray("60000/1001");
     QTest::newRow("50/2") << QByteArray("50/2") << 25.0 << QByteArray("25");
+    QTest::newRow("blanks around the stroke")
+        << QByteArray("24000 /\t1001") << 24000 / 1001.0 << QByteArray("24000/1001");
+    // As the dialog shows them, and what is those decimals to the digit.
+    QTest::newRow("23.98") << QByteArray("23.98") << 24000 / 1001.0 << QByteArray("24000/1001");
+    QTest::newRow("29.97") << QByteArray("29.97") << 30000 / 1001.0 << QByteArray("30000/1001");
+    QTest::newRow("59.94") << QByteArray("59.94") << 60000 / 1001.0 << QByteArray("60000/1001");
+    QTest::newRow("7.60") << QByteArray("7.60") << 7.6 << QByteArray("7.6");
+    QTest::newRow("2398/100") << QByteArray("2398/100") << 23.98 << QByteArray("2398/100");
+    QTest::newRow("29.970") << QByteArray("29.970") << 29.97 << QByteArray("2997/100");
+    QTest::newRow("5994/100") << QByteArray("5994/100") << 59.94 << QByteArray("5994/100");
     QTest::newRow("exponent") << QByteArray("1e-3") << 0.001 << QByteArray("0.001");
     QTest::newRow("largest") << QByteArray("1.7976931348623157e+308")
                              << std::numeric_limits<double>::max()
@@ -318,7 +392,7 @@ void TestSettingsText::filesAreWrittenAsThePatternFile()
     view.display_aspect_x = 16;
     view.display_aspect_y = 9;
     view.video_type = KV_MVC_STEREO_HIGH;
-    view.pulldown = 3; // no such code
+    view.pulldown = 3; // no such code: among the bytes
     view.chroma_format = KV_MVC_CHROMA_420;
     view.bit_depth_luma = view.bit_depth_chroma = 8;
     view.quant_max = 51;
@@ -392,10 +466,20 @@ void TestSettingsText::problemsNameTheirLine_data()
     const auto row = [](const char* name, const QByteArray& lines, const char* problem) {
         QTest::newRow(name) << inViewZero(lines) << QByteArray(problem);
     };
-    row("unknown key", "\nwidht = 3\n", "4: unknown key 'widht' in section 'view 0'");
+    row("unknown key", "\nwidht = 3\n",
+        "4: unknown key 'widht' in section 'view 0'; did you mean 'width'?");
     row("key of another section", "num_views = 2",
-        "3: unknown key 'num_views' in section 'view 0'");
-    row("capitals", "Width = 2", "3: unknown key 'Width' in section 'view 0'");
+        "3: unknown key 'num_views' in section 'view 0'; it belongs in section 'record'");
+    row("capitals", "Width = 2",
+        "3: unknown key 'Width' in section 'view 0'; did you mean 'width'?");
+    row("hyphen", "frame-rate = 25",
+        "3: unknown key 'frame-rate' in section 'view 0'; did you mean 'frame_rate'?");
+    row("letter missing", "bitrte = 2",
+        "3: unknown key 'bitrte' in section 'view 0'; did you mean 'bitrate'?");
+    row("part of a key", "entropy = cabac",
+        "3: unknown key 'entropy' in section 'view 0'; did you mean 'entropy_mode'?");
+    row("key like no other", "copyright = x", "3: unknown key 'copyright' in section 'view 0'");
+    row("bytes without a blank", "bytes260 = 00", "3: unknown key 'bytes260' in section 'view 0'");
     row("no key", "= 2", "3: unknown key '' in section 'view 0'");
     row("repeated key", "width = 1\n\nwidth = 1", "5: 'width' is set twice, first in line 3");
     row("bytes over a key", "width = 1\nbytes 20 = 0000000000",
@@ -403,8 +487,10 @@ void TestSettingsText::problemsNameTheirLine_data()
     row("a key over bytes", "bytes 27 = 00\nwidth = 1", "4: 'width' is set twice, first in line 3");
     row("bytes over bytes", "bytes 260 = 0000\nbytes 261 = 00",
         "4: 'bytes 261' is set twice, first in line 3");
-    row("unknown section", "[view 2]", "3: unknown section 'view 2'");
-    row("section in capitals", "[Record]", "3: unknown section 'Record'");
+    row("unknown section", "[view 2]", "3: unknown section 'view 2'; did you mean 'view 1'?");
+    row("section in capitals", "[Record]", "3: unknown section 'Record'; did you mean 'record'?");
+    row("section without a blank", "[view1]", "3: unknown section 'view1'; did you mean 'view 1'?");
+    row("section like no other", "[audio]", "3: unknown section 'audio'");
     row("repeated section", "width=1\n[view 0]\n", "4: section 'view 0' is there twice");
     row("section without an end", "[view 1", "3: ']' missing at the end of the section's name");
     row("text", "width 3", "3: neither a section nor a 'key = value' line: 'width 3'");
@@ -420,8 +506,27 @@ void TestSettingsText::problemsNameTheirLine_data()
     row("unit", "width = 64 px",
         "3: bad value '64 px' for 'width': expected a whole number of 32 bits");
     row("unknown name", "entropy_mode = huffman",
-        "3: bad value 'huffman' for 'entropy_mode': expected cavlc, cabac, or a whole number of 32 "
+        "3: bad value 'huffman' for 'entropy_mode': expected cavlc or cabac");
+    row("unknown code", "\npulldown = 3",
+        "4: bad value '3' for 'pulldown': expected off, 2:3, 3:2, 2:3 progressive, 3:2 "
+        "progressive, auto, 2:2 or 3:3");
+    row("unknown code without a name", "chroma_format = 5",
+        "3: bad value '5' for 'chroma_format': expected 4:0:0, 4:2:0, 4:2:2 or 4");
+    row("unknown depth", "bit_depth_luma = 9",
+        "3: bad value '9' for 'bit_depth_luma': expected 8 or 10");
+    row("switch", "hrd_mode = 2", "3: bad value '2' for 'hrd_mode': expected off or on");
+    row("number with a name", "pixel_aspect_x = square",
+        "3: bad value 'square' for 'pixel_aspect_x': expected from display or a whole number of 32 "
         "bits");
+    for (const char* bad : {"20 Mbit/s", "M", "1.5", "1.2345k", "2.1.3M", "1.M", "20MM", "3G",
+                            "-3G", "99999999999G", "0x10"}) {
+        QTest::addRow("amount %s", bad)
+            << inViewZero(QByteArray("bitrate = ") + bad)
+            << QByteArray("3: bad value '") + bad +
+                   "' for 'bitrate': expected a whole number of 32 bits, as it is or in k, M or G";
+    }
+    row("unit of a number without", "width = 2k",
+        "3: bad value '2k' for 'width': expected a whole number of 32 bits");
     row("rate in words", "frame_rate = film",
         "3: bad value 'film' for 'frame_rate': expected a number, a fraction or a bit pattern");
     for (const char* bad : {"inf", "nan", "1e999", "1/0", "1/-2", "1/2/3", "0x7ff8", "25,0",

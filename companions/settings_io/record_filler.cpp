@@ -1,0 +1,164 @@
+#include "record_filler.h"
+
+#include "field_value.h"
+#include "nearest_name.h"
+#include "utf8.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace kv
+{
+namespace
+{
+
+constexpr std::string_view bytesKey = "bytes ";
+
+std::vector<std::string_view> sectionNames()
+{
+    std::vector<std::string_view> names;
+    for (const Section& section : settingsSections()) {
+        names.push_back(section.name);
+    }
+    return names;
+}
+
+std::vector<std::string_view> keysOf(const Section& section)
+{
+    std::vector<std::string_view> keys;
+    for (const FieldGroup& group : section.groups) {
+        for (const Field& field : group.fields) {
+            keys.push_back(field.name);
+        }
+    }
+    return keys;
+}
+
+} // namespace
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t longest = 60;
+    std::size_t end = 0;
+    while (end < text.size() && end < longest && nextCodePoint(text, end)) {
+    }
+    std::string result("'");
+    result.append(text.substr(0, end)).append(end < text.size() ? "...'" : "'");
+    return result;
+}
+
+const Field* findField(const Section& section, std::string_view name)
+{
+    for (const FieldGroup& group : section.groups) {
+        const auto field = std::ranges::find(group.fields, name, &Field::name);
+        if (field != group.fields.end()) {
+            return &*field;
+        }
+    }
+    return nullptr;
+}
+
+std::string hintAtKey(const Section& section, std::string_view key)
+{
+    const auto sections = settingsSections();
+    const auto owner = std::ranges::find_if(
+        sections, [key](const Section& other) { return findField(other, key) != nullptr; });
+    return owner != sections.end() ? "; it belongs in section " + quoted(owner->name)
+                                   : didYouMean(nearestName(key, keysOf(section)));
+}
+
+const Section* RecordFiller::begin(std::string_view name, std::size_t line)
+{
+    const auto sections = settingsSections();
+    const auto section = std::ranges::find(sections, name, &Section::name);
+    if (section == sections.end()) {
+        report(line,
+               "unknown section " + quoted(name) + didYouMean(nearestName(name, sectionNames())));
+        return nullptr;
+    }
+    if (std::ranges::find(m_seen, &*section) != m_seen.end()) {
+        report(line, "section " + quoted(name) + " is there twice");
+        return nullptr;
+    }
+    m_seen.push_back(&*section);
+    return m_seen.back();
+}
+
+void RecordFiller::set(const Section& section, std::string_view key, std::string_view value,
+                       std::size_t line)
+{
+    if (const Field* field = findField(section, key)) {
+        return setField(section, *field, value, line);
+    }
+    if (key.starts_with(bytesKey)) {
+        return setBytes(section, trimmed(key.substr(bytesKey.size())), value, line);
+    }
+    report(line, "unknown key " + quoted(key) + " in section " + quoted(section.name) +
+                     hintAtKey(section, key));
+}
+
+void RecordFiller::setField(const Section& section, const Field& field, std::string_view value,
+                            std::size_t line)
+{
+    if (!claim(section, field.name, field.offset, field.size(), line)) {
+        return;
+    }
+    const std::string wrong = parseField(field, value, base(section));
+    if (!wrong.empty()) {
+        report(line, "bad value " + quoted(value) + " for " + quoted(field.name) + ": " + wrong);
+    }
+}
+
+void RecordFiller::setBytes(const Section& section, std::string_view offsetText,
+                            std::string_view value, std::size_t line)
+{
+    const auto offset = parseDecimal<std::size_t>(offsetText);
+    if (!offset) {
+        return report(line, "bad offset " + quoted(offsetText) + " of bytes");
+    }
+    const auto bytes = parseBytes(value);
+    if (!bytes) {
+        return report(line, "bad bytes: expected pairs of hexadecimal digits");
+    }
+    if (*offset > section.size || bytes->size() > section.size - *offset) {
+        return report(line, "bytes beyond the end of section " + quoted(section.name) +
+                                ", which has " + std::to_string(section.size) + " bytes");
+    }
+    const std::string key = std::string(bytesKey).append(offsetText);
+    if (claim(section, key, *offset, bytes->size(), line)) {
+        std::memcpy(base(section) + *offset, bytes->data(), bytes->size());
+    }
+}
+
+bool RecordFiller::claim(const Section& section, std::string_view key, std::size_t offset,
+                         std::size_t count, std::size_t line)
+{
+    const std::span bytes(m_setBy.data() + section.offset + offset, count);
+    const auto taken = std::ranges::find_if(bytes, [](std::size_t by) { return by != 0; });
+    if (taken != bytes.end()) {
+        report(line, quoted(key) + " is set twice, first in line " + std::to_string(*taken));
+        return false;
+    }
+    std::ranges::fill(bytes, line);
+    return true;
+}
+
+void RecordFiller::report(std::size_t line, std::string reason)
+{
+    problems.push_back({line, std::move(reason)});
+}
+
+void RecordFiller::finish(std::size_t line)
+{
+    if (!problems.empty()) {
+        return;
+    }
+    for (const Section& section : settingsSections().first(2)) {
+        if (std::ranges::find(m_seen, &section) == m_seen.end()) {
+            report(std::max<std::size_t>(line, 1), // of an empty file
+                   "section " + quoted(section.name) + " is missing");
+        }
+    }
+}
+
+} // namespace kv

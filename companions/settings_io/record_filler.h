@@ -1,0 +1,61 @@
+// A record that is filled setting by setting, from whatever form its text has.
+#pragma once
+
+#include "settings_fields.h"
+#include "settings_text.h"
+
+#include <kv_config_gui_mvc/settings_record.h>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kv
+{
+
+/// Foreign text for a message: quoted, and not endless.
+std::string quoted(std::string_view text);
+
+/// @return Null when the section has no such field.
+const Field* findField(const Section& section, std::string_view name);
+
+/// What stands behind the message about an unknown key: where it belongs, or what was meant.
+std::string hintAtKey(const Section& section, std::string_view key);
+
+class RecordFiller
+{
+public:
+    /// @param line Where it begins. @return Null, and a problem, for an unknown or repeated one.
+    const Section* begin(std::string_view section, std::size_t line);
+
+    /// @param key Of a field, or "bytes OFFSET".
+    void set(const Section& section, std::string_view key, std::string_view value,
+             std::size_t line);
+    void setField(const Section& section, const Field& field, std::string_view value,
+                  std::size_t line);
+    void setBytes(const Section& section, std::string_view offset, std::string_view value,
+                  std::size_t line);
+
+    void report(std::size_t line, std::string reason);
+
+    /// Without problems so far: sections that are missing. @param line The last one.
+    void finish(std::size_t line);
+
+    KvMvcSettings settings{};
+    std::vector<Problem> problems;
+
+private:
+    /// Whether the bytes were not set before.
+    bool claim(const Section& section, std::string_view key, std::size_t offset, std::size_t count,
+               std::size_t line);
+    unsigned char* base(const Section& section)
+    {
+        return reinterpret_cast<unsigned char*>(&settings) + section.offset;
+    }
+
+    std::vector<const Section*> m_seen;
+    std::array<std::size_t, sizeof(KvMvcSettings)> m_setBy{}; // each byte's line; 0: none yet
+};
+
+} // namespace kv
