@@ -3,6 +3,7 @@
 
 #include <kv_config_gui_mvc/companions.h>
 
+#include <cstddef>
 #include <tuple>
 #include <type_traits>
 
@@ -62,7 +63,8 @@ private:
         }
     }
 
-    KvMvcPrintf m_sinks[3] = {};
+    static constexpr std::size_t severities = static_cast<std::size_t>(Severity::Note) + 1;
+    KvMvcPrintf m_sinks[severities] = {}; ///< in the order of Severity
     int m_errors = 0;
 };
 

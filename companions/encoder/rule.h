@@ -15,6 +15,7 @@ namespace kv::encoder
 enum class Severity {
     Error,   ///< the settings are refused
     Warning, ///< a setting was corrected; a second check has nothing left to correct
+    Risk,    ///< likely a slip, or known to fail somewhere: nothing is corrected, every check warns
     Note     ///< what follows from the settings, or is legal but worth knowing
 };
 

@@ -43,20 +43,24 @@ constexpr Rule<int, int> gop = {
     "disc.gop", Severity::Error,
     "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
     "disc: about one second"};
+constexpr Rule<> idr = {
+    "disc.idr", Severity::Risk,
+    "Only the first I-frame is an IDR frame, so some Blu-ray players may fail to start elsewhere.",
+    "disc: entry points about once a second; without IDR their references may be missing"};
 constexpr Rule<int, int> references = {
     "disc.references", Severity::Error,
     "Blu-ray allows at most %d reference frames per view at this size (now %d): use fewer.",
     "disc: 4 at 1080 lines, 6 below"};
 constexpr Rule<> spareReference = {
-    "disc.references-spare", Severity::Note,
+    "disc.references-spare", Severity::Risk,
     "More than 3 reference frames per view may fail on some Blu-ray 3D players.",
     "disc: a limit beyond the standard's is not confirmed"};
 constexpr Rule<> referenceB = {
-    "disc.reference-b", Severity::Note,
+    "disc.reference-b", Severity::Risk,
     "Blu-ray allows one reference B-frame in a row: switch the pyramidal structure on.",
     "disc: strict pyramid"};
 constexpr Rule<> weightedP = {
-    "disc.weighted-p", Severity::Note,
+    "disc.weighted-p", Severity::Risk,
     "Weighted prediction for P-frames is known to fail on some Blu-ray players.", "practice"};
 constexpr Rule<> pulldown = {"disc.pulldown", Severity::Note,
                              "Blu-ray 3D plays its frame rate as it is, so pulldown is not needed.",
@@ -78,7 +82,7 @@ constexpr ViewRule<> mode = {
     "disc: a maximum rate is signalled and kept"};
 constexpr Rule<> hrd = {"disc.hrd", Severity::Error,
                         "Blu-ray requires HRD conformance in the base view: switch it on.", "disc"};
-constexpr Rule<> hrdOther = {"disc.hrd-other", Severity::Note,
+constexpr Rule<> hrdOther = {"disc.hrd-other", Severity::Risk,
                              "Blu-ray 3D players expect HRD conformance in view 1, too.",
                              "disc: stated for the base view only"};
 constexpr Rule<Decimal, int> bufferBase = {
@@ -87,7 +91,7 @@ constexpr Rule<Decimal, int> bufferBase = {
     "smaller.",
     "disc: 30 Mbit"};
 constexpr Rule<Decimal, int> bufferOther = {
-    "disc.buffer-other", Severity::Note,
+    "disc.buffer-other", Severity::Risk,
     "In view 1, a bitrate buffer above %d.%0*d Mbit (%d bytes) may fail on some players.",
     "disc: stated for the base view only"};
 
@@ -196,6 +200,9 @@ void judgeTools(const Stream& stream, Report& report)
     if (weighted) {
         report.say(weightedP);
     }
+    if (stream.predicts && base.idr_marker == 0) {
+        report.say(idr);
+    }
     if (stream.bFrames && base.reference_b != 0 && base.pyramid_b == 0 && base.ref_distance > 2) {
         report.say(referenceB);
     }
@@ -229,10 +236,10 @@ void judgeRate(const Stream& stream, Report& report)
 }
 
 constexpr const RuleInfo* rules[] = {
-    &views,     &profile,    &discLevel,  &format,      &unconfirmed,    &chroma,
-    &aspect,    &twoAspects, &gop,        &references,  &spareReference, &referenceB,
-    &weightedP, &pulldown,   &slices,     &rateOfView,  &rateOfBoth,     &mode,
-    &hrd,       &hrdOther,   &bufferBase, &bufferOther,
+    &views,      &profile,    &discLevel, &format,     &unconfirmed, &chroma,
+    &aspect,     &twoAspects, &gop,       &idr,        &references,  &spareReference,
+    &referenceB, &weightedP,  &pulldown,  &slices,     &rateOfView,  &rateOfBoth,
+    &mode,       &hrd,        &hrdOther,  &bufferBase, &bufferOther,
 };
 
 } // namespace

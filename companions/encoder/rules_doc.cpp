@@ -19,6 +19,8 @@ const char* nameOf(Severity severity)
         return "error";
     case Severity::Warning:
         return "warning";
+    case Severity::Risk:
+        return "risk";
     default:
         return "note";
     }
@@ -67,8 +69,11 @@ void printDocument()
         "<!-- Written by kv_check_rules_doc; do not edit. -->\n\n"
         "What the reference encoder library `kv_mvcenc` holds a settings record against. An\n"
         "**error** refuses the settings. A **warning** tells what was corrected; checking the\n"
-        "corrected record again changes nothing and repeats no warning. A **note** tells what\n"
-        "follows, or what is legal but worth knowing.\n\n"
+        "corrected record again changes nothing and repeats no warning. A **risk** warns, too, "
+        "but\n"
+        "corrects nothing and is told at every check: what looks like a slip, or is known to fail\n"
+        "somewhere. Callers get it as a warning. A **note** tells what follows, or what is legal\n"
+        "but worth knowing.\n\n"
         "What a user may be in the middle of changing is never corrected. Of more than two\n"
         "views the record holds the first two; the others count as the second does. A message in\n"
         "brackets begins with the view when it is about another one than the base view. `%.2f`\n"

@@ -57,16 +57,16 @@ constexpr Rule<> pulldownFields = {
     "Pulldown cannot repeat interlaced pictures: set pulldown to Off, or choose Progressive.",
     "D.2.3: pic_struct 5 to 8 need field_pic_flag 0"};
 constexpr Rule<> pulldownMbaff = {
-    "pulldown.mbaff", Severity::Note,
+    "pulldown.mbaff", Severity::Risk,
     "Pulldown repeats fields of MBAFF pictures, which makes motion stutter.", "D.2.3"};
 constexpr Rule<Decimal> pulldown23 = {
-    "pulldown.2-3", Severity::Note,
+    "pulldown.2-3", Severity::Risk,
     "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now %d.%0*d).", "D.2.3; practice"};
 constexpr Rule<Decimal> pulldown22 = {
-    "pulldown.2-2", Severity::Note,
+    "pulldown.2-2", Severity::Risk,
     "Pulldown 2:2 doubles %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
 constexpr Rule<Decimal> pulldown33 = {
-    "pulldown.3-3", Severity::Note,
+    "pulldown.3-3", Severity::Risk,
     "Pulldown 3:3 triples %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
 constexpr Rule<> pulldownAuto = {
     "pulldown.auto", Severity::Note,

@@ -29,6 +29,11 @@ constexpr ViewRule<int, int> targetFullness = {
 constexpr ViewRule<> noTarget = {"rate.target", Severity::Error,
                                  KV_EACH_VIEW("The target bitrate has to be above 0."),
                                  "nothing to aim at"};
+constexpr ViewRule<int> kilobits = {
+    "rate.kilobits", Severity::Risk,
+    KV_EACH_VIEW(
+        "The target bitrate of %d bit/s is less than 1 bit a macroblock, as if typed in kbit/s."),
+    "practice: coded pictures have many times as much"};
 constexpr ViewRule<> noMaximum = {"hrd.maximum", Severity::Error,
                                   KV_EACH_VIEW("HRD conformance needs a max bitrate above 0."),
                                   "E.2.2: bit_rate_value_minus1"};
@@ -168,6 +173,9 @@ void judgeView(const Stream& stream, int v, Report& report)
     const KvMvcViewSettings& view = stream.record.views[v];
     if (aimsAtRate(view) && view.bitrate <= 0) {
         report.sayOf(v, noTarget);
+    } else if (aimsAtRate(view) &&
+               view.bitrate < static_cast<double>(stream.frameMbs) * stream.frameRate) {
+        report.sayOf(v, kilobits, view.bitrate);
     }
     if (keepsBuffer(view)) {
         judgeBuffer(stream, v, report);
@@ -185,6 +193,7 @@ constexpr auto singles = std::to_array<const RuleInfo*>({
     &raisedMaximum,
     &targetFullness,
     &noTarget,
+    &kilobits,
     &noMaximum,
     &noBuffer,
     &noFrameRate,

@@ -31,8 +31,8 @@ constexpr Rule<> otherTools = {
     "The advanced settings of view 1 differ from those of the base view.",
     "legal: parameter sets may differ"};
 constexpr Rule<int> beyondRecord = {
-    "views.beyond", Severity::Note,
-    "The settings of view 1 also count for the views after it, up to view %d.",
+    "views.beyond", Severity::Risk,
+    "The views up to view %d are coded like view 1: what is set for their rates is not used.",
     "the record holds two views: the third and fourth count as the second does"};
 constexpr Rule<> splitOne = {"views.split", Severity::Note,
                              "Split views has no effect: there is only one view.",

@@ -192,6 +192,21 @@ Attempt remedied(KvMvcCheck check, const KvMediaInfo& info, Attempt attempt)
     return attempt;
 }
 
+/// The warnings of what was corrected. One that the corrected settings get again corrects nothing,
+/// and is told whenever they are checked.
+std::vector<std::string> corrections(KvMvcCheck check, const Verdict& verdict)
+{
+    if (verdict.warnings.empty()) {
+        return {};
+    }
+    const Verdict again = checkSettings(check, verdict.corrected);
+    std::vector<std::string> told = verdict.warnings;
+    std::erase_if(told, [&](const std::string& warning) {
+        return std::ranges::find(again.warnings, warning) != again.warnings.end();
+    });
+    return told;
+}
+
 std::vector<std::string> refusals(const Verdict& verdict)
 {
     const std::string note = "the encoder refuses the settings";
@@ -214,7 +229,7 @@ std::vector<std::string> fitToEncoder(KvMvcCheck check, const KvMediaInfo& info,
     }
     std::vector<std::string> notes = std::move(fitted.notes);
     settings = fitted.verdict.corrected;
-    for (const std::string& warning : fitted.verdict.warnings) {
+    for (const std::string& warning : corrections(check, fitted.verdict)) {
         notes.push_back("the encoder corrects the settings: " + warning);
     }
     return notes;

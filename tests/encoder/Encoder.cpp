@@ -14,17 +14,26 @@ namespace
 
 Outcome* current = nullptr;
 
-int collect(int kind, const char* format, va_list arguments)
+using kv::encoder::Severity;
+
+/// The sink that takes messages of a severity.
+Severity sinkOf(Severity severity)
+{
+    return severity == Severity::Risk ? Severity::Warning : severity;
+}
+
+int collect(Severity heardAs, const char* format, va_list arguments)
 {
     char text[1024];
     const int length = std::vsnprintf(text, sizeof text, format, arguments);
-    current->formats[kind].append(format);
-    current->texts[kind].append(text);
     bool listed = false;
     for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
         for (const kv::encoder::RuleInfo* rule : group.rules) {
             for (const char* const known : {rule->format, rule->viewFormat}) {
-                if (known && std::strcmp(known, format) == 0) {
+                if (known && std::strcmp(known, format) == 0 && sinkOf(rule->severity) == heardAs) {
+                    const auto severity = static_cast<std::size_t>(rule->severity);
+                    current->formats[severity].append(format);
+                    current->texts[severity].append(text);
                     current->rules.append(QString::fromLatin1(rule->id));
                     listed = true;
                 }
@@ -32,12 +41,12 @@ int collect(int kind, const char* format, va_list arguments)
         }
     }
     if (!listed) {
-        qFatal("the rule list lacks what was said: %s", format);
+        qFatal("the rule list lacks what was said, or has it as another kind: %s", format);
     }
     return length;
 }
 
-template <int kind>
+template <Severity kind>
 int sink(const char* format, ...)
 {
     va_list arguments;
@@ -52,7 +61,9 @@ KvMvcFunction lookUp(const char* name)
     const struct {
         const char* name;
         KvMvcPrintf function;
-    } sinks[] = {{"err_printf", sink<0>}, {"wrn_printf", sink<1>}, {"inf_printf", sink<2>}};
+    } sinks[] = {{"err_printf", sink<Severity::Error>},
+                 {"wrn_printf", sink<Severity::Warning>},
+                 {"inf_printf", sink<Severity::Note>}};
     for (const auto& row : sinks) {
         if (std::strcmp(row.name, name) == 0) {
             return reinterpret_cast<KvMvcFunction>(row.function);
@@ -77,7 +88,7 @@ QFunctionPointer resolve(const char* function)
 QByteArray Outcome::all() const
 {
     return "\n  errors: " + texts[0].join("\n    ") + "\n  warnings: " + texts[1].join("\n    ") +
-           "\n  notes: " + texts[2].join("\n    ");
+           "\n  risks: " + texts[2].join("\n    ") + "\n  notes: " + texts[3].join("\n    ");
 }
 
 namespace encoder

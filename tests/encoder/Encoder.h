@@ -10,15 +10,17 @@
 /// What one check said and did.
 struct Outcome {
     qint32 result = -1;
-    QByteArrayList formats[3]; ///< as passed to the error, warning and note sinks
-    QByteArrayList texts[3];   ///< formatted
+    QByteArrayList formats[4]; ///< as passed to the sinks, by kv::encoder::Severity
+    QByteArrayList texts[4];   ///< formatted
     QStringList rules;         ///< names of the rules behind the formats, in order
 
     bool accepted() const { return result == 0; }
     bool said(const QString& rule) const { return rules.contains(rule); }
     QByteArrayList errors() const { return texts[0]; }
+    /// Of what was corrected.
     QByteArrayList warnings() const { return texts[1]; }
-    QByteArrayList notes() const { return texts[2]; }
+    QByteArrayList risks() const { return texts[2]; }
+    QByteArrayList notes() const { return texts[3]; }
     /// All texts, for the message of a failing comparison.
     QByteArray all() const;
 };

@@ -166,6 +166,14 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::i_interval, 61);
      },
      true},
+    {"disc.idr", "every I-frame", 3, [](Record&) {}, false},
+    {"disc.idr", "the first I-frame", 3, [](Record& r) { setBoth(r, &V::idr_marker, 0); }, true},
+    {"disc.idr", "the first of nothing but I-frames", 3,
+     [](Record& r) {
+         setBoth(r, &V::idr_marker, 0);
+         setBoth(r, &V::i_interval, 1);
+     },
+     false},
     {"disc.references", "4", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
     {"disc.references", "5", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }, true},
     {"disc.references", "6 at 720 lines", 3,

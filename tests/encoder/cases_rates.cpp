@@ -70,6 +70,40 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::bitrate, 30000001);
      },
      false},
+    // 1920 x 1080 are 8160 macroblocks, 204,000 in a second at 25 frames/s.
+    {"rate.kilobits", "a bit a macroblock", 0,
+     [](Record& r) {
+         setFrameRate(r, 25);
+         setBoth(r, &V::bitrate, 204000);
+     },
+     false},
+    {"rate.kilobits", "less than a bit a macroblock", 0,
+     [](Record& r) {
+         setFrameRate(r, 25);
+         setBoth(r, &V::bitrate, 203999);
+     },
+     true},
+    {"rate.kilobits", "a small picture", 0,
+     [](Record& r) {
+         setBoth(r, &V::width, 176);
+         setBoth(r, &V::height, 144);
+         setBoth(r, &V::num_slices, 1);
+         setFrameRate(r, 15);
+         setBoth(r, &V::bitrate, 20000);
+     },
+     false},
+    {"rate.kilobits", "not looked at in a quantizer mode", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate, 20000);
+         setBoth(r, &V::bitrate_mode, 1);
+     },
+     false},
+    {"rate.kilobits", "no frame rate", 0,
+     [](Record& r) {
+         setFrameRate(r, 0);
+         setBoth(r, &V::bitrate, 20000);
+     },
+     false},
     {"hrd.target", "full in bits", 0,
      [](Record& r) {
          setBoth(r, &V::bitrate_units, 1);

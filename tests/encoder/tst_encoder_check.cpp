@@ -31,6 +31,19 @@ KvMvcFunction errorSinkOnly(const char* name)
                                                 : nullptr;
 }
 
+int warningsHeard = 0;
+
+int hearWarning(const char*, ...)
+{
+    return ++warningsHeard;
+}
+
+KvMvcFunction warningSinkOnly(const char* name)
+{
+    return std::strcmp(name, "wrn_printf") == 0 ? reinterpret_cast<KvMvcFunction>(hearWarning)
+                                                : nullptr;
+}
+
 /// A record with a correction, an error and notes.
 KvMvcSettings faulty()
 {
@@ -58,6 +71,8 @@ private Q_SLOTS:
     void whatIsNotShownIsNotJudged();
     void halfDoneEditsSurvive_data();
     void halfDoneEditsSurvive();
+    void risksAreToldAtEveryCheckAndCorrectNothing();
+    void risksAreHeardAsWarnings();
     void constantBitrateLeavesTheHrdSwitchAlone();
     void changingUnitsKeepsTheInitialFullness();
     void messagesOfALevelThatIsTooLowAreFew();
@@ -113,7 +128,7 @@ void TestEncoderCheck::formatsAreHandedOverUnformatted()
     const Outcome outcome = encoder::check(record);
     QVERIFY(outcome.formats[1].contains("The I-frame interval was %d; it is now %d (%d to %d)."));
     QVERIFY(outcome.texts[1].contains("The I-frame interval was 999; it is now 300 (0 to 300)."));
-    QVERIFY(outcome.formats[2].contains("Level %s is the lowest that fits."));
+    QVERIFY(outcome.formats[3].contains("Level %s is the lowest that fits."));
 }
 
 void TestEncoderCheck::whatIsNotShownFollowsWhatIs_data()
@@ -199,6 +214,35 @@ void TestEncoderCheck::halfDoneEditsSurvive()
     const Outcome outcome = encoder::check(record);
     QVERIFY2(outcome.accepted() == edits[row].accepted, outcome.all().constData());
     QVERIFY2(std::memcmp(&before, &record, sizeof record) == 0, outcome.all().constData());
+}
+
+void TestEncoderCheck::risksAreToldAtEveryCheckAndCorrectNothing()
+{
+    KvMvcSettings record = encoder::preset(3);
+    setBoth(record, &V::weighted_p, 1);
+    record.views[1].bitrate = 10000; // 10 Mbit/s, typed in kbit/s
+    const KvMvcSettings before = record;
+    const QByteArrayList risks = {
+        "View 1: The target bitrate of 10000 bit/s is less than 1 bit a macroblock, as if typed in "
+        "kbit/s.",
+        "Weighted prediction for P-frames is known to fail on some Blu-ray players."};
+    for (int checks = 0; checks < 2; ++checks) {
+        const Outcome outcome = encoder::check(record);
+        QVERIFY2(outcome.accepted(), outcome.all().constData());
+        QCOMPARE(outcome.risks(), risks);
+        QCOMPARE(outcome.warnings(), QByteArrayList());
+        QVERIFY(std::memcmp(&before, &record, sizeof record) == 0);
+    }
+}
+
+void TestEncoderCheck::risksAreHeardAsWarnings()
+{
+    // The kinds that a caller knows are three.
+    warningsHeard = 0;
+    KvMvcSettings record = encoder::preset(3);
+    setBoth(record, &V::weighted_p, 1);
+    QCOMPARE(encoder::checkFunction()(warningSinkOnly, &record, 3, 0), 0);
+    QCOMPARE(warningsHeard, 1);
 }
 
 void TestEncoderCheck::constantBitrateLeavesTheHrdSwitchAlone()

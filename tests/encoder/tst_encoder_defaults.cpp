@@ -75,6 +75,7 @@ void TestEncoderDefaults::passTheCheckWithNotesOnly()
     QCOMPARE(outcome.result, 0);
     QCOMPARE(outcome.errors(), QByteArrayList());
     QCOMPARE(outcome.warnings(), QByteArrayList());
+    QCOMPARE(outcome.risks(), QByteArrayList());
     QVERIFY2(outcome.notes().size() >= 3 && outcome.notes().size() <= 6, outcome.all().constData());
     QVERIFY(std::memcmp(&before, &record, sizeof record) == 0);
 }

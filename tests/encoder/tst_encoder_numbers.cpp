@@ -76,7 +76,7 @@ void TestEncoderNumbers::frameRatesAreReadable()
     setBoth(record, &V::pulldown, int{KV_MVC_PULLDOWN_2_3});
     encoder::setFrameRate(record, rate);
     const Outcome outcome = encoder::check(record);
-    QVERIFY2(outcome.notes().contains(
+    QVERIFY2(outcome.risks().contains(
                  "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now " + shown + ")."),
              outcome.all().constData());
 }

@@ -7,6 +7,8 @@
 #include <QLibrary>
 #include <QString>
 
+#include <cstring>
+
 namespace kvtest
 {
 
@@ -41,13 +43,17 @@ public:
         return settings;
     }
     KvMvcCheck check() const { return m_check; }
-    /// Errors as "E: ...", warnings as "W: ...", one a line; empty for settings that are taken.
-    QByteArray complaintsOf(KvMvcSettings settings) const
+    /// Errors as "E: ...", warnings as "W: ...", one a line; empty for settings that are taken
+    /// and not corrected.
+    QByteArray complaintsOf(const KvMvcSettings& settings) const
     {
         QByteArray complaints;
         KvMvcListener listener = {&complain, &complaints, nullptr, 0};
-        const bool accepted = m_check && kvMvcRunCheck(m_check, &settings, &listener) == 0;
-        return accepted ? complaints : complaints + "refused";
+        KvMvcSettings corrected = settings;
+        if (!m_check || kvMvcRunCheck(m_check, &corrected, &listener) != 0) {
+            return complaints + "refused";
+        }
+        return std::memcmp(&settings, &corrected, sizeof settings) == 0 ? QByteArray() : complaints;
     }
 
 private:
