@@ -4,6 +4,7 @@
 #include "field_value.h"
 
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -86,18 +87,9 @@ bool printGroup(const kv::FieldGroup& group, const Meanings& meanings)
     return true;
 }
 
-} // namespace
-
-int main(int count, char** arguments)
+bool printDocument(const std::string& header)
 {
-    std::ifstream file(count == 2 ? arguments[1] : "");
-    std::stringstream header;
-    header << file.rdbuf();
-    if (!file) {
-        std::fputs("Usage: kv_settings_fields_doc HEADER\n", stderr);
-        return 2;
-    }
-    const Meanings meanings = readMeanings(header.str());
+    const Meanings meanings = readMeanings(header);
     std::puts(
         "# Keys of settings files\n\n<!-- Written by kv_settings_fields_doc; do not edit. -->\n");
     std::puts("[settings-file.md](settings-file.md) tells how such files are written, and what "
@@ -109,9 +101,26 @@ int main(int count, char** arguments)
                     &section == &sections.back() ? " and the sections of the other views" : "");
         for (const kv::FieldGroup& group : section.groups) {
             if (!printGroup(group, meanings)) {
-                return 1;
+                return false;
             }
         }
     }
-    return 0;
+    return std::fflush(stdout) == 0;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+try {
+    std::ifstream file(count == 2 ? arguments[1] : "");
+    std::stringstream header;
+    header << file.rdbuf();
+    if (!file) {
+        std::fputs("Usage: kv_settings_fields_doc HEADER\n", stderr);
+        return 2;
+    }
+    return printDocument(header.str()) ? 0 : 1;
+} catch (const std::exception& trouble) {
+    std::fprintf(stderr, "kv_settings_fields_doc: %s\n", trouble.what());
+    return 1;
 }
