@@ -149,6 +149,10 @@ Soll sie überschrieben werden?</translation>
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>The encoder failed to check the settings.</source>
+        <translation>Der Encoder konnte die Einstellungen nicht prüfen.</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

@@ -149,6 +149,10 @@ Do you want to overwrite it?</source>
         <source>Auto</source>
         <translation>自動</translation>
     </message>
+    <message>
+        <source>The encoder failed to check the settings.</source>
+        <translation>エンコーダーは設定を検査できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

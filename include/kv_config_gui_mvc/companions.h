@@ -5,7 +5,8 @@
  * Companion libraries are found by file name: base name plus KV_MVC_LIBRARY_SUFFIX, without a "lib"
  * prefix. Of two base names the first that can be loaded is used. Their functions have C linkage
  * and the platform's default calling convention, and are called on the thread that runs the dialog.
- * No exception may leave them.
+ * No exception may leave them; one that does while the dialog is open counts as a failure of the
+ * function.
  *
  * - Encoder library, KV_MVC_ENCODER_LIBRARIES; required, with both functions.
  * - Settings file library, KV_MVC_SETTINGS_IO_LIBRARY; required, with its function.

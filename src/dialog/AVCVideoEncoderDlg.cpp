@@ -20,6 +20,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShowEvent>
 
 #include <initializer_list>
 
@@ -94,6 +95,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     ui.tabWidget->setAcceptDrops(true);
     ui.tabWidget->installEventFilter(this);
     installEventFilter(this);
+    m_isUnderConstruction = false;
 }
 
 AVCVideoEncoderDlg::~AVCVideoEncoderDlg()
@@ -230,8 +232,12 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
 {
     const auto preset = requestedPreset(m_vocabulary, state);
     if (preset && companionFunctions().defaults) {
-        companionFunctions().defaults(&m_record.settings, 0, *preset, 0);
-        resetFurtherViews(m_record);
+        const KvMvcSettings former = m_record.settings;
+        if (thrownBy([&] { companionFunctions().defaults(&m_record.settings, 0, *preset, 0); })) {
+            m_record.settings = former;
+        } else {
+            resetFurtherViews(m_record);
+        }
     }
 
     const Applying edit{m_vocabulary, m_customFrameRate, state};
@@ -263,13 +269,14 @@ bool AVCVideoEncoderDlg::check()
         return false;
     }
     messageLog().clearMessages();
-    // On a copy: the check may show a message box, and meanwhile the host may delete the dialog.
+    // On a copy: the check may handle events, and meanwhile the host may delete the dialog, or the
+    // user go on.
     const QPointer<AVCVideoEncoderDlg> self(this);
+    const int number = ++m_checks;
     alignas(8) KvMvcSettings settings = m_record.settings;
-    const auto encoderCheck = companionFunctions().check;
-    const bool accepted =
-        encoderCheck && encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0) == 0;
-    if (!self) {
+    const bool accepted = runCheck(settings);
+    // Settings that another check has seen meanwhile, and shown, are not these any more.
+    if (!self || m_isClosed || number != m_checks) {
         return false;
     }
     m_record.settings = settings;
@@ -278,6 +285,29 @@ bool AVCVideoEncoderDlg::check()
 
     m_suppressNextAccept = false;
     messageLog().rewriteWidget();
+    return accepted;
+}
+
+bool AVCVideoEncoderDlg::runCheck(KvMvcSettings& settings)
+{
+    const auto encoderCheck = companionFunctions().check;
+    const KvMvcSettings given = settings;
+    bool accepted = false;
+    const auto call = [&] {
+        accepted = encoderCheck &&
+                   encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0) == 0;
+    };
+    if (m_isUnderConstruction) {
+        // Nothing is shown yet: who constructs it is told.
+        call();
+        return accepted;
+    }
+    const auto thrown = thrownBy(call);
+    if (thrown) {
+        settings = given;
+        messageLog().addError(tr("The encoder failed to check the settings.") +
+                              (thrown->isEmpty() ? QString() : QLatin1Char(' ') + *thrown));
+    }
     return accepted;
 }
 
@@ -304,6 +334,25 @@ void AVCVideoEncoderDlg::slotAccept()
     }
     *m_caller = m_record.settings;
     accept();
+}
+
+void AVCVideoEncoderDlg::done(int result)
+{
+    // The first word counts: a check that handles events may hear another one before it returns.
+    if (m_isClosed) {
+        return;
+    }
+    m_isClosed = true;
+    QDialog::done(result);
+}
+
+void AVCVideoEncoderDlg::showEvent(QShowEvent* event)
+{
+    // Not when the window system shows it again.
+    if (!event->spontaneous()) {
+        m_isClosed = false;
+    }
+    QDialog::showEvent(event);
 }
 
 void AVCVideoEncoderDlg::slotReject()

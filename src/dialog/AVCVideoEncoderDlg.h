@@ -36,6 +36,8 @@ public:
     ~AVCVideoEncoderDlg() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Closes it; what else would close it afterwards does nothing.
+    void done(int result) override;
 
 Q_SIGNALS:
     /// A choice in the dialog's own preset row.
@@ -51,6 +53,9 @@ public Q_SLOTS:
     void slotReceiveState(const ConfigState& state);
     void slotChangePreset(const QString& text);
     void slotRestorePreset();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     void buildPresetRow();
@@ -69,8 +74,11 @@ private:
     /// Makes settings from outside the working copy.
     void takeSettings(const KvMvcSettings& settings);
     /// The encoder's check of the working copy, which it may correct, with its messages in the log.
-    /// @return Whether the encoder accepts the settings; false at once while pages are being told.
+    /// @return Whether the encoder accepts the settings; false at once while pages are being told,
+    /// and when the dialog was closed or its settings checked anew before the encoder returned.
     bool check();
+    /// The encoder's part of it; while the dialog is constructed, an exception goes through.
+    bool runCheck(KvMvcSettings& settings);
 
     void loadFromFile(const QString& path);
     void saveToFile(const QString& path);
@@ -85,6 +93,10 @@ private:
     /// A hook: set, it makes the next OK do nothing but clear it. Every check clears it, too.
     bool m_suppressNextAccept = false;
     bool m_updating = false;
+    bool m_isUnderConstruction = true;
+    bool m_isClosed = false;
+    /// How often the encoder's check was called.
+    int m_checks = 0;
 
     Ui::IAVCVideoEncoderDlg ui;
     QPixmap m_banner;

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "ForeignText.h"
+
 #include <kv_config_gui_mvc/companions.h>
+
+#include <exception>
+#include <optional>
 
 /// The functions of the companion libraries that the dialog calls; null where a library or a
 /// function is missing.
@@ -13,3 +18,19 @@ struct CompanionFunctions {
 
 /// The process's one set of functions, filled while a call of the module lasts.
 CompanionFunctions& companionFunctions();
+
+/// Makes a call of a companion while the dialog is open. No exception may leave one; what does
+/// ends here, as unwinding the dialog's event loop would leave a window that believes to be shown.
+/// @return What the exception says, empty when it says nothing; no value when there was none.
+template <class Call>
+std::optional<QString> thrownBy(Call call)
+{
+    try {
+        call();
+        return std::nullopt;
+    } catch (const std::exception& exception) {
+        return foreignText(exception.what());
+    } catch (...) {
+        return QString();
+    }
+}

@@ -40,18 +40,32 @@ void showBox(QMessageBox::Icon icon, const QString& message)
     delete box;
 }
 
-void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list arguments)
+/// The message's format in the user's language; the format itself where there is none.
+const char* localized(const char* format)
 {
-    const CompanionFunctions& functions = companionFunctions();
-    const char* localized = functions.localizeConvert ? functions.localizeConvert(format) : nullptr;
-    const QString message =
-        foreignText(formatted(localized ? localized : format, arguments)) + QLatin1Char('\n');
+    const auto convert = companionFunctions().localizeConvert;
+    const char* converted = nullptr;
+    if (convert) {
+        thrownBy([&] { converted = convert(format); });
+    }
+    return converted ? converted : format;
+}
+
+void takeText(QString& buffer, QMessageBox::Icon icon, const QString& text)
+{
+    const QString message = text + QLatin1Char('\n');
     const QTextEdit* log = messageLog().widget;
     if (log && log->isHidden()) {
         showBox(icon, message);
     } else {
         buffer += message;
     }
+}
+
+void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list arguments)
+{
+    // The encoder is between here and whoever could catch it: a message is lost rather.
+    thrownBy([&] { takeText(buffer, icon, foreignText(formatted(localized(format), arguments))); });
 }
 
 int printError(const char* format, ...)
@@ -152,6 +166,11 @@ void MessageLog::clearMessages()
     for (QString* messages : {&errors, &warnings, &notes}) {
         messages->clear();
     }
+}
+
+void MessageLog::addError(const QString& text)
+{
+    takeText(errors, QMessageBox::Critical, text);
 }
 
 void MessageLog::dropDistinctColours()

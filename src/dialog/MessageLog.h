@@ -24,6 +24,8 @@ struct MessageLog {
     /// Makes it the log.
     void showIn(QTextEdit* log);
     void clearMessages();
+    /// Adds an error of the dialog's own.
+    void addError(const QString& text);
     /// Gives errors and warnings the colour of notes, for the rest of the process.
     void dropDistinctColours();
     /// Shows the collected messages: warnings, errors, notes, each block in its colour; a block

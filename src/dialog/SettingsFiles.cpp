@@ -25,21 +25,24 @@ namespace settings_files
 
 std::optional<KvMvcSettings> read(const QString& path)
 {
-    const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
     alignas(8) KvMvcSettings settings = {};
-    if (!reader || reader(&settings, path.toUtf8().constData()) != 0) {
-        return std::nullopt;
-    }
-    return settings;
+    bool done = false;
+    thrownBy([&] {
+        const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
+        done = reader && reader(&settings, path.toUtf8().constData()) == 0;
+    });
+    return done ? std::optional(settings) : std::nullopt;
 }
 
 void write(const KvMvcSettings& settings, const QString& path)
 {
-    const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
     alignas(8) KvMvcSettings copy = settings;
-    if (writer) {
-        writer(&copy, path.toUtf8().constData());
-    }
+    thrownBy([&] {
+        const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
+        if (writer) {
+            writer(&copy, path.toUtf8().constData());
+        }
+    });
 }
 
 bool isDroppable(const QString& path)

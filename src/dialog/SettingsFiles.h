@@ -11,7 +11,7 @@ namespace settings_files
 {
 
 /// The settings stored in the file, or taken from a media file. No value when the library has no
-/// reader or the reader fails.
+/// reader, or the reader fails or throws.
 std::optional<KvMvcSettings> read(const QString& path);
 
 /// Writes the settings; that a library has no writer, or that it fails, is not told.

@@ -44,7 +44,11 @@ public:
         // object, and the module may be unloaded before the host's object goes.
         QObject::connect(&application, SIGNAL(lastWindowClosed()), &application, SLOT(quit()),
                          Qt::UniqueConnection);
-        return m_dialog->exec() == QDialog::Accepted;
+        // The record is written by then, even if the host deletes the dialog before the loop ends.
+        bool accepted = false;
+        QObject::connect(m_dialog, &QDialog::accepted, m_dialog, [&accepted] { accepted = true; });
+        m_dialog->exec();
+        return accepted;
     }
 
 private:

@@ -20,7 +20,9 @@ int32_t check(KvMvcLookup lookUp, KvMvcSettings* settings, int32_t stage, int32_
 {
     current->calls += QStringLiteral("check %1 %2").arg(stage).arg(reserved);
     current->checkedAt = settings;
-    return current->onCheck ? current->onCheck(lookUp, *settings) : 0;
+    // A copy: it may put another in its place.
+    const auto onCheck = current->onCheck;
+    return onCheck ? onCheck(lookUp, *settings) : 0;
 }
 
 int32_t read(KvMvcSettings* settings, const char* path)
@@ -35,12 +37,18 @@ int32_t write(KvMvcSettings* settings, const char* path)
     current->calls += QLatin1String("write ") + QString::fromUtf8(path);
     current->written += bytesOf(*settings);
     current->writtenFrom = settings;
+    if (current->onWrite) {
+        current->onWrite();
+    }
     return current->writeResult;
 }
 
 KvMvcFunction getApi(int32_t code)
 {
     current->calls += QStringLiteral("api %1").arg(code);
+    if (current->onGetApi) {
+        current->onGetApi();
+    }
     if (code == 8193 && current->hasReader) {
         return reinterpret_cast<KvMvcFunction>(&read);
     }

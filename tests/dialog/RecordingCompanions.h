@@ -29,6 +29,9 @@ public:
     std::function<void(KvMvcSettings&, int preset)> onDefaults;
     /// What the reader does, and its result; without one it fails.
     std::function<int(KvMvcSettings&)> onRead;
+    /// What the writer and the library's one export do besides.
+    std::function<void()> onWrite;
+    std::function<void()> onGetApi;
     bool hasReader = true;
     bool hasWriter = true;
 

@@ -114,6 +114,9 @@ void press(QDialog* dialog)
     }
     if (dialog->isVisible()) {
         say(QStringLiteral("still open"));
+        if (const auto* log = dialog->findChild<QTextEdit*>(QStringLiteral("errorLog"))) {
+            say(QStringLiteral("answer ") + log->toPlainText().simplified());
+        }
         dialog->reject();
     }
 }

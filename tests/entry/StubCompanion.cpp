@@ -108,6 +108,7 @@ public:
     CheckError(const CheckError&) = default;
     CheckError& operator=(const CheckError&) = default;
     ~CheckError() override { writeDown("exception gone"); }
+    const char* what() const noexcept override { return "no licence"; }
 };
 
 } // namespace

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void exceptionOfACompanionGivesAnError_data();
     void exceptionOfACompanionGivesAnError();
     void callAfterAnException();
+    void exceptionWhileTheDialogIsOpen_data();
+    void exceptionWhileTheDialogIsOpen();
     void functionsLastAsLongAsTheDialog();
 };
 
@@ -154,6 +156,35 @@ void TestEntryLifetime::callAfterAnException()
             throwing);
         QCOMPARE(run.values("result"), words("1 1001"));
     }
+}
+
+void TestEntryLifetime::exceptionWhileTheDialogIsOpen_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::newRow("own application") << QStringLiteral("flags=0x33");
+    QTest::newRow("host's application")
+        << QStringLiteral("application ext=application flags=0x10000033");
+}
+
+void TestEntryLifetime::exceptionWhileTheDialogIsOpen()
+{
+    QFETCH(QString, steps);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run =
+        sandbox.run(words(steps.toLatin1().constData()) + words("press=ok call call"), throwing);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.values("still"), words("open open"));
+    QCOMPARE(run.value("answer"), QStringLiteral("The encoder failed to check the settings."
+                                                 " no licence"));
+    QCOMPARE(run.values("result"), words("1001 1001"));
+    QCOMPARE(run.values("changed"), words("no no"));
+    const auto call =
+        QStringList({QStringLiteral("load host/kv_mvc_settings_io"),
+                     QStringLiteral("load host/kv_mvcenc"), QStringLiteral("check"),
+                     QStringLiteral("exception gone"), QStringLiteral("unload host/kv_mvcenc"),
+                     QStringLiteral("unload host/kv_mvc_settings_io")});
+    QCOMPARE(run.log, call + call);
 }
 
 void TestEntryLifetime::functionsLastAsLongAsTheDialog()
