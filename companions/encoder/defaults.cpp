@@ -12,18 +12,15 @@ namespace
 struct Preset {
     int number;
     int views;
-    int references; // per view: all views share the 8 frames of level 4.1 at 1920 x 1080
     int baseTarget;
 };
 
 constexpr Preset presets[] = {
-    // Plain High: 4 references are what the level holds, also for a second view.
-    {KV_MVC_VIDEO_TYPE_NONE, 1, 4, 20'000'000},
-    // Room for inter-view pictures in the buffer: 6 of 8 frames.
-    {KV_MVC_MULTIVIEW_HIGH, 2, 3, 20'000'000},
-    {KV_MVC_STEREO_HIGH, 2, 4, 20'000'000},
-    // Discs average 17 to 31 Mbit/s in the base view; one spare frame in the buffer.
-    {KV_MVC_BLURAY_3D, 2, 3, 22'000'000},
+    {KV_MVC_VIDEO_TYPE_NONE, 1, 20'000'000},
+    {KV_MVC_MULTIVIEW_HIGH, 2, 20'000'000},
+    {KV_MVC_STEREO_HIGH, 2, 20'000'000},
+    // Discs average 17 to 31 Mbit/s in the base view.
+    {KV_MVC_BLURAY_3D, 2, 22'000'000},
 };
 
 const Preset& findPreset(int number)
@@ -64,6 +61,9 @@ void setGop(KvMvcViewSettings& view)
     view.adaptive_b = 0;       // one regular pattern, the same in all views
     view.reference_b = 0;      // no reference B pictures: no frames of the buffer for them
     view.pyramid_b = 0;        // needs reference B pictures
+    // Two views share the 8 frames of level 4.1, of which B pictures that the other view is
+    // predicted from take one; so a view can be added to plain High as well.
+    view.num_ref_frames = 3;
 }
 
 void setTools(KvMvcViewSettings& view)
@@ -121,7 +121,6 @@ void setDefaults(KvMvcSettings& record, int number)
         view.video_type = preset.number;
         view.profile = KV_MVC_PROFILE_HIGH; // of the base view; every 2D player has it
         view.level = 41; // lowest for the rates of two views, so that one can be added; the disc's
-        view.num_ref_frames = preset.references;
         setPicture(view);
         setGop(view);
         setTools(view);

@@ -17,8 +17,16 @@ constexpr Rule<const char*, int, int> dpb = {
     "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)"};
 constexpr Rule<const char*, int, int, int> dpbViews = {
     "level.dpb-views", Severity::Error,
-    "Level %s can store %d frames of this size for %d views (now %d): use fewer reference frames.",
-    "H.10.2.1 f, C.4: min(2 * MaxDpbMbs / frame size, 16 * max(1, ceil(log2 views)))"};
+    "Level %s has room for %d reference frames of this size in each of %d views (now %d): use "
+    "fewer.",
+    "H.10.2.1 f, C.4: min(2 * MaxDpbMbs / frame size, 16 * max(1, ceil(log2 views))) for all "
+    "views together"};
+constexpr Rule<const char*, int, int, int> dpbLooseB = {
+    "level.dpb-views-b", Severity::Error,
+    "With B-frames, level %s has room for %d reference frames in each of %d views (now %d): use "
+    "fewer.",
+    "C.4.5.2, C.4.5.3: a non-reference picture of a view that predicts another view is kept while "
+    "that one is decoded, one frame more than the references"};
 constexpr ViewRule<const char*, int, int> dpbHalf = {
     "level.dpb-half", Severity::Error,
     KV_ALL_VIEWS("Level %s allows a view %d reference frames of this size (now %d): use fewer."),
@@ -28,7 +36,13 @@ constexpr ViewRule<const char*, int, int> slicesMost = {
     KV_ALL_VIEWS(
         "Level %s allows at most %d slices per picture at this size and rate (now %d): use "
         "fewer."),
-    "A.3.3 a, b: SliceRate; of each view, H.10.2.1 k to n"};
+    "A.3.3 a, b, H.10.2.1 l, n: SliceRate; the slices of each view by itself"};
+constexpr Rule<const char*, int, int, int> slicesTogether = {
+    "level.slices-most-views", Severity::Error,
+    "Level %s allows at most %d slices in %d views together at this size and rate (now %d): use "
+    "fewer.",
+    "H.10.2.1 k, m: mvcScaleFactor 2 times SliceRate's limit; the slices of all view components of "
+    "an access unit"};
 constexpr ViewRule<const char*, int, int> slicesLeast = {
     "level.slices-least", Severity::Error,
     KV_ALL_VIEWS("Level %s needs at least %d slices per picture at this size (now %d): use more."),
@@ -44,27 +58,39 @@ constexpr ViewRule<int, const char*, int> vectors = {
     KV_EACH_VIEW("The maximum " kind                                                               \
                  "-frame size of %d bytes exceeds the %.0f bytes of level %s: lower it.")
 
+#define KV_VIEWS_BYTES(kind)                                                                       \
+    "The maximum " kind                                                                            \
+    "-frame sizes of all views add up to %.0f bytes, more than level %s allows (%.0f): lower one."
+
 // Largest coded pictures, one row a frame size limit.
 constexpr const char* pictureBytesClause =
-    "A.3.1 c, d, A.3.3 i, j, H.10.2.1 t, v: MinCR; of each view component";
+    "A.3.1 c, d, A.3.3 i, j, H.10.2.1 t, v: MinCR; the bytes of each view component";
+constexpr const char* viewsBytesClause =
+    "H.10.2.1 s, u: mvcScaleFactor 2 times MinCR's limit; the bytes of all view components of an "
+    "access unit";
 struct PictureBytes {
     std::int32_t KvMvcViewSettings::*field;
     bool first; ///< the first picture of a stream is one of these
     ViewRule<int, double, const char*> rule;
+    Rule<double, const char*, double> together;
 };
 constexpr PictureBytes pictureBytes[] = {
     {&KvMvcViewSettings::frame_size_i,
      true,
-     {"level.size-i", Severity::Error, KV_PICTURE_BYTES("I"), pictureBytesClause}},
+     {"level.size-i", Severity::Error, KV_PICTURE_BYTES("I"), pictureBytesClause},
+     {"level.size-i-views", Severity::Error, KV_VIEWS_BYTES("I"), viewsBytesClause}},
     {&KvMvcViewSettings::frame_size_p,
      false,
-     {"level.size-p", Severity::Error, KV_PICTURE_BYTES("P"), pictureBytesClause}},
+     {"level.size-p", Severity::Error, KV_PICTURE_BYTES("P"), pictureBytesClause},
+     {"level.size-p-views", Severity::Error, KV_VIEWS_BYTES("P"), viewsBytesClause}},
     {&KvMvcViewSettings::frame_size_b,
      false,
-     {"level.size-b", Severity::Error, KV_PICTURE_BYTES("B"), pictureBytesClause}},
+     {"level.size-b", Severity::Error, KV_PICTURE_BYTES("B"), pictureBytesClause},
+     {"level.size-b-views", Severity::Error, KV_VIEWS_BYTES("B"), viewsBytesClause}},
     {&KvMvcViewSettings::frame_size_bref,
      false,
-     {"level.size-br", Severity::Error, KV_PICTURE_BYTES("Br"), pictureBytesClause}},
+     {"level.size-br", Severity::Error, KV_PICTURE_BYTES("Br"), pictureBytesClause},
+     {"level.size-br-views", Severity::Error, KV_VIEWS_BYTES("Br"), viewsBytesClause}},
 };
 
 void judgeReferences(const Stream& stream, const Level& level, Report& report)
@@ -77,8 +103,10 @@ void judgeReferences(const Stream& stream, const Level& level, Report& report)
         }
         return;
     }
-    if (total > frames) {
-        report.say(dpbViews, level.name, frames, stream.views, total);
+    if (const int room = referenceRoom(stream, level); total > room) {
+        // Where they would fit without B pictures, those are the cause.
+        report.say(total > frames ? dpbViews : dpbLooseB, level.name, room / stream.views,
+                   stream.views, stream.mostReferences());
         return;
     }
     for (int v = 0; v < stream.subRecords; ++v) {
@@ -112,16 +140,25 @@ double laterPictureMbs(const Stream& stream, const Level& level)
     return static_cast<double>(level.mbRate) / (stream.frameRate * picturesAFrame(stream));
 }
 
-/// @return No less than 1; a huge number where nothing limits the slices.
-int mostSlices(const Stream& stream, const Level& level)
+constexpr double unlimited = std::numeric_limits<std::int32_t>::max();
+
+/// Most slices of a picture in one view, and in all views.
+struct SliceLimit {
+    int ofView;
+    int ofAll;
+};
+
+SliceLimit mostSlices(const Stream& stream, const Level& level)
 {
-    constexpr double unlimited = std::numeric_limits<std::int32_t>::max();
     if (level.sliceRate == 0 || !stream.streamProfile()->limitsSliceCount) {
-        return static_cast<int>(unlimited);
+        return {static_cast<int>(unlimited), static_cast<int>(unlimited)};
     }
-    double most = firstPictureMbs(stream, level) / level.sliceRate;
-    most = std::min(most, laterPictureMbs(stream, level) / level.sliceRate);
-    return static_cast<int>(std::clamp(most, 1.0, unlimited));
+    const double most =
+        std::min(firstPictureMbs(stream, level), laterPictureMbs(stream, level)) / level.sliceRate;
+    const auto whole = [](double limit, double least) {
+        return static_cast<int>(std::clamp(limit, least, unlimited));
+    };
+    return {whole(most, 1), whole(2 * most, stream.views)};
 }
 
 int leastSlices(const Stream& stream, const Level& level)
@@ -137,18 +174,45 @@ int leastSlices(const Stream& stream, const Level& level)
 
 void judgeSlices(const Stream& stream, const Level& level, Report& report)
 {
-    const int most = mostSlices(stream, level);
+    const SliceLimit most = mostSlices(stream, level);
     const int least = leastSlices(stream, level);
+    int total = 0;
     for (int v = 0; v < stream.subRecords; ++v) {
         const int slices = stream.record.views[v].num_slices;
-        if (slices > most) {
-            report.sayOf(v, slicesMost, level.name, most, slices);
+        total += stream.viewsLike(v) * slices;
+        if (slices > most.ofView) {
+            report.sayOf(v, slicesMost, level.name, most.ofView, slices);
             return;
         }
         if (slices < least) {
             report.sayOf(v, slicesLeast, level.name, least, slices);
             return;
         }
+    }
+    if (stream.multiview && total > most.ofAll) {
+        report.say(slicesTogether, level.name, most.ofAll, stream.views, total);
+    }
+}
+
+/// Holds the size limits of one kind of picture against a level's, in bytes.
+void judgeBytesOf(const Stream& stream, const Level& level, const PictureBytes& row, double limit,
+                  Report& report)
+{
+    double total = 0;
+    bool each = true;
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const KvMvcViewSettings& view = stream.record.views[v];
+        if (view.bitrate_mode == KV_MVC_CONSTANT_QUANTIZER) {
+            continue; // no picture is held to a size
+        }
+        total += static_cast<double>(stream.viewsLike(v)) * view.*row.field;
+        if (view.*row.field > limit) {
+            report.sayOf(v, row.rule, view.*row.field, limit, level.name);
+            each = false;
+        }
+    }
+    if (each && stream.multiview && total > 2 * limit) {
+        report.say(row.together, total, level.name, 2 * limit);
     }
 }
 
@@ -159,17 +223,8 @@ void judgePictureBytes(const Stream& stream, const Level& level, Report& report)
     }
     const double first = 384 * firstPictureMbs(stream, level) / level.minCompression;
     const double later = 384 * laterPictureMbs(stream, level) / level.minCompression;
-    for (int v = 0; v < stream.subRecords; ++v) {
-        const KvMvcViewSettings& view = stream.record.views[v];
-        if (view.bitrate_mode == KV_MVC_CONSTANT_QUANTIZER) {
-            continue; // no picture is held to a size
-        }
-        for (const PictureBytes& row : pictureBytes) {
-            const double limit = row.first ? std::min(first, later) : later;
-            if (view.*row.field > limit) {
-                report.sayOf(v, row.rule, view.*row.field, limit, level.name);
-            }
-        }
+    for (const PictureBytes& row : pictureBytes) {
+        judgeBytesOf(stream, level, row, row.first ? std::min(first, later) : later, report);
     }
 }
 
@@ -185,8 +240,14 @@ void judgeVectors(const Stream& stream, const Level& level, Report& report)
 }
 
 constexpr auto singles = std::to_array<const RuleInfo*>(
-    {&dpb, &dpbViews, &dpbHalf, &slicesMost, &slicesLeast, &vectors});
-constexpr auto rules = joinRules(singles, rulesOf(pictureBytes));
+    {&dpb, &dpbViews, &dpbLooseB, &dpbHalf, &slicesMost, &slicesTogether, &slicesLeast, &vectors});
+constexpr auto togetherRules = [] {
+    std::array<const RuleInfo*, std::size(pictureBytes)> list{};
+    std::ranges::transform(pictureBytes, list.begin(),
+                           [](const PictureBytes& row) { return &row.together; });
+    return list;
+}();
+constexpr auto rules = joinRules(singles, rulesOf(pictureBytes), togetherRules);
 
 } // namespace
 

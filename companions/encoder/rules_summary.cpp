@@ -1,5 +1,7 @@
 // What follows from the settings: the notes that every record gets.
 
+#include <algorithm>
+
 #include "rules.h"
 
 namespace kv::encoder
@@ -18,6 +20,10 @@ constexpr Rule<int, int, const char*> buffered = {
     "summary.dpb", Severity::Note,
     "Reference frames: %d of the %d frames of this size that level %s can store.",
     "A.3.1 h, A.3.2 f, H.10.2.1 f"};
+constexpr ViewRule<int, int, const char*> bufferedViews = {
+    "summary.dpb-views", Severity::Note,
+    KV_ALL_VIEWS("Reference frames: %d of the %d per view that level %s has room for."),
+    "H.10.2.1 f, x, C.4.5.2"};
 constexpr Rule<Decimal, Decimal, const char*> rate = {
     "summary.bitrate", Severity::Note,
     "Bitrate: %d.%0*d of the %d.%0*d Mbit/s that level %s allows.", "A.3.1 j, A.3.3 h, H.10.2.1 r"};
@@ -57,7 +63,28 @@ void tellRates(const Stream& stream, const Level* level, Report& report)
     }
 }
 
-constexpr const RuleInfo* rules[] = {&oneView, &severalViews, &buffered,
+void tellReferences(const Stream& stream, const Level& level, Report& report)
+{
+    const int frames = static_cast<int>(dpbFrames(stream, level));
+    const int room = referenceRoom(stream, level);
+    const int total = stream.totalReferences();
+    if (total > room) {
+        return;
+    }
+    if (!stream.multiview) {
+        report.say(buffered, total, frames, level.name);
+        return;
+    }
+    const int ofBase = stream.base.num_ref_frames;
+    const bool even = total == stream.views * ofBase;
+    for (int v = 0; v < (even ? 1 : stream.subRecords); ++v) {
+        const int used = stream.record.views[v].num_ref_frames;
+        const int left = even ? room / stream.views : used + (room - total) / stream.viewsLike(v);
+        report.sayOf(v, bufferedViews, used, std::min(left, frames / 2), level.name);
+    }
+}
+
+constexpr const RuleInfo* rules[] = {&oneView, &severalViews, &buffered,  &bufferedViews,
                                      &rate,    &rateUnknown,  &bufferTime};
 
 } // namespace
@@ -74,10 +101,7 @@ void tellSummary(const Stream& stream, const Level* level, Report& report)
         report.say(oneView, stream.profile->name, stream.profile->idc);
     }
     if (level && stream.frameMbs <= level->frameMbs) {
-        const int frames = static_cast<int>(dpbFrames(stream, *level));
-        if (stream.totalReferences() <= frames) {
-            report.say(buffered, stream.totalReferences(), frames, level->name);
-        }
+        tellReferences(stream, *level, report);
     }
     tellRates(stream, level, report);
 }

@@ -160,6 +160,7 @@ Stream::Stream(const KvMvcSettings& settings)
       outputRate(frameRate * outputFactor(base.pulldown)),
       predicts(base.i_interval != 1),
       bFrames(predicts && base.ref_distance > 1),
+      looseB(bFrames && (base.reference_b == 0 || base.pyramid_b != 0 || base.ref_distance == 2)),
       disc(base.video_type == KV_MVC_BLURAY_3D)
 {
 }
@@ -193,6 +194,15 @@ int Stream::totalReferences() const
     return sum;
 }
 
+int Stream::mostReferences() const
+{
+    int most = 0;
+    for (int v = 0; v < subRecords; ++v) {
+        most = std::max(most, record.views[v].num_ref_frames);
+    }
+    return most;
+}
+
 std::int64_t dpbFrames(const Stream& stream, const Level& level)
 {
     if (stream.views == 1) {
@@ -201,6 +211,12 @@ std::int64_t dpbFrames(const Stream& stream, const Level& level)
     // 16 * max(1, ceil(log2 N)): 16 for two views, 32 for three and four.
     const std::int64_t cap = stream.views == 2 ? 16 : 32;
     return std::min<std::int64_t>(2 * level.dpbMbs / stream.frameMbs, cap);
+}
+
+int referenceRoom(const Stream& stream, const Level& level)
+{
+    const int kept = stream.multiview && stream.looseB ? 1 : 0;
+    return static_cast<int>(dpbFrames(stream, level)) - kept;
 }
 
 } // namespace kv::encoder

@@ -67,6 +67,7 @@ struct Stream {
     double outputRate;       ///< frames per second at the shortest distance between output times
     bool predicts;           ///< there are other pictures than I pictures
     bool bFrames;            ///< there are B pictures
+    bool looseB;             ///< some of them are no reference pictures
     bool disc;               ///< made for Blu-ray 3D
 
     /// The profile that limits rates and slices: the multiview profile, else the base view's.
@@ -77,9 +78,16 @@ struct Stream {
     std::int64_t totalRate() const;
     std::int64_t totalBuffer() const;
     int totalReferences() const;
+    /// The largest number of a view.
+    int mostReferences() const;
 };
 
 /// Frames that the decoded picture buffer holds at a level (A.3.1 h; H.10.2.1 f).
 std::int64_t dpbFrames(const Stream& stream, const Level& level);
+
+/// Those of them that are left for reference frames. A view component that is no reference picture
+/// but predicts another view's is kept until that one is decoded (C.4.5.2): one frame at least,
+/// also where the whole buffer is full of reference frames.
+int referenceRoom(const Stream& stream, const Level& level);
 
 } // namespace kv::encoder

@@ -9,6 +9,23 @@ using Record = KvMvcSettings;
 using encoder::setBoth;
 using encoder::setFrameRate;
 
+/// Four views of 1280 x 720 at 15 frames/s, which level 3.1 takes (two times 108000 macroblocks/s),
+/// with slices of the base view and of each other one.
+///
+/// H.10.2.1 k: 2 * 3600 / 60 slices in the first access unit. H.10.2.1 s, u: 2 * 384 * 3600 / 4
+/// bytes in the first, 2 * 384 * 108000 / 15 / 4 in the others.
+template <int ofBase, int ofOthers>
+void fourViews(Record& r)
+{
+    r.num_views = 4;
+    setBoth(r, &V::level, 31);
+    setBoth(r, &V::width, 1280);
+    setBoth(r, &V::height, 720);
+    setFrameRate(r, 15);
+    setBoth(r, &V::num_slices, ofOthers);
+    r.views[0].num_slices = ofBase;
+}
+
 constexpr RuleCase rows[] = {
     {"level.picture", "8160 at level 4.1", 0, [](Record&) {}, false},
     {"level.picture", "8160 at level 3.2", 0, [](Record& r) { setBoth(r, &V::level, 32); }, true},
@@ -46,14 +63,41 @@ constexpr RuleCase rows[] = {
     {"level.rate-views", "three views at 23.976, level 4.2", 1, [](Record& r) { r.num_views = 3;setBoth(r, &V::level, 42); }, false},
     {"level.frame-rate", "172", 0, [](Record& r) { setBoth(r, &V::width, 352);setBoth(r, &V::height, 288);setFrameRate(r, 172); }, false},
     {"level.frame-rate", "172.1", 0, [](Record& r) { setBoth(r, &V::width, 352);setBoth(r, &V::height, 288);setFrameRate(r, 172.1); }, true},
-    {"level.dpb-views", "8 of 8", 2, [](Record&) {  }, false},
+    {"level.dpb-views", "8 of 8 without B-frames", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::ref_distance, 1); }, false},
+    {"level.dpb-views", "8 of 8 with B-frames", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
     {"level.dpb-views", "10 of 8", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }, true},
-    {"level.dpb-views", "9 of 8, uneven", 2, [](Record& r) { r.views[0].num_ref_frames = 5; }, true},
+    {"level.dpb-views", "9 of 8, uneven", 2, [](Record& r) { r.views[0].num_ref_frames = 5;r.views[1].num_ref_frames = 4; }, true},
     {"level.dpb-views", "3 each of 3 views", 1, [](Record& r) { r.num_views = 3;setBoth(r, &V::level, 42); }, true},
     {"level.dpb-views", "2 each of 4 views", 1, [](Record& r) { r.num_views = 4;setBoth(r, &V::level, 42);setBoth(r, &V::num_ref_frames, 2); }, false},
-    {"level.dpb-half", "4 of 8", 2, [](Record&) {  }, false},
-    {"level.dpb-half", "5 and 3 of 8", 2, [](Record& r) { r.views[0].num_ref_frames = 5;r.views[1].num_ref_frames = 3; }, true},
-    {"level.dpb-half", "3 and 5 of 8", 2, [](Record& r) { r.views[0].num_ref_frames = 3;r.views[1].num_ref_frames = 5; }, true},
+    {"level.dpb-views-b", "3 in each view, and a B-frame", 2, [](Record&) {  }, false},
+    {"level.dpb-views-b", "4 in each view, and a B-frame", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, true},
+    {"level.dpb-views-b", "4 and 3, and a B-frame", 2, [](Record& r) { r.views[0].num_ref_frames = 4; }, false},
+    {"level.dpb-views-b", "4 in each view, B-frames are references", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::reference_b, 1); }, false},
+    {"level.dpb-views-b", "4 in each view, the upper B-frames of a pyramid are none", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::reference_b, 1);setBoth(r, &V::pyramid_b, 1); }, true},
+    {"level.dpb-views-b", "4 in each view, a single B-frame is none", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::reference_b, 1);setBoth(r, &V::ref_distance, 2); }, true},
+    {"level.dpb-views-b", "4 in each view, no B-frames", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::ref_distance, 1); }, false},
+    {"level.dpb-views-b", "4 in each view, I-frames only", 2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4);setBoth(r, &V::i_interval, 1); }, false},
+    {"level.dpb-views-b", "4 of one view", 0, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
+    {"level.dpb-views-b", "2 each of 4 views", 1, [](Record& r) { r.num_views = 4;setBoth(r, &V::level, 42);setBoth(r, &V::num_ref_frames, 2); }, true},
+    {"level.dpb-half", "4 of 8", 2, [](Record& r) { r.views[0].num_ref_frames = 4; }, false},
+    {"level.dpb-half", "5 and 2 of 8", 2, [](Record& r) { r.views[0].num_ref_frames = 5;r.views[1].num_ref_frames = 2; }, true},
+    {"level.dpb-half", "2 and 5 of 8", 2, [](Record& r) { r.views[0].num_ref_frames = 2;r.views[1].num_ref_frames = 5; }, true},
+    {"level.slices-most-views", "four views of 30 in 1280 x 720 at 15, level 3.1", 1, fourViews<30, 30>, false},
+    {"level.slices-most-views", "one slice more in the base view", 1, fourViews<31, 30>, true},
+    {"level.slices-most-views", "four views of 45", 1, fourViews<45, 45>, true},
+    {"level.slices-most-views", "two views of 45", 1, [](Record& r) { fourViews<45, 45>(r); r.num_views = 2; }, false},
+    {"level.slices-most", "45 in each of four views", 1, fourViews<45, 45>, false},
+    {"level.size-i-views", "691200 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_i, 172800); }, false},
+    {"level.size-i-views", "691201 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_i, 172800); r.views[0].frame_size_i = 172801; }, true},
+    {"level.size-i-views", "more in a constant quantizer mode", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_i, 172800); r.views[0].frame_size_i = 172801; r.views[0].bitrate_mode = 1; }, false},
+    {"level.size-p-views", "1382400 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_p, 345600); }, false},
+    {"level.size-p-views", "1382401 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_p, 345600); r.views[0].frame_size_p = 345601; }, true},
+    {"level.size-p-views", "two views", 1, [](Record& r) { fourViews<5, 5>(r); r.num_views = 2; setBoth(r, &V::frame_size_p, 691200); }, false},
+    {"level.size-p-views", "one view too large by itself", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_p, 691201); }, false},
+    {"level.size-b-views", "1382400 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_b, 345600); }, false},
+    {"level.size-b-views", "1382401 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_b, 345600); r.views[0].frame_size_b = 345601; }, true},
+    {"level.size-br-views", "1382400 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_bref, 345600); }, false},
+    {"level.size-br-views", "1382401 bytes of four views", 1, [](Record& r) { fourViews<5, 5>(r); setBoth(r, &V::frame_size_bref, 345600); r.views[0].frame_size_bref = 345601; }, true},
     {"level.bitrate", "Main at 60 Mbit/s", 0, [](Record& r) { setBoth(r, &V::profile, 1);r.views[0].max_bitrate = 60000000; }, false},
     {"level.bitrate", "Main above", 0, [](Record& r) { setBoth(r, &V::profile, 1);r.views[0].max_bitrate = 60000001; }, true},
     {"level.bitrate", "Main base view of two above", 2, [](Record& r) { setBoth(r, &V::profile, 1);r.views[0].max_bitrate = 60000001;r.views[1].max_bitrate = 10000000; }, true},

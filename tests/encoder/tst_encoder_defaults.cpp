@@ -133,9 +133,9 @@ void TestEncoderDefaults::differByPreset_data()
     QTest::addColumn<int>("views");
     QTest::addColumn<int>("references");
     QTest::addColumn<int>("baseTarget");
-    QTest::newRow("none") << 0 << 1 << 4 << 20000000;
+    QTest::newRow("none") << 0 << 1 << 3 << 20000000;
     QTest::newRow("Multivew High") << 1 << 2 << 3 << 20000000;
-    QTest::newRow("Stereo High") << 2 << 2 << 4 << 20000000;
+    QTest::newRow("Stereo High") << 2 << 2 << 3 << 20000000;
     QTest::newRow("Blu-ray 3D") << 3 << 2 << 3 << 22000000;
 }
 

@@ -365,20 +365,21 @@ void TestEncoderLevels::severalViewsOf1080Lines_data()
     QTest::addColumn<int>("level");
     QTest::addColumn<int>("views");
     QTest::addColumn<double>("frameRate"); // fits; a tenth more does not
-    QTest::addColumn<int>("references");   // of each view; one more does not fit
-    QTest::newRow("4.1, 2") << 41 << 2 << 30.1 << 4;
-    QTest::newRow("4.1, 3") << 41 << 3 << 20.0 << 2;
-    QTest::newRow("4.1, 4") << 41 << 4 << 15.0 << 2;
-    QTest::newRow("4.2, 2") << 42 << 2 << 64.0 << 4;
-    QTest::newRow("4.2, 3") << 42 << 3 << 42.6 << 2;
-    QTest::newRow("4.2, 4") << 42 << 4 << 32.0 << 2;
-    QTest::newRow("5, 2") << 50 << 2 << 72.2 << 8;
-    QTest::newRow("5, 3") << 50 << 3 << 48.1 << 9;
-    QTest::newRow("5, 4") << 50 << 4 << 36.1 << 6;
-    QTest::newRow("5.1, 3") << 51 << 3 << 80.3 << 10;
-    QTest::newRow("5.1, 4") << 51 << 4 << 60.2 << 8;
-    QTest::newRow("5.2, 3") << 52 << 3 << 169.4 << 10;
-    QTest::newRow("5.2, 4") << 52 << 4 << 127.0 << 8;
+    QTest::addColumn<int>("references");   // of each view, without B-frames; one more does not fit
+    QTest::addColumn<int>("withB");        // likewise, with B-frames: one frame less for all views
+    QTest::newRow("4.1, 2") << 41 << 2 << 30.1 << 4 << 3;
+    QTest::newRow("4.1, 3") << 41 << 3 << 20.0 << 2 << 2;
+    QTest::newRow("4.1, 4") << 41 << 4 << 15.0 << 2 << 1;
+    QTest::newRow("4.2, 2") << 42 << 2 << 64.0 << 4 << 3;
+    QTest::newRow("4.2, 3") << 42 << 3 << 42.6 << 2 << 2;
+    QTest::newRow("4.2, 4") << 42 << 4 << 32.0 << 2 << 1;
+    QTest::newRow("5, 2") << 50 << 2 << 72.2 << 8 << 7;
+    QTest::newRow("5, 3") << 50 << 3 << 48.1 << 9 << 8;
+    QTest::newRow("5, 4") << 50 << 4 << 36.1 << 6 << 6;
+    QTest::newRow("5.1, 3") << 51 << 3 << 80.3 << 10 << 10;
+    QTest::newRow("5.1, 4") << 51 << 4 << 60.2 << 8 << 7;
+    QTest::newRow("5.2, 3") << 52 << 3 << 169.4 << 10 << 10;
+    QTest::newRow("5.2, 4") << 52 << 4 << 127.0 << 8 << 7;
 }
 
 void TestEncoderLevels::severalViewsOf1080Lines()
@@ -394,7 +395,8 @@ void TestEncoderLevels::severalViewsOf1080Lines()
     setBoth(start, &V::bitrate, 10000000);
     setBoth(start, &V::bitrate_buffer, 1600000);
     encoder::setFrameRate(start, 10);
-    setBoth(start, &V::num_ref_frames, 2);
+    setBoth(start, &V::num_ref_frames, 1);
+    setBoth(start, &V::ref_distance, 1);
 
     KvMvcSettings within = start;
     encoder::setFrameRate(within, frameRate);
@@ -405,6 +407,18 @@ void TestEncoderLevels::severalViewsOf1080Lines()
         setField(changed, &V::num_ref_frames, frames);
     };
     compareSides(start, change, references, references + 1, "level.dpb-views");
+
+    QFETCH(const int, withB);
+    setBoth(start, &V::ref_distance, 3);
+    const auto isTooMany = [&](int frames) {
+        KvMvcSettings record = start;
+        change(record, frames);
+        const Outcome outcome = encoder::check(record);
+        return outcome.said(QStringLiteral("level.dpb-views")) ||
+               outcome.said(QStringLiteral("level.dpb-views-b"));
+    };
+    QVERIFY(!isTooMany(withB));
+    QVERIFY(isTooMany(withB + 1));
 }
 
 void TestEncoderLevels::automaticLevel_data()

@@ -85,6 +85,8 @@ private Q_SLOTS:
     void correctionsNameTheOtherView();
     void anEmptyViewOneGetsFewMessages();
     void keptReferencesMayBeMoreThanActiveOnes();
+    void referencesAreToldForEachView_data();
+    void referencesAreToldForEachView();
     void judgementsNameTheView_data();
     void judgementsNameTheView();
     void anUnusedViewIsLeftAlone();
@@ -253,6 +255,7 @@ void TestEncoderViews::keptReferencesMayBeMoreThanActiveOnes()
     KvMvcSettings record = encoder::preset(2);
     setBoth(record, &V::level, 50);
     setBoth(record, &V::num_ref_frames, 8);
+    setBoth(record, &V::ref_distance, 1); // B-frames take one of them
     const Outcome outcome = encoder::check(record);
     QVERIFY2(outcome.accepted() && outcome.warnings().isEmpty(), outcome.all().constData());
     QVERIFY2(
@@ -260,6 +263,63 @@ void TestEncoderViews::keptReferencesMayBeMoreThanActiveOnes()
                                  "once; 9 are kept, other views included."),
         outcome.all().constData());
     QCOMPARE(outcome.rules.count(QStringLiteral("mvc.list-size")), 1);
+}
+
+void TestEncoderViews::referencesAreToldForEachView_data()
+{
+    QTest::addColumn<int>("base");
+    QTest::addColumn<int>("other");
+    QTest::addColumn<int>("distance");
+    QTest::addColumn<QByteArrayList>("errors");
+    QTest::addColumn<QByteArrayList>("notes");
+    // Two views of 1920 x 1080 share 8 frames; one is kept for the B-frames of the base view.
+    QTest::newRow("3 each") << 3 << 3 << 3 << QByteArrayList()
+                            << QByteArrayList{"Reference frames: 3 of the 3 per view that level "
+                                              "4.1 has room for."};
+    QTest::newRow("4 each") << 4 << 4 << 3
+                            << QByteArrayList{"With B-frames, level 4.1 has room for 3 reference "
+                                              "frames in each of 2 views (now 4): use fewer."}
+                            << QByteArrayList();
+    QTest::newRow("4 each, no B-frames")
+        << 4 << 4 << 1 << QByteArrayList()
+        << QByteArrayList{"Reference frames: 4 of the 4 per view that level 4.1 has room for."};
+    QTest::newRow("5 each, no B-frames")
+        << 5 << 5 << 1
+        << QByteArrayList{"Level 4.1 has room for 4 reference frames of this size in each of 2 "
+                          "views (now 5): use fewer."}
+        << QByteArrayList();
+    QTest::newRow("5 each") << 5 << 5 << 3
+                            << QByteArrayList{"Level 4.1 has room for 3 reference frames of this "
+                                              "size in each of 2 views (now 5): use fewer."}
+                            << QByteArrayList();
+    QTest::newRow("uneven") << 3 << 2 << 3 << QByteArrayList()
+                            << QByteArrayList{
+                                   "Reference frames: 3 of the 4 per view that level 4.1 has room "
+                                   "for.",
+                                   "View 1: Reference frames: 2 of the 4 per view that level 4.1 "
+                                   "has room for."};
+}
+
+void TestEncoderViews::referencesAreToldForEachView()
+{
+    QFETCH(const int, base);
+    QFETCH(const int, other);
+    QFETCH(const int, distance);
+    QFETCH(const QByteArrayList, errors);
+    QFETCH(const QByteArrayList, notes);
+    KvMvcSettings record = encoder::preset(2);
+    record.views[0].num_ref_frames = base;
+    record.views[1].num_ref_frames = other;
+    setBoth(record, &V::ref_distance, distance);
+    const Outcome outcome = encoder::check(record);
+    QCOMPARE(outcome.errors(), errors);
+    QByteArrayList told;
+    for (const QByteArray& note : outcome.notes()) {
+        if (note.contains("Reference frames:")) {
+            told += note;
+        }
+    }
+    QCOMPARE(told, notes);
 }
 
 void TestEncoderViews::judgementsNameTheView_data()

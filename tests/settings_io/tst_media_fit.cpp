@@ -147,7 +147,7 @@ const Row rows[] = {
         {{&View::num_ref_frames, 3, 2}, {&View::ref_distance, 3, 3}, {&View::level, 40, 40}, {&View::bitrate, 6000000, 1000000}}, ""},
     {"two views of five references", [](KvMediaInfo& info) { info.num_views = 2; info.mvc_level_idc = 40; info.num_ref_frames = 5; info.dependent_bit_rate = 2000000; },
         {{&View::num_ref_frames, 5, 5}, {&View::level, autoLevel, autoLevel}, {&View::bitrate, 6000000, 2000000}}, "its level is not kept, Auto is taken\n"},
-    {"the second view's maximum is made up", [](KvMediaInfo& info) { info.num_views = 2; info.mvc_level_idc = 40; info.hrd_bit_rate = 18000000; info.hrd_buffer_size = 18000000; info.bit_rate = 29000000; info.dependent_bit_rate = 11000000; },
+    {"the second view's maximum is made up", [](KvMediaInfo& info) { info.num_views = 2; info.mvc_level_idc = 40; info.num_ref_frames = 3; info.hrd_bit_rate = 18000000; info.hrd_buffer_size = 18000000; info.bit_rate = 29000000; info.dependent_bit_rate = 11000000; },
         {{&View::level, 40, 40}, {&View::max_bitrate, 18000000, 11000000}, {&View::bitrate, 18000000, 11000000}}, ""},
 };
 // clang-format on
