@@ -11,6 +11,10 @@
  *     }
  *     kvMvcFreeMessages(&said);
  *
+ * What a message is about (its rule, setting, view, numbers) comes with it where the encoder tells:
+ * KvMvcMessage::about, or kvMvcMessageAbout() for a listener of your own. kvMvcRunFullCheck() also
+ * tells how much of each limit is used.
+ *
  * A check calls its sinks without saying for whom, so each thread has one listener at a time; a
  * check that is run inside another one has its own.
  */
@@ -28,17 +32,10 @@
 
 /* C has no nullptr. NOLINTBEGIN(modernize-use-nullptr) */
 
-/** The kinds of messages; progress is none. */
-enum KvMvcMessageKind {
-    KV_MVC_MESSAGE_ERROR = 0,
-    KV_MVC_MESSAGE_WARNING = 1,
-    KV_MVC_MESSAGE_NOTE = 2
-};
-
 /**
  * Takes a message, during the check and on its thread.
  * @param context KvMvcListener::context.
- * @param kind    KvMvcMessageKind.
+ * @param kind    KvMvcMessageKind, as the sinks know it: a risk is a warning.
  * @param text    The whole message, valid during the call; encoded as the encoder has it: UTF-8, or
  *                Latin-1 where it is no valid UTF-8.
  * @return Whether it could be kept; otherwise it counts as lost, and so it does when this throws.
@@ -53,6 +50,21 @@ typedef struct KvMvcListener {
     KvMvcLocalizeConvert translate;
     size_t lost; /**< set by kvMvcRunCheck(): messages that there was no memory for */
 } KvMvcListener;
+
+/**
+ * Takes the use of a limit, during the check and on its thread.
+ * @param context KvMvcLimitListener::context.
+ * @param use     Whole, whatever size the encoder has of it; valid during the call.
+ * @return As KvMvcHear.
+ */
+typedef int (*KvMvcHearLimitUse)(void* context, const KvMvcLimitUse* use);
+
+/** Who takes how much of the limits is used. */
+typedef struct KvMvcLimitListener {
+    KvMvcHearLimitUse hear;
+    void* context; /**< for `hear` */
+    size_t lost;   /**< set by kvMvcRunFullCheck(), as KvMvcListener's */
+} KvMvcLimitListener;
 
 /* --- What a check is given ----------------------------------------------- */
 
@@ -109,15 +121,86 @@ static inline char* kvMvcFormatMessage(const char* format, va_list arguments)
     return text;
 }
 
-/** The listener of this thread; null outside checks. */
-static inline KvMvcListener** kvMvcListening(void)
+/** Appends a text to a block; @return where it is, null for null. */
+static inline const char* kvMvcPlaceText(char** end, const char* text)
+{
+    char* const placed = *end;
+    const size_t size = text != NULL ? strlen(text) + 1 : 0;
+    if (text == NULL) {
+        return NULL;
+    }
+    memcpy(placed, text, size);
+    *end += size;
+    return placed;
+}
+
+static inline size_t kvMvcRoomOf(const char* text)
+{
+    return text != NULL ? strlen(text) + 1 : 0;
+}
+
+/**
+ * A copy with texts of its own; members that the encoder does not have yet are zeros.
+ * @return One block, to be freed with free(); null when there is no memory.
+ */
+static inline KvMvcMessageAbout* kvMvcCopyAbout(const KvMvcMessageAbout* about)
+{
+    KvMvcMessageAbout known;
+    KvMvcMessageAbout* copy;
+    char* end;
+    memset(&known, 0, sizeof known);
+    memcpy(&known, about, about->size < sizeof known ? about->size : sizeof known);
+    known.size = (uint32_t)sizeof known;
+    copy = (KvMvcMessageAbout*)malloc(sizeof known + kvMvcRoomOf(known.rule) +
+                                      kvMvcRoomOf(known.setting) + kvMvcRoomOf(known.level));
+    if (copy != NULL) {
+        end = (char*)(copy + 1);
+        known.rule = kvMvcPlaceText(&end, known.rule);
+        known.setting = kvMvcPlaceText(&end, known.setting);
+        known.level = kvMvcPlaceText(&end, known.level);
+        *copy = known;
+    }
+    return copy;
+}
+
+/** The same of a limit's use. */
+static inline KvMvcLimitUse* kvMvcCopyLimitUse(const KvMvcLimitUse* use)
+{
+    KvMvcLimitUse known;
+    KvMvcLimitUse* copy;
+    char* end;
+    memset(&known, 0, sizeof known);
+    memcpy(&known, use, use->size < sizeof known ? use->size : sizeof known);
+    known.size = (uint32_t)sizeof known;
+    copy = (KvMvcLimitUse*)malloc(sizeof known + kvMvcRoomOf(known.name) + kvMvcRoomOf(known.unit) +
+                                  kvMvcRoomOf(known.rule) + kvMvcRoomOf(known.level));
+    if (copy != NULL) {
+        end = (char*)(copy + 1);
+        known.name = kvMvcPlaceText(&end, known.name);
+        known.unit = kvMvcPlaceText(&end, known.unit);
+        known.rule = kvMvcPlaceText(&end, known.rule);
+        known.level = kvMvcPlaceText(&end, known.level);
+        *copy = known;
+    }
+    return copy;
+}
+
+/** A check on its way. */
+typedef struct KvMvcRunningCheck {
+    KvMvcListener* listener;
+    KvMvcLimitListener* limits; /**< may be null */
+    KvMvcMessageAbout* about;   /**< of the next message; null: not told */
+} KvMvcRunningCheck;
+
+/** The check of this thread; null outside checks. */
+static inline KvMvcRunningCheck** kvMvcListening(void)
 {
 #if defined(__cplusplus)
-    static thread_local KvMvcListener* listener = NULL;
+    static thread_local KvMvcRunningCheck* running = NULL;
 #else
-    static _Thread_local KvMvcListener* listener = NULL;
+    static _Thread_local KvMvcRunningCheck* running = NULL;
 #endif
-    return &listener;
+    return &running;
 }
 
 static inline int kvMvcHearText(const KvMvcListener* listener, int32_t kind, const char* text)
@@ -134,20 +217,71 @@ static inline int kvMvcHearText(const KvMvcListener* listener, int32_t kind, con
 #endif
 }
 
+static inline int kvMvcHearUse(const KvMvcLimitListener* listener, const KvMvcLimitUse* use)
+{
+#if defined(__cpp_exceptions)
+    try {
+        return listener->hear(listener->context, use);
+    } catch (...) {
+        return 0;
+    }
+#else
+    return listener->hear(listener->context, use);
+#endif
+}
+
 static inline void kvMvcTakeMessage(int32_t kind, const char* format, va_list arguments)
 {
-    KvMvcListener* const listener = *kvMvcListening();
+    KvMvcRunningCheck* const running = *kvMvcListening();
+    KvMvcListener* listener;
     const char* translated;
     char* text;
-    if (listener == NULL) {
+    if (running == NULL) {
         return;
     }
+    listener = running->listener;
     translated = listener->translate != NULL ? listener->translate(format) : NULL;
     text = kvMvcFormatMessage(translated != NULL ? translated : format, arguments);
     if (text == NULL || !kvMvcHearText(listener, kind, text)) {
         ++listener->lost;
     }
     free(text);
+    free(running->about);
+    running->about = NULL;
+}
+
+static inline void kvMvcTakeAbout(const KvMvcMessageAbout* about)
+{
+    KvMvcRunningCheck* const running = *kvMvcListening();
+    if (running != NULL) {
+        free(running->about);
+        running->about = kvMvcCopyAbout(about);
+    }
+}
+
+static inline void kvMvcTakeLimitUse(const KvMvcLimitUse* use)
+{
+    KvMvcRunningCheck* const running = *kvMvcListening();
+    KvMvcLimitUse* whole;
+    if (running == NULL || running->limits == NULL) {
+        return;
+    }
+    whole = kvMvcCopyLimitUse(use);
+    if (whole == NULL || !kvMvcHearUse(running->limits, whole)) {
+        ++running->limits->lost;
+    }
+    free(whole);
+}
+
+/**
+ * For a KvMvcHear: what the message that it takes is about.
+ * @return Valid as long as the message's text; null where the encoder does not tell, or there is no
+ *         memory for it.
+ */
+static inline const KvMvcMessageAbout* kvMvcMessageAbout(void)
+{
+    const KvMvcRunningCheck* const running = *kvMvcListening();
+    return running != NULL ? running->about : NULL;
 }
 
 static inline int kvMvcPrintError(const char* format, ...)
@@ -183,36 +317,59 @@ static inline int kvMvcDropProgress(const char* format, ...)
     return 0;
 }
 
-/** The KvMvcLookup of kvMvcRunCheck(). */
+/** The KvMvcLookup of kvMvcRunCheck() and kvMvcRunFullCheck(). */
 static inline KvMvcFunction kvMvcLookUp(const char* name)
 {
     const KvMvcSinks sinks = {&kvMvcPrintError, &kvMvcPrintWarning, &kvMvcPrintNote,
                               &kvMvcDropProgress};
+    const KvMvcRunningCheck* const running = *kvMvcListening();
+    if (name != NULL && strcmp(name, KV_MVC_MESSAGE_ABOUT) == 0) {
+        return (KvMvcFunction)&kvMvcTakeAbout;
+    }
+    /* An encoder that nobody listens to saves itself the work. */
+    if (name != NULL && strcmp(name, KV_MVC_LIMIT_USE) == 0) {
+        return running != NULL && running->limits != NULL ? (KvMvcFunction)&kvMvcTakeLimitUse
+                                                          : NULL;
+    }
     return kvMvcLookUpIn(&sinks, name);
 }
 
 /**
- * Runs the check as the dialog does, all of its messages going to the listener.
+ * Runs the check as the dialog does, all of its messages going to the listener, and how much of the
+ * limits is used to the other one, which may be null.
  * @param settings May be corrected by the check, whatever its result.
  * @return The check's: 0 when the settings are acceptable.
  */
+static inline int32_t kvMvcRunFullCheck(KvMvcCheck check, KvMvcSettings* settings,
+                                        KvMvcListener* listener, KvMvcLimitListener* limits)
+{
+    KvMvcRunningCheck* const former = *kvMvcListening();
+    KvMvcRunningCheck running = {listener, limits, NULL};
+    int32_t result;
+    listener->lost = 0;
+    if (limits != NULL) {
+        limits->lost = 0;
+    }
+    *kvMvcListening() = &running;
+    result = check(&kvMvcLookUp, settings, KV_MVC_CHECK_STAGE, 0);
+    *kvMvcListening() = former;
+    free(running.about); /* of a message that never came */
+    return result;
+}
+
+/** The same for who wants the messages alone. */
 static inline int32_t kvMvcRunCheck(KvMvcCheck check, KvMvcSettings* settings,
                                     KvMvcListener* listener)
 {
-    KvMvcListener* const former = *kvMvcListening();
-    int32_t result;
-    listener->lost = 0;
-    *kvMvcListening() = listener;
-    result = check(&kvMvcLookUp, settings, KV_MVC_CHECK_STAGE, 0);
-    *kvMvcListening() = former;
-    return result;
+    return kvMvcRunFullCheck(check, settings, listener, NULL);
 }
 
 /* --- Messages in a list --------------------------------------------------- */
 
 typedef struct KvMvcMessage {
-    int32_t kind; /**< KvMvcMessageKind */
-    char* text;   /**< owned by the list */
+    int32_t kind;             /**< KvMvcMessageKind, as a KvMvcHear gets it */
+    char* text;               /**< owned by the list */
+    KvMvcMessageAbout* about; /**< likewise; null where kvMvcMessageAbout() was */
 } KvMvcMessage;
 
 /** Messages in the order in which they came. Zeros are an empty list; it grows by itself. */
@@ -226,6 +383,7 @@ static inline int kvMvcKeepMessage(void* context, int32_t kind, const char* text
 {
     KvMvcMessageList* const list = (KvMvcMessageList*)context;
     const size_t size = strlen(text) + 1;
+    const KvMvcMessageAbout* const about = kvMvcMessageAbout();
     char* const copy = (char*)malloc(size);
     KvMvcMessage* const longer =
         copy == NULL ? NULL
@@ -238,6 +396,7 @@ static inline int kvMvcKeepMessage(void* context, int32_t kind, const char* text
     list->messages = longer;
     list->messages[list->count].kind = kind;
     list->messages[list->count].text = copy;
+    list->messages[list->count].about = about != NULL ? kvMvcCopyAbout(about) : NULL;
     ++list->count;
     return 1;
 }
@@ -248,9 +407,46 @@ static inline void kvMvcFreeMessages(KvMvcMessageList* list)
     size_t i;
     for (i = 0; i < list->count; ++i) {
         free(list->messages[i].text);
+        free(list->messages[i].about);
     }
     free(list->messages);
     list->messages = NULL;
+    list->count = 0;
+}
+
+/** Uses of limits in the order in which they came. Zeros are an empty list; it grows by itself. */
+typedef struct KvMvcLimitList {
+    KvMvcLimitUse** uses; /**< owned by the list */
+    size_t count;
+} KvMvcLimitList;
+
+/** A KvMvcHearLimitUse whose context is a KvMvcLimitList, which keeps a copy. */
+static inline int kvMvcKeepLimitUse(void* context, const KvMvcLimitUse* use)
+{
+    KvMvcLimitList* const list = (KvMvcLimitList*)context;
+    KvMvcLimitUse* const copy = kvMvcCopyLimitUse(use);
+    KvMvcLimitUse** const longer =
+        copy == NULL ? NULL
+                     : (KvMvcLimitUse**)realloc(list->uses, (list->count + 1) * sizeof *longer);
+    if (longer == NULL) {
+        free(copy);
+        return 0;
+    }
+    list->uses = longer;
+    list->uses[list->count] = copy;
+    ++list->count;
+    return 1;
+}
+
+/** Frees them; an empty list is left. */
+static inline void kvMvcFreeLimitUses(KvMvcLimitList* list)
+{
+    size_t i;
+    for (i = 0; i < list->count; ++i) {
+        free(list->uses[i]);
+    }
+    free(list->uses);
+    list->uses = NULL;
     list->count = 0;
 }
 

@@ -80,10 +80,72 @@ typedef void (*KvMvcFunction)(void);
 #define KV_MVC_PROGRESS_SINK "prg_printf"
 
 /**
+ * Names that a lookup may know besides: a KvMvcTellAbout and a KvMvcTellLimitUse, for callers that
+ * want more than texts. The dialog's lookup does not know them. An encoder need not ask for them,
+ * and leaves out what it cannot tell.
+ */
+#define KV_MVC_MESSAGE_ABOUT "msg_about"
+#define KV_MVC_LIMIT_USE "lim_usage"
+
+/**
  * The function lookup that the check receives. It knows KV_MVC_MALLOC, KV_MVC_FREE and the sinks.
  * @return The function, or null for any other name.
  */
 typedef KvMvcFunction (*KvMvcLookup)(const char* name);
+
+/** The kinds of messages; progress is none. */
+enum KvMvcMessageKind {
+    KV_MVC_MESSAGE_ERROR = 0,   /**< the settings are refused */
+    KV_MVC_MESSAGE_WARNING = 1, /**< something was corrected, or is a risk */
+    KV_MVC_MESSAGE_NOTE = 2,
+    /** Nothing is corrected, but it looks like a slip or is known to fail somewhere. The sinks know
+        it as a warning; only KvMvcMessageAbout tells. */
+    KV_MVC_MESSAGE_RISK = 3
+};
+
+/** The view of what is about the whole stream, or about a setting that all views share. */
+enum { KV_MVC_ALL_VIEWS = -1 };
+
+/** The numbers that a KvMvcMessageAbout has, as bits. */
+enum KvMvcAboutNumber { KV_MVC_ABOUT_VALUE = 1, KV_MVC_ABOUT_LIMIT = 2 };
+
+/** What a message is about. Texts are UTF-8, valid during the call, and null where not known. */
+typedef struct KvMvcMessageAbout {
+    /** sizeof the struct as the encoder has it: members may be added at its end, and who reads it
+        looks at none beyond. */
+    uint32_t size;
+    int32_t kind;        /**< KvMvcMessageKind, as the encoder means it */
+    const char* rule;    /**< the encoder's name of the rule: the same in every language */
+    const char* setting; /**< a member of KvMvcViewSettings or KvMvcSettings; the one to look at
+                              first where several have a part in it */
+    int32_t view;        /**< 0 to KV_MVC_MAX_VIEWS - 1, or KV_MVC_ALL_VIEWS */
+    uint32_t numbers;    /**< which of the next two there are: KvMvcAboutNumber */
+    double value;        /**< what was judged: the setting's, in the unit of its member; else a sum
+                              in the unit of the limit */
+    double limit;        /**< what it may be at most or at least, or what it was corrected to */
+    const char* level;   /**< the level whose limit it is, or that results: "4.1" */
+} KvMvcMessageAbout;
+
+/** Says what the next message is about, right before its sink is called. */
+typedef void (*KvMvcTellAbout)(const KvMvcMessageAbout* about);
+
+/** How much of a limit the settings use. Texts as in KvMvcMessageAbout. */
+typedef struct KvMvcLimitUse {
+    uint32_t size;     /**< as in KvMvcMessageAbout */
+    int32_t view;      /**< whose use it is; KV_MVC_ALL_VIEWS: of all together */
+    const char* name;  /**< English: "Macroblock rate" */
+    const char* unit;  /**< "macroblocks/s"; may be empty */
+    const char* rule;  /**< the rule that speaks of what is beyond, as in KvMvcMessageAbout */
+    const char* level; /**< the level whose limit it is; null: whatever the level */
+    double used;
+    double limit;
+} KvMvcLimitUse;
+
+/**
+ * Told once for each limit of a check, of the settings as they were corrected, where the stream has
+ * a level: the one that is set, or the one that "Auto" comes to.
+ */
+typedef void (*KvMvcTellLimitUse)(const KvMvcLimitUse* use);
 
 /** The stage of a check that a user's settings go through as a whole. */
 enum { KV_MVC_CHECK_STAGE = 3 };

@@ -66,6 +66,65 @@ static int hear_no_warnings(void* context, int32_t kind, const char* text)
     return 1;
 }
 
+static const char* shown(const char* text)
+{
+    return text != NULL ? text : "-";
+}
+
+/** What each message is about, where it is known. */
+static void print_abouts(const KvMvcMessageList* said)
+{
+    size_t i;
+    for (i = 0; i < said->count; ++i) {
+        const KvMvcMessageAbout* const about = said->messages[i].about;
+        if (about == NULL) {
+            printf("%s about nothing\n", kind_names[said->messages[i].kind]);
+        } else {
+            printf("%s %d %s %s view %d numbers %u %g %g level %s\n",
+                   kind_names[said->messages[i].kind], (int)about->kind, about->rule,
+                   shown(about->setting), (int)about->view, (unsigned)about->numbers, about->value,
+                   about->limit, shown(about->level));
+        }
+    }
+}
+
+static int hear_no_uses(void* context, const KvMvcLimitUse* use)
+{
+    (void)use;
+#if defined(__cplusplus)
+    throw context;
+#else
+    (void)context;
+    return 0;
+#endif
+}
+
+/** A check with the use of its limits; `how` is "limits", or "no-limits" for a deaf listener. */
+static int check_limits(KvMvcCheck function, const char* how)
+{
+    static KvMvcSettings settings;
+    KvMvcMessageList said = {NULL, 0};
+    KvMvcLimitList used = {NULL, 0};
+    KvMvcListener listener = {kvMvcKeepMessage, NULL, NULL, 0};
+    KvMvcLimitListener limits = {kvMvcKeepLimitUse, NULL, 7};
+    size_t i;
+    listener.context = &said;
+    limits.context = &used;
+    if (strcmp(how, "no-limits") == 0) {
+        limits.hear = hear_no_uses;
+    }
+    kvMvcRunFullCheck(function, &settings, &listener, &limits);
+    printf("messages %lu, lost %lu\n", (unsigned long)said.count, (unsigned long)limits.lost);
+    for (i = 0; i < used.count; ++i) {
+        const KvMvcLimitUse* const use = used.uses[i];
+        printf("view %d %s: %g of %g %s, rule %s, level %s\n", (int)use->view, use->name, use->used,
+               use->limit, use->unit, use->rule, shown(use->level));
+    }
+    kvMvcFreeMessages(&said);
+    kvMvcFreeLimitUses(&used);
+    return used.count == 0 && used.uses == NULL && kvMvcLookUp(KV_MVC_LIMIT_USE) == NULL ? 0 : 4;
+}
+
 static KvMvcCheck inner_check;
 
 /** A check that asks another one before it says something itself. */
@@ -102,14 +161,22 @@ static int check(const KvMvcLibrary* encoder, const char* how)
     } else if (strcmp(how, "nested") == 0) {
         inner_check = function;
         function = outer_check;
+    } else if (strstr(how, "limits") != NULL) {
+        return check_limits(function, how);
+    } else if (strncmp(how, "about-", 6) == 0) {
+        allocations_until_failure = atoi(how + 6);
     } else if (how[0] >= '0' && how[0] <= '9') {
         allocations_until_failure = atoi(how);
     }
     result = kvMvcRunCheck(function, &settings, &listener);
     printf("result %d, width %d, lost %lu, heard %d\n", (int)result, (int)settings.views[0].width,
            (unsigned long)listener.lost, heard);
-    for (i = 0; i < said.count; ++i) {
-        print_message(said.messages[i].kind, said.messages[i].text);
+    if (strncmp(how, "about", 5) == 0) {
+        print_abouts(&said);
+    } else {
+        for (i = 0; i < said.count; ++i) {
+            print_message(said.messages[i].kind, said.messages[i].text);
+        }
     }
     kvMvcFreeMessages(&said);
     /* Sinks outside a check have nobody to tell. */

@@ -119,6 +119,10 @@ private Q_SLOTS:
     void whyNoneIsOpen();
     void messagesOfACheck_data();
     void messagesOfACheck();
+    void messagesTellWhatTheyAreAbout_data();
+    void messagesTellWhatTheyAreAbout();
+    void usesOfLimits_data();
+    void usesOfLimits();
     void messagesWithoutMemoryAreCounted_data();
     void messagesWithoutMemoryAreCounted();
 };
@@ -264,6 +268,62 @@ void TestCompanionKit::messagesOfACheck_data()
 }
 
 void TestCompanionKit::messagesOfACheck()
+{
+    QFETCH_GLOBAL(QString, language);
+    QFETCH(QString, how);
+    QFETCH(QStringList, lines);
+    const Sandbox sandbox(language);
+    sandbox.fill(QStringLiteral("host/kv_mvcenc=1"));
+    const Result result = sandbox.run({QStringLiteral("check"), how});
+    QCOMPARE(result.lines, lines);
+    QCOMPARE(result.exitCode, 0);
+}
+
+void TestCompanionKit::messagesTellWhatTheyAreAbout_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<QString>("error");
+    const QString known =
+        QStringLiteral("error 0 width.least width view 1 numbers 3 5 16 level 4.1");
+    const QString nothing = QStringLiteral("error about nothing");
+    QTest::newRow("all of it") << QStringLiteral("about") << known;
+    QTest::newRow("no memory to keep it till the message") << QStringLiteral("about-3") << nothing;
+    QTest::newRow("no memory to keep it in the list") << QStringLiteral("about-7") << nothing;
+}
+
+void TestCompanionKit::messagesTellWhatTheyAreAbout()
+{
+    QFETCH_GLOBAL(QString, language);
+    QFETCH(QString, how);
+    QFETCH(QString, error);
+    const Sandbox sandbox(language);
+    sandbox.fill(QStringLiteral("host/kv_mvcenc=1"));
+    const Result result = sandbox.run({QStringLiteral("check"), how});
+    // An encoder of an earlier version has fewer members; the others are not known.
+    QCOMPARE(result.lines,
+             QStringList({QStringLiteral("result 7, width 16, lost 0, heard 0"),
+                          QStringLiteral("note about nothing"), error,
+                          QStringLiteral("warning 3 long - view 0 numbers 0 0 0 level -"),
+                          QStringLiteral("note about nothing")}));
+    QCOMPARE(result.exitCode, 0);
+}
+
+void TestCompanionKit::usesOfLimits_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("in a list")
+        << QStringLiteral("limits")
+        << QStringList{QStringLiteral("messages 4, lost 0"),
+                       QStringLiteral("view -1 Macroblock rate: 195644 of 245760 macroblocks/s, "
+                                      "rule rate, level 4.1"),
+                       QStringLiteral("view 0 Buffer: 195644 of 0 macroblocks/s, rule rate, "
+                                      "level -")};
+    QTest::newRow("to a callback that fails")
+        << QStringLiteral("no-limits") << QStringList{QStringLiteral("messages 4, lost 2")};
+}
+
+void TestCompanionKit::usesOfLimits()
 {
     QFETCH_GLOBAL(QString, language);
     QFETCH(QString, how);
