@@ -1,5 +1,6 @@
-// Any text is read or refused, and what was read is written and read back the same; any bytes are
-// a record that comes back.
+// Any text is read or refused, as a file and as one setting, and what was read is written and read
+// back the same; any bytes are a record that comes back.
+#include <setting_assignment.h>
 #include <settings_text.h>
 
 #include <algorithm>
@@ -29,6 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
     if (kv::parseSettings(text, settings).empty()) {
         mustComeBack(settings);
     }
+    kv::assignSetting(text, settings);
+    mustComeBack(settings);
     KvMvcSettings record{};
     std::copy_n(data, std::min(size, sizeof record), reinterpret_cast<uint8_t*>(&record));
     mustComeBack(record);

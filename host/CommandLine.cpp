@@ -87,8 +87,13 @@ bool Invocation::has(const char* option) const
 
 QString Invocation::value(const char* option) const
 {
-    const QStringList values = options.value(latin1(option));
-    return values.isEmpty() ? QString() : values.last();
+    const QStringList all = values(option);
+    return all.isEmpty() ? QString() : all.last();
+}
+
+QStringList Invocation::values(const char* option) const
+{
+    return options.value(latin1(option));
 }
 
 Invocation parseCommandLine(std::span<const Command> commands, const QStringList& arguments)

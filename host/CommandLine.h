@@ -37,6 +37,7 @@ struct Invocation {
     [[nodiscard]] bool has(const char* option) const;
     /// @return The last value of the option, or the empty text.
     [[nodiscard]] QString value(const char* option) const;
+    [[nodiscard]] QStringList values(const char* option) const;
 };
 
 /// One command of the program.

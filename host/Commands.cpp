@@ -1,5 +1,7 @@
 #include "Commands.h"
 
+#include <limits>
+
 namespace
 {
 
@@ -36,8 +38,20 @@ trouble.
 )";
 
 constexpr char defaultsHelp[] = R"(
-Writes a settings file with the defaults of a preset.
+Writes a settings file with the defaults of a preset, and with what --set says
+over them.
 )" KV_PRESETS_HELP R"(
+Exit code: 0, or 2 on trouble.
+)";
+
+constexpr char setHelp[] = R"(
+Sets settings in FILE, and prints each that changed with its old and its new
+value. KEY and VALUE are those of a settings file: width=1280,
+frame_rate=24000/1001, bitrate=20M, profile=high. A setting of the views is set
+in all of them, or in one after "view0." or "view1.". FILE is replaced as a
+whole, and not at all when an assignment is wrong; it may be -, and then the
+settings go to standard output.
+
 Exit code: 0, or 2 on trouble.
 )";
 
@@ -55,6 +69,8 @@ interlacing and what else the stream tells, on top of a preset's defaults.
 Exit code: 0, or 2 on trouble.
 )";
 
+constexpr int anyNumber = std::numeric_limits<int>::max();
+
 constexpr Command commands[] = {
     {"edit", "[FILE]", 0, 1, "Opens the settings dialog.", editHelp, editOptions, runEdit, true,
      false},
@@ -62,12 +78,14 @@ constexpr Command commands[] = {
      true},
     {"check", "FILE", 1, 1, "Runs the encoder's check, without a window.", checkHelp, checkOptions,
      runCheck, false, true},
-    {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, writingOptions,
+    {"set", "FILE KEY=VALUE...", 2, anyNumber, "Sets settings in a file.", setHelp, setOptions,
+     runSet, false, true},
+    {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, defaultsOptions,
      runDefaults, false, false},
     {"diff", "A B", 2, 2, "Prints the settings that differ.", diffHelp, diffOptions, runDiff, false,
      true},
     {"import", "MEDIA", 1, 1, "Writes the settings that fit a media file.", importHelp,
-     writingOptions, runImport, false, false},
+     importOptions, runImport, false, false},
 };
 
 } // namespace

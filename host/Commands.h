@@ -21,6 +21,11 @@ Outcome runDiff(const Invocation& call);
 QList<QCommandLineOption> checkOptions();
 Outcome runCheck(const Invocation& call);
 
-QList<QCommandLineOption> writingOptions();
+QList<QCommandLineOption> defaultsOptions();
 Outcome runDefaults(const Invocation& call);
+
+QList<QCommandLineOption> importOptions();
 Outcome runImport(const Invocation& call);
+
+QList<QCommandLineOption> setOptions();
+Outcome runSet(const Invocation& call);

@@ -297,9 +297,5 @@ Outcome runEdit(const Invocation& call)
     if (!plan.target.isEmpty()) {
         save(files, after, plan.target);
     }
-    QString text;
-    for (const Difference& difference : compareSettings(before, after)) {
-        text += differenceText(difference, before, after) + QLatin1Char('\n');
-    }
-    return {ExitYes, text.toUtf8()};
+    return {ExitYes, differencesText(before, after).toUtf8()};
 }

@@ -1,10 +1,12 @@
-// defaults and import: settings files from something else.
+// defaults, import and set: settings files from something else.
 
 #include "Commands.h"
 #include "Encoder.h"
 #include "Failure.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
+
+#include <cstring>
 
 namespace
 {
@@ -27,24 +29,72 @@ Outcome writeSettings(const Invocation& call, const Make& make)
     return {ExitYes, {}};
 }
 
+QCommandLineOption newFileOption()
+{
+    return outputOption(
+        QStringLiteral("Writes FILE, which is replaced when it exists; - is standard output, "
+                       "as without this option."));
+}
+
+bool isSame(const KvMvcSettings& a, const KvMvcSettings& b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
 } // namespace
 
-QList<QCommandLineOption> writingOptions()
+QList<QCommandLineOption> defaultsOptions()
 {
-    return {outputOption(
-        QStringLiteral("Writes FILE, which is replaced when it exists; - is standard output, "
-                       "as without this option."))};
+    return {newFileOption(),
+            {QStringLiteral("set"),
+             QStringLiteral("Sets a setting, as the command set does. May be given several times."),
+             QStringLiteral("KEY=VALUE")}};
 }
 
 Outcome runDefaults(const Invocation& call)
 {
     const qint32 preset = requirePreset(call.files.first());
-    return writeSettings(
-        call, [&](const SettingsFiles&) { return Encoder(call.directory).defaults(preset); });
+    return writeSettings(call, [&](const SettingsFiles& files) {
+        return files.with(call.values("set"), Encoder(call.directory).defaults(preset));
+    });
+}
+
+QList<QCommandLineOption> importOptions()
+{
+    return {newFileOption()};
 }
 
 Outcome runImport(const Invocation& call)
 {
     return writeSettings(
         call, [&](const SettingsFiles& files) { return files.read(call.files.first()); });
+}
+
+QList<QCommandLineOption> setOptions()
+{
+    return {outputOption(
+        QStringLiteral("Writes them to this FILE, which is replaced when it exists, and leaves "
+                       "the other as it is; - is standard output, and then nothing else is "
+                       "printed there."))};
+}
+
+Outcome runSet(const Invocation& call)
+{
+    const QString file = call.files.first();
+    const bool inPlace = !call.has("output");
+    const QString output = inPlace ? file : call.value("output");
+    const bool toStandardOutput = isStandardOutput(output);
+    if (!toStandardOutput) {
+        requireWritable(output, inPlace ? Target::File : Target::FileOrStream);
+    }
+    const SettingsFiles files(call.directory);
+    const KvMvcSettings before = files.read(file);
+    const KvMvcSettings after = files.with(call.files.mid(1), before);
+    if (toStandardOutput) {
+        return {ExitYes, files.text(after)};
+    }
+    if (!inPlace || !isSame(before, after)) {
+        files.write(after, output);
+    }
+    return {ExitYes, differencesText(before, after).toUtf8()};
 }

@@ -40,20 +40,20 @@ bool tellsPlace(const QString& line, const QString& name)
                                       [](QChar sign) { return sign.isDigit(); });
 }
 
-/// A file as the library knows it and as the user does.
-struct NamedFile {
-    QString path;
+/// What the library works on, as it knows it and as the user does: a file or an assignment.
+struct Subject {
+    QString name;
     QString shown;
 };
 
 /// What the library said, with the name that the user knows.
-QStringList linesAbout(const NamedFile& file, const QByteArray& said)
+QStringList linesAbout(const Subject& subject, const QByteArray& said)
 {
     QStringList lines = QString::fromUtf8(said).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (QString& line : lines) {
         line = line.trimmed();
-        if (line.startsWith(file.path + QLatin1Char(':'))) {
-            line = file.shown + line.mid(file.path.size());
+        if (line.startsWith(subject.name + QLatin1Char(':'))) {
+            line = subject.shown + line.mid(subject.name.size());
         }
     }
     return lines;
@@ -63,11 +63,11 @@ QStringList linesAbout(const NamedFile& file, const QByteArray& said)
 /// @param failed The reason when it does not.
 /// @throws Failure with all that it said; places in the file are told as compilers do.
 template <class Call>
-void callLibrary(const NamedFile& file, const QString& failed, const Call& call)
+void callLibrary(const Subject& subject, const QString& failed, const Call& call)
 {
     StandardErrorCapture capture;
-    const int32_t result = call(nameForLibrary(file.path).toUtf8().constData());
-    QStringList lines = linesAbout(file, capture.finish());
+    const int32_t result = call();
+    QStringList lines = linesAbout(subject, capture.finish());
     if (result == 0) {
         for (const QString& line : lines) {
             writeText(stderr, line.toUtf8() + '\n');
@@ -78,7 +78,7 @@ void callLibrary(const NamedFile& file, const QString& failed, const Call& call)
         throw Failure(failed);
     }
     for (QString& line : lines) {
-        if (!tellsPlace(line, file.shown)) {
+        if (!tellsPlace(line, subject.shown)) {
             line = QStringLiteral("%1: %2").arg(QLatin1String(programName), line);
         }
     }
@@ -100,24 +100,49 @@ KvMvcSettings SettingsFiles::read(const QString& path) const
     if (!standard) {
         requireReadable(path);
     }
-    NamedFile file = {path, path};
+    Subject file = {path, path};
     std::optional<ReadableText> text;
     if (standard || fileState(path).kind == FileState::Stream) {
         file.shown = standard ? QStringLiteral("<stdin>") : path;
         text.emplace(standard ? readStandardInput() : readStream(path));
-        file.path = text->path();
+        file.name = text->path();
     }
+    const QByteArray name = nameForLibrary(file.name).toUtf8();
     KvMvcSettings settings = {};
     callLibrary(file, QStringLiteral("cannot read settings from '%1'").arg(file.shown),
-                [&](const char* name) { return m_read(&settings, name); });
+                [&] { return m_read(&settings, name.constData()); });
     return settings;
 }
 
 void SettingsFiles::write(const KvMvcSettings& settings, const QString& path) const
 {
+    const QByteArray name = nameForLibrary(path).toUtf8();
     KvMvcSettings copy = settings;
     callLibrary({path, path}, QStringLiteral("cannot write '%1'").arg(path),
-                [&](const char* name) { return m_write(&copy, name); });
+                [&] { return m_write(&copy, name.constData()); });
+}
+
+KvMvcSettings SettingsFiles::with(const QStringList& assignments,
+                                  const KvMvcSettings& settings) const
+{
+    KvMvcSettings changed = settings;
+    if (assignments.isEmpty()) {
+        return changed;
+    }
+    const auto set = apiFunction<KvMvcSetSetting>(m_library, KV_MVC_SETTINGS_IO_SETTER);
+    QStringList wrong;
+    for (const QString& assignment : assignments) {
+        try {
+            callLibrary({assignment, assignment}, QStringLiteral("cannot set '%1'").arg(assignment),
+                        [&] { return set(&changed, assignment.toUtf8().constData()); });
+        } catch (const Failure& failure) {
+            wrong += failure.lines();
+        }
+    }
+    if (!wrong.isEmpty()) {
+        throw Failure(wrong);
+    }
+    return changed;
 }
 
 QByteArray SettingsFiles::text(const KvMvcSettings& settings) const

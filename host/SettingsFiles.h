@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -24,6 +25,12 @@ public:
     /// @param path None that isStandardOutput().
     /// @throws Failure when it cannot be written.
     void write(const KvMvcSettings& settings, const QString& path) const;
+
+    /// Sets single settings, one after the other.
+    /// @param assignments KEY=VALUE each, as of KvMvcSetSetting.
+    /// @throws Failure, with a line for each that is wrong.
+    [[nodiscard]] KvMvcSettings with(const QStringList& assignments,
+                                     const KvMvcSettings& settings) const;
 
     /// @return The text of a settings file.
     [[nodiscard]] QByteArray text(const KvMvcSettings& settings) const;

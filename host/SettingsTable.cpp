@@ -224,6 +224,15 @@ QString differenceText(const Difference& difference, const KvMvcSettings& before
         .arg(subject, settingText(before, difference.place), settingText(after, difference.place));
 }
 
+QString differencesText(const KvMvcSettings& before, const KvMvcSettings& after)
+{
+    QString text;
+    for (const Difference& difference : compareSettings(before, after)) {
+        text += differenceText(difference, before, after) + QLatin1Char('\n');
+    }
+    return text;
+}
+
 QJsonObject differenceJson(const Difference& difference, const KvMvcSettings& before,
                            const KvMvcSettings& after, QLatin1String beforeKey,
                            QLatin1String afterKey)

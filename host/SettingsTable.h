@@ -79,6 +79,9 @@ std::vector<Difference> compareSettings(const KvMvcSettings& before, const KvMvc
 QString differenceText(const Difference& difference, const KvMvcSettings& before,
                        const KvMvcSettings& after);
 
+/// @return Such a line for each setting that differs.
+QString differencesText(const KvMvcSettings& before, const KvMvcSettings& after);
+
 /// @return {"setting", "name", "view", `beforeKey`, `afterKey`}; "bytes" instead of both values for
 ///         reserved bytes; "view" is null for a setting of the record.
 QJsonObject differenceJson(const Difference& difference, const KvMvcSettings& before,

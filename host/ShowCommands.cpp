@@ -116,11 +116,7 @@ Outcome runDiff(const Invocation& call)
     const std::vector<Difference> differences = compareSettings(a, b);
     const ExitCode exitCode = differences.empty() ? ExitYes : ExitNo;
     if (!call.has("json")) {
-        QString text;
-        for (const Difference& difference : differences) {
-            text += differenceText(difference, a, b) + QLatin1Char('\n');
-        }
-        return {exitCode, text.toUtf8()};
+        return {exitCode, differencesText(a, b).toUtf8()};
     }
     QJsonArray list;
     for (const Difference& difference : differences) {

@@ -43,13 +43,15 @@ std::size_t editDistance(std::string_view left, std::string_view right)
     return row[right.size()];
 }
 
-/// As the edit distance; a name of which the text is a part is as near as one wrong letter.
+/// Two for each edit; a name that the text is a part of, or the other way round, lies between one
+/// edit and two.
 std::size_t distance(const std::string& text, const std::string& name)
 {
-    const std::size_t edits = editDistance(text, name);
+    constexpr std::size_t ofPart = 3;
+    const std::size_t edits = 2 * editDistance(text, name);
     const bool isPart = std::min(text.size(), name.size()) >= shortestPart &&
                         (name.find(text) != name.npos || text.find(name) != text.npos);
-    return isPart ? std::min<std::size_t>(edits, 1) : edits;
+    return isPart ? std::min(edits, ofPart) : edits;
 }
 
 } // namespace
@@ -58,17 +60,17 @@ std::string_view nearestName(std::string_view text, std::span<const std::string_
 {
     constexpr std::size_t longest = 60; // of names and their slips
     const std::string meant = folded(text.substr(0, longest));
-    std::size_t least = meant.size() / 3 + 1;
+    std::size_t least = 2 * (meant.size() / 3 + 1);
     std::string_view nearest;
     for (const std::string_view name : names) {
-        const std::size_t edits = distance(meant, folded(name));
-        if (edits < least ||
-            (edits == least && (nearest.empty() || name.size() <= nearest.size()))) {
-            least = edits;
+        const std::size_t apart = distance(meant, folded(name));
+        if (apart < least ||
+            (apart == least && (nearest.empty() || name.size() <= nearest.size()))) {
+            least = apart;
             nearest = name;
         }
     }
-    return least < meant.size() ? nearest : std::string_view();
+    return least < 2 * meant.size() ? nearest : std::string_view();
 }
 
 std::string didYouMean(std::string_view name)

@@ -23,17 +23,6 @@ std::vector<std::string_view> sectionNames()
     return names;
 }
 
-std::vector<std::string_view> keysOf(const Section& section)
-{
-    std::vector<std::string_view> keys;
-    for (const FieldGroup& group : section.groups) {
-        for (const Field& field : group.fields) {
-            keys.push_back(field.name);
-        }
-    }
-    return keys;
-}
-
 } // namespace
 
 std::string quoted(std::string_view text)
@@ -45,6 +34,22 @@ std::string quoted(std::string_view text)
     std::string result("'");
     result.append(text.substr(0, end)).append(end < text.size() ? "...'" : "'");
     return result;
+}
+
+std::vector<std::string_view> keysOf(const Section& section)
+{
+    std::vector<std::string_view> keys;
+    for (const FieldGroup& group : section.groups) {
+        for (const Field& field : group.fields) {
+            keys.push_back(field.name);
+        }
+    }
+    return keys;
+}
+
+std::string badValue(std::string_view key, std::string_view value, std::string_view wrong)
+{
+    return "bad value " + quoted(value) + " for " + quoted(key) + ": " + std::string(wrong);
 }
 
 const Field* findField(const Section& section, std::string_view name)
@@ -105,7 +110,7 @@ void RecordFiller::setField(const Section& section, const Field& field, std::str
     }
     const std::string wrong = parseField(field, value, base(section));
     if (!wrong.empty()) {
-        report(line, "bad value " + quoted(value) + " for " + quoted(field.name) + ": " + wrong);
+        report(line, badValue(field.name, value, wrong));
     }
 }
 

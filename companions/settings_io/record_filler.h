@@ -17,6 +17,11 @@ namespace kv
 /// Foreign text for a message: quoted, and not endless.
 std::string quoted(std::string_view text);
 
+/// @param wrong As parseField() has it.
+std::string badValue(std::string_view key, std::string_view value, std::string_view wrong);
+
+std::vector<std::string_view> keysOf(const Section& section);
+
 /// @return Null when the section has no such field.
 const Field* findField(const Section& section, std::string_view name);
 

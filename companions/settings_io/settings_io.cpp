@@ -1,7 +1,8 @@
-// The exported function, and the reader and the writer that it hands out.
+// The exported function, and what it hands out.
 #include "file_kind.h"
 #include "file_store.h"
 #include "media_import.h"
+#include "setting_assignment.h"
 #include "settings_text.h"
 
 #include <kv_config_gui_mvc/companions.h>
@@ -81,14 +82,14 @@ int32_t writeFile(const std::filesystem::path& file, const KvMvcSettings& settin
 
 /// No exception may cross the library's boundary.
 template <typename Work>
-int32_t guarded(const char* path, Work work) noexcept
+int32_t guarded(const char* subject, Work work) noexcept
 {
     try {
         return work();
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", path, error.what());
+        std::fprintf(stderr, "%s: %s\n", subject, error.what());
     } catch (...) {
-        std::fprintf(stderr, "%s: failed\n", path);
+        std::fprintf(stderr, "%s: failed\n", subject);
     }
     return Failed;
 }
@@ -109,6 +110,20 @@ int32_t writeSettings(KvMvcSettings* settings, const char* path)
     return guarded(path, [&] { return writeFile(kv::meantFile(path), *settings); });
 }
 
+int32_t setSetting(KvMvcSettings* settings, const char* assignment)
+{
+    if (!settings || !assignment) {
+        return Failed;
+    }
+    return guarded(assignment, [&] {
+        const std::string reason = kv::assignSetting(assignment, *settings);
+        if (!reason.empty()) {
+            std::fprintf(stderr, "%s\n", reason.c_str());
+        }
+        return reason.empty() ? Succeeded : Failed;
+    });
+}
+
 } // namespace
 
 extern "C" KV_MVC_COMPANION_API KvMvcFunction MVCConfigGetAPIExt(int32_t code)
@@ -118,6 +133,8 @@ extern "C" KV_MVC_COMPANION_API KvMvcFunction MVCConfigGetAPIExt(int32_t code)
         return reinterpret_cast<KvMvcFunction>(&readSettings);
     case KV_MVC_SETTINGS_IO_WRITER:
         return reinterpret_cast<KvMvcFunction>(&writeSettings);
+    case KV_MVC_SETTINGS_IO_SETTER:
+        return reinterpret_cast<KvMvcFunction>(&setSetting);
     default:
         return nullptr;
     }

@@ -41,7 +41,7 @@ _kv_mvc_settings() {
 
     if [[ $COMP_CWORD -eq 1 ]]; then
         # shellcheck disable=SC2046 # one word an option
-        _kv_mvc_settings_words "$word" edit show check defaults diff import \
+        _kv_mvc_settings_words "$word" edit show check set defaults diff import \
             $(_kv_mvc_settings_options "$program")
         return
     fi
@@ -53,7 +53,7 @@ _kv_mvc_settings() {
             _kv_mvc_settings_list "$word" video-type size frame-rate pixel-ratio profile level views
             ;;
         --banner) _kv_mvc_settings_files "$word" '' ;;
-        --title | --parent) ;;
+        --title | --parent | --set) ;;
         *)
             if [[ $word == -* ]]; then
                 # shellcheck disable=SC2046 # one word an option
@@ -62,6 +62,10 @@ _kv_mvc_settings() {
                 return
             fi
             case ${COMP_WORDS[1]} in
+                set)
+                    # Behind the file come assignments.
+                    [[ $COMP_CWORD -eq 2 || $previous == -* ]] && _kv_mvc_settings_files "$word" "$settings"
+                    ;;
                 edit | show | check | diff) _kv_mvc_settings_files "$word" "$settings" ;;
                 import) _kv_mvc_settings_files "$word" "$media" ;;
                 defaults) _kv_mvc_settings_words "$word" "${presets[@]}" ;;

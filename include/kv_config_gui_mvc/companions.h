@@ -170,7 +170,9 @@ typedef int32_t (*KvMvcCheck)(KvMvcLookup lookup, KvMvcSettings* settings, int32
 /** Codes of MVCConfigGetAPIExt. */
 enum KvMvcSettingsIoCode {
     KV_MVC_SETTINGS_IO_READER = 8193, /**< yields a KvMvcReadSettings */
-    KV_MVC_SETTINGS_IO_WRITER = 8194  /**< yields a KvMvcWriteSettings */
+    KV_MVC_SETTINGS_IO_WRITER = 8194, /**< yields a KvMvcWriteSettings */
+    KV_MVC_SETTINGS_IO_SETTER =
+        8449 /**< yields a KvMvcSetSetting; the dialog does not ask for it */
 };
 
 /** @return The function of a KvMvcSettingsIoCode, or null. */
@@ -192,6 +194,14 @@ typedef int32_t (*KvMvcReadSettings)(KvMvcSettings* settings, const char* path);
  * @return 0 for success; the dialog does not look at it.
  */
 typedef int32_t (*KvMvcWriteSettings)(KvMvcSettings* settings, const char* path);
+
+/**
+ * Sets one setting, as a line of a settings file does; reasons go to standard error.
+ * @param assignment Zero-terminated UTF-8: KEY=VALUE. The key of a view's setting means all views
+ *                   of the record, after "view0." or "view1." that view.
+ * @return 0 for success; otherwise the record is unchanged.
+ */
+typedef int32_t (*KvMvcSetSetting)(KvMvcSettings* settings, const char* assignment);
 
 /**
  * Suffixes of the files that the dialog lets a user drop, without a dot and in lower case, though

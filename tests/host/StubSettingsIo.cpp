@@ -35,6 +35,12 @@ int32_t writeSettings(KvMvcSettings*, const char* path)
 
 extern "C" KV_MVC_COMPANION_API KvMvcFunction MVCConfigGetAPIExt(int32_t code)
 {
-    return code == KV_MVC_SETTINGS_IO_READER ? reinterpret_cast<KvMvcFunction>(&readSettings)
-                                             : reinterpret_cast<KvMvcFunction>(&writeSettings);
+    switch (code) {
+    case KV_MVC_SETTINGS_IO_READER:
+        return reinterpret_cast<KvMvcFunction>(&readSettings);
+    case KV_MVC_SETTINGS_IO_WRITER:
+        return reinterpret_cast<KvMvcFunction>(&writeSettings);
+    default:
+        return nullptr;
+    }
 }

@@ -115,9 +115,9 @@ void TestHostCommands::helpNamesEveryCommand()
     const HostProgram::Result result = program.run({QStringLiteral("--help")});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
-    for (const char* line :
-         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ", "\n  defaults PRESET ",
-          "\n  diff A B ", "\n  import MEDIA ", "\n  -h, --help ", "\n  -v, --version "}) {
+    for (const char* line : {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ",
+                             "\n  set FILE KEY=VALUE... ", "\n  defaults PRESET ", "\n  diff A B ",
+                             "\n  import MEDIA ", "\n  -h, --help ", "\n  -v, --version "}) {
         QVERIFY2(result.output.contains(QLatin1String(line)), line);
     }
     QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
@@ -138,7 +138,8 @@ void TestHostCommands::everyCommandHasHelp_data()
         "--no-file-buttons --no-initial-check --plain-log --no-banner --help");
     row("show", "FILE", "--json --help");
     row("check", "FILE", "--json --notes --output --help");
-    row("defaults", "PRESET", "--output --help");
+    row("set", "FILE KEY=VALUE...", "--output --help");
+    row("defaults", "PRESET", "--output --set --help");
     row("diff", "A B", "--json --help");
     row("import", "MEDIA", "--output --help");
 }

@@ -25,9 +25,10 @@ private Q_SLOTS:
 namespace
 {
 
-const QStringList commandNames = {QStringLiteral("edit"),  QStringLiteral("show"),
-                                  QStringLiteral("check"), QStringLiteral("defaults"),
-                                  QStringLiteral("diff"),  QStringLiteral("import")};
+const QStringList commandNames = {QStringLiteral("edit"),     QStringLiteral("show"),
+                                  QStringLiteral("check"),    QStringLiteral("set"),
+                                  QStringLiteral("defaults"), QStringLiteral("diff"),
+                                  QStringLiteral("import")};
 
 QString textOf(const char* name)
 {
@@ -157,7 +158,7 @@ void TestHostDocuments::completionOffers_data()
         QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(offers);
     };
     // The last word of the line, after its last blank, is being typed.
-    row("", "--help --version check defaults diff edit import show");
+    row("", "--help --version check defaults diff edit import set show");
     row("d", "defaults diff");
     row("--v", "--version");
     row("show ", "a.ini b.CFG folder");
@@ -170,6 +171,10 @@ void TestHostDocuments::completionOffers_data()
     row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
     row("defaults s", "stereo-high");
     row("defaults 1 --output b", "b.CFG");
+    row("defaults 1 --set ", "");
+    row("set ", "a.ini b.CFG folder");
+    row("set a.ini ", "");
+    row("set -o b", "b.CFG");
     row("import ", "folder movie.MP4 stream.ts");
     row("import movie.MP4 -o a", "a.ini");
     row("edit --no-b", "--no-banner --no-basic");
