@@ -23,6 +23,7 @@ bool checkSettings(KvMvcSettings& record, Report& report)
     judgeGop(stream, report);
     judgeRates(stream, report);
     const Level* level = judgeLevel(stream, report);
+    tellLimits(stream, level, report);
     judgeDisc(stream, level, report);
     tellSummary(stream, level, report);
     return report.errors() == 0;

@@ -11,7 +11,7 @@ namespace
 {
 
 /// A number of thousandths, millionths, ...; zeros at the end are left out down to two decimals.
-Decimal decimal(std::int64_t units, int digits)
+Decimal decimal(std::int64_t units, int digits, double number)
 {
     std::int64_t one = 1;
     for (int i = 0; i < digits; ++i) {
@@ -22,21 +22,22 @@ Decimal decimal(std::int64_t units, int digits)
         fraction /= 10;
     }
     const std::int64_t whole = std::min<std::int64_t>(units / one, std::numeric_limits<int>::max());
-    return {static_cast<int>(whole), digits, static_cast<int>(fraction)};
+    return {static_cast<int>(whole), digits, static_cast<int>(fraction), number};
 }
 
 /// Beyond what a message can print, the highest number that it can.
 Decimal rounded(double number, int digits)
 {
     const double highest = std::numeric_limits<int>::max();
-    return decimal(std::llround(std::clamp(number, 0.0, highest) * std::pow(10, digits)), digits);
+    return decimal(std::llround(std::clamp(number, 0.0, highest) * std::pow(10, digits)), digits,
+                   number);
 }
 
 } // namespace
 
 Decimal millions(std::int64_t number)
 {
-    return decimal(std::max<std::int64_t>(number, 0), 6);
+    return decimal(std::max<std::int64_t>(number, 0), 6, static_cast<double>(number));
 }
 
 Decimal frameRateText(double rate)

@@ -14,6 +14,7 @@ struct Decimal {
     int whole;
     int digits; ///< decimals that are printed
     int fraction;
+    double number = 0; ///< what is printed, in its own unit: bits, not millions of them
 };
 
 /// Bits, or bits per second, as millions of them: exact, with two decimals or more.

@@ -26,7 +26,7 @@ int32_t mvcOutVideoChkSettings(KvMvcLookup lookup, KvMvcSettings* settings, int3
     if (!settings) {
         return 1;
     }
-    kv::encoder::Report report(lookup);
+    kv::encoder::Report report(lookup, *settings);
     return kv::encoder::checkSettings(*settings, report) ? 0 : 1;
 }
 

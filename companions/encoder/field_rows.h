@@ -20,11 +20,19 @@ using V = KvMvcViewSettings;
 using Field = std::int32_t V::*;
 inline constexpr Severity corrected = Severity::Warning;
 
+/// The first argument of its message is the former value, the second, if any, the present one.
 template <class... Args, class Row>
 constexpr ViewRule<Args...> ruleOf(const Row& row)
 {
     const FieldMessage& message = row.message;
-    return {message.id.at, corrected, message.texts(), message.basis};
+    return {message.id.at,
+            corrected,
+            message.texts(),
+            message.basis,
+            {.setting = message.setting,
+             .value = 1,
+             .limit = sizeof...(Args) > 1 ? 2 : 0,
+             .less = message.less}};
 }
 
 // The kinds of rows.

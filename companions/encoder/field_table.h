@@ -46,14 +46,18 @@ struct Text {
 
 /// A rule about one field: its name, and what it says.
 struct FieldMessage {
+    const char* setting;
+    int less; ///< what the message's numbers are less than the field has
     Text id;
     Text base;  ///< of the base view, or of all views
     Text other; ///< of another view; empty: there is no other value
     const char* basis;
 
-    constexpr FieldMessage(Sharing shared, Text name, std::string_view sentence,
-                           const char* restsOn)
-        : id(name),
+    constexpr FieldMessage(Sharing shared, const char* member, int shownLess, Text name,
+                           std::string_view sentence, const char* restsOn)
+        : setting(member),
+          less(shownLess),
+          id(name),
           base{shared == Sharing::RateControl ? "Base view: " : "", sentence},
           other{shared == Sharing::RateControl || shared == Sharing::Tools ? "View %d: " : "",
                 shared == Sharing::RateControl || shared == Sharing::Tools ? sentence : ""},
@@ -69,6 +73,7 @@ struct FieldMessage {
 
 /// The columns of the table.
 struct FieldFacts {
+    const char* member;
     FieldKind kind;
     List list;
     std::span<const ListValue> values;
@@ -180,7 +185,8 @@ struct FieldRow : FieldFacts {
     constexpr FieldRow(std::int32_t Owner::*member, const FieldFacts& facts)
         : FieldFacts(facts),
           field(member),
-          message(facts.shared, idOf(facts), sentenceOf(facts).at, basisOf(facts))
+          message(facts.shared, facts.member, facts.less, idOf(facts), sentenceOf(facts).at,
+                  basisOf(facts))
     {
     }
     constexpr FieldRow(double Owner::*, const FieldFacts& facts)
@@ -192,8 +198,9 @@ struct FieldRow : FieldFacts {
 };
 
 #define KV_FIELD(structure, member, kind, list, name, unit, less, shown, low, high, shared, ...)   \
-    FieldRow<structure>(&structure::member, {FieldKind::kind, List::list, valuesOf##list, name,    \
-                                             less, low, high, Sharing::shared, __VA_ARGS__}),
+    FieldRow<structure>(&structure::member,                                                        \
+                        {#member, FieldKind::kind, List::list, valuesOf##list, name, less, low,    \
+                         high, Sharing::shared, __VA_ARGS__}),
 
 // Messages have the fields as they are, not as the dialog shows them: they count all views.
 inline constexpr FieldRow<KvMvcSettings> recordFields[] = {

@@ -1,6 +1,10 @@
-// What a rule of the check is: a name, a kind, a message format and what it rests on.
+// What a rule of the check is: a name, a kind, a message format, what it rests on and what it is
+// about.
 #pragma once
 
+#include <kv_config_gui_mvc/companions.h>
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -19,6 +23,18 @@ enum class Severity {
     Note     ///< what follows from the settings, or is legal but worth knowing
 };
 
+/// What a message is about, for programs (KvMvcMessageAbout): the setting to look at first, and
+/// which of the message's arguments, counted from 1 without the view's number, are its value, its
+/// limit and the level. 0: none of them; the value is then that of the setting.
+struct Subject {
+    const char* setting = nullptr; ///< a member, as settings_fields.def has it; null: no single one
+    int value = 0;
+    int limit = 0;
+    int level = 0;
+    int less = 0;                ///< what value and limit are less than the field has
+    int view = KV_MVC_ALL_VIEWS; ///< of a message that is always about one view
+};
+
 struct RuleInfo {
     const char* id;
     Severity severity;
@@ -28,7 +44,30 @@ struct RuleInfo {
     /// null.
     const char* viewFormat;
     const char* basis; ///< clause of H.264 (08/2021), or who else sets the limit
+    Subject subject;
+    bool ofBaseView; ///< `format` is about the base view alone
 };
+
+inline constexpr std::string_view settingNames[] = {
+#define KV_MVC_RECORD_FIELD(member, ...) #member,
+#define KV_MVC_VIEW_FIELD(member, ...) #member,
+#include <kv_config_gui_mvc/settings_fields.def>
+};
+
+/// Whether the setting exists, and the arguments have the types for what they are said to be.
+template <class... Args>
+constexpr bool subjectTakes(const Subject& subject)
+{
+    constexpr bool isText[] = {false, std::is_same_v<Args, const char*>...};
+    const auto takes = [&](int argument, bool text) {
+        return argument == 0 || (argument > 0 && argument <= static_cast<int>(sizeof...(Args)) &&
+                                 isText[argument] == text);
+    };
+    const bool known = !subject.setting || std::ranges::find(settingNames, subject.setting) !=
+                                               std::ranges::end(settingNames);
+    return known && takes(subject.value, false) && takes(subject.limit, false) &&
+           takes(subject.level, true);
+}
 
 /// The conversions that an argument of a message needs; a "*" is a "d" of its own.
 template <class Arg>
@@ -81,11 +120,12 @@ constexpr bool formatTakes(std::string_view format)
 /// A rule with the argument types of its message: int, double, const char* or Decimal.
 template <class... Args>
 struct Rule : RuleInfo {
-    consteval Rule(const char* ruleId, Severity kind, const char* message, const char* restsOn)
-        : RuleInfo{ruleId, kind, message, nullptr, restsOn}
+    consteval Rule(const char* ruleId, Severity kind, const char* message, const char* restsOn,
+                   Subject about = {})
+        : RuleInfo{ruleId, kind, message, nullptr, restsOn, about, false}
     {
-        if (!formatTakes<Args...>(message)) {
-            throw "the conversions of the format do not match the argument types";
+        if (!formatTakes<Args...>(message) || !subjectTakes<Args...>(about)) {
+            throw "the argument types do not match the conversions of the format or the subject";
         }
     }
 };
@@ -114,12 +154,20 @@ struct ViewText {
 /// A rule whose message names the view, except for what is said of the base view or of all.
 template <class... Args>
 struct ViewRule : RuleInfo {
-    constexpr ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn)
-        : RuleInfo{ruleId, kind, message.base, message.other, restsOn}
+    constexpr ViewRule(const char* ruleId, Severity kind, ViewText message, const char* restsOn,
+                       Subject about = {})
+        : RuleInfo{ruleId,
+                   kind,
+                   message.base,
+                   message.other,
+                   restsOn,
+                   about,
+                   std::string_view(message.base).starts_with("Base view: ")}
     {
         if (!formatTakes<Args...>(message.base) ||
-            (message.hasOther && !formatTakes<int, Args...>(message.other))) {
-            throw "the conversions of the format do not match the argument types";
+            (message.hasOther && !formatTakes<int, Args...>(message.other)) ||
+            !subjectTakes<Args...>(about)) {
+            throw "the argument types do not match the conversions of the format or the subject";
         }
     }
 };

@@ -38,6 +38,8 @@ void judgeRates(const Stream& stream, Report& report);
 const Level* judgeLevel(const Stream& stream, Report& report);
 /// The part of it for a picture whose size the level takes.
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
+/// Tells how much of the level's limits is used, where anybody wants to know.
+void tellLimits(const Stream& stream, const Level* level, const Report& report);
 void judgeDisc(const Stream& stream, const Level* level, Report& report);
 void tellSummary(const Stream& stream, const Level* level, Report& report);
 

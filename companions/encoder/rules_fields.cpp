@@ -33,8 +33,11 @@ constexpr auto ranges = generalRules<Range<V>, FieldKind::Number>();
 constexpr auto depths = generalRules<Depth, FieldKind::Depth>();
 
 constexpr Rule<double> frameRateValue = {
-    "field.frame-rate", corrected, "The frame rate %g cannot be coded; no frame rate is set now.",
-    "E.2.1: two 32-bit numbers, neither of them 0, give the rate"};
+    "field.frame-rate",
+    corrected,
+    "The frame rate %g cannot be coded; no frame rate is set now.",
+    "E.2.1: two 32-bit numbers, neither of them 0, give the rate",
+    {.setting = "frame_rate", .value = 1}};
 
 void correctFrameRate(KvMvcViewSettings& view, Report& report)
 {

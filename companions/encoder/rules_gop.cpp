@@ -10,49 +10,75 @@ namespace
 {
 
 constexpr Rule<int, int> bFit = {
-    "gop.b-fit", Severity::Error,
+    "gop.b-fit",
+    Severity::Error,
     "%d B-frames do not fit into an I-frame interval of %d: use fewer, or a longer interval.",
-    "contradiction: a group ends with a reference picture"};
+    "contradiction: a group ends with a reference picture",
+    {.setting = "ref_distance"}};
 constexpr Rule<int, int> forceDistance = {
-    "gop.force-i", Severity::Error,
+    "gop.force-i",
+    Severity::Error,
     "The min. I-frame distance %d exceeds the I-frame interval %d: lower the distance.",
-    "contradiction of interval and minimum distance"};
+    "contradiction of interval and minimum distance",
+    {.setting = "force_i", .value = 1, .limit = 2}};
 constexpr Rule<int, int> lastGroup = {
-    "gop.multiple", Severity::Note,
+    "gop.multiple",
+    Severity::Note,
     "The I-frame interval %d is no multiple of %d (B-frames + 1), so its last group is shorter.",
-    "legal: the pattern is not regular"};
+    "legal: the pattern is not regular",
+    {.setting = "i_interval", .value = 1}};
 constexpr Rule<> allIntra = {
-    "gop.intra", Severity::Note,
-    "Every picture is an I-frame: B-frames and motion search are not used.", "legal"};
+    "gop.intra",
+    Severity::Note,
+    "Every picture is an I-frame: B-frames and motion search are not used.",
+    "legal",
+    {.setting = "i_interval"}};
 constexpr ViewRule<> noReference = {
-    "gop.references-p", Severity::Error,
-    KV_ALL_VIEWS("P-frames need at least 1 reference frame (now 0)."), "8.2.5.3: sliding window"};
+    "gop.references-p",
+    Severity::Error,
+    KV_ALL_VIEWS("P-frames need at least 1 reference frame (now 0)."),
+    "8.2.5.3: sliding window",
+    {.setting = "num_ref_frames"}};
 constexpr ViewRule<int> fewReferences = {
-    "gop.references-b", Severity::Error,
+    "gop.references-b",
+    Severity::Error,
     KV_ALL_VIEWS("B-frames need at least 2 reference frames (now %d)."),
-    "8.2.5.3: a past and a future one are kept"};
+    "8.2.5.3: a past and a future one are kept",
+    {.setting = "num_ref_frames", .value = 1}};
 constexpr ViewRule<int> fewForReferenceB = {
-    "gop.references-br", Severity::Error,
+    "gop.references-br",
+    Severity::Error,
     KV_ALL_VIEWS("B-frames as reference frames need at least 3 reference frames (now %d)."),
-    "8.2.5.3: a past, a future and the B picture are kept"};
-constexpr Rule<> pyramidReference = {"gop.pyramid", Severity::Error,
+    "8.2.5.3: a past, a future and the B picture are kept",
+    {.setting = "num_ref_frames", .value = 1}};
+constexpr Rule<> pyramidReference = {"gop.pyramid",
+                                     Severity::Error,
                                      "The pyramidal structure needs B-frames as reference frames: "
                                      "switch them on, or the structure off.",
-                                     "8.2.5.3: the upper B pictures refer to the lower ones"};
-constexpr Rule<> pyramidFlat = {"gop.pyramid-flat", Severity::Note,
+                                     "8.2.5.3: the upper B pictures refer to the lower ones",
+                                     {.setting = "reference_b"}};
+constexpr Rule<> pyramidFlat = {"gop.pyramid-flat",
+                                Severity::Note,
                                 "The pyramidal structure has no effect on fewer than 2 B-frames.",
-                                "nothing to put in layers"};
-constexpr Rule<> bOptions = {"gop.b-options", Severity::Note,
+                                "nothing to put in layers",
+                                {.setting = "pyramid_b"}};
+constexpr Rule<> bOptions = {"gop.b-options",
+                             Severity::Note,
                              "The B-frame settings have no effect: there are no B-frames.",
-                             "nothing to apply them to"};
+                             "nothing to apply them to",
+                             {.setting = "ref_distance"}};
 constexpr ViewRule<int, int> sliceCount = {
-    "slices.rows", Severity::Warning,
+    "slices.rows",
+    Severity::Warning,
     KV_ALL_VIEWS("The number of slices per picture was %d; it is now %d, the most at this height."),
-    "slices are whole rows: 7.3.4 allows less, the encoder does not"};
+    "slices are whole rows: 7.3.4 allows less, the encoder does not",
+    {.setting = "num_slices", .value = 1, .limit = 2}};
 constexpr ViewRule<> sliceFlag = {
-    "slices.flag", Severity::Warning,
+    "slices.flag",
+    Severity::Warning,
     KV_ALL_VIEWS("The multi_slice switch did not match the slices per picture; now it does."),
-    "derived: on from 2 slices"};
+    "derived: on from 2 slices",
+    {.setting = "multi_slice"}};
 
 void judgeReferences(const Stream& stream, Report& report)
 {

@@ -115,8 +115,8 @@ bool judgeSize(const Stream& stream, const Level& level, Report& report)
 
 void judgeMbRate(const Stream& stream, const Level& level, Report& report)
 {
-    const double rate = static_cast<double>(stream.views * stream.frameMbs) * stream.outputRate;
-    const std::int64_t limit = (stream.multiview ? 2 : 1) * level.mbRate;
+    const double rate = macroblockRate(stream);
+    const std::int64_t limit = macroblockRateLimit(stream, level);
     // A rate such as 24000/1001 is rounded: what is exactly at the limit has to pass.
     if (rate <= static_cast<double>(limit) * (1 + 1e-9)) {
         return;

@@ -12,47 +12,63 @@ namespace
 {
 
 constexpr Rule<const char*, int, int> dpb = {
-    "level.dpb", Severity::Error,
+    "level.dpb",
+    Severity::Error,
     "Level %s can store %d frames of this size (now %d): use fewer reference frames.",
-    "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)"};
+    "A.3.1 h, A.3.2 f: min(MaxDpbMbs / frame size, 16)",
+    {.setting = "num_ref_frames", .value = 3, .limit = 2, .level = 1}};
 constexpr Rule<const char*, int, int, int> dpbViews = {
-    "level.dpb-views", Severity::Error,
+    "level.dpb-views",
+    Severity::Error,
     "Level %s has room for %d reference frames of this size in each of %d views (now %d): use "
     "fewer.",
     "H.10.2.1 f, C.4: min(2 * MaxDpbMbs / frame size, 16 * max(1, ceil(log2 views))) for all "
-    "views together"};
+    "views together",
+    {.setting = "num_ref_frames", .value = 4, .limit = 2, .level = 1}};
 constexpr Rule<const char*, int, int, int> dpbLooseB = {
-    "level.dpb-views-b", Severity::Error,
+    "level.dpb-views-b",
+    Severity::Error,
     "With B-frames, level %s has room for %d reference frames in each of %d views (now %d): use "
     "fewer.",
     "C.4.5.2, C.4.5.3: a non-reference picture of a view that predicts another view is kept while "
-    "that one is decoded, one frame more than the references"};
+    "that one is decoded, one frame more than the references",
+    {.setting = "num_ref_frames", .value = 4, .limit = 2, .level = 1}};
 constexpr ViewRule<const char*, int, int> dpbHalf = {
-    "level.dpb-half", Severity::Error,
+    "level.dpb-half",
+    Severity::Error,
     KV_ALL_VIEWS("Level %s allows a view %d reference frames of this size (now %d): use fewer."),
-    "H.10.2.1 x: max_num_ref_frames of a view; the base view then also fits by itself"};
+    "H.10.2.1 x: max_num_ref_frames of a view; the base view then also fits by itself",
+    {.setting = "num_ref_frames", .value = 3, .limit = 2, .level = 1}};
 constexpr ViewRule<const char*, int, int> slicesMost = {
-    "level.slices-most", Severity::Error,
+    "level.slices-most",
+    Severity::Error,
     KV_ALL_VIEWS(
         "Level %s allows at most %d slices per picture at this size and rate (now %d): use "
         "fewer."),
-    "A.3.3 a, b, H.10.2.1 l, n: SliceRate; the slices of each view by itself"};
+    "A.3.3 a, b, H.10.2.1 l, n: SliceRate; the slices of each view by itself",
+    {.setting = "num_slices", .value = 3, .limit = 2, .level = 1}};
 constexpr Rule<const char*, int, int, int> slicesTogether = {
-    "level.slices-most-views", Severity::Error,
+    "level.slices-most-views",
+    Severity::Error,
     "Level %s allows at most %d slices in %d views together at this size and rate (now %d): use "
     "fewer.",
     "H.10.2.1 k, m: mvcScaleFactor 2 times SliceRate's limit; the slices of all view components of "
-    "an access unit"};
+    "an access unit",
+    {.setting = "num_slices", .value = 4, .limit = 2, .level = 1}};
 constexpr ViewRule<const char*, int, int> slicesLeast = {
-    "level.slices-least", Severity::Error,
+    "level.slices-least",
+    Severity::Error,
     KV_ALL_VIEWS("Level %s needs at least %d slices per picture at this size (now %d): use more."),
-    "H.10.2.1 w, A.3.3 k: no slice of more than MaxFS / 4 macroblocks, whole rows"};
+    "H.10.2.1 w, A.3.3 k: no slice of more than MaxFS / 4 macroblocks, whole rows",
+    {.setting = "num_slices", .value = 3, .limit = 2, .level = 1}};
 constexpr ViewRule<int, const char*, int> vectors = {
-    "level.vectors", Severity::Note,
+    "level.vectors",
+    Severity::Note,
     KV_ALL_VIEWS(
         "The motion vector search range %d applies horizontally; vertically, level %s ends "
         "at %d."),
-    "A.3.1 k, A.3.2 g, H.10.2.1 g, Table A-1: MaxVmvR"};
+    "A.3.1 k, A.3.2 g, H.10.2.1 g, Table A-1: MaxVmvR",
+    {.setting = "motion_search", .value = 1, .limit = 3, .level = 2}};
 
 #define KV_PICTURE_BYTES(kind)                                                                     \
     KV_EACH_VIEW("The maximum " kind                                                               \
@@ -77,20 +93,52 @@ struct PictureBytes {
 constexpr PictureBytes pictureBytes[] = {
     {&KvMvcViewSettings::frame_size_i,
      true,
-     {"level.size-i", Severity::Error, KV_PICTURE_BYTES("I"), pictureBytesClause},
-     {"level.size-i-views", Severity::Error, KV_VIEWS_BYTES("I"), viewsBytesClause}},
+     {"level.size-i",
+      Severity::Error,
+      KV_PICTURE_BYTES("I"),
+      pictureBytesClause,
+      {.setting = "frame_size_i", .value = 1, .limit = 2, .level = 3}},
+     {"level.size-i-views",
+      Severity::Error,
+      KV_VIEWS_BYTES("I"),
+      viewsBytesClause,
+      {.setting = "frame_size_i", .value = 1, .limit = 3, .level = 2}}},
     {&KvMvcViewSettings::frame_size_p,
      false,
-     {"level.size-p", Severity::Error, KV_PICTURE_BYTES("P"), pictureBytesClause},
-     {"level.size-p-views", Severity::Error, KV_VIEWS_BYTES("P"), viewsBytesClause}},
+     {"level.size-p",
+      Severity::Error,
+      KV_PICTURE_BYTES("P"),
+      pictureBytesClause,
+      {.setting = "frame_size_p", .value = 1, .limit = 2, .level = 3}},
+     {"level.size-p-views",
+      Severity::Error,
+      KV_VIEWS_BYTES("P"),
+      viewsBytesClause,
+      {.setting = "frame_size_p", .value = 1, .limit = 3, .level = 2}}},
     {&KvMvcViewSettings::frame_size_b,
      false,
-     {"level.size-b", Severity::Error, KV_PICTURE_BYTES("B"), pictureBytesClause},
-     {"level.size-b-views", Severity::Error, KV_VIEWS_BYTES("B"), viewsBytesClause}},
+     {"level.size-b",
+      Severity::Error,
+      KV_PICTURE_BYTES("B"),
+      pictureBytesClause,
+      {.setting = "frame_size_b", .value = 1, .limit = 2, .level = 3}},
+     {"level.size-b-views",
+      Severity::Error,
+      KV_VIEWS_BYTES("B"),
+      viewsBytesClause,
+      {.setting = "frame_size_b", .value = 1, .limit = 3, .level = 2}}},
     {&KvMvcViewSettings::frame_size_bref,
      false,
-     {"level.size-br", Severity::Error, KV_PICTURE_BYTES("Br"), pictureBytesClause},
-     {"level.size-br-views", Severity::Error, KV_VIEWS_BYTES("Br"), viewsBytesClause}},
+     {"level.size-br",
+      Severity::Error,
+      KV_PICTURE_BYTES("Br"),
+      pictureBytesClause,
+      {.setting = "frame_size_bref", .value = 1, .limit = 2, .level = 3}},
+     {"level.size-br-views",
+      Severity::Error,
+      KV_VIEWS_BYTES("Br"),
+      viewsBytesClause,
+      {.setting = "frame_size_bref", .value = 1, .limit = 3, .level = 2}}},
 };
 
 void judgeReferences(const Stream& stream, const Level& level, Report& report)

@@ -11,70 +11,112 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<int> smallWidth = {"picture.width", Severity::Error,
+constexpr Rule<int> smallWidth = {"picture.width",
+                                  Severity::Error,
                                   "The picture width has to be at least 16 (now %d).",
-                                  "7.4.2.1.1: pic_width_in_mbs_minus1"};
-constexpr Rule<int> smallHeight = {"picture.height", Severity::Error,
+                                  "7.4.2.1.1: pic_width_in_mbs_minus1",
+                                  {.setting = "width", .value = 1}};
+constexpr Rule<int> smallHeight = {"picture.height",
+                                   Severity::Error,
                                    "The picture height has to be at least 16 (now %d).",
-                                   "7.4.2.1.1: pic_height_in_map_units_minus1"};
+                                   "7.4.2.1.1: pic_height_in_map_units_minus1",
+                                   {.setting = "height", .value = 1}};
 constexpr Rule<int, int> widthStep = {
-    "picture.width-step", Severity::Error,
+    "picture.width-step",
+    Severity::Error,
     "With this chroma format, the picture width has to be a multiple of %d (now %d).",
-    "7.4.2.1.1: CropUnitX"};
+    "7.4.2.1.1: CropUnitX",
+    {.setting = "width", .value = 2, .limit = 1}};
 constexpr Rule<int, int> heightStep = {
-    "picture.height-step", Severity::Error,
+    "picture.height-step",
+    Severity::Error,
     "With this chroma format and picture structure, the picture height has to be a multiple of %d "
     "(now %d).",
-    "7.4.2.1.1: CropUnitY"};
-constexpr Rule<> rateUnset = {"picture.frame-rate-unset", Severity::Note,
+    "7.4.2.1.1: CropUnitY",
+    {.setting = "height", .value = 2, .limit = 1}};
+constexpr Rule<> rateUnset = {"picture.frame-rate-unset",
+                              Severity::Note,
                               "No frame rate is set, so the limits per second were not checked.",
-                              "A.3.1: the limits hold for times of removal and output"};
+                              "A.3.1: the limits hold for times of removal and output",
+                              {.setting = "frame_rate"}};
 
 constexpr Rule<int, int> displayPair = {
-    "aspect.display", Severity::Warning,
-    "The picture aspect ratio %d:%d is not valid; it is now Custom.", "codes of the encoder"};
+    "aspect.display",
+    Severity::Warning,
+    "The picture aspect ratio %d:%d is not valid; it is now Custom.",
+    "codes of the encoder",
+    {.setting = "display_aspect_x", .value = 1}};
 constexpr Rule<> pixelPair = {
-    "aspect.pixel", Severity::Warning,
+    "aspect.pixel",
+    Severity::Warning,
     "The pixel aspect ratio was set as well; it now follows from the picture aspect ratio.",
-    "E.2.1: one ratio is written, the display's or the sample's"};
-constexpr Rule<> aspectUnset = {"aspect.unspecified", Severity::Note,
+    "E.2.1: one ratio is written, the display's or the sample's",
+    {.setting = "pixel_aspect_x"}};
+constexpr Rule<> aspectUnset = {"aspect.unspecified",
+                                Severity::Note,
                                 "No pixel aspect ratio is set, so players will assume one.",
-                                "E.2.1: aspect_ratio_idc 0"};
+                                "E.2.1: aspect_ratio_idc 0",
+                                {.setting = "pixel_aspect_x"}};
 constexpr Rule<double, double> aspectRange = {
-    "aspect.range", Severity::Error,
+    "aspect.range",
+    Severity::Error,
     "The pixel aspect ratio %.0f:%.0f cannot be written: neither part may exceed 65535.",
-    "E.2.1: sar_width and sar_height have 16 bits"};
+    "E.2.1: sar_width and sar_height have 16 bits",
+    {.setting = "pixel_aspect_x"}};
 constexpr Rule<double, double> aspectExtended = {
-    "aspect.extended", Severity::Note,
+    "aspect.extended",
+    Severity::Note,
     "The pixel aspect ratio %.0f:%.0f is not a predefined one, so it is written as two numbers.",
-    "E.2.1, Table E-1: aspect_ratio_idc 255"};
+    "E.2.1, Table E-1: aspect_ratio_idc 255",
+    {.setting = "pixel_aspect_x"}};
 
 constexpr Rule<> unusedOrder = {
-    "field-order.unused", Severity::Note,
-    "The field order has no effect on progressive pictures without pulldown.", "D.2.3"};
+    "field-order.unused",
+    Severity::Note,
+    "The field order has no effect on progressive pictures without pulldown.",
+    "D.2.3",
+    {.setting = "field_order"}};
 constexpr Rule<> pulldownFields = {
-    "pulldown.fields", Severity::Error,
+    "pulldown.fields",
+    Severity::Error,
     "Pulldown cannot repeat interlaced pictures: set pulldown to Off, or choose Progressive.",
-    "D.2.3: pic_struct 5 to 8 need field_pic_flag 0"};
+    "D.2.3: pic_struct 5 to 8 need field_pic_flag 0",
+    {.setting = "pulldown"}};
 constexpr Rule<> pulldownMbaff = {
-    "pulldown.mbaff", Severity::Risk,
-    "Pulldown repeats fields of MBAFF pictures, which makes motion stutter.", "D.2.3"};
+    "pulldown.mbaff",
+    Severity::Risk,
+    "Pulldown repeats fields of MBAFF pictures, which makes motion stutter.",
+    "D.2.3",
+    {.setting = "pulldown"}};
 constexpr Rule<Decimal> pulldown23 = {
-    "pulldown.2-3", Severity::Risk,
-    "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now %d.%0*d).", "D.2.3; practice"};
+    "pulldown.2-3",
+    Severity::Risk,
+    "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now %d.%0*d).",
+    "D.2.3; practice",
+    {.setting = "pulldown"}};
 constexpr Rule<Decimal> pulldown22 = {
-    "pulldown.2-2", Severity::Risk,
-    "Pulldown 2:2 doubles %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
+    "pulldown.2-2",
+    Severity::Risk,
+    "Pulldown 2:2 doubles %d.%0*d frames/s to a rate that few displays have.",
+    "D.2.3; practice",
+    {.setting = "pulldown"}};
 constexpr Rule<Decimal> pulldown33 = {
-    "pulldown.3-3", Severity::Risk,
-    "Pulldown 3:3 triples %d.%0*d frames/s to a rate that few displays have.", "D.2.3; practice"};
+    "pulldown.3-3",
+    Severity::Risk,
+    "Pulldown 3:3 triples %d.%0*d frames/s to a rate that few displays have.",
+    "D.2.3; practice",
+    {.setting = "pulldown"}};
 constexpr Rule<> pulldownAuto = {
-    "pulldown.auto", Severity::Note,
+    "pulldown.auto",
+    Severity::Note,
     "With pulldown Auto, the encoder chooses; its choice cannot be checked.",
-    "not in the standard"};
-constexpr Rule<> pulldownTiming = {"pulldown.timing", Severity::Note,
+    "not in the standard",
+    {.setting = "pulldown"}};
+constexpr Rule<> pulldownTiming = {"pulldown.timing",
+                                   Severity::Note,
                                    "Pulldown adds picture timing messages to the stream.",
-                                   "D.2.3, E.2.1: pic_struct_present_flag 1"};
+                                   "D.2.3, E.2.1: pic_struct_present_flag 1",
+                                   {.setting = "pulldown"}};
 
 // Table E-1, codes 1 to 16.
 constexpr SampleAspect predefined[] = {

@@ -8,48 +8,79 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<int> unassigned = {"profile.code", Severity::Error,
-                                  "The profile code %d is unknown: choose a profile.", "A.2"};
+constexpr Rule<int> unassigned = {"profile.code",
+                                  Severity::Error,
+                                  "The profile code %d is unknown: choose a profile.",
+                                  "A.2",
+                                  {.setting = "profile", .value = 1}};
 constexpr Rule<const char*> bFrames = {
-    "profile.b-frames", Severity::Error,
-    "Profile %s does not allow B-frames: set their number to 0, or choose Main or High.", "A.2.1"};
+    "profile.b-frames",
+    Severity::Error,
+    "Profile %s does not allow B-frames: set their number to 0, or choose Main or High.",
+    "A.2.1",
+    {.setting = "ref_distance"}};
 constexpr Rule<const char*> interlace = {
-    "profile.interlace", Severity::Error,
+    "profile.interlace",
+    Severity::Error,
     "Profile %s allows progressive pictures only: choose Progressive, or profile Main or High.",
-    "A.2.1"};
+    "A.2.1",
+    {.setting = "interlace_mode"}};
 constexpr Rule<const char*> cabac = {
-    "profile.cabac", Severity::Error,
-    "Profile %s does not allow CABAC: choose CAVLC, or profile Main or High.", "A.2.1"};
+    "profile.cabac",
+    Severity::Error,
+    "Profile %s does not allow CABAC: choose CAVLC, or profile Main or High.",
+    "A.2.1",
+    {.setting = "entropy_mode"}};
 constexpr Rule<const char*> weighted = {
-    "profile.weighted", Severity::Error,
+    "profile.weighted",
+    Severity::Error,
     "Profile %s does not allow weighted prediction: switch it off, or choose Main or High.",
-    "A.2.1"};
+    "A.2.1",
+    {.setting = "weighted_p"}};
 constexpr Rule<const char*> monochrome = {
-    "profile.4-0-0", Severity::Error,
-    "Profile %s does not allow 4:0:0: choose 4:2:0, or profile High.", "A.2.1, A.2.2"};
-constexpr Rule<const char*> chroma422 = {"profile.4-2-2", Severity::Error,
+    "profile.4-0-0",
+    Severity::Error,
+    "Profile %s does not allow 4:0:0: choose 4:2:0, or profile High.",
+    "A.2.1, A.2.2",
+    {.setting = "chroma_format"}};
+constexpr Rule<const char*> chroma422 = {"profile.4-2-2",
+                                         Severity::Error,
                                          "Profile %s does not allow 4:2:2: choose 4:2:0.",
-                                         "A.2.1 to A.2.5"};
-constexpr Rule<> unnamed = {"profile.chroma", Severity::Error,
+                                         "A.2.1 to A.2.5",
+                                         {.setting = "chroma_format"}};
+constexpr Rule<> unnamed = {"profile.chroma",
+                            Severity::Error,
                             "No profile allows the chroma format that is set: choose 4:2:0.",
-                            "A.2: the profiles end at 4:2:2"};
+                            "A.2: the profiles end at 4:2:2",
+                            {.setting = "chroma_format"}};
 constexpr Rule<const char*, int> lumaDepth = {
-    "profile.depth-luma", Severity::Error,
+    "profile.depth-luma",
+    Severity::Error,
     "Profile %s does not allow %d bits of luma: choose 8 bits, or profile High 10.",
-    "A.2.1 to A.2.4"};
+    "A.2.1 to A.2.4",
+    {.setting = "bit_depth_luma", .value = 2}};
 constexpr Rule<const char*, int> chromaDepth = {
-    "profile.depth-chroma", Severity::Error,
+    "profile.depth-chroma",
+    Severity::Error,
     "Profile %s does not allow %d bits of chroma: choose 8 bits, or profile High 10.",
-    "A.2.1 to A.2.4"};
-constexpr Rule<> unusedDepth = {"profile.depth-unused", Severity::Note,
+    "A.2.1 to A.2.4",
+    {.setting = "bit_depth_chroma", .value = 2}};
+constexpr Rule<> unusedDepth = {"profile.depth-unused",
+                                Severity::Note,
                                 "The bit-depth of chroma has no effect: 4:0:0 has no chroma.",
-                                "7.4.2.1.1"};
-constexpr Rule<const char*> cavlc = {"profile.cavlc", Severity::Note,
+                                "7.4.2.1.1",
+                                {.setting = "bit_depth_chroma"}};
+constexpr Rule<const char*> cavlc = {"profile.cavlc",
+                                     Severity::Note,
                                      "Profile %s allows CABAC, which needs fewer bits than CAVLC.",
-                                     "A.2.2"};
+                                     "A.2.2",
+                                     {.setting = "entropy_mode"}};
 constexpr Rule<const char*> noBFrames = {
-    "profile.no-b-frames", Severity::Note,
-    "Profile %s allows B-frames, which save bits; their number is 0.", "A.2.2"};
+    "profile.no-b-frames",
+    Severity::Note,
+    "Profile %s allows B-frames, which save bits; their number is 0.",
+    "A.2.2",
+    {.setting = "ref_distance"}};
 
 struct Tool {
     bool used;

@@ -9,80 +9,116 @@ namespace
 {
 
 constexpr ViewRule<Decimal> constantMaximum = {
-    "rate.constant-max", Severity::Warning,
+    "rate.constant-max",
+    Severity::Warning,
     KV_EACH_VIEW(
         "The bitrate is constant, so the max bitrate is now the target bitrate, %d.%0*d Mbit/s."),
-    "E.2.2: cbr_flag 1"};
+    "E.2.2: cbr_flag 1",
+    {.setting = "max_bitrate", .limit = 1}};
 constexpr ViewRule<Decimal> targetMaximum = {
-    "rate.target-max", Severity::Warning,
+    "rate.target-max",
+    Severity::Warning,
     KV_EACH_VIEW("The target bitrate exceeded the max bitrate; it is now %d.%0*d Mbit/s."),
-    "C.1.1: bits arrive at the maximum rate at most"};
+    "C.1.1: bits arrive at the maximum rate at most",
+    {.setting = "bitrate", .limit = 1}};
 constexpr ViewRule<Decimal> raisedMaximum = {
-    "rate.max-target", Severity::Warning,
+    "rate.max-target",
+    Severity::Warning,
     KV_EACH_VIEW("The max bitrate was below the target bitrate; it is now %d.%0*d Mbit/s."),
-    "C.1.1; HRD conformance is off, and the maximum not shown: it follows what is"};
+    "C.1.1; HRD conformance is off, and the maximum not shown: it follows what is",
+    {.setting = "max_bitrate", .limit = 1}};
 constexpr ViewRule<int, int> targetFullness = {
-    "hrd.target", Severity::Warning,
+    "hrd.target",
+    Severity::Warning,
     KV_EACH_VIEW("VBV buffer target was %d, more than the bitrate buffer holds; it is now %d."),
-    "an aim of the encoder, not in the standard"};
+    "an aim of the encoder, not in the standard",
+    {.setting = "vbv_target", .value = 1, .limit = 2}};
 
-constexpr ViewRule<> noTarget = {"rate.target", Severity::Error,
+constexpr ViewRule<> noTarget = {"rate.target",
+                                 Severity::Error,
                                  KV_EACH_VIEW("The target bitrate has to be above 0."),
-                                 "nothing to aim at"};
+                                 "nothing to aim at",
+                                 {.setting = "bitrate"}};
 constexpr ViewRule<int> kilobits = {
-    "rate.kilobits", Severity::Risk,
+    "rate.kilobits",
+    Severity::Risk,
     KV_EACH_VIEW(
         "The target bitrate of %d bit/s is less than 1 bit a macroblock, as if typed in kbit/s."),
-    "practice: coded pictures have many times as much"};
-constexpr ViewRule<> noMaximum = {"hrd.maximum", Severity::Error,
+    "practice: coded pictures have many times as much",
+    {.setting = "bitrate", .value = 1}};
+constexpr ViewRule<> noMaximum = {"hrd.maximum",
+                                  Severity::Error,
                                   KV_EACH_VIEW("HRD conformance needs a max bitrate above 0."),
-                                  "E.2.2: bit_rate_value_minus1"};
-constexpr ViewRule<> noBuffer = {"hrd.buffer", Severity::Error,
+                                  "E.2.2: bit_rate_value_minus1",
+                                  {.setting = "max_bitrate"}};
+constexpr ViewRule<> noBuffer = {"hrd.buffer",
+                                 Severity::Error,
                                  KV_EACH_VIEW("HRD conformance needs a bitrate buffer above 0."),
-                                 "E.2.2: cpb_size_value_minus1"};
-constexpr ViewRule<> noFrameRate = {"hrd.frame-rate", Severity::Error,
+                                 "E.2.2: cpb_size_value_minus1",
+                                 {.setting = "bitrate_buffer"}};
+constexpr ViewRule<> noFrameRate = {"hrd.frame-rate",
+                                    Severity::Error,
                                     KV_EACH_VIEW("HRD conformance needs a frame rate: choose one."),
-                                    "C.1.2: removal times count clock ticks"};
-constexpr ViewRule<> emptyStart = {"hrd.initial-empty", Severity::Error,
+                                    "C.1.2: removal times count clock ticks",
+                                    {.setting = "frame_rate"}};
+constexpr ViewRule<> emptyStart = {"hrd.initial-empty",
+                                   Severity::Error,
                                    KV_EACH_VIEW("VBV buffer initial has to be above 0."),
-                                   "D.2.2: initial_cpb_removal_delay is not 0"};
+                                   "D.2.2: initial_cpb_removal_delay is not 0",
+                                   {.setting = "vbv_initial"}};
 constexpr ViewRule<int, int> fullStart = {
-    "hrd.initial-above", Severity::Error,
+    "hrd.initial-above",
+    Severity::Error,
     KV_EACH_VIEW(
         "VBV buffer initial can be at most %d with this bitrate buffer (now %d): lower it."),
-    "D.2.2: at most 90000 * CpbSize / BitRate"};
+    "D.2.2: at most 90000 * CpbSize / BitRate",
+    {.setting = "vbv_initial", .value = 2, .limit = 1}};
 constexpr ViewRule<double, int> iPicture = {
-    "hrd.i-size", Severity::Error,
+    "hrd.i-size",
+    Severity::Error,
     KV_EACH_VIEW("The bitrate buffer of %.0f bytes is smaller than the maximum I-frame size of %d "
                  "bytes: enlarge it."),
-    "C.3: a picture is whole in the buffer when it is removed"};
+    "C.3: a picture is whole in the buffer when it is removed",
+    {.setting = "bitrate_buffer", .value = 1, .limit = 2}};
 constexpr ViewRule<> shortStart = {
-    "hrd.initial-short", Severity::Note,
+    "hrd.initial-short",
+    Severity::Note,
     KV_EACH_VIEW("VBV buffer initial is less than one frame, so the first may come late."),
-    "C.3: underflow"};
+    "C.3: underflow",
+    {.setting = "vbv_initial"}};
 constexpr ViewRule<Decimal> shortBuffer = {
-    "hrd.short", Severity::Note,
+    "hrd.short",
+    Severity::Note,
     KV_EACH_VIEW("The bitrate buffer holds %d.%0*d s, which leaves little room for I-frames."),
-    "practice: 0.5 s and more"};
+    "practice: 0.5 s and more",
+    {.setting = "bitrate_buffer"}};
 constexpr ViewRule<> rounded = {
-    "hrd.rounding", Severity::Note,
+    "hrd.rounding",
+    Severity::Note,
     KV_EACH_VIEW("The stream names the bitrate in steps of 64 bit/s, the buffer in steps of 16 "
                  "bits."),
-    "E.2.2: bit_rate_scale and cpb_size_scale"};
+    "E.2.2: bit_rate_scale and cpb_size_scale",
+    {.setting = "bitrate"}};
 constexpr ViewRule<> withQuantizer = {
-    "hrd.quantizer", Severity::Note,
+    "hrd.quantizer",
+    Severity::Note,
     KV_EACH_VIEW("HRD conformance cannot be guaranteed in a constant quality mode."),
-    "C.3: underflow"};
+    "C.3: underflow",
+    {.setting = "hrd_mode"}};
 constexpr ViewRule<> unlimited = {
-    "rate.unlimited", Severity::Note,
+    "rate.unlimited",
+    Severity::Note,
     KV_EACH_VIEW(
         "Without HRD conformance the bitrate has no maximum; the target bitrate was checked."),
-    "A.3: limits hold for the maximum; C.1.1: that of the buffer"};
+    "A.3: limits hold for the maximum; C.1.1: that of the buffer",
+    {.setting = "hrd_mode"}};
 constexpr ViewRule<int, int> quantizerOrder = {
-    "quantizer.order", Severity::Error,
+    "quantizer.order",
+    Severity::Error,
     KV_EACH_VIEW("The minimum quantizer %d is above the maximum quantizer %d: lower it, or raise "
                  "the maximum."),
-    "contradiction of the two ends"};
+    "contradiction of the two ends",
+    {.setting = "quant_min", .value = 1, .limit = 2}};
 
 #define KV_QUANTIZER(kind)                                                                         \
     KV_EACH_VIEW("The quantizer of " kind                                                          \
@@ -97,13 +133,25 @@ struct Quantizer {
 constexpr Quantizer quantizers[] = {
     {&KvMvcViewSettings::quant_i,
      [](const Stream&) { return true; },
-     {"quantizer.i", Severity::Error, KV_QUANTIZER("I"), insideEnds}},
+     {"quantizer.i",
+      Severity::Error,
+      KV_QUANTIZER("I"),
+      insideEnds,
+      {.setting = "quant_i", .value = 3}}},
     {&KvMvcViewSettings::quant_p,
      [](const Stream& stream) { return stream.predicts; },
-     {"quantizer.p", Severity::Error, KV_QUANTIZER("P"), insideEnds}},
+     {"quantizer.p",
+      Severity::Error,
+      KV_QUANTIZER("P"),
+      insideEnds,
+      {.setting = "quant_p", .value = 3}}},
     {&KvMvcViewSettings::quant_b,
      [](const Stream& stream) { return stream.bFrames; },
-     {"quantizer.b", Severity::Error, KV_QUANTIZER("B"), insideEnds}},
+     {"quantizer.b",
+      Severity::Error,
+      KV_QUANTIZER("B"),
+      insideEnds,
+      {.setting = "quant_b", .value = 3}}},
 };
 
 void judgeFullness(const Stream& stream, int v, Report& report)

@@ -33,6 +33,8 @@ struct PercentMessage {
     {
         return {row.field,
                 {row.shared,
+                 row.member,
+                 0,
                  {row.message.id.at, "-percent"},
                  Text{row.name, " was %d %%; it is now 100 %%."}.at,
                  "percent end at 100"}};

@@ -203,6 +203,17 @@ int Stream::mostReferences() const
     return most;
 }
 
+double macroblockRate(const Stream& stream)
+{
+    return static_cast<double>(stream.views * stream.frameMbs) * stream.outputRate;
+}
+
+std::int64_t macroblockRateLimit(const Stream& stream, const Level& level)
+{
+    const int scale = stream.multiview ? 2 : 1; // mvcScaleFactor
+    return scale * level.mbRate;
+}
+
 std::int64_t dpbFrames(const Stream& stream, const Level& level)
 {
     if (stream.views == 1) {

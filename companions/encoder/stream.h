@@ -82,6 +82,11 @@ struct Stream {
     int mostReferences() const;
 };
 
+/// Macroblocks per second of all views at the shortest distance between output times, and how many
+/// of them a level allows (A.3.1 a, b, A.3.2 a, b; H.10.2.1 a, b).
+double macroblockRate(const Stream& stream);
+std::int64_t macroblockRateLimit(const Stream& stream, const Level& level);
+
 /// Frames that the decoded picture buffer holds at a level (A.3.1 h; H.10.2.1 f).
 std::int64_t dpbFrames(const Stream& stream, const Level& level);
 

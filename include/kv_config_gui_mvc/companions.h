@@ -120,8 +120,8 @@ typedef struct KvMvcMessageAbout {
                               first where several have a part in it */
     int32_t view;        /**< 0 to KV_MVC_MAX_VIEWS - 1, or KV_MVC_ALL_VIEWS */
     uint32_t numbers;    /**< which of the next two there are: KvMvcAboutNumber */
-    double value;        /**< what was judged: the setting's, in the unit of its member; else a sum
-                              in the unit of the limit */
+    double value;        /**< what was judged, in the unit of the limit; where there is no limit,
+                              the setting's value in the record */
     double limit;        /**< what it may be at most or at least, or what it was corrected to */
     const char* level;   /**< the level whose limit it is, or that results: "4.1" */
 } KvMvcMessageAbout;

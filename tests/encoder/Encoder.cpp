@@ -36,6 +36,11 @@ int collect(Severity heardAs, const char* format, va_list arguments)
                     current->texts[severity].append(text);
                     current->rules.append(QString::fromLatin1(rule->id));
                     listed = true;
+                    // Each message is told what it is about, before it.
+                    if (current->abouts.size() != current->rules.size() ||
+                        current->abouts.last().rule != rule->id) {
+                        qFatal("nobody said what this is about: %s", format);
+                    }
                 }
             }
         }
@@ -56,8 +61,30 @@ int sink(const char* format, ...)
     return length;
 }
 
+void hearAbout(const KvMvcMessageAbout* about)
+{
+    const auto number = [&](KvMvcAboutNumber which, double value) {
+        return (about->numbers & which) != 0 ? std::optional(value) : std::nullopt;
+    };
+    current->abouts.append(About{about->kind, about->rule, about->setting, about->view,
+                                 number(KV_MVC_ABOUT_VALUE, about->value),
+                                 number(KV_MVC_ABOUT_LIMIT, about->limit), about->level});
+}
+
+void hearUse(const KvMvcLimitUse* use)
+{
+    current->uses.append(
+        LimitUse{use->view, use->name, use->used, use->limit, use->unit, use->rule, use->level});
+}
+
 KvMvcFunction lookUp(const char* name)
 {
+    if (std::strcmp(name, "msg_about") == 0) {
+        return reinterpret_cast<KvMvcFunction>(hearAbout);
+    }
+    if (std::strcmp(name, "lim_usage") == 0) {
+        return reinterpret_cast<KvMvcFunction>(hearUse);
+    }
     const struct {
         const char* name;
         KvMvcPrintf function;

@@ -5,7 +5,34 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QList>
 #include <QStringList>
+
+#include <optional>
+
+/// What a message is about, with texts of its own.
+struct About {
+    int kind = -1;
+    QByteArray rule;
+    QByteArray setting;
+    int view = 0;
+    std::optional<double> value;
+    std::optional<double> limit;
+    QByteArray level;
+
+    bool operator==(const About&) const = default;
+};
+
+/// How much of a limit is used.
+struct LimitUse {
+    int view = 0;
+    QByteArray name;
+    double used = 0;
+    double limit = 0;
+    QByteArray unit;
+    QByteArray rule;
+    QByteArray level;
+};
 
 /// What one check said and did.
 struct Outcome {
@@ -13,6 +40,8 @@ struct Outcome {
     QByteArrayList formats[4]; ///< as passed to the sinks, by kv::encoder::Severity
     QByteArrayList texts[4];   ///< formatted
     QStringList rules;         ///< names of the rules behind the formats, in order
+    QList<About> abouts;       ///< of each of them
+    QList<LimitUse> uses;
 
     bool accepted() const { return result == 0; }
     bool said(const QString& rule) const { return rules.contains(rule); }
@@ -20,6 +49,12 @@ struct Outcome {
     /// Of what was corrected.
     QByteArrayList warnings() const { return texts[1]; }
     QByteArrayList risks() const { return texts[2]; }
+    /// What the first message of a rule is about.
+    About about(const QString& rule) const
+    {
+        const auto at = rules.indexOf(rule);
+        return at < 0 ? About{} : abouts[at];
+    }
     QByteArrayList notes() const { return texts[3]; }
     /// All texts, for the message of a failing comparison.
     QByteArray all() const;

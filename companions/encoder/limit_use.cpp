@@ -1,0 +1,109 @@
+// How much of a level's limits, and of a disc's, the settings use.
+
+#include "rules.h"
+
+namespace kv::encoder
+{
+
+namespace
+{
+
+/// Tells the limits of one level, or of a disc.
+struct Teller {
+    const Report& report;
+    const char* level; ///< null: limits that no level sets
+
+    void operator()(const char* name, const char* unit, const char* rule, int view, double used,
+                    double limit) const
+    {
+        report.tellLimit({0, view, name, unit, rule, level, used, limit});
+    }
+    void operator()(const char* name, const char* unit, const char* rule, int view,
+                    std::int64_t used, std::int64_t limit) const
+    {
+        (*this)(name, unit, rule, view, static_cast<double>(used), static_cast<double>(limit));
+    }
+};
+
+constexpr char macroblocks[] = "macroblocks";
+constexpr char frames[] = "frames";
+constexpr char bits[] = "bit";
+constexpr char bitRate[] = "bit/s";
+
+void tellPictures(const Stream& stream, const Level& level, const Teller& tell)
+{
+    const bool several = stream.multiview != nullptr;
+    const std::int64_t side = maxSideMbs(level);
+    tell("Picture size", macroblocks, "level.picture", KV_MVC_ALL_VIEWS, stream.frameMbs,
+         level.frameMbs);
+    tell("Picture width", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.widthMbs, side);
+    tell("Picture height", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.heightMbs, side);
+    tell("Macroblock rate", "macroblocks/s", several ? "level.rate-views" : "level.rate",
+         KV_MVC_ALL_VIEWS, macroblockRate(stream),
+         static_cast<double>(macroblockRateLimit(stream, level)));
+    const std::int64_t most = dpbFrames(stream, level);
+    const std::int64_t kept = most - referenceRoom(stream, level);
+    tell("Decoded pictures", frames,
+         !several                                       ? "level.dpb"
+         : kept > 0 && stream.totalReferences() <= most ? "level.dpb-views-b"
+                                                        : "level.dpb-views",
+         KV_MVC_ALL_VIEWS, stream.totalReferences() + kept, most);
+}
+
+/// A rate or a buffer, which two limits hold: of all data (NAL), and of the pictures' alone (VCL).
+struct Sum {
+    const char* name;
+    const char* vclName;
+    const char* unit;
+    const char* baseRule;
+    const char* viewsRule;
+    const char* vclRule;
+    std::int64_t levelUnits;
+    std::int64_t base;
+    std::int64_t all;
+};
+
+void tellSum(const Stream& stream, const Sum& sum, const Teller& tell)
+{
+    const Profile& profile = *stream.streamProfile();
+    const Profile& base = stream.profile ? *stream.profile : profile;
+    // The base view has to conform by itself, too.
+    if (sum.base > 0) {
+        const int view = stream.multiview ? 0 : KV_MVC_ALL_VIEWS;
+        tell(sum.name, sum.unit, sum.baseRule, view, sum.base, sum.levelUnits * base.nalFactor);
+        tell(sum.vclName, sum.unit, sum.vclRule, view, sum.base, sum.levelUnits * base.vclFactor);
+    }
+    if (stream.multiview && sum.all > 0) {
+        tell(sum.name, sum.unit, sum.viewsRule, KV_MVC_ALL_VIEWS, sum.all,
+             sum.levelUnits * profile.nalFactor);
+        tell(sum.vclName, sum.unit, sum.vclRule, KV_MVC_ALL_VIEWS, sum.all,
+             sum.levelUnits * profile.vclFactor);
+    }
+}
+
+void tellSums(const Stream& stream, const Level& level, const Teller& tell)
+{
+    const std::int64_t baseBuffer = keepsBuffer(stream.base) ? bufferBits(stream.base) : 0;
+    tellSum(stream,
+            {"Bitrate", "Bitrate of pictures", bitRate, "level.bitrate", "level.bitrate-views",
+             "level.bitrate-vcl", level.bitrate, limitRate(stream.base), stream.totalRate()},
+            tell);
+    tellSum(stream,
+            {"Buffer", "Buffer of pictures", bits, "level.buffer", "level.buffer-views",
+             "level.buffer-vcl", level.buffer, baseBuffer, stream.totalBuffer()},
+            tell);
+}
+
+} // namespace
+
+void tellLimits(const Stream& stream, const Level* level, const Report& report)
+{
+    if (!report.wantsLimits() || !level || !stream.sized || !stream.streamProfile()) {
+        return;
+    }
+    const Teller tell{report, level->name};
+    tellPictures(stream, *level, tell);
+    tellSums(stream, *level, tell);
+}
+
+} // namespace kv::encoder
