@@ -252,6 +252,10 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
 
 void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
 {
+    // An empty shell has no pages to tell.
+    if (!m_caller) {
+        return;
+    }
     stateToSettings(state);
     settingsToState();
     check();

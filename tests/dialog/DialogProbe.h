@@ -17,6 +17,9 @@ public:
     void settingsToState() const { m_dialog.settingsToState(); }
     QString lastLoadDirectory() const { return m_dialog.m_lastLoadDirectory; }
     QString lastSaveDirectory() const { return m_dialog.m_lastSaveDirectory; }
+    BasicPage*& basicPage() const { return m_dialog.m_basicPage; }
+    AdvancedPage*& advancedPage() const { return m_dialog.m_advancedPage; }
+    ViewsPage*& viewsPage() const { return m_dialog.m_viewsPage; }
 
 private:
     AVCVideoEncoderDlg& m_dialog;

@@ -1,14 +1,20 @@
-// When the encoder's check runs: once an edit, whatever the edit sets off.
+// When the encoder's check runs: once an edit, whatever the edit sets off; and what the pages are
+// told before and after it.
 
 #include "DialogTest.h"
 #include "ModalWatch.h"
 #include "ToolkitWarnings.h"
 #include "UserInput.h"
 
+#include "pages/AdvancedPage.h"
+#include "pages/BasicPage.h"
+#include "pages/ViewsPage.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPointer>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
@@ -24,6 +30,7 @@ private Q_SLOTS:
 
     void perEdit_data();
     void perEdit();
+    void pagesAreToldViewByViewAndAgainAfterTheCheck();
     void pushingTellsNothingBack();
     void checkSeesTheEdit();
     void correctionsReachEveryPage();
@@ -34,6 +41,35 @@ private Q_SLOTS:
 
 using Edit = std::function<void(OpenDialog&)>;
 Q_DECLARE_METATYPE(Edit)
+
+namespace
+{
+
+/// A page in the place of one of the dialog's, which adds the value of one key of every state that
+/// it is told to the companions' calls: "NAME VALUE".
+template <class Page>
+class ListeningPage : public Page
+{
+public:
+    ListeningPage(const QString& name, const QString& key, Page*& page, QStringList& calls)
+        : m_name(name), m_key(key), m_calls(calls), m_place(page, this)
+    {
+    }
+
+    void receiveState(const ConfigState& state) override
+    {
+        m_calls += m_name + QLatin1Char(' ') + state.value(m_key).toString();
+        Page::receiveState(state);
+    }
+
+private:
+    const QString m_name;
+    const QString m_key;
+    QStringList& m_calls;
+    const QScopedValueRollback<Page*> m_place;
+};
+
+} // namespace
 
 void TestDialogChecks::perEdit_data()
 {
@@ -124,6 +160,41 @@ void TestDialogChecks::perEdit()
     edit(dialog);
     QCOMPARE(dialog.companions.count(QStringLiteral("check")), checks);
     QCOMPARE(dialog.companions.count(QStringLiteral("check 3 0")), checks);
+}
+
+void TestDialogChecks::pagesAreToldViewByViewAndAgainAfterTheCheck()
+{
+    KvMvcSettings settings = exampleSettings();
+    put(settings, {{0, 24, 640}, {1, 24, 1024}, {0, 8, 11}, {1, 8, 22}});
+    OpenDialog dialog(usualFlags, settings);
+    dialog.companions.onCheck = [](KvMvcLookup, KvMvcSettings& checked) {
+        put(checked, {{1, 24, 1280}, {1, 8, 33}, {Cell::Record, 0, 1}});
+        return 0;
+    };
+    QStringList& calls = dialog.companions.calls;
+    const DialogProbe probe = dialog.probe();
+    const ListeningPage<BasicPage> basic(QStringLiteral("width"), QStringLiteral("Horizontal Size"),
+                                         probe.basicPage(), calls);
+    const ListeningPage<AdvancedPage> advanced(
+        QStringLiteral("interval"), QStringLiteral("Interval I"), probe.advancedPage(), calls);
+    const ListeningPage<ViewsPage> views(QStringLiteral("views"), QStringLiteral("Number of views"),
+                                         probe.viewsPage(), calls);
+
+    ConfigState edit;
+    edit.insert(QStringLiteral("Deblocking"), 1);
+    dialog->slotReceiveState(edit);
+    QCOMPARE(calls.join(QLatin1String(", ")),
+             QStringLiteral("width 640, interval 11, width 1024, interval 22, "
+                            "width 1024, interval 22, views 1, "
+                            "check 3 0, width 1280, interval 33, views 0"));
+
+    // A file's settings are told once more than a check tells them.
+    calls.clear();
+    dialog.dropSettings(settings);
+    QCOMPARE(calls.join(QLatin1String(", ")),
+             QStringLiteral("api 8193, read /settings.cfg, "
+                            "check 3 0, width 1280, interval 33, views 0, "
+                            "width 1280, interval 33, views 0"));
 }
 
 void TestDialogChecks::pushingTellsNothingBack()

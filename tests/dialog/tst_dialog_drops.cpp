@@ -52,6 +52,7 @@ private Q_SLOTS:
     void firstFileDecides();
     void dragWithoutFiles();
     void dropLoadsTheFirstFileOnly();
+    void firstUrlThatIsNoFileHasNoName();
     void dropIsNotJudgedBySuffix();
     void dropPassesTheNameOnOnce();
     void dropWithoutFilesIsLeftAlone();
@@ -119,6 +120,22 @@ void TestDialogDrops::dropLoadsTheFirstFileOnly()
                           QStringLiteral("check 3 0")}));
     QVERIFY(dialog.companions.receivedByReader.value(0) == QByteArray(16888, '\0'));
     QCOMPARE(findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin")->value(), 1440);
+}
+
+void TestDialogDrops::firstUrlThatIsNoFileHasNoName()
+{
+    // A file behind it does not stand in for it.
+    OpenDialog dialog;
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("https://localhost/a.cfg")),
+                  QUrl::fromLocalFile(QStringLiteral("/b.cfg"))});
+    QVERIFY(!dragAccepted(dialog, data));
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QVERIFY(!dialog->eventFilter(dialog.tabs(), &event));
+    QVERIFY(event.isAccepted());
+    QCOMPARE(dialog.companions.calls,
+             QStringList({QStringLiteral("api 8193"), QStringLiteral("read ")}));
 }
 
 void TestDialogDrops::dropIsNotJudgedBySuffix()

@@ -77,6 +77,10 @@ private Q_SLOTS:
     void everyKeyHasARow();
     void customFrameRateIsStored();
     void onlyOneCustomFrameRateIsListed();
+    void listedCustomFrameRateIsTheBaseViews();
+    void rateNearAStandardOneIsAnItemOfItsOwn();
+    void customFrameRateIsKnownWithoutItsTab();
+    void settingsReachTheViewsThatWereCounted();
     void viewsBeyondTheRecordStayOutOfIt();
     void viewsBeyondTheRecordAreLikeTheSecond();
 
@@ -355,6 +359,73 @@ void TestDialogEdits::onlyOneCustomFrameRateIsListed()
     dialog.put({{0, 32, 23.976}});
     QCOMPARE(list->currentText(), QStringLiteral("23.98"));
     QCOMPARE(list->currentIndex(), 6);
+}
+
+void TestDialogEdits::listedCustomFrameRateIsTheBaseViews()
+{
+    // Each view is described, in order, and the list takes the first rate that it lacks.
+    OpenDialog dialog;
+    auto* const list = on<QComboBox>(dialog, "VideoFormatPage", "framerateList");
+    QCOMPARE(list->count(), 14);
+    dialog.companions.onDefaults = [](KvMvcSettings& settings, int) {
+        put(settings, {{0, 32, 47.0}, {1, 32, 48.0}});
+    };
+    QVERIFY(user::choose(dialog.presetList(), QStringLiteral("Stereo High")));
+    QCOMPARE(list->count(), 15);
+    QCOMPARE(list->itemText(14), QStringLiteral("47"));
+    // Shown is the last view's. Chosen, the item is known by the time of the second view.
+    QCOMPARE(list->currentIndex(), -1);
+    const QByteArray before = dialog.bytes();
+    QVERIFY(user::choose(list, QStringLiteral("47")));
+    QCOMPARE(differences(before, dialog.bytes()), expectedDifferences(before, {{1, 32, 47.0}}));
+}
+
+void TestDialogEdits::rateNearAStandardOneIsAnItemOfItsOwn()
+{
+    // 24000/1001 is further from it than rounding explains.
+    KvMvcSettings settings = exampleSettings();
+    put(settings, {{0, 32, 23.98}, {1, 32, 23.98}});
+    OpenDialog dialog(usualFlags, settings);
+    const auto* list = on<QComboBox>(dialog, "VideoFormatPage", "framerateList");
+    QCOMPARE(list->count(), 15);
+    QCOMPARE(list->itemText(14), QStringLiteral("23.98"));
+    QCOMPARE(list->currentText(), QStringLiteral("23.98"));
+    user::click(dialog.button("buttonOk"));
+    QVERIFY(bytesOf(dialog.caller) == dialog.given);
+}
+
+void TestDialogEdits::customFrameRateIsKnownWithoutItsTab()
+{
+    KvMvcSettings settings = exampleSettings();
+    put(settings, {{0, 32, 48.0}, {1, 32, 48.0}});
+    OpenDialog dialog(usualFlags & ~KV_MVC_GUI_BASIC_TAB, settings);
+    const QByteArray before = dialog.bytes();
+    const auto receive = [&dialog](const char* rate) {
+        ConfigState state;
+        state.insert(QStringLiteral("Frame Rate"), QString::fromLatin1(rate));
+        dialog->slotReceiveState(state);
+    };
+    receive("25.00");
+    QCOMPARE(differences(before, dialog.bytes()),
+             expectedDifferences(before, {{0, 32, 25.0}, {1, 32, 25.0}}));
+    receive("48");
+    QVERIFY(dialog.bytes() == before);
+}
+
+void TestDialogEdits::settingsReachTheViewsThatWereCounted()
+{
+    // The number of views comes after what is set in each of them.
+    OpenDialog dialog;
+    const QByteArray before = dialog.bytes();
+    ConfigState state;
+    state.insert(QStringLiteral("Number of views"), 0);
+    state.insert(QStringLiteral("Interlace"), QStringLiteral("MBAFF"));
+    dialog->slotReceiveState(state);
+    QCOMPARE(
+        differences(before, dialog.bytes()),
+        QStringList({QStringLiteral("record +0: 01000000"), QStringLiteral("view 0 +20: 02000000"),
+                     QStringLiteral("view 1 +20: 02000000")}));
+    QCOMPARE(dialog.probe().currentView(), 1);
 }
 
 void TestDialogEdits::viewsBeyondTheRecordStayOutOfIt()

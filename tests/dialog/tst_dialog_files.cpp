@@ -75,6 +75,8 @@ private Q_SLOTS:
     void overwriteIsAskedFor();
     void overwriteQuestionIsAboutTheNameWithItsSuffix();
     void lastDirectoriesAreKeptApart();
+    void shellNeitherReadsNorWrites_data();
+    void shellNeitherReadsNorWrites();
     void hostDeletesTheDialogWhileAFileIsChosen_data();
     void hostDeletesTheDialogWhileAFileIsChosen();
 
@@ -479,6 +481,27 @@ void TestDialogFiles::lastDirectoriesAreKeptApart()
         user::click(dialog.button(button));
         QCOMPARE(watch.seen(), 1);
     }
+}
+
+void TestDialogFiles::shellNeitherReadsNorWrites_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("old.cfg") << QStringLiteral("buttonLoad");
+    QTest::newRow("new.cfg") << QStringLiteral("buttonSave");
+}
+
+void TestDialogFiles::shellNeitherReadsNorWrites()
+{
+    QFETCH(QString, button);
+    create("old.cfg");
+    RecordingCompanions companions;
+    AVCVideoEncoderDlg shell(nullptr, nullptr, nullptr);
+    shell.show();
+    ModalWatch watch([this](QWidget* window) { enterName(window, path(QTest::currentDataTag())); });
+    user::click(shell.findChild<QPushButton*>(button));
+    QCOMPARE(watch.seen(), 1);
+    QVERIFY(!watch.forced());
+    QCOMPARE(companions.calls, QStringList());
 }
 
 void TestDialogFiles::hostDeletesTheDialogWhileAFileIsChosen_data()

@@ -5,9 +5,15 @@
 #include "UserInput.h"
 
 #include <QComboBox>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <functional>
+
+using Slot = std::function<void(AVCVideoEncoderDlg&)>;
+Q_DECLARE_METATYPE(Slot)
 
 namespace
 {
@@ -45,6 +51,8 @@ private Q_SLOTS:
     void bannerThatCannotBeReadIsTheBuiltInOne();
     void recordIsOptional();
     void withoutSettingsAnEmptyShell();
+    void slotsOfTheShellDoNothing_data();
+    void slotsOfTheShellDoNothing();
 };
 
 void TestDialogHosting::flags_data()
@@ -212,6 +220,41 @@ void TestDialogHosting::withoutSettingsAnEmptyShell()
     dialog.show();
     QCoreApplication::processEvents();
     QVERIFY(dialog.isVisible());
+}
+
+void TestDialogHosting::slotsOfTheShellDoNothing_data()
+{
+    QTest::addColumn<Slot>("slot");
+    const auto row = [](const char* name, Slot slot) { QTest::newRow(name) << slot; };
+    const auto receive = [](const char* key, const QVariant& value) {
+        return [key, value](AVCVideoEncoderDlg& shell) {
+            ConfigState state;
+            state.insert(QString::fromLatin1(key), value);
+            shell.slotReceiveState(state);
+        };
+    };
+    row("accept", &AVCVideoEncoderDlg::slotAccept);
+    row("edit", receive("Horizontal Size", 1280));
+    row("number of views", receive("Number of views", 1));
+    row("preset key", receive("Video Type", QStringLiteral("Stereo High")));
+    row("preset",
+        [](AVCVideoEncoderDlg& shell) { shell.slotChangePreset(QStringLiteral("Stereo High")); });
+    row("restore", &AVCVideoEncoderDlg::slotRestorePreset);
+}
+
+void TestDialogHosting::slotsOfTheShellDoNothing()
+{
+    QFETCH(Slot, slot);
+    RecordingCompanions companions;
+    AVCVideoEncoderDlg shell(nullptr, nullptr, nullptr);
+    shell.show();
+    QSignalSpy finished(&shell, &QDialog::finished);
+    slot(shell);
+    QCOMPARE(companions.calls, QStringList());
+    QVERIFY(shell.isVisible());
+    QCOMPARE(finished.count(), 0);
+    shell.slotReject();
+    QCOMPARE(finished.count(), 1);
 }
 
 QTEST_MAIN(TestDialogHosting)

@@ -20,6 +20,12 @@ QString sheet(const char* skin)
 
 } // namespace
 
+// Outside any namespace, as the macro demands.
+static void dropResources()
+{
+    Q_CLEANUP_RESOURCE(res_mvc);
+}
+
 class TestDialogSkins : public QObject
 {
     Q_OBJECT
@@ -32,6 +38,7 @@ private Q_SLOTS:
     void keysOfAFocusedControl();
     void otherKeysDoNot_data();
     void otherKeysDoNot();
+    void missingSkinIsNone();
     void bannerIsSetAgainEachTime_data();
     void bannerIsSetAgainEachTime();
     void editsSurviveASkin();
@@ -85,6 +92,22 @@ void TestDialogSkins::otherKeysDoNot()
     OpenDialog dialog;
     QTest::keyClick(dialog.get(), Qt::Key(key));
     QCOMPARE(dialog->styleSheet(), sheet("default"));
+}
+
+void TestDialogSkins::missingSkinIsNone()
+{
+    OpenDialog dialog;
+    QVERIFY(!dialog->styleSheet().isEmpty());
+    dropResources();
+    for (const auto key : {Qt::Key_F6, Qt::Key_F5}) {
+        dialog->setStyleSheet(QStringLiteral("QDialog { color: red }"));
+        QTest::keyClick(dialog.get(), key);
+        QCOMPARE(dialog->styleSheet(), QString());
+    }
+    // The next dialog brings them back.
+    KvMvcSettings settings = exampleSettings();
+    const AVCVideoEncoderDlg next(&settings, nullptr, nullptr);
+    QVERIFY(!next.styleSheet().isEmpty());
 }
 
 void TestDialogSkins::bannerIsSetAgainEachTime_data()
