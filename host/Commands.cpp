@@ -69,6 +69,15 @@ interlacing and what else the stream tells, on top of a preset's defaults.
 Exit code: 0, or 2 on trouble.
 )";
 
+constexpr char exportHelp[] = R"(
+Prints what another encoder has to be told so that it codes the settings in
+FILE: a command line for a shell, that is for x264 or for ffmpeg with libx264.
+FILE may be -, which is standard input. What the encoder cannot do is told in
+notes on standard error; a name stands for each file that is not given.
+
+Exit code: 0, or 2 on trouble.
+)";
+
 constexpr int anyNumber = std::numeric_limits<int>::max();
 
 constexpr Command commands[] = {
@@ -86,6 +95,8 @@ constexpr Command commands[] = {
      true},
     {"import", "MEDIA", 1, 1, "Writes the settings that fit a media file.", importHelp,
      importOptions, runImport, false, false},
+    {"export", "FILE", 1, 1, "Writes settings for another encoder.", exportHelp, exportOptions,
+     runExport, false, true},
 };
 
 } // namespace

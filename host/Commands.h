@@ -29,3 +29,6 @@ Outcome runImport(const Invocation& call);
 
 QList<QCommandLineOption> setOptions();
 Outcome runSet(const Invocation& call);
+
+QList<QCommandLineOption> exportOptions();
+Outcome runExport(const Invocation& call);

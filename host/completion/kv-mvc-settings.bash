@@ -41,10 +41,13 @@ _kv_mvc_settings() {
 
     if [[ $COMP_CWORD -eq 1 ]]; then
         # shellcheck disable=SC2046 # one word an option
-        _kv_mvc_settings_words "$word" edit show check set defaults diff import \
+        _kv_mvc_settings_words "$word" edit show check set defaults diff import export \
             $(_kv_mvc_settings_options "$program")
         return
     fi
+    case ${COMP_WORDS[1]}:$previous in
+        export:-o | export:--output) _kv_mvc_settings_files "$word" 'sh|txt'; return ;;
+    esac
     case $previous in
         -o | --output) _kv_mvc_settings_files "$word" "$settings" ;;
         --preset) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
@@ -53,7 +56,9 @@ _kv_mvc_settings() {
             _kv_mvc_settings_list "$word" video-type size frame-rate pixel-ratio profile level views
             ;;
         --banner) _kv_mvc_settings_files "$word" '' ;;
-        --title | --parent | --set) ;;
+        --to) _kv_mvc_settings_words "$word" x264 ;;
+        --input | --stream) _kv_mvc_settings_files "$word" '' ;;
+        --title | --parent | --set | --view) ;;
         *)
             if [[ $word == -* ]]; then
                 # shellcheck disable=SC2046 # one word an option
@@ -66,7 +71,7 @@ _kv_mvc_settings() {
                     # Behind the file come assignments.
                     [[ $COMP_CWORD -eq 2 || $previous == -* ]] && _kv_mvc_settings_files "$word" "$settings"
                     ;;
-                edit | show | check | diff) _kv_mvc_settings_files "$word" "$settings" ;;
+                edit | show | check | diff | export) _kv_mvc_settings_files "$word" "$settings" ;;
                 import) _kv_mvc_settings_files "$word" "$media" ;;
                 defaults) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
             esac

@@ -115,9 +115,10 @@ void TestHostCommands::helpNamesEveryCommand()
     const HostProgram::Result result = program.run({QStringLiteral("--help")});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
-    for (const char* line : {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ",
-                             "\n  set FILE KEY=VALUE... ", "\n  defaults PRESET ", "\n  diff A B ",
-                             "\n  import MEDIA ", "\n  -h, --help ", "\n  -v, --version "}) {
+    for (const char* line :
+         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ", "\n  set FILE KEY=VALUE... ",
+          "\n  defaults PRESET ", "\n  diff A B ", "\n  import MEDIA ", "\n  export FILE ",
+          "\n  -h, --help ", "\n  -v, --version "}) {
         QVERIFY2(result.output.contains(QLatin1String(line)), line);
     }
     QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
@@ -142,6 +143,7 @@ void TestHostCommands::everyCommandHasHelp_data()
     row("defaults", "PRESET", "--output --set --help");
     row("diff", "A B", "--json --help");
     row("import", "MEDIA", "--output --help");
+    row("export", "FILE", "--to --input --stream --view --output --help");
 }
 
 void TestHostCommands::everyCommandHasHelp()
@@ -207,6 +209,8 @@ void TestHostCommands::badFilesGetTheirReasonsAndLeaveAllAsItWas_data()
                                            "diff --json good.ini %1",
                                            "import %1",
                                            "import %1 -o kept.ini",
+                                           "export --to x264 %1",
+                                           "export --to x264 -o kept.sh %1",
                                            "edit %1 -o kept.ini"};
     for (const char* command : commands) {
         for (const Bad& bad : badFiles) {

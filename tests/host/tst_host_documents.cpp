@@ -28,7 +28,7 @@ namespace
 const QStringList commandNames = {QStringLiteral("edit"),     QStringLiteral("show"),
                                   QStringLiteral("check"),    QStringLiteral("set"),
                                   QStringLiteral("defaults"), QStringLiteral("diff"),
-                                  QStringLiteral("import")};
+                                  QStringLiteral("import"),   QStringLiteral("export")};
 
 QString textOf(const char* name)
 {
@@ -158,8 +158,9 @@ void TestHostDocuments::completionOffers_data()
         QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(offers);
     };
     // The last word of the line, after its last blank, is being typed.
-    row("", "--help --version check defaults diff edit import set show");
+    row("", "--help --version check defaults diff edit export import set show");
     row("d", "defaults diff");
+    row("e", "edit export");
     row("--v", "--version");
     row("show ", "a.ini b.CFG folder");
     row("show b", "b.CFG");
@@ -177,6 +178,11 @@ void TestHostDocuments::completionOffers_data()
     row("set -o b", "b.CFG");
     row("import ", "folder movie.MP4 stream.ts");
     row("import movie.MP4 -o a", "a.ini");
+    row("export ", "a.ini b.CFG folder");
+    row("export --to ", "x264");
+    row("export --to x264 --input s", "stream.ts");
+    row("export --to x264 -o n", "notes.txt");
+    row("export --view ", "");
     row("edit --no-b", "--no-banner --no-basic");
     row("edit --preset ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
     row("edit --hosting ", "host native own");

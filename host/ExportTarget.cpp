@@ -1,0 +1,40 @@
+#include "ExportTarget.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr char x264Description[] =
+    "A command line of the `x264` program, for one view. An input with the suffix `.yuv` or "
+    "`.raw`,\n"
+    "or without one, has raw planar pictures in the format of the settings, of 16 bits a sample\n"
+    "where these have 10; any other tells its format, and standard input is YUV4MPEG2.";
+
+} // namespace
+
+const std::vector<ExportTarget>& exportTargets()
+{
+    static const QStringList scripts = {QStringLiteral("sh"), QStringLiteral("txt"), QString()};
+    static const std::vector<ExportTarget> targets = {
+        {"x264", "x264", x264Description, x264Table, writeX264, scripts, 1},
+    };
+    return targets;
+}
+
+ExportJob jobOf(const ExportTask& task, int view)
+{
+    // Views beyond the record's are like the last of them.
+    const int held =
+        std::min<int>(task.views.at(static_cast<std::size_t>(view)), KV_MVC_RECORD_VIEWS - 1);
+    return {task.settings, task.settings.views[held], isRawPictures(task.inputs.at(view))};
+}
+
+bool isRawPictures(const QString& input)
+{
+    const QString suffix = QFileInfo(input).suffix().toLower();
+    return input != QLatin1String("-") &&
+           QStringList{QString(), QStringLiteral("yuv"), QStringLiteral("raw")}.contains(suffix);
+}

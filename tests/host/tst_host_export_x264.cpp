@@ -1,0 +1,73 @@
+// What is exported to x264, encoded by it and imported again.
+
+#include "RealEncode.h"
+
+namespace
+{
+
+/// What ffmpeg cannot be told.
+constexpr ExportCase pulldowns[] = {
+    {"2:3", 0, "pulldown=1", "pulldown=2"},
+    {"3:2", 0, "pulldown=2", ""},
+    {"3:2 of 24 frames", 0, "pulldown=2 frame_rate=24", ""},
+    {"2:3 of frames", 0, "pulldown=4", ""},
+    {"3:2 of frames", 0, "pulldown=5", "pulldown=4"},
+    {"2:2", 0, "pulldown=7 frame_rate=25", ""},
+    {"3:3", 0, "pulldown=8 frame_rate=20", ""},
+    {"none that is chosen", 0, "pulldown=6", "pulldown=0"},
+};
+
+} // namespace
+
+class TestHostExportX264 : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void streamsTellWhatWasSet_data();
+    void streamsTellWhatWasSet();
+    void eachViewHasItsOwnRates();
+    void inputMayTellItsFormat();
+
+private:
+    kvtest::RealEncode m_encode;
+};
+
+void TestHostExportX264::initTestCase()
+{
+    if (!kvtest::hasFfmpeg() || QStandardPaths::findExecutable(QStringLiteral("x264")).isEmpty()) {
+        QSKIP("x264 and ffmpeg are not installed");
+    }
+}
+
+void TestHostExportX264::streamsTellWhatWasSet_data()
+{
+    QTest::addColumn<const ExportCase*>("row");
+    kvtest::addRows(exportCases);
+    kvtest::addRows(pulldowns);
+}
+
+void TestHostExportX264::streamsTellWhatWasSet()
+{
+    QFETCH(const ExportCase*, row);
+    QCOMPARE(m_encode.roundTrip(*row, "x264", "yuv"), QString());
+}
+
+void TestHostExportX264::eachViewHasItsOwnRates()
+{
+    // Half of the base view's.
+    const ExportCase row = {"", KV_MVC_STEREO_HIGH, "",
+                            "max_bitrate=15000000 bitrate_buffer=1875000"};
+    QCOMPARE(m_encode.roundTrip(row, "x264", "yuv", 1), QString());
+}
+
+/// The settings' frame rate holds, not that of the input.
+void TestHostExportX264::inputMayTellItsFormat()
+{
+    const ExportCase row = {"", 0, "profile=4 bit_depth_luma=10 bit_depth_chroma=10", ""};
+    QCOMPARE(m_encode.roundTrip(row, "x264", "y4m"), QString());
+}
+
+QTEST_GUILESS_MAIN(TestHostExportX264)
+#include "tst_host_export_x264.moc"
