@@ -24,7 +24,7 @@ bool checkSettings(KvMvcSettings& record, Report& report)
     judgeRates(stream, report);
     const Level* level = judgeLevel(stream, report);
     tellLimits(stream, level, report);
-    judgeDisc(stream, level, report);
+    judgeDisc(stream, report);
     tellSummary(stream, level, report);
     return report.errors() == 0;
 }
@@ -32,9 +32,9 @@ bool checkSettings(KvMvcSettings& record, Report& report)
 std::span<const RuleGroup> ruleGroups()
 {
     static const RuleGroup groups[] = {
-        fieldRules(),   rateFieldRules(), viewRules(),         pictureRules(),
-        profileRules(), levelRules(),     levelPictureRules(), gopRules(),
-        rateRules(),    discRules(),      summaryRules(),
+        fieldRules(),   rateFieldRules(),   viewRules(),  pictureRules(),
+        profileRules(), levelChoiceRules(), levelRules(), levelPictureRules(),
+        gopRules(),     rateRules(),        discRules(),  summaryRules(),
     };
     return groups;
 }

@@ -50,4 +50,9 @@ Decimal seconds(double time)
     return rounded(time, 3);
 }
 
+Decimal factor(double times)
+{
+    return rounded(times, 3);
+}
+
 } // namespace kv::encoder

@@ -26,4 +26,7 @@ Decimal frameRateText(double rate);
 /// Seconds, likewise: 0.50, 0.003.
 Decimal seconds(double time);
 
+/// How many times as much, likewise: 1.25.
+Decimal factor(double times);
+
 } // namespace kv::encoder

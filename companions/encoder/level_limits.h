@@ -30,6 +30,8 @@ const Level* findLevel(int code);
 
 /// Level that a Blu-ray 3D stream carries, also when a lower one would do.
 inline constexpr int discLevelCode = 41;
+/// Largest buffer of its base view, in bits.
+inline constexpr int discBuffer = 30'000'000;
 
 /// Most macroblocks in a row or column: the square root of 8 MaxFS (A.3.1 f, g, A.3.2 d, e).
 int maxSideMbs(const Level& level);

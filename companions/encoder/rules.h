@@ -36,11 +36,20 @@ void judgeGop(const Stream& stream, Report& report);
 void judgeRates(const Stream& stream, Report& report);
 /// @return The chosen level, or what "Auto" comes to; null when there is none.
 const Level* judgeLevel(const Stream& stream, Report& report);
+/// What a level does not allow. @param other The level that would do; null when none would.
+void judgeLimits(const Stream& stream, const Level& level, const Level* other, Report& report);
 /// The part of it for a picture whose size the level takes.
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
 /// Tells how much of the level's limits is used, where anybody wants to know.
 void tellLimits(const Stream& stream, const Level* level, const Report& report);
-void judgeDisc(const Stream& stream, const Level* level, Report& report);
+/// Whether rates or buffers are more than a level allows for picture data (VCL NAL units), which
+/// is less than for all.
+bool exceedsPictureData(const Stream& stream, const Level& level);
+/// Fewest slices of a picture at a level. Needs a size and a profile.
+int leastSlices(const Stream& stream, const Level& level);
+/// Whether a disc may have the picture format.
+bool isDiscFormat(const Stream& stream);
+void judgeDisc(const Stream& stream, Report& report);
 void tellSummary(const Stream& stream, const Level* level, Report& report);
 
 RuleGroup fieldRules();
@@ -48,6 +57,7 @@ RuleGroup rateFieldRules();
 RuleGroup viewRules();
 RuleGroup pictureRules();
 RuleGroup profileRules();
+RuleGroup levelChoiceRules();
 RuleGroup levelRules();
 RuleGroup levelPictureRules();
 RuleGroup gopRules();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "rules.h"
 
@@ -20,14 +21,17 @@ constexpr Rule<const char*> profile = {"disc.profile", Severity::Error,
 constexpr Rule<const char*> discLevel = {"disc.level", Severity::Error,
                                          "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
                                          "disc: Stereo High at level 4.1"};
-constexpr Rule<int, int, Decimal> format = {"disc.format", Severity::Error,
-                                            "Blu-ray does not allow %d x %d at %d.%0*d frames/s in "
-                                            "this picture structure: use another format.",
-                                            "disc: table of picture formats"};
-constexpr Rule<> unconfirmed = {"disc.format-3d", Severity::Note,
-                                "Blu-ray 3D is only known to play 1920 x 1080 at 23.976 frames/s, "
-                                "progressive; others may fail.",
-                                "disc: no other format is confirmed"};
+constexpr Rule<int, int, Decimal, int, int, Decimal> format = {
+    "disc.format", Severity::Error,
+    "Blu-ray has no %d x %d at %d.%0*d frames/s in this structure; the nearest is %d x %d at "
+    "%d.%0*d, progressive.",
+    "disc: table of picture formats; the nearest of those that are known of two views"};
+constexpr Rule<> unconfirmed = {
+    "disc.format-3d", Severity::Risk,
+    "Blu-ray 3D is known at 1920 x 1080, 23.976 frames/s, and 1280 x 720, 50 or 59.94; others may "
+    "fail.",
+    "disc: authoring programs offer 23.976, 50 and 59.94 frames/s for two views; all discs that "
+    "are described have the first"};
 constexpr Rule<> chroma = {"disc.chroma", Severity::Error,
                            "Blu-ray 3D requires the chroma format 4:2:0: choose 4:2:0.",
                            "disc: 4:2:0 of 8 bits"};
@@ -42,7 +46,9 @@ constexpr Rule<int, int, int, int> twoAspects = {
 constexpr Rule<int, int> gop = {
     "disc.gop", Severity::Error,
     "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
-    "disc: about one second"};
+    "disc: about one second. Two at 15 Mbit/s or less are told of, but not confirmed; that they "
+    "are "
+    "not taken is a choice of the encoder"};
 constexpr Rule<> idr = {
     "disc.idr", Severity::Risk,
     "Only the first I-frame is an IDR frame, so some Blu-ray players may fail to start elsewhere.",
@@ -97,7 +103,6 @@ constexpr Rule<Decimal, int> bufferOther = {
 
 constexpr int maxViewRate = 40'000'000;
 constexpr int maxBothRate = 60'000'000;
-constexpr int maxBuffer = 30'000'000;
 
 /// A picture format of the disc: its longest I interval, and its aspect ratios.
 struct Format {
@@ -107,6 +112,7 @@ struct Format {
     bool interlaced;
     int interval;
     SampleAspect aspects[2];
+    bool ofTwoViews = false; ///< known of 3D discs
 };
 
 constexpr double film = 24000.0 / 1001;
@@ -114,7 +120,7 @@ constexpr double ntsc = 30000.0 / 1001;
 constexpr double ntscDouble = 60000.0 / 1001;
 
 constexpr Format formats[] = {
-    {1920, 1080, film, false, 24, {{1, 1}, {1, 1}}}, // the one that is confirmed for 3D
+    {1920, 1080, film, false, 24, {{1, 1}, {1, 1}}, true},
     {1920, 1080, 24, false, 24, {{1, 1}, {1, 1}}},
     {1920, 1080, 25, true, 25, {{1, 1}, {1, 1}}},
     {1920, 1080, ntsc, true, 30, {{1, 1}, {1, 1}}},
@@ -124,8 +130,8 @@ constexpr Format formats[] = {
     {1440, 1080, ntsc, true, 30, {{4, 3}, {4, 3}}},
     {1280, 720, film, false, 24, {{1, 1}, {1, 1}}},
     {1280, 720, 24, false, 24, {{1, 1}, {1, 1}}},
-    {1280, 720, 50, false, 50, {{1, 1}, {1, 1}}},
-    {1280, 720, ntscDouble, false, 60, {{1, 1}, {1, 1}}},
+    {1280, 720, 50, false, 50, {{1, 1}, {1, 1}}, true},
+    {1280, 720, ntscDouble, false, 60, {{1, 1}, {1, 1}}, true},
     {720, 576, 25, true, 25, {{12, 11}, {16, 11}}},
     {720, 480, ntsc, true, 30, {{10, 11}, {40, 33}}},
 };
@@ -142,6 +148,23 @@ const Format* findFormat(const Stream& stream)
     return nullptr;
 }
 
+/// The format of two views that has the nearest size, and of these the nearest frame rate.
+const Format& nearestFormat(const Stream& stream)
+{
+    const auto distance = [&](const Format& row) {
+        const double size = 1.0 * row.width * row.height;
+        const double given = 1.0 * stream.base.width * stream.base.height;
+        return std::pair(std::fabs(size - given), std::fabs(row.frameRate - stream.frameRate));
+    };
+    const Format* nearest = formats;
+    for (const Format& row : formats) {
+        if (row.ofTwoViews && distance(row) < distance(*nearest)) {
+            nearest = &row;
+        }
+    }
+    return *nearest;
+}
+
 void judgeFormat(const Stream& stream, Report& report)
 {
     const KvMvcViewSettings& base = stream.base;
@@ -150,10 +173,12 @@ void judgeFormat(const Stream& stream, Report& report)
     }
     const Format* row = findFormat(stream);
     if (!row) {
-        report.say(format, base.width, base.height, frameRateText(stream.frameRate));
+        const Format& nearest = nearestFormat(stream);
+        report.say(format, base.width, base.height, frameRateText(stream.frameRate), nearest.width,
+                   nearest.height, frameRateText(nearest.frameRate));
         return;
     }
-    if (row != formats) {
+    if (!row->ofTwoViews) {
         report.say(unconfirmed);
     }
     const SampleAspect aspectNow = sampleAspect(base);
@@ -180,21 +205,24 @@ void judgeTools(const Stream& stream, Report& report)
 {
     const KvMvcViewSettings& base = stream.base;
     const int most = base.height >= 1080 ? 4 : 6;
-    int used = 0;
+    const int used = stream.mostReferences();
     bool weighted = false;
     int fewestSlices = base.num_slices;
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
-        used = std::max(used, view.num_ref_frames);
         weighted = weighted || view.weighted_p != 0;
         fewestSlices = std::min(fewestSlices, view.num_slices);
     }
-    if (used > most) {
+    // What is beyond the level already is refused for that.
+    const Level& level = *findLevel(discLevelCode);
+    const bool judged = stream.sized && stream.streamProfile();
+    const bool stored = !judged || storesReferences(stream, level);
+    if (stored && used > most) {
         report.say(references, most, used);
-    } else if (used > 3) {
+    } else if (stored && used > 3) {
         report.say(spareReference);
     }
-    if (fewestSlices < 4) {
+    if (fewestSlices < 4 && (!judged || fewestSlices >= leastSlices(stream, level))) {
         report.say(slices, fewestSlices);
     }
     if (weighted) {
@@ -226,8 +254,8 @@ void judgeRate(const Stream& stream, Report& report)
         }
         if (view.hrd_mode == 0) {
             report.say(v == 0 ? hrd : hrdOther);
-        } else if (bufferBits(view) > maxBuffer) {
-            report.say(v == 0 ? bufferBase : bufferOther, millions(maxBuffer), maxBuffer / 8);
+        } else if (bufferBits(view) > discBuffer) {
+            report.say(v == 0 ? bufferBase : bufferOther, millions(discBuffer), discBuffer / 8);
         }
     }
     if (each && stream.totalRate() > maxBothRate) {
@@ -244,7 +272,12 @@ constexpr const RuleInfo* rules[] = {
 
 } // namespace
 
-void judgeDisc(const Stream& stream, const Level* level, Report& report)
+bool isDiscFormat(const Stream& stream)
+{
+    return findFormat(stream) != nullptr;
+}
+
+void judgeDisc(const Stream& stream, Report& report)
 {
     if (!stream.disc) {
         return;
@@ -256,8 +289,10 @@ void judgeDisc(const Stream& stream, const Level* level, Report& report)
     if (stream.profile && stream.profile->code != KV_MVC_PROFILE_HIGH) {
         report.say(profile, stream.profile->name);
     }
-    if (level && level->code != discLevelCode) {
-        report.say(discLevel, level->name);
+    // "Auto" comes to the right one, and a reserved code is refused as such.
+    const Level* const chosen = findLevel(stream.base.level);
+    if (chosen && chosen->code != discLevelCode) {
+        report.say(discLevel, chosen->name);
     }
     if (stream.sized) {
         judgeFormat(stream, report);

@@ -1,8 +1,4 @@
-// The limits of a level, the choice of the automatic level, and the lowest level that fits.
-
-#include <cstdio>
-#include <cstdlib>
-#include <limits>
+// The limits of a level, and which other level would do.
 
 #include "rules.h"
 
@@ -12,292 +8,303 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<const char*> reserved = {
-    "level.code", Severity::Error,
-    "Level %s is none of the H.264 levels from 1.0 to 5.2: choose another level, or Auto.",
-    "A.1: all values of level_idc outside Table A-1"};
-constexpr Rule<const char*, int, double> pictureSize = {
-    "level.picture", Severity::Error,
-    "Level %s allows at most %d macroblocks in a picture (now %.0f): choose a higher level.",
-    "A.3.1 e, A.3.2 c, H.10.2.1 c, Table A-1: MaxFS; of each view"};
-constexpr Rule<const char*, int, double, double> pictureSide = {
-    "level.side", Severity::Error,
-    "Level %s allows at most %d macroblocks in a row or column (now %.0f x %.0f): choose a higher "
-    "level.",
-    "A.3.1 f, g, A.3.2 d, e, H.10.2.1 d, e: the square root of 8 * MaxFS"};
-constexpr Rule<const char*, int, double> mbRate = {
-    "level.rate", Severity::Error,
-    "Level %s allows at most %d macroblocks/s (now %.0f): choose a higher level or a lower frame "
-    "rate.",
-    "A.3.1 a, b, A.3.2 a, b, Table A-1: MaxMBPS; pulldown brings output times closer"};
-constexpr Rule<const char*, int, int, double> mbRateViews = {
-    "level.rate-views", Severity::Error,
-    "Level %s allows at most %d macroblocks/s for %d views (now %.0f): choose a higher level or a "
-    "lower frame rate.",
-    "H.10.2.1 a, b: mvcScaleFactor 2 * MaxMBPS, of all views"};
-constexpr Rule<int, Decimal> frameRate = {
-    "level.frame-rate", Severity::Error,
-    "No level allows more than %d frames/s (now %d.%0*d): choose a lower frame rate.",
-    "A.3: fR is 1/172"};
-constexpr Rule<const char*> interlace = {
-    "level.interlace", Severity::Error,
-    "Level %s allows progressive pictures only: choose Progressive, or a level from 2.1 to 4.1.",
-    "A.3.3 d, H.10.2.2 a, Table A-4: frame_mbs_only_flag"};
-constexpr Rule<const char*, Decimal, Decimal> bitrate = {
-    "level.bitrate", Severity::Error,
-    "Level %s allows the base view at most %d.%0*d Mbit/s (now %d.%0*d): lower its bitrate, or "
-    "choose "
-    "a higher level.",
-    "A.3.1 j, A.3.3 h: MaxBR * cpbBrNalFactor; the base view also by itself"};
-constexpr Rule<const char*, Decimal, int, Decimal> bitrateViews = {
-    "level.bitrate-views", Severity::Error,
-    "Level %s allows at most %d.%0*d Mbit/s for %d views together (now %d.%0*d): lower a bitrate, "
-    "or "
-    "choose a higher level.",
-    "H.10.2.1 r: MaxBR * 1500, not doubled"};
-constexpr Rule<Decimal, const char*, Decimal> bitrateVcl = {
-    "level.bitrate-vcl", Severity::Note,
-    "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data; the rest is for headers.",
-    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxBR * cpbBrVclFactor"};
+/// A limit that another level may not have: the message names that level, if there is one that the
+/// stream may have.
+template <class... Args>
+struct LevelRule {
+    Rule<Args..., const char*> other;
+    Rule<Args...> none;
+};
+
+constexpr const char* sizeClause =
+    "A.3.1 e, A.3.2 c, H.10.2.1 c, Table A-1: MaxFS; of each view by itself";
+constexpr LevelRule<const char*, int, double> pictureSize = {
+    {"level.picture", Severity::Error,
+     "Level %s allows at most %d macroblocks in a picture (now %.0f): choose level %s.",
+     sizeClause},
+    {"level.picture-none", Severity::Error,
+     "Level %s allows at most %d macroblocks in a picture (now %.0f): choose a smaller picture.",
+     sizeClause}};
+constexpr const char* sideClause =
+    "A.3.1 f, g, A.3.2 d, e, H.10.2.1 d, e: the square root of 8 * MaxFS; of each view by itself";
+constexpr LevelRule<const char*, int, double, double> pictureSide = {
+    {"level.side", Severity::Error,
+     "Level %s allows at most %d macroblocks in a row or column (now %.0f x %.0f): choose level "
+     "%s.",
+     sideClause},
+    {"level.side-none", Severity::Error,
+     "Level %s allows at most %d macroblocks in a row or column (now %.0f x %.0f): choose fewer.",
+     sideClause}};
+constexpr const char* mbRateClause = "A.3.1 a, b, A.3.2 a, b, Table A-1: MaxMBPS";
+constexpr LevelRule<const char*, int, double> mbRate = {
+    {"level.rate", Severity::Error,
+     "Level %s allows at most %d macroblocks/s (now %.0f): lower the frame rate, or choose level "
+     "%s.",
+     mbRateClause},
+    {"level.rate-none", Severity::Error,
+     "Level %s allows at most %d macroblocks/s (now %.0f): lower the frame rate.", mbRateClause}};
+constexpr const char* viewsRateClause =
+    "H.10.2.1 a, b: mvcScaleFactor 2 * MaxMBPS; the macroblocks of all views together";
+constexpr LevelRule<const char*, int, int, double> mbRateViews = {
+    {"level.rate-views", Severity::Error,
+     "Level %s allows at most %d macroblocks/s for %d views (now %.0f): lower the frame rate, or "
+     "choose level %s.",
+     viewsRateClause},
+    {"level.rate-views-none", Severity::Error,
+     "Level %s allows at most %d macroblocks/s for %d views (now %.0f): lower the frame rate.",
+     viewsRateClause}};
+constexpr const char* pulldownClause =
+    "A.3.1 b, A.3.2 b, H.10.2.1 b: the shortest distance of output times; of all views together";
+constexpr LevelRule<Decimal, double, const char*, int> mbRatePulldown = {
+    {"level.rate-pulldown", Severity::Error,
+     "Pulldown makes %d.%0*d times as many macroblocks/s, %.0f; level %s allows %d: set it to Off, "
+     "or choose level %s.",
+     pulldownClause},
+    {"level.rate-pulldown-none", Severity::Error,
+     "Pulldown makes %d.%0*d times as many macroblocks/s, %.0f; level %s allows %d: set it to Off.",
+     pulldownClause}};
+constexpr const char* interlaceClause =
+    "A.3.3 d, H.10.2.2 a, Table A-4: frame_mbs_only_flag; levels 2.1 to 4.1 have interlace";
+constexpr LevelRule<const char*> interlace = {
+    {"level.interlace", Severity::Error,
+     "Level %s allows progressive pictures only: choose Progressive, or level %s.",
+     interlaceClause},
+    {"level.interlace-none", Severity::Error,
+     "Level %s allows progressive pictures only: choose Progressive.", interlaceClause}};
+constexpr const char* baseClause =
+    "A.3.1 j, A.3.3 h: MaxBR * cpbBrNalFactor; the base view by itself";
+constexpr LevelRule<const char*, Decimal, Decimal> bitrate = {
+    {"level.bitrate", Severity::Error,
+     "Level %s allows the base view at most %d.%0*d Mbit/s (now %d.%0*d): lower its bitrate, or "
+     "choose level %s.",
+     baseClause},
+    {"level.bitrate-none", Severity::Error,
+     "Level %s allows the base view at most %d.%0*d Mbit/s (now %d.%0*d): lower its bitrate.",
+     baseClause}};
+constexpr const char* viewsClause = "H.10.2.1 r: MaxBR * 1500, not doubled; all views together";
+constexpr LevelRule<const char*, Decimal, int, Decimal> bitrateViews = {
+    {"level.bitrate-views", Severity::Error,
+     "Level %s allows at most %d.%0*d Mbit/s for %d views together (now %d.%0*d): lower a bitrate, "
+     "or choose level %s.",
+     viewsClause},
+    {"level.bitrate-views-none", Severity::Error,
+     "Level %s allows at most %d.%0*d Mbit/s for %d views together (now %d.%0*d): lower a "
+     "bitrate.",
+     viewsClause}};
+constexpr const char* vclClause =
+    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxBR * cpbBrVclFactor; the base view by itself, and all views "
+    "together";
+constexpr LevelRule<Decimal, const char*, Decimal> bitrateVcl = {
+    {"level.bitrate-vcl", Severity::Risk,
+     "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data: lower a bitrate, or "
+     "choose level %s.",
+     vclClause},
+    {"level.bitrate-vcl-none", Severity::Risk,
+     "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data: lower a bitrate.",
+     vclClause}};
 constexpr Rule<const char*, Decimal, Decimal> buffer = {
     "level.buffer", Severity::Error,
     "Level %s allows the base view a bitrate buffer of at most %d.%0*d Mbit (now %d.%0*d): make it "
     "smaller.",
-    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view also by itself"};
+    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view by itself"};
 constexpr Rule<const char*, Decimal, int, Decimal> bufferViews = {
     "level.buffer-views", Severity::Error,
     "Level %s allows bitrate buffers of at most %d.%0*d Mbit for %d views together (now %d.%0*d): "
-    "make "
-    "one smaller.",
-    "H.10.2.1 r: MaxCPB * 1500, not doubled"};
+    "make one smaller.",
+    "H.10.2.1 r: MaxCPB * 1500, not doubled; all views together"};
 constexpr Rule<Decimal, const char*, Decimal> bufferVcl = {
-    "level.buffer-vcl", Severity::Note,
-    "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data; the "
-    "rest is "
-    "for headers.",
-    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor"};
-constexpr Rule<> none = {"level.none", Severity::Error,
-                         "These settings fit no level from 1.0 to 5.2.", "A.3"};
-constexpr Rule<const char*> automatic = {
-    "level.auto", Severity::Note, "With level Auto, the stream has level %s, the lowest that fits.",
-    "A.3: the first level that holds every limit"};
-constexpr Rule<const char*> lowest = {"level.lowest", Severity::Note,
-                                      "Level %s is the lowest that fits.",
-                                      "A.3: the first level that holds every limit"};
-// A disc has one level, whether a lower one would do or not.
-constexpr const char* discClause = "disc: Stereo High at level 4.1";
-constexpr Rule<const char*> noneOfDisc = {
-    "level.none-disc", Severity::Error,
-    "These settings do not fit level %s, which Blu-ray 3D requires.", discClause};
-constexpr Rule<const char*> automaticOfDisc = {
-    "level.auto-disc", Severity::Note,
-    "With level Auto, the stream has level %s, which Blu-ray 3D requires.", discClause};
-constexpr Rule<const char*> fitsDisc = {"level.fits-disc", Severity::Note,
-                                        "These settings fit level %s, which Blu-ray 3D requires.",
-                                        discClause};
+    "level.buffer-vcl", Severity::Risk,
+    "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make "
+    "one smaller.",
+    "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor; the base view by itself, and all views "
+    "together"};
+
+/// A stream at a level, and the level that would do instead; null when none would.
+struct Judge {
+    const Stream& stream;
+    const Level& level;
+    const Level* other;
+    Report& report;
+
+    template <class... Args>
+    void say(const LevelRule<Args...>& rule, std::type_identity_t<Args>... args) const
+    {
+        if (other) {
+            report.say(rule.other, args..., other->name);
+        } else {
+            report.say(rule.none, args...);
+        }
+    }
+    template <class... Args>
+    void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args) const
+    {
+        report.say(rule, args...);
+    }
+
+    bool judgeSize() const;
+    void judgeMbRate() const;
+    void judgeBitrate() const;
+    void judgeBuffer() const;
+    void judgeInterlace() const;
+};
 
 /// @return Whether the picture has a size that the level knows; else nothing else needs a look.
-bool judgeSize(const Stream& stream, const Level& level, Report& report)
+bool Judge::judgeSize() const
 {
-    if (stream.frameMbs > level.frameMbs) {
-        report.say(pictureSize, level.name, static_cast<int>(level.frameMbs),
-                   static_cast<double>(stream.frameMbs));
-        return false;
-    }
     const int side = maxSideMbs(level);
-    if (stream.widthMbs > side || stream.heightMbs > side) {
-        report.say(pictureSide, level.name, side, static_cast<double>(stream.widthMbs),
-                   static_cast<double>(stream.heightMbs));
-        return false;
+    const bool large = stream.frameMbs > level.frameMbs;
+    const bool uneven = stream.widthMbs > side || stream.heightMbs > side;
+    if (stream.disc && !isDiscFormat(stream)) {
+        return !large && !uneven; // the disc refuses it, and has no format of that size
     }
-    return true;
+    if (large) {
+        say(pictureSize, level.name, static_cast<int>(level.frameMbs),
+            static_cast<double>(stream.frameMbs));
+    } else if (uneven) {
+        say(pictureSide, level.name, side, static_cast<double>(stream.widthMbs),
+            static_cast<double>(stream.heightMbs));
+    }
+    return !large && !uneven;
 }
 
-void judgeMbRate(const Stream& stream, const Level& level, Report& report)
+void Judge::judgeMbRate() const
 {
+    if (stream.frameRate > maxFrameRate || (stream.disc && !isDiscFormat(stream))) {
+        return; // refused for that already
+    }
     const double rate = macroblockRate(stream);
     const std::int64_t limit = macroblockRateLimit(stream, level);
     // A rate such as 24000/1001 is rounded: what is exactly at the limit has to pass.
-    if (rate <= static_cast<double>(limit) * (1 + 1e-9)) {
+    const double most = static_cast<double>(limit) * (1 + 1e-9);
+    if (rate <= most) {
         return;
     }
-    if (stream.multiview) {
-        report.say(mbRateViews, level.name, static_cast<int>(limit), stream.views, rate);
+    const double times = stream.outputRate / stream.frameRate;
+    if (rate / times <= most) {
+        say(mbRatePulldown, factor(times), rate, level.name, static_cast<int>(limit));
+    } else if (stream.multiview) {
+        say(mbRateViews, level.name, static_cast<int>(limit), stream.views, rate);
     } else {
-        report.say(mbRate, level.name, static_cast<int>(limit), rate);
+        say(mbRate, level.name, static_cast<int>(limit), rate);
     }
 }
 
-/// Holds one sum, of rates or of buffers, against the base view's limit and that of all views.
+/// What is held against a level's limits of rates, or of buffers: the base view and all views.
 struct Sum {
     std::int64_t base;
     std::int64_t all;
-    std::int64_t levelUnits;
-    const Rule<const char*, Decimal, Decimal>& baseRule;
-    const Rule<const char*, Decimal, int, Decimal>& viewsRule;
-    const Rule<Decimal, const char*, Decimal>& vclRule;
 };
 
-void judgeSum(const Stream& stream, const Level& level, const Sum& sum, Report& report)
-{
-    const Profile& limits = *stream.streamProfile();
-    const Profile& base = stream.profile ? *stream.profile : limits;
-    const std::int64_t nal = sum.levelUnits * limits.nalFactor;
-    const std::int64_t vcl = sum.levelUnits * limits.vclFactor;
-    const std::int64_t baseLimit = sum.levelUnits * base.nalFactor;
-    if (sum.base > baseLimit) {
-        report.say(sum.baseRule, level.name, millions(baseLimit), millions(sum.base));
-    } else if (sum.all > nal) {
-        report.say(sum.viewsRule, level.name, millions(nal), stream.views, millions(sum.all));
-    } else if (sum.all > vcl) {
-        report.say(sum.vclRule, millions(sum.all), level.name, millions(vcl));
-    }
-}
-
-void judgeSums(const Stream& stream, const Level& level, Report& report)
-{
-    const std::int64_t baseBuffer = keepsBuffer(stream.base) ? bufferBits(stream.base) : 0;
-    judgeSum(stream, level,
-             {limitRate(stream.base), stream.totalRate(), level.bitrate, bitrate, bitrateViews,
-              bitrateVcl},
-             report);
-    judgeSum(stream, level,
-             {baseBuffer, stream.totalBuffer(), level.buffer, buffer, bufferViews, bufferVcl},
-             report);
-}
-
-void judgeLimits(const Stream& stream, const Level& level, Report& report)
-{
-    const bool fits = judgeSize(stream, level, report);
-    judgeMbRate(stream, level, report);
-    judgeSums(stream, level, report);
-    if (stream.interlaced && level.framesOnly) {
-        report.say(interlace, level.name);
-    }
-    if (!fits) {
-        return; // the rest would say the same in other numbers
-    }
-    judgeLevelPictures(stream, level, report);
-}
-
-int countErrors(const Stream& stream, const Level& level)
-{
-    Report silent;
-    judgeLimits(stream, level, silent);
-    return silent.errors();
-}
-
-struct Search {
-    const Level* lowest;  ///< null when no level fits
-    const Level* nearest; ///< the level with the fewest errors, the highest of several
+/// The limits, in the same unit.
+struct SumLimits {
+    Sum nal;
+    Sum vcl;
 };
 
-Search searchLevels(const Stream& stream, bool isAuto)
+Sum ratesOf(const Stream& stream)
 {
-    Search found = {nullptr, nullptr};
-    int fewest = std::numeric_limits<int>::max();
-    for (const Level& level : levels()) {
-        if (level.code == 0 && !isAuto) {
-            continue; // not to be chosen
-        }
-        const int errors = countErrors(stream, level);
-        if (errors == 0) {
-            return {&level, &level};
-        }
-        if (errors <= fewest) {
-            fewest = errors;
-            found.nearest = &level;
-        }
-    }
-    return found;
+    return {limitRate(stream.base), stream.totalRate()};
 }
 
-/// Judges the level and tells which one would do. @return The level that the stream has.
-const Level* judgeAnyLevel(const Stream& stream, const Level* chosen, bool isAuto, bool tell,
-                           Report& report)
+Sum buffersOf(const Stream& stream)
 {
-    const Search found = searchLevels(stream, isAuto);
-    const Level* const level = isAuto ? found.lowest : chosen;
-    if (level) {
-        judgeLimits(stream, *level, report);
-    }
-    if (!tell) {
-        return level;
-    }
-    if (found.lowest) {
-        report.say(isAuto ? automatic : lowest, found.lowest->name);
-    } else {
-        report.say(none);
-        if (!level) {
-            judgeLimits(stream, *found.nearest, report);
-        }
-    }
-    return level;
+    return {keepsBuffer(stream.base) ? bufferBits(stream.base) : 0, stream.totalBuffer()};
 }
 
-/// The same for a disc, which has level 4.1 also when the stream needs less.
-const Level* judgeDiscLevel(const Stream& stream, const Level* chosen, bool isAuto, bool tell,
-                            Report& report)
+SumLimits limitsOf(const Stream& stream, std::int64_t units)
 {
-    const Level* const wanted = findLevel(discLevelCode);
-    const Level* const level = isAuto ? wanted : chosen;
-    if (level) {
-        judgeLimits(stream, *level, report);
-    }
-    if (!tell) {
-        return level;
-    }
-    if (countErrors(stream, *wanted) == 0) {
-        report.say(isAuto ? automaticOfDisc : fitsDisc, wanted->name);
-    } else if (level != wanted) {
-        report.say(noneOfDisc, wanted->name); // else its own errors say so
-    }
-    return level;
+    const Profile& all = *stream.streamProfile();
+    const Profile& base = stream.profile ? *stream.profile : all;
+    return {{units * base.nalFactor, units * all.nalFactor},
+            {units * base.vclFactor, units * all.vclFactor}};
 }
 
-/// A level code as the list of levels spells it.
-struct LevelCode {
-    char text[16];
+bool exceeds(const Sum& sum, const Sum& limit)
+{
+    return sum.base > limit.base || sum.all > limit.all;
+}
 
-    explicit LevelCode(int code)
-    {
-        const std::int64_t tenths = std::abs(std::int64_t{code});
-        std::snprintf(text, sizeof text, "%s%d.%d", code < 0 ? "-" : "",
-                      static_cast<int>(tenths / 10), static_cast<int>(tenths % 10));
+void Judge::judgeBitrate() const
+{
+    if (stream.disc) {
+        return; // its own limits are lower
     }
-};
+    const Sum rates = ratesOf(stream);
+    const auto [nal, vcl] = limitsOf(stream, level.bitrate);
+    if (rates.base > nal.base) {
+        say(bitrate, level.name, millions(nal.base), millions(rates.base));
+    } else if (rates.all > nal.all) {
+        say(bitrateViews, level.name, millions(nal.all), stream.views, millions(rates.all));
+    } else if (rates.base > vcl.base) {
+        say(bitrateVcl, millions(rates.base), level.name, millions(vcl.base));
+    } else if (rates.all > vcl.all) {
+        say(bitrateVcl, millions(rates.all), level.name, millions(vcl.all));
+    }
+}
 
-constexpr const RuleInfo* rules[] = {
-    &reserved,  &pictureSize,  &pictureSide, &mbRate,          &mbRateViews, &frameRate, &interlace,
-    &bitrate,   &bitrateViews, &bitrateVcl,  &buffer,          &bufferViews, &bufferVcl, &none,
-    &automatic, &lowest,       &noneOfDisc,  &automaticOfDisc, &fitsDisc,
-};
+void Judge::judgeBuffer() const
+{
+    const Sum buffers = buffersOf(stream);
+    if (stream.disc && buffers.base > discBuffer) {
+        return; // refused for that
+    }
+    const auto [nal, vcl] = limitsOf(stream, level.buffer);
+    if (buffers.base > nal.base) {
+        say(buffer, level.name, millions(nal.base), millions(buffers.base));
+    } else if (buffers.all > nal.all) {
+        say(bufferViews, level.name, millions(nal.all), stream.views, millions(buffers.all));
+    } else if (buffers.base > vcl.base) {
+        say(bufferVcl, millions(buffers.base), level.name, millions(vcl.base));
+    } else if (buffers.all > vcl.all) {
+        say(bufferVcl, millions(buffers.all), level.name, millions(vcl.all));
+    }
+}
+
+void Judge::judgeInterlace() const
+{
+    // A profile without interlace refuses it at every level.
+    const bool allowed = (!stream.profile || stream.profile->interlace) &&
+                         (!stream.multiview || stream.multiview->interlace);
+    if (allowed && stream.interlaced && level.framesOnly) {
+        say(interlace, level.name);
+    }
+}
+
+template <class... Limits>
+constexpr auto bothRules(const Limits&... limits)
+{
+    return joinRules(std::array<const RuleInfo*, 2>{&limits.other, &limits.none}...);
+}
+
+constexpr auto rules =
+    joinRules(bothRules(pictureSize, pictureSide, mbRate, mbRateViews, mbRatePulldown, interlace,
+                        bitrate, bitrateViews, bitrateVcl),
+              std::to_array<const RuleInfo*>({&buffer, &bufferViews, &bufferVcl}));
 
 } // namespace
 
-const Level* judgeLevel(const Stream& stream, Report& report)
+void judgeLimits(const Stream& stream, const Level& level, const Level* other, Report& report)
 {
-    const int code = stream.base.level;
-    const bool isAuto = code == KV_MVC_LEVEL_AUTO;
-    const Level* const chosen = isAuto ? nullptr : findLevel(code);
-    if (!isAuto && !chosen) {
-        report.say(reserved, LevelCode(code).text);
+    const Judge judge = {stream, level, other, report};
+    const bool fits = judge.judgeSize();
+    judge.judgeMbRate();
+    judge.judgeBitrate();
+    judge.judgeBuffer();
+    judge.judgeInterlace();
+    if (fits) { // the rest would say the same in other numbers
+        judgeLevelPictures(stream, level, report);
     }
-    const bool tooFast = stream.frameRate > maxFrameRate;
-    if (tooFast) {
-        report.say(frameRate, maxFrameRate, frameRateText(stream.frameRate));
-    }
-    if (!stream.sized || !stream.streamProfile()) {
-        return chosen; // refused for that already
-    }
-    // What is too fast for all levels is so whatever the other limits say.
-    const auto judge = stream.disc ? judgeDiscLevel : judgeAnyLevel;
-    return judge(stream, chosen, isAuto, !tooFast, report);
+}
+
+bool exceedsPictureData(const Stream& stream, const Level& level)
+{
+    return exceeds(ratesOf(stream), limitsOf(stream, level.bitrate).vcl) ||
+           exceeds(buffersOf(stream), limitsOf(stream, level.buffer).vcl);
 }
 
 RuleGroup levelRules()
 {
-    return {"Level", rules};
+    return {"Limits of a level", rules};
 }
 
 } // namespace kv::encoder

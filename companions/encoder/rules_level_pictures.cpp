@@ -209,17 +209,6 @@ SliceLimit mostSlices(const Stream& stream, const Level& level)
     return {whole(most, 1), whole(2 * most, stream.views)};
 }
 
-int leastSlices(const Stream& stream, const Level& level)
-{
-    if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs) {
-        return 1;
-    }
-    const bool pairs = stream.base.interlace_mode == KV_MVC_MBAFF;
-    const std::int64_t rowMbs = stream.widthMbs * (pairs ? 2 : 1);
-    const std::int64_t rowsASlice = std::max<std::int64_t>(level.frameMbs / 4 / rowMbs, 1);
-    return static_cast<int>((sliceRows(stream.base) + rowsASlice - 1) / rowsASlice);
-}
-
 void judgeSlices(const Stream& stream, const Level& level, Report& report)
 {
     const SliceLimit most = mostSlices(stream, level);
@@ -298,6 +287,17 @@ constexpr auto togetherRules = [] {
 constexpr auto rules = joinRules(singles, rulesOf(pictureBytes), togetherRules);
 
 } // namespace
+
+int leastSlices(const Stream& stream, const Level& level)
+{
+    if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs) {
+        return 1;
+    }
+    const bool pairs = stream.base.interlace_mode == KV_MVC_MBAFF;
+    const std::int64_t rowMbs = stream.widthMbs * (pairs ? 2 : 1);
+    const std::int64_t rowsASlice = std::max<std::int64_t>(level.frameMbs / 4 / rowMbs, 1);
+    return static_cast<int>((sliceRows(stream.base) + rowsASlice - 1) / rowsASlice);
+}
 
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report)
 {

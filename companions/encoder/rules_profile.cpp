@@ -89,16 +89,19 @@ struct Tool {
 };
 
 // The base view has to conform by itself; the multiview profiles have all that other views may use.
+// What several views or a disc do not allow in any profile is told as their own limit.
 void judgeTools(const Stream& stream, const Profile& profile, Report& report)
 {
     const KvMvcViewSettings& base = stream.base;
     const Tool tools[] = {
         {stream.bFrames, profile.bFrames, bFrames},
-        {stream.interlaced, profile.interlace, interlace},
+        {stream.interlaced && (!stream.multiview || stream.multiview->interlace), profile.interlace,
+         interlace},
         {base.entropy_mode == KV_MVC_CABAC, profile.cabac, cabac},
         {base.weighted_p != 0, profile.weighted, weighted},
         {base.chroma_format == KV_MVC_CHROMA_400, profile.monochrome, monochrome},
-        {base.chroma_format == KV_MVC_CHROMA_422, profile.chroma422, chroma422},
+        {base.chroma_format == KV_MVC_CHROMA_422 && !stream.multiview && !stream.disc,
+         profile.chroma422, chroma422},
     };
     for (const Tool& tool : tools) {
         if (tool.used && !tool.allowed) {
@@ -107,16 +110,20 @@ void judgeTools(const Stream& stream, const Profile& profile, Report& report)
     }
 }
 
-void judgeDepth(const KvMvcViewSettings& base, const Profile& profile, Report& report)
+void judgeDepth(const Stream& stream, const Profile& profile, Report& report)
 {
+    const KvMvcViewSettings& base = stream.base;
+    const bool noChroma = base.chroma_format == KV_MVC_CHROMA_400;
+    if (noChroma && base.bit_depth_chroma != 8) {
+        report.say(unusedDepth);
+    }
+    if (stream.multiview) {
+        return; // several views have 8 bits in any profile
+    }
     if (base.bit_depth_luma > profile.maxDepth) {
         report.say(lumaDepth, profile.name, base.bit_depth_luma);
     }
-    if (base.chroma_format == KV_MVC_CHROMA_400) {
-        if (base.bit_depth_chroma != 8) {
-            report.say(unusedDepth);
-        }
-    } else if (base.bit_depth_chroma > profile.maxDepth) {
+    if (!noChroma && base.bit_depth_chroma > profile.maxDepth) {
         report.say(chromaDepth, profile.name, base.bit_depth_chroma);
     }
 }
@@ -140,15 +147,18 @@ constexpr const RuleInfo* rules[] = {
 
 void judgeProfile(const Stream& stream, Report& report)
 {
-    if (stream.base.chroma_format == KV_MVC_CHROMA_UNNAMED) {
+    if (!stream.disc && stream.base.chroma_format == KV_MVC_CHROMA_UNNAMED) {
         report.say(unnamed);
     }
     if (!stream.profile) {
         report.say(unassigned, stream.base.profile);
         return;
     }
+    if (stream.disc && stream.profile->code != KV_MVC_PROFILE_HIGH) {
+        return; // the disc requires High, which has all that it allows
+    }
     judgeTools(stream, *stream.profile, report);
-    judgeDepth(stream.base, *stream.profile, report);
+    judgeDepth(stream, *stream.profile, report);
     tellUnused(stream, *stream.profile, report);
 }
 

@@ -1,5 +1,8 @@
 // Rates, buffers, fullness and quantizers of each view.
 
+#include <algorithm>
+#include <span>
+
 #include "rules.h"
 
 namespace kv::encoder
@@ -56,11 +59,11 @@ constexpr ViewRule<> noBuffer = {"hrd.buffer",
                                  KV_EACH_VIEW("HRD conformance needs a bitrate buffer above 0."),
                                  "E.2.2: cpb_size_value_minus1",
                                  {.setting = "bitrate_buffer"}};
-constexpr ViewRule<> noFrameRate = {"hrd.frame-rate",
-                                    Severity::Error,
-                                    KV_EACH_VIEW("HRD conformance needs a frame rate: choose one."),
-                                    "C.1.2: removal times count clock ticks",
-                                    {.setting = "frame_rate"}};
+constexpr Rule<> noFrameRate = {"hrd.frame-rate",
+                                Severity::Error,
+                                "HRD conformance needs a frame rate: choose one.",
+                                "C.1.2: removal times count clock ticks",
+                                {.setting = "frame_rate"}};
 constexpr ViewRule<> emptyStart = {"hrd.initial-empty",
                                    Severity::Error,
                                    KV_EACH_VIEW("VBV buffer initial has to be above 0."),
@@ -192,9 +195,6 @@ void judgeBuffer(const Stream& stream, int v, Report& report)
     if (view.bitrate_buffer <= 0) {
         report.sayOf(v, noBuffer);
     }
-    if (stream.frameRate == 0) {
-        report.sayOf(v, noFrameRate);
-    }
     judgeFullness(stream, v, report);
 }
 
@@ -288,6 +288,10 @@ void correctRates(KvMvcSettings& record, Report& report)
 
 void judgeRates(const Stream& stream, Report& report)
 {
+    const std::span views(stream.record.views, static_cast<std::size_t>(stream.subRecords));
+    if (stream.frameRate == 0 && !stream.disc && std::ranges::any_of(views, keepsBuffer)) {
+        report.say(noFrameRate);
+    }
     for (int v = 0; v < stream.subRecords; ++v) {
         judgeView(stream, v, report);
     }

@@ -65,12 +65,12 @@ void tellRates(const Stream& stream, const Level* level, Report& report)
 
 void tellReferences(const Stream& stream, const Level& level, Report& report)
 {
+    if (!storesReferences(stream, level)) {
+        return;
+    }
     const int frames = static_cast<int>(dpbFrames(stream, level));
     const int room = referenceRoom(stream, level);
     const int total = stream.totalReferences();
-    if (total > room) {
-        return;
-    }
     if (!stream.multiview) {
         report.say(buffered, total, frames, level.name);
         return;
@@ -95,7 +95,7 @@ void tellSummary(const Stream& stream, const Level* level, Report& report)
         return;
     }
     if (stream.multiview) {
-        report.say(severalViews, stream.views, stream.multiview->name, stream.multiview->idc,
+        report.say(severalViews, stream.viewsSet, stream.multiview->name, stream.multiview->idc,
                    stream.profile->name);
     } else {
         report.say(oneView, stream.profile->name, stream.profile->idc);

@@ -155,17 +155,17 @@ void judgeViews(const Stream& stream, Report& report)
     if (stream.views > KV_MVC_RECORD_VIEWS) {
         report.say(beyondRecord, stream.views - 1);
     }
-    if (stream.multiview == &stereoHigh() && stream.views > 2) {
-        report.say(stereoViews, stream.views);
+    if (stream.viewsSet > stream.views) {
+        report.say(stereoViews, stream.viewsSet);
     }
     if (!stream.multiview->interlace && stream.interlaced) {
         report.say(multiviewFrames);
     }
-    if (stream.profile && !stream.profile->baseOfViews) {
+    if (!stream.disc && stream.profile && !stream.profile->baseOfViews) {
         report.say(baseProfile, stream.profile->name);
     }
     const V& base = stream.base;
-    if (base.chroma_format == KV_MVC_CHROMA_422) {
+    if (!stream.disc && base.chroma_format == KV_MVC_CHROMA_422) {
         report.say(chroma);
     }
     const bool deepChroma = base.bit_depth_chroma > 8 && base.chroma_format != KV_MVC_CHROMA_400;

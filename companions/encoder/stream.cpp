@@ -146,10 +146,11 @@ SampleAspect sampleAspect(const KvMvcViewSettings& view)
 Stream::Stream(const KvMvcSettings& settings)
     : record(settings),
       base(settings.views[0]),
-      views(countViews(settings)),
+      viewsSet(countViews(settings)),
       subRecords(countSubRecords(settings)),
       profile(findProfile(base.profile)),
-      multiview(multiviewProfile(settings, views)),
+      multiview(multiviewProfile(settings, viewsSet)),
+      views(multiview == &stereoHigh() ? std::min(viewsSet, 2) : viewsSet),
       sized(base.width >= 16 && base.height >= 16),
       widthMbs(sized ? ceilDiv(base.width, 16) : 0),
       heightMbs(sized ? heightInMbs(base) : 0),
@@ -228,6 +229,12 @@ int referenceRoom(const Stream& stream, const Level& level)
 {
     const int kept = stream.multiview && stream.looseB ? 1 : 0;
     return static_cast<int>(dpbFrames(stream, level)) - kept;
+}
+
+bool storesReferences(const Stream& stream, const Level& level)
+{
+    const bool each = !stream.multiview || stream.mostReferences() <= dpbFrames(stream, level) / 2;
+    return each && stream.totalReferences() <= referenceRoom(stream, level);
 }
 
 } // namespace kv::encoder

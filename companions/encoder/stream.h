@@ -53,10 +53,11 @@ struct Stream {
 
     const KvMvcSettings& record;
     const KvMvcViewSettings& base;
-    int views;
+    int viewsSet; ///< as the record has them
     int subRecords;
     const Profile* profile;   ///< of the base view; null when its code is not assigned
     const Profile* multiview; ///< of the stream; null with one view
+    int views;                ///< of those set, the views that the multiview profile takes
     bool sized;               ///< the picture has a size: the four counts below are valid
     std::int64_t widthMbs;
     std::int64_t heightMbs;
@@ -94,5 +95,9 @@ std::int64_t dpbFrames(const Stream& stream, const Level& level);
 /// but predicts another view's is kept until that one is decoded (C.4.5.2): one frame at least,
 /// also where the whole buffer is full of reference frames.
 int referenceRoom(const Stream& stream, const Level& level);
+
+/// Whether the reference frames of all views have room, and those of each view by itself
+/// (H.10.2.1 x).
+bool storesReferences(const Stream& stream, const Level& level);
 
 } // namespace kv::encoder

@@ -34,10 +34,6 @@ constexpr RuleCase rows[] = {
     {"level.auto-disc", "Auto", 3, [](Record& r) { setBoth(r, &V::level, 100); }, true},
     {"level.auto-disc", "rates beyond 4.1", 3, beyondLevel41<100>, false},
     {"level.auto-disc", "no disc", 2, [](Record& r) { setBoth(r, &V::level, 100); }, false},
-    {"level.none-disc", "rates beyond 4.1", 3, beyondLevel41<51>, true},
-    {"level.none-disc", "rates beyond 4.1 at that level, whose errors are there", 3,
-     [](Record& r) { setBoth(r, &V::max_bitrate, 40000000); }, false},
-    {"level.none-disc", "rates beyond 4.1, no disc", 2, beyondLevel41<51>, false},
     {"level.none", "disc beyond 4.1", 3,
      [](Record& r) {
          setBoth(r, &V::level, 51);
@@ -79,6 +75,26 @@ constexpr RuleCase rows[] = {
     {"disc.format", "1918 x 1080", 3, [](Record& r) { setBoth(r, &V::width, 1918); }, true},
     {"disc.format-3d", "23.976", 3, [](Record&) {}, false},
     {"disc.format-3d", "24", 3, [](Record& r) { setFrameRate(r, 24); }, true},
+    {"disc.format-3d", "1280 x 720 at 59.94", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1280);
+         setBoth(r, &V::height, 720);
+         setFrameRate(r, 60000.0 / 1001);
+     },
+     false},
+    {"disc.format-3d", "1280 x 720 at 24", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1280);
+         setBoth(r, &V::height, 720);
+         setFrameRate(r, 24);
+     },
+     true},
+    {"disc.format-3d", "1920 x 1080 at 25, interlaced", 3,
+     [](Record& r) {
+         setFrameRate(r, 25);
+         setBoth(r, &V::interlace_mode, 1);
+     },
+     true},
     {"disc.chroma", "4:0:0", 3, [](Record& r) { setBoth(r, &V::chroma_format, 1); }, true},
     {"disc.chroma", "4:2:0", 3, [](Record&) {}, false},
     {"disc.aspect", "1:1", 3,
@@ -175,7 +191,28 @@ constexpr RuleCase rows[] = {
      },
      false},
     {"disc.references", "4", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
-    {"disc.references", "5", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }, true},
+    {"disc.references", "5, which the level has no room for", 3,
+     [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }, false},
+    {"disc.references", "5 of 1440 x 1080", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1440);
+         setBoth(r, &V::ref_distance, 1);
+         setBoth(r, &V::num_ref_frames, 5);
+     },
+     true},
+    {"disc.references", "4 of 1440 x 1080", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1440);
+         setBoth(r, &V::ref_distance, 1);
+         setBoth(r, &V::num_ref_frames, 4);
+     },
+     false},
+    {"disc.references", "5 and 2, which the level refuses", 3,
+     [](Record& r) {
+         r.views[0].num_ref_frames = 5;
+         r.views[1].num_ref_frames = 2;
+     },
+     false},
     {"disc.references", "6 at 720 lines", 3,
      [](Record& r) {
          setBoth(r, &V::width, 1280);
@@ -191,7 +228,14 @@ constexpr RuleCase rows[] = {
      },
      true},
     {"disc.references-spare", "3", 3, [](Record&) {}, false},
-    {"disc.references-spare", "4", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, true},
+    {"disc.references-spare", "4", 3,
+     [](Record& r) {
+         setBoth(r, &V::num_ref_frames, 4);
+         setBoth(r, &V::ref_distance, 1);
+     },
+     true},
+    {"disc.references-spare", "4, which the level has no room for", 3,
+     [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
     {"disc.reference-b", "plain references", 3, [](Record& r) { setBoth(r, &V::reference_b, 1); },
      true},
     {"disc.reference-b", "in a pyramid", 3,
@@ -205,7 +249,15 @@ constexpr RuleCase rows[] = {
     {"disc.pulldown", "2:3", 3, [](Record& r) { setBoth(r, &V::pulldown, 1); }, true},
     {"disc.pulldown", "off", 3, [](Record&) {}, false},
     {"disc.slices", "4", 3, [](Record&) {}, false},
-    {"disc.slices", "3", 3, [](Record& r) { setBoth(r, &V::num_slices, 3); }, true},
+    {"disc.slices", "3, which the level refuses", 3,
+     [](Record& r) { setBoth(r, &V::num_slices, 3); }, false},
+    {"disc.slices", "3 of 1280 x 720", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1280);
+         setBoth(r, &V::height, 720);
+         setBoth(r, &V::num_slices, 3);
+     },
+     true},
     {"disc.bitrate", "40 Mbit/s", 3, [](Record& r) { r.views[0].max_bitrate = 40000000; }, false},
     {"disc.bitrate", "more in the base view", 3,
      [](Record& r) { r.views[0].max_bitrate = 40000001; }, true},

@@ -53,6 +53,65 @@ KvMvcSettings faulty()
     return record;
 }
 
+/// What a user may set wrongly in one step, and the one error about it.
+struct Slip {
+    const char* name;
+    int preset;
+    void (*change)(KvMvcSettings&);
+    const char* error;
+};
+
+using Record = KvMvcSettings;
+
+// clang-format off
+constexpr Slip slips[] = {
+    {"three views in Stereo High", 2, [](Record& r) { r.num_views = 3; },
+     "Stereo High has two views (now 3): set 1 additional view, or choose another preset."},
+    {"four views on a disc", 3, [](Record& r) { r.num_views = 4; },
+     "Stereo High has two views (now 4): set 1 additional view, or choose another preset."},
+    {"4:2:2 of two views", 2, [](Record& r) { setBoth(r, &V::chroma_format, 3); },
+     "With several views, the chroma format cannot be 4:2:2: choose 4:2:0."},
+    {"4:2:2 on a disc", 3, [](Record& r) { setBoth(r, &V::chroma_format, 3); },
+     "Blu-ray 3D requires the chroma format 4:2:0: choose 4:2:0."},
+    {"a fourth chroma format on a disc", 3, [](Record& r) { setBoth(r, &V::chroma_format, 4); },
+     "Blu-ray 3D requires the chroma format 4:2:0: choose 4:2:0."},
+    {"10 bits of two views", 2, [](Record& r) { setBoth(r, &V::bit_depth_luma, 10); setBoth(r, &V::bit_depth_chroma, 10); },
+     "With several views, luma and chroma have a bit-depth of 8: choose 8 bits."},
+    {"High 10 on a disc", 3, [](Record& r) { setBoth(r, &V::profile, 4); },
+     "Blu-ray 3D requires profile High (now High 10): choose High."},
+    {"Baseline on a disc", 3, [](Record& r) { setBoth(r, &V::profile, 0); },
+     "Blu-ray 3D requires profile High (now Baseline): choose High."},
+    {"fields in Multiview High at 4.2", 1, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::level, 42); },
+     "Multiview High allows progressive pictures only: set the picture structure to Progressive."},
+    {"no frame rate", 2, [](Record& r) { encoder::setFrameRate(r, 0); },
+     "HRD conformance needs a frame rate: choose one."},
+    {"no frame rate on a disc", 3, [](Record& r) { encoder::setFrameRate(r, 0); },
+     "Blu-ray has no 1920 x 1080 at 0.00 frames/s in this structure; the nearest is 1920 x 1080 at 23.976, progressive."},
+    {"200 frames/s", 2, [](Record& r) { encoder::setFrameRate(r, 200); },
+     "No level allows more than 172 frames/s (now 200.00): choose a lower frame rate."},
+    {"200 frames/s on a disc", 3, [](Record& r) { encoder::setFrameRate(r, 200); },
+     "Blu-ray has no 1920 x 1080 at 200.00 frames/s in this structure; the nearest is 1920 x 1080 at 23.976, progressive."},
+    {"60 for 59.94", 3, [](Record& r) { setBoth(r, &V::width, 1280); setBoth(r, &V::height, 720); encoder::setFrameRate(r, 60); },
+     "Blu-ray has no 1280 x 720 at 60.00 frames/s in this structure; the nearest is 1280 x 720 at 59.94, progressive."},
+    {"1080 at 25, progressive", 3, [](Record& r) { encoder::setFrameRate(r, 25); },
+     "Blu-ray has no 1920 x 1080 at 25.00 frames/s in this structure; the nearest is 1920 x 1080 at 23.976, progressive."},
+    {"a picture that no disc has", 3, [](Record& r) { setBoth(r, &V::width, 4096); setBoth(r, &V::height, 2160); },
+     "Blu-ray has no 4096 x 2160 at 23.976 frames/s in this structure; the nearest is 1920 x 1080 at 23.976, progressive."},
+    {"3 slices on a disc", 3, [](Record& r) { setBoth(r, &V::num_slices, 3); },
+     "Level 4.1 needs at least 4 slices per picture at this size (now 3): use more."},
+    {"5 references on a disc", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); },
+     "Level 4.1 has room for 3 reference frames of this size in each of 2 views (now 5): use fewer."},
+    {"80 Mbit/s on a disc", 3, [](Record& r) { setBoth(r, &V::max_bitrate, 40000000); },
+     "Blu-ray 3D allows both views together at most 60.00 Mbit/s (now 80.00): lower a bitrate."},
+    {"100 Mbit/s in the base view of a disc", 3, [](Record& r) { r.views[0].max_bitrate = 100000000; },
+     "Base view: Blu-ray 3D allows at most 40.00 Mbit/s (now 100.00): lower the bitrate."},
+    {"100 Mbit in the buffer of a disc", 3, [](Record& r) { r.views[0].bitrate_buffer = 12500000; },
+     "Blu-ray allows the base view a bitrate buffer of at most 30.00 Mbit (3750000 bytes): make it smaller."},
+    {"another level on a disc", 3, [](Record& r) { setBoth(r, &V::level, 31); },
+     "Blu-ray 3D requires level 4.1 (now 3.1): choose 4.1."},
+};
+// clang-format on
+
 } // namespace
 
 class TestEncoderCheck : public QObject
@@ -76,6 +135,8 @@ private Q_SLOTS:
     void constantBitrateLeavesTheHrdSwitchAlone();
     void changingUnitsKeepsTheInitialFullness();
     void messagesOfALevelThatIsTooLowAreFew();
+    void oneCauseGivesOneError_data();
+    void oneCauseGivesOneError();
     void streamIsToldWithItsProfile_data();
     void streamIsToldWithItsProfile();
     void predefinedAspectsAreNotWrittenOut();
@@ -276,6 +337,23 @@ void TestEncoderCheck::messagesOfALevelThatIsTooLowAreFew()
     setBoth(record, &V::level, 10);
     const Outcome outcome = encoder::check(record);
     QVERIFY2(outcome.errors().size() <= 4, outcome.all().constData());
+}
+
+void TestEncoderCheck::oneCauseGivesOneError_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(slips)); ++row) {
+        QTest::newRow(slips[row].name) << row;
+    }
+}
+
+void TestEncoderCheck::oneCauseGivesOneError()
+{
+    QFETCH(const int, row);
+    const Slip& slip = slips[row];
+    KvMvcSettings record = encoder::preset(slip.preset);
+    slip.change(record);
+    QCOMPARE(encoder::check(record).errors(), QByteArrayList{slip.error});
 }
 
 void TestEncoderCheck::streamIsToldWithItsProfile_data()

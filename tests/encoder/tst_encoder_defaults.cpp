@@ -84,8 +84,8 @@ void TestEncoderDefaults::tellOfTheirLevel_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QByteArray>("note");
-    // One view would do with less; a second one, with the rates that it has, would not.
-    QTest::newRow("none") << 0 << QByteArray("Level 4.0 is the lowest that fits.");
+    // Level 4.0 has room for 25 Mbit/s of picture data, and these have 30.
+    QTest::newRow("none") << 0 << QByteArray("Level 4.1 is the lowest that fits.");
     QTest::newRow("Multivew High") << 1 << QByteArray("Level 4.1 is the lowest that fits.");
     QTest::newRow("Stereo High") << 2 << QByteArray("Level 4.1 is the lowest that fits.");
     QTest::newRow("Blu-ray 3D") << 3
