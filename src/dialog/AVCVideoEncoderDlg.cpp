@@ -4,6 +4,7 @@
 #include "FocusMark.h"
 #include "ForeignText.h"
 #include "MessageLog.h"
+#include "Shortcuts.h"
 #include "model/FurtherViews.h"
 #include "model/KeyNames.h"
 #include "model/SettingsToState.h"
@@ -63,6 +64,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
             QIcon(QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon))));
     }
     new FocusMark(ui.buttonOk);
+    new FocusMark(ui.errorLog);
     if (!settings) {
         return;
     }
@@ -90,6 +92,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     limitHeight();
     settingsToState();
 
+    shortcuts::add(this, ui.tabWidget, ui.errorLog);
     m_lastLoadDirectory = QStringLiteral("./");
     m_lastSaveDirectory = QStringLiteral("./");
     ui.tabWidget->setAcceptDrops(true);
@@ -147,8 +150,6 @@ void AVCVideoEncoderDlg::buildPages()
     }
     setTabOrder(last, ui.buttonCancel);
     setTabOrder(ui.buttonCancel, ui.buttonOk);
-    // Not on the preset list, where the first turn of the wheel would replace every setting.
-    ui.tabWidget->setFocus();
 }
 
 void AVCVideoEncoderDlg::addPage(SettingsPage* page, const QString& title)
@@ -355,6 +356,9 @@ void AVCVideoEncoderDlg::showEvent(QShowEvent* event)
     // Not when the window system shows it again.
     if (!event->spontaneous()) {
         m_isClosed = false;
+        // Also where the host has made it the active window before it was shown, when the toolkit
+        // found another place for the focus: the tab bar has no setting that a key could change.
+        ui.tabWidget->setFocus();
     }
     QDialog::showEvent(event);
 }

@@ -2,15 +2,15 @@
 
 #include <QObject>
 
-class QAbstractButton;
+class QWidget;
 
-/// Frames a button while it has the focus. Styles draw a dialog's default button like a focused
-/// one, so on it the focus would not show.
+/// Frames a widget while it has the focus, where styles do not show it: a dialog's default button
+/// is drawn like a focused one, and a text that cannot be edited like one without focus.
 class FocusMark : public QObject
 {
 public:
-    /// Owned by the button.
-    explicit FocusMark(QAbstractButton* button);
+    /// Owned by the widget.
+    explicit FocusMark(QWidget* widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -100,6 +101,11 @@ int printProgress(const char*, ...)
     return 0;
 }
 
+QString firstLine(const QString& messages)
+{
+    return messages.section(QLatin1Char('\n'), 0, 0);
+}
+
 /// The state of the paragraph that the errors begin with.
 constexpr int errorsBegin = 1;
 
@@ -158,6 +164,7 @@ MessageLog& messageLog()
 void MessageLog::showIn(QTextEdit* log)
 {
     widget = log;
+    shownFirst.clear();
     layVeil(log->document());
 }
 
@@ -179,11 +186,15 @@ void MessageLog::dropDistinctColours()
     warningColour = noteColour;
 }
 
-void MessageLog::rewriteWidget() const
+void MessageLog::rewriteWidget()
 {
     if (!widget) {
         return;
     }
+    const QString first = firstLine(errors.isEmpty() ? warnings : errors);
+    const bool keepsItsPlace = widget->isVisible() && first == shownFirst;
+    const int place = widget->verticalScrollBar()->value();
+    shownFirst = first;
     const struct {
         const QString& messages;
         const QColor& colour;
@@ -210,6 +221,9 @@ void MessageLog::rewriteWidget() const
     cursor.endEditBlock();
 
     scrollToFirstToRead(widget);
+    if (keepsItsPlace) {
+        widget->verticalScrollBar()->setValue(place);
+    }
     // Before it is shown the log does not know yet how much of the text it has room for.
     if (!widget->isVisible()) {
         QMetaObject::invokeMethod(

@@ -20,6 +20,8 @@ struct MessageLog {
 
     /// The log of the dialog that is open. While it is hidden, messages are shown in boxes instead.
     QPointer<QTextEdit> widget;
+    /// The first error that it shows, or else the first warning.
+    QString shownFirst;
 
     /// Makes it the log.
     void showIn(QTextEdit* log);
@@ -29,8 +31,9 @@ struct MessageLog {
     /// Gives errors and warnings the colour of notes, for the rest of the process.
     void dropDistinctColours();
     /// Shows the collected messages: warnings, errors, notes, each block in its colour; a block
-    /// without messages is an empty paragraph.
-    void rewriteWidget() const;
+    /// without messages is an empty paragraph. What is read stays in its place, unless there is
+    /// another first error, or first warning, to be seen.
+    void rewriteWidget();
     /// Gives the log the focus, with the first error selected.
     void pointOutError() const;
 };

@@ -1,7 +1,7 @@
 #include "SettingsPage.h"
 
 #include "ControlLabel.h"
-#include "EnterGuard.h"
+#include "TypingGuard.h"
 #include "WheelGuard.h"
 
 #include <QSignalBlocker>
@@ -34,8 +34,8 @@ void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter se
 {
     controlKeys.insert(control, key);
     m_setters.append(std::move(setFromState));
-    if (auto* field = qobject_cast<QAbstractSpinBox*>(control)) {
-        EnterGuard::protect(field);
+    if (auto* field = qobject_cast<QSpinBox*>(control)) {
+        TypingGuard::protect(field);
     }
     if (auto* widget = qobject_cast<QWidget*>(control)) {
         WheelGuard::protect(widget);

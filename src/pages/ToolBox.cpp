@@ -1,6 +1,8 @@
 #include "ToolBox.h"
 
-#include <QCoreApplication>
+#include "WheelGuard.h"
+
+#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -77,6 +79,15 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     // What is behind shows through: a box of another tone would end at no visible edge.
     m_scrollArea->viewport()->setAutoFillBackground(false);
     m_content->setAutoFillBackground(false);
+    WheelGuard::watch(m_scrollArea->viewport());
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) {
+        // The scroll area sees to it for its own Tab key only. What the mouse presses stays where
+        // it is, or it would be released elsewhere.
+        if (focus && m_content->isAncestorOf(focus) &&
+            QGuiApplication::mouseButtons() == Qt::NoButton) {
+            m_scrollArea->ensureWidgetVisible(focus);
+        }
+    });
     outer->addWidget(m_scrollArea);
     outer->setContentsMargins(0, 0, 0, 0);
 }

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void pushingTellsNothingBack();
     void checkSeesTheEdit();
     void correctionsReachEveryPage();
+    void correctionsReachViewsBeyondTheRecord();
     void checkWhilePagesAreToldReturnsFalse();
     void editWhilePagesAreToldIsAppliedButNotChecked();
     void hostDeletesTheDialogWhileAMessageIsShown();
@@ -241,6 +242,22 @@ void TestDialogChecks::correctionsReachEveryPage()
     QCOMPARE(on<QSpinBox>(dialog, "View0Page", "targetRateSpin")->value(), 1234);
     QVERIFY(on<QCheckBox>(dialog, "ViewsPage", "splitCheck")->isChecked());
     QCOMPARE(dialog.presetList()->currentText(), QStringLiteral("Blu-ray 3D"));
+}
+
+void TestDialogChecks::correctionsReachViewsBeyondTheRecord()
+{
+    // The pages show the last view, which the record has no place for.
+    KvMvcSettings settings = exampleSettings();
+    settings.num_views = 4;
+    OpenDialog dialog(usualFlags, settings);
+    dialog.companions.onCheck = [](KvMvcLookup, KvMvcSettings& checked) {
+        checked.views[0].width = 1920;
+        checked.views[1].width = 1920;
+        return 0;
+    };
+    auto* const width = on<QSpinBox>(dialog, "VideoFormatPage", "widthSpin");
+    user::type(width, QStringLiteral("640"));
+    QCOMPARE(width->value(), 1920);
 }
 
 void TestDialogChecks::checkWhilePagesAreToldReturnsFalse()

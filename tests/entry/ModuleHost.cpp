@@ -85,6 +85,8 @@ void describe(QDialog* dialog)
     say(QStringLiteral("parent ") +
         (parent ? QString::fromLatin1(parent->metaObject()->className()) : QStringLiteral("none")));
     say(QStringLiteral("active ") + yesNo(QApplication::activeWindow() == dialog));
+    const QWidget* const focus = QApplication::focusWidget();
+    say(QStringLiteral("focus ") + (focus ? focus->objectName() : QStringLiteral("none")));
     if (const auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabWidget"))) {
         say(QStringLiteral("last tab ") + tabs->tabText(tabs->count() - 1));
     }

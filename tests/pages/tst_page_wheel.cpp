@@ -7,7 +7,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
-#include <QWheelEvent>
 
 /// The wheel over a control that has no focus scrolls the page and changes nothing.
 class TestPageWheel : public QObject
@@ -58,26 +57,6 @@ void addControls(bool insideSections)
     }
 }
 
-/// The innermost widget at the middle of the control, where the wheel event arrives.
-QWidget* innermost(QWidget* control)
-{
-    QWidget* const child = control->childAt(control->rect().center());
-    return child ? child : control;
-}
-
-/// Turns the wheel over the control by some notches; towards the user is negative.
-void turnWheel(QWidget* control, int notches)
-{
-    constexpr int notch = 120;
-    QWidget* const target = innermost(control);
-    const QPointF place = target->rect().center();
-    QWheelEvent event(place, target->mapToGlobal(place.toPoint()), {}, {0, notches * notch},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    // As if it came from the window system: only such events go on to what lies behind.
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QCoreApplication::instance()->notify(target, &event);
-}
-
 /// All pages in a low window, showing what the control's kind is shown with.
 class OpenPages : public AllPages
 {
@@ -121,7 +100,7 @@ void TestPageWheel::wheelOverUnfocusedControlChangesNothing()
     QVERIFY(pages.widget->isVisible());
     const QVariant before = shown(pages.window(), control);
     for (const int notches : {-1, 1, -3, 5}) {
-        turnWheel(pages.widget, notches);
+        user::turnWheel(pages.widget, notches);
     }
     QCOMPARE(shown(pages.window(), control), before);
     QCOMPARE(pages.spy.take(), QStringList());
@@ -142,7 +121,7 @@ void TestPageWheel::wheelOverUnfocusedControlScrollsThePage()
     QVERIFY2(bar->maximum() > 0, "the window is too high for this test");
     const int before = bar->value();
     // To whichever side there is room.
-    turnWheel(pages.widget, before > bar->maximum() / 2 ? 1 : -1);
+    user::turnWheel(pages.widget, before > bar->maximum() / 2 ? 1 : -1);
     QVERIFY(bar->value() != before);
     QCOMPARE(pages.spy.take(), QStringList());
 }
@@ -157,7 +136,7 @@ void TestPageWheel::wheelGivesNoFocus()
     QFETCH(int, index);
     OpenPages pages(controls()[index]);
     QCOMPARE(int(pages.widget->focusPolicy()), int(Qt::StrongFocus));
-    turnWheel(pages.widget, -1);
+    user::turnWheel(pages.widget, -1);
     QVERIFY(!pages.widget->hasFocus());
 }
 
@@ -181,7 +160,7 @@ void TestPageWheel::wheelOverFocusedControlChangesIt()
     OpenPages pages(control);
     pages.widget->setFocus();
     QVERIFY(pages.widget->hasFocus());
-    turnWheel(pages.widget, -1);
+    user::turnWheel(pages.widget, -1);
     QVERIFY(shown(pages.window(), control) != control.a);
     QCOMPARE(pages.spy.take().size(), 1);
 }

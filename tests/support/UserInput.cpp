@@ -9,6 +9,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace user
 {
@@ -72,6 +73,21 @@ void pageUp(QAbstractSlider* slider)
     reveal(slider);
     slider->setFocus();
     QTest::keyClick(slider, Qt::Key_PageUp);
+}
+
+void turnWheel(QWidget* widget, int notches, int time, Qt::ScrollPhase phase)
+{
+    // The innermost widget at its middle, where such an event arrives.
+    QWidget* const child = widget->childAt(widget->rect().center());
+    QWidget* const target = child ? child : widget;
+    constexpr int notch = 120;
+    const QPointF place = target->rect().center();
+    QWheelEvent event(place, target->mapToGlobal(place.toPoint()), {}, {0, notches * notch},
+                      Qt::NoButton, Qt::NoModifier, phase, false);
+    event.setTimestamp(time);
+    // As if it came from the window system: only such events go on to what lies behind.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(target, &event);
 }
 
 } // namespace user

@@ -28,6 +28,11 @@ void type(QSpinBox* field, const QString& text);
 /// Moves a slider by one page.
 void pageUp(QAbstractSlider* slider);
 
+/// Turns the wheel over the widget by some notches; towards the user is negative.
+/// @param time Of the event, in milliseconds; 0 is an event without one.
+void turnWheel(QWidget* widget, int notches, int time = 0,
+               Qt::ScrollPhase phase = Qt::NoScrollPhase);
+
 } // namespace user
 
 /// The one widget of this class and object name below `parent`; null without one, and with more.

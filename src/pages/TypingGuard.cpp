@@ -1,0 +1,52 @@
+#include "TypingGuard.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSpinBox>
+
+#include <utility>
+
+void TypingGuard::protect(QSpinBox* field)
+{
+    field->installEventFilter(new TypingGuard(field));
+}
+
+TypingGuard::TypingGuard(QSpinBox* field)
+    : QObject(field), m_field(field), m_text(field->findChild<QLineEdit*>())
+{
+    connect(m_text, &QLineEdit::textEdited, this, [this] {
+        // A field that reports every key has not taken this one yet.
+        m_before = m_before.value_or(m_field->value());
+    });
+    // Typing marks the text as modified, and nothing takes the mark away when the number is taken.
+    connect(field, &QAbstractSpinBox::editingFinished, this, [this] {
+        m_before.reset();
+        m_text->setModified(false);
+    });
+}
+
+bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape && m_before) {
+        takeBack();
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_text->isModified()) {
+        watched->event(event);
+    } else {
+        return QObject::eventFilter(watched, event);
+    }
+    event->accept();
+    return true;
+}
+
+void TypingGuard::takeBack()
+{
+    const int before = *std::exchange(m_before, std::nullopt);
+    // Also where the number is still this one it replaces the text.
+    m_field->setValue(before);
+    m_text->setModified(false);
+    m_field->selectAll();
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+
+class QLineEdit;
+class QSpinBox;
+
+/// Enter and Escape in a field in which a number is being typed are for the number alone. Enter
+/// takes it, and does not also press the dialog's default button: what the check says of the number
+/// shall be seen first. Escape takes the typing back. Where nothing is typed both go on to the
+/// dialog.
+class TypingGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void protect(QSpinBox* field);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit TypingGuard(QSpinBox* field);
+
+    void takeBack();
+
+    QSpinBox* m_field;
+    QLineEdit* m_text;
+    /// The number before the first key; none while nothing is typed.
+    std::optional<int> m_before;
+};
