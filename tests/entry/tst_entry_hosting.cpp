@@ -22,6 +22,8 @@ class TestEntryHosting : public QObject
 private Q_SLOTS:
     void results_data();
     void results();
+    void focusIsOnTheTabs_data();
+    void focusIsOnTheTabs();
     void modes_data();
     void modes();
     void titleAndBannerOfTheRecord_data();
@@ -57,6 +59,24 @@ void TestEntryHosting::results_data()
     row("cancel", "cancel", "correct", "1001", "no");
     row("close box", "close", "correct", "1001", "no");
     row("OK refused, then closed", "ok", "refuse", "1001", "no");
+}
+
+void TestEntryHosting::focusIsOnTheTabs_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::newRow("own application") << QStringLiteral("flags=0x13");
+    QTest::newRow("own application, one tab") << QStringLiteral("flags=0x10");
+    QTest::newRow("host's application")
+        << QStringLiteral("application ext=application flags=0x10000013");
+}
+
+void TestEntryHosting::focusIsOnTheTabs()
+{
+    QFETCH(QString, steps);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(words(steps.toLatin1().constData()) + words("call"));
+    QCOMPARE(run.value("focus"), QStringLiteral("qt_tabwidget_tabbar"));
 }
 
 void TestEntryHosting::results()
