@@ -1,6 +1,8 @@
 #include "Commands.h"
 #include "Encoder.h"
 #include "Failure.h"
+#include "MessageJson.h"
+#include "MessageTexts.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
 
@@ -8,25 +10,31 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
 
-QLatin1String kindName(CheckMessage::Kind kind)
+/// One of the files.
+struct Checked {
+    QString file;
+    KvMvcSettings before;
+    CheckResult result;
+};
+
+/// In the order in which kinds are printed: what refuses the settings first.
+constexpr std::array kinds = {CheckMessage::Error, CheckMessage::Risk, CheckMessage::Warning,
+                              CheckMessage::Note};
+
+bool hasKind(const CheckResult& result, CheckMessage::Kind kind)
 {
-    switch (kind) {
-    case CheckMessage::Error:
-        return QLatin1String("error");
-    case CheckMessage::Warning:
-        return QLatin1String("warning");
-    case CheckMessage::Note:
-        break;
-    }
-    return QLatin1String("note");
+    return std::any_of(result.messages.begin(), result.messages.end(),
+                       [kind](const CheckMessage& message) { return message.kind == kind; });
 }
 
+/// @param beginning Of each line.
 /// @param notesToo Whether notes are worth printing when there is nothing else.
-QByteArray resultText(const CheckResult& result, bool notesToo)
+QString resultText(const CheckResult& result, const QString& beginning, bool notesToo)
 {
     const auto isNote = [](const CheckMessage& message) {
         return message.kind == CheckMessage::Note;
@@ -36,31 +44,80 @@ QByteArray resultText(const CheckResult& result, bool notesToo)
         return {};
     }
     QString text;
+    for (const CheckMessage::Kind kind : kinds) {
+        for (const CheckMessage& message : result.messages) {
+            if (message.kind == kind) {
+                // A message is a line, whatever the encoder wrote.
+                text += beginning + kindName(kind) + QStringLiteral(": ") +
+                        QString(message.text).replace(QLatin1Char('\n'), QLatin1Char(' ')) +
+                        QLatin1Char('\n');
+            }
+        }
+    }
+    return text;
+}
+
+QJsonObject resultJson(const Checked& checked)
+{
+    const CheckResult& result = checked.result;
+    QJsonArray messages;
     for (const CheckMessage& message : result.messages) {
-        // A message is a line, whatever the encoder wrote.
-        text += kindName(message.kind) + QStringLiteral(": ") +
-                QString(message.text).replace(QLatin1Char('\n'), QLatin1Char(' ')) +
-                QLatin1Char('\n');
+        messages.append(messageJson(message));
+    }
+    QJsonArray corrections;
+    for (const Difference& difference : compareSettings(checked.before, result.corrected)) {
+        corrections.append(differenceJson(difference, checked.before, result.corrected,
+                                          QLatin1String("before"), QLatin1String("after")));
+    }
+    return {{QStringLiteral("accepted"), result.accepted},
+            {QStringLiteral("level"), textOrNull(result.level())},
+            {QStringLiteral("messages"), messages},
+            {QStringLiteral("corrections"), corrections}};
+}
+
+/// Of one file: its members, at the top.
+QByteArray resultsJson(const std::vector<Checked>& all, bool accepted)
+{
+    QJsonObject object;
+    if (all.size() == 1) {
+        object = resultJson(all.front());
+    } else {
+        QJsonArray files;
+        for (const Checked& checked : all) {
+            QJsonObject file = resultJson(checked);
+            file[QStringLiteral("file")] = checked.file;
+            files.append(file);
+        }
+        object = {{QStringLiteral("accepted"), accepted}, {QStringLiteral("files"), files}};
+    }
+    object[QStringLiteral("format_version")] = jsonFormatVersion;
+    return QJsonDocument(object).toJson();
+}
+
+QByteArray resultsText(const std::vector<Checked>& all, bool notesToo)
+{
+    QString text;
+    for (const Checked& checked : all) {
+        const QString beginning = all.size() == 1 ? QString() : checked.file + QStringLiteral(": ");
+        text += resultText(checked.result, beginning, notesToo);
     }
     return text.toUtf8();
 }
 
-QByteArray resultJson(const CheckResult& result, const KvMvcSettings& before)
+/// @throws Failure for options that contradict each other.
+void requireOnePlaceForEach(const Invocation& call)
 {
-    QJsonArray messages;
-    for (const CheckMessage& message : result.messages) {
-        messages.append(QJsonObject{{QStringLiteral("kind"), kindName(message.kind)},
-                                    {QStringLiteral("text"), message.text}});
+    const QString output = call.value("output");
+    if (isStandardOutput(output) && call.has("json")) {
+        throw Failure(
+            QStringLiteral("--json and '-o %1' both write to standard output").arg(output));
     }
-    QJsonArray corrections;
-    for (const Difference& difference : compareSettings(before, result.corrected)) {
-        corrections.append(differenceJson(difference, before, result.corrected,
-                                          QLatin1String("before"), QLatin1String("after")));
+    if (call.has("output") && call.files.size() > 1) {
+        throw Failure(QStringLiteral("-o takes the settings of one file"));
     }
-    return QJsonDocument(QJsonObject{{QStringLiteral("accepted"), result.accepted},
-                                     {QStringLiteral("messages"), messages},
-                                     {QStringLiteral("corrections"), corrections}})
-        .toJson();
+    if (std::count_if(call.files.begin(), call.files.end(), isStandardInput) > 1) {
+        throw Failure(QStringLiteral("standard input can be only one of the files"));
+    }
 }
 
 } // namespace
@@ -69,35 +126,47 @@ QList<QCommandLineOption> checkOptions()
 {
     return {
         jsonOption(),
+        languageOption(),
         {QStringLiteral("notes"),
          QStringLiteral("Prints the encoder's notes even when there is nothing but notes.")},
         outputOption(QStringLiteral("Saves the settings as the check corrected them, when it "
                                     "accepts them. FILE is replaced when it exists; - is standard "
-                                    "output, and the messages go to standard error then."))};
+                                    "output, and the messages go to standard error then.")),
+        {QStringLiteral("strict"), QStringLiteral("Refuses settings with risks, too.")}};
 }
 
 Outcome runCheck(const Invocation& call)
 {
+    requireOnePlaceForEach(call);
     const QString output = call.value("output");
-    const bool toStandardOutput = isStandardOutput(output);
-    if (toStandardOutput && call.has("json")) {
-        throw Failure(
-            QStringLiteral("--json and '-o %1' both write to standard output").arg(output));
-    }
     if (call.has("output")) {
         requireWritable(output);
     }
     const SettingsFiles files(call.directory);
-    const KvMvcSettings settings = files.read(call.files.first());
-    const CheckResult result = Encoder(call.directory).check(settings);
-    const ExitCode exitCode = result.accepted ? ExitYes : ExitNo;
-    const QByteArray messages =
-        call.has("json") ? resultJson(result, settings) : resultText(result, call.has("notes"));
-    if (toStandardOutput) {
-        return {exitCode, result.accepted ? files.text(result.corrected) : QByteArray(), messages};
+    std::vector<Checked> all;
+    for (const QString& file : call.files) {
+        all.push_back({file, files.read(file), {}});
     }
-    if (result.accepted && call.has("output")) {
-        files.write(result.corrected, output);
+    const MessageTexts texts(call.value("language"));
+    const Encoder encoder(call.directory, texts.convert());
+    bool accepted = true;
+    for (Checked& checked : all) {
+        CheckResult& result = checked.result;
+        result = encoder.check(checked.before);
+        if (call.has("strict") && hasKind(result, CheckMessage::Risk)) {
+            result.accepted = false;
+        }
+        accepted = accepted && result.accepted;
+    }
+    const ExitCode exitCode = accepted ? ExitYes : ExitNo;
+    const QByteArray messages =
+        call.has("json") ? resultsJson(all, accepted) : resultsText(all, call.has("notes"));
+    const KvMvcSettings& corrected = all.front().result.corrected;
+    if (isStandardOutput(output)) {
+        return {exitCode, accepted ? files.text(corrected) : QByteArray(), messages};
+    }
+    if (accepted && call.has("output")) {
+        files.write(corrected, output);
     }
     return {exitCode, messages};
 }

@@ -28,12 +28,14 @@ Exit code: 0, or 2 on trouble.
 )";
 
 constexpr char checkHelp[] = R"(
-Lets the encoder check the settings in FILE, without a window, and prints each
-of its messages after "error: ", "warning: " or "note: ". When it accepts them
-and has only notes, nothing is printed. FILE is not changed; it may be -, which
-is standard input.
+Lets the encoder check the settings in each FILE, without a window, and prints
+its messages after "error: ", "risk: ", "warning: " or "note: ", in this order;
+of several files, after the file's name. A warning tells what was corrected, a
+risk what is likely a slip. When the encoder accepts the settings and has only
+notes, nothing is printed. FILE is not changed; one may be -, which is standard
+input.
 
-Exit code: 0 when the encoder accepts the settings, 1 when it refuses them, 2 on
+Exit code: 0 when the encoder accepts all settings, 1 when it refuses some, 2 on
 trouble.
 )";
 
@@ -85,8 +87,8 @@ constexpr Command commands[] = {
      false},
     {"show", "FILE", 1, 1, "Prints the settings as a table.", showHelp, showOptions, runShow, false,
      true},
-    {"check", "FILE", 1, 1, "Runs the encoder's check, without a window.", checkHelp, checkOptions,
-     runCheck, false, true},
+    {"check", "FILE...", 1, anyNumber, "Runs the encoder's check, without a window.", checkHelp,
+     checkOptions, runCheck, false, true},
     {"set", "FILE KEY=VALUE...", 2, anyNumber, "Sets settings in a file.", setHelp, setOptions,
      runSet, false, true},
     {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, defaultsOptions,

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
 #include <cstdio>
 #include <exception>
 
@@ -17,6 +18,8 @@ Outcome run(int& argc, char** argv)
     Invocation call;
     {
         const QCoreApplication application(argc, argv);
+        // It sets the user's locale; companions write and read numbers the way of the C locale.
+        std::setlocale(LC_NUMERIC, "C");
         call = parseCommandLine(allCommands(), programArguments(argc, argv));
         if (call.command == nullptr) {
             return {ExitYes, call.text};

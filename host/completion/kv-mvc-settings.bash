@@ -56,6 +56,7 @@ _kv_mvc_settings() {
             _kv_mvc_settings_list "$word" video-type size frame-rate pixel-ratio profile level views
             ;;
         --banner) _kv_mvc_settings_files "$word" '' ;;
+        --language) _kv_mvc_settings_words "$word" en de ja ;;
         --to) _kv_mvc_settings_words "$word" x264 ;;
         --input | --stream) _kv_mvc_settings_files "$word" '' ;;
         --title | --parent | --set | --view) ;;

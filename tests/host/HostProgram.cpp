@@ -73,6 +73,15 @@ void HostProgram::addBuiltLibrary(const QString& baseName)
     addLibrary(builtFile(baseName + librarySuffix), baseName);
 }
 
+void HostProgram::addTexts()
+{
+    addBuiltLibrary(QStringLiteral("mvc_gui_texts"));
+    for (const char* const file : {"gui_mvc_de.qm", "gui_mvc_jp.qm"}) {
+        const QString name = QString::fromLatin1(file);
+        copy(builtFile(name), m_directory.filePath(QStringLiteral("bin/") + name));
+    }
+}
+
 void HostProgram::addStub(const QString& stub, const QString& baseName)
 {
     addLibrary(stubPath(stub), baseName);

@@ -26,6 +26,8 @@ public:
     void addLibrary(const QString& path, const QString& baseName);
     /// Also what the project builds beside the program, and the stubs of these tests.
     void addBuiltLibrary(const QString& baseName);
+    /// The dialog's translations, and the library of the encoder's messages.
+    void addTexts();
     void addStub(const QString& stub, const QString& baseName);
     /// @return The full path of a stub.
     [[nodiscard]] static QString stubPath(const QString& stub);

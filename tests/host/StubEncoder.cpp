@@ -13,6 +13,35 @@ KvMvcPrintf sinkOf(KvMvcLookup lookUp, const char* name)
     return reinterpret_cast<KvMvcPrintf>(lookUp(name));
 }
 
+void tellAbout(KvMvcLookup lookUp)
+{
+    KvMvcMessageAbout about{};
+    about.size = sizeof about;
+    about.kind = KV_MVC_MESSAGE_RISK;
+    about.rule = "width.odd";
+    about.setting = "width";
+    about.view = 1;
+    about.numbers = KV_MVC_ABOUT_VALUE | KV_MVC_ABOUT_LIMIT;
+    about.value = 7;
+    about.limit = 16.5;
+    about.level = "1b";
+    reinterpret_cast<KvMvcTellAbout>(lookUp("msg_about"))(&about);
+}
+
+void tellLimit(KvMvcLookup lookUp)
+{
+    KvMvcLimitUse use{};
+    use.size = sizeof use;
+    use.view = KV_MVC_ALL_VIEWS;
+    use.name = "Bitrate";
+    use.unit = "bit/s";
+    use.rule = "rate";
+    use.level = "3.1";
+    use.used = 3500000;
+    use.limit = 14000000;
+    reinterpret_cast<KvMvcTellLimitUse>(lookUp("lim_usage"))(&use);
+}
+
 } // namespace
 
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* settings, int32_t,
@@ -25,7 +54,8 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* setti
 }
 
 /// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there; 5 is
-/// refused without an error; 6 has letters beyond ASCII.
+/// refused without an error; 6 has letters beyond ASCII; 7 is a risk, and tells what it is about
+/// and how much of a limit is used.
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
                                                                KvMvcSettings* settings,
                                                                int32_t stage, int32_t reserved)
@@ -61,6 +91,11 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
         return 1;
     case 6:
         sinkOf(lookUp, "wrn_printf")("%s", "\xC3\x9C\xC5\x82 \xD0\x96 \xE2\x82\xAC");
+        return 0;
+    case 7:
+        tellLimit(lookUp);
+        tellAbout(lookUp);
+        sinkOf(lookUp, "wrn_printf")("width %d of %s", 7, "16");
         return 0;
     default:
         return 0;

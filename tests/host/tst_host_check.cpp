@@ -15,8 +15,17 @@ private Q_SLOTS:
     void messagesAndVerdict();
     void messagesOfAnyLengthAreWhole();
     void correctionsAreSavedElsewhere();
+    void nothingIsSavedWhenRefused_data();
     void nothingIsSavedWhenRefused();
+    void severalFiles();
+    void whatIsOfOneFileIsRefusedForSeveral_data();
+    void whatIsOfOneFileIsRefusedForSeveral();
     void json();
+    void messagesAreInTheUsersLanguage_data();
+    void messagesAreInTheUsersLanguage();
+    void textsAreFoundAsTheDialogFindsThem();
+    void languagesThatThereAreNot_data();
+    void languagesThatThereAreNot();
     void firstEncoderNameWins();
     void realEncoderAcceptsItsDefaults_data();
     void realEncoderAcceptsItsDefaults();
@@ -53,9 +62,10 @@ void TestHostCheck::messagesAndVerdict_data()
     QTest::addColumn<int>("exitCode");
     const QStringList none;
     const QStringList notes = {QStringLiteral("--notes")};
-    const QString refusal = QStringLiteral("note: the picture of 1 x 2\n"
-                                           "error: width 1 is below 16\n"
-                                           "warning: 100 % of 0.500 is less\n");
+    // Whatever the order in which the encoder says it.
+    const QString refusal = QStringLiteral("error: width 1 is below 16\n"
+                                           "warning: 100 % of 0.500 is less\n"
+                                           "note: the picture of 1 x 2\n");
     const QString correction = QStringLiteral("warning: width 2 corrected to 16\n");
     const QString note = QStringLiteral("note: no printf\n");
     QTest::newRow("accepted in silence") << 1920 << none << QString() << 0;
@@ -67,6 +77,11 @@ void TestHostCheck::messagesAndVerdict_data()
     QTest::newRow("accepted, with notes") << 4 << notes << note << 0;
     QTest::newRow("refused with nothing but notes")
         << 5 << none << QStringLiteral("note: no reason\n") << 1;
+    const QStringList strict = {QStringLiteral("--strict")};
+    const QString risk = QStringLiteral("risk: width 7 of 16\n");
+    QTest::newRow("accepted with a risk") << 7 << none << risk << 0;
+    QTest::newRow("a risk, strictly") << 7 << strict << risk << 1;
+    QTest::newRow("a correction, strictly") << 2 << strict << correction << 0;
 }
 
 void TestHostCheck::messagesAndVerdict()
@@ -114,13 +129,83 @@ void TestHostCheck::correctionsAreSavedElsewhere()
     QVERIFY(std::memcmp(&saved, &expected, sizeof saved) == 0);
 }
 
+void TestHostCheck::nothingIsSavedWhenRefused_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("by the encoder") << 1;
+    QTest::newRow("by --strict") << 7;
+}
+
 void TestHostCheck::nothingIsSavedWhenRefused()
 {
+    QFETCH(int, width);
+    HostProgram program;
+    prepare(program, width);
+    const HostProgram::Result result = program.run(
+        {QStringLiteral("check"), a, QStringLiteral("-o"), fixedName, QStringLiteral("--strict")});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(program.fileNames(), QStringList{a});
+}
+
+void TestHostCheck::severalFiles()
+{
+    HostProgram program;
+    prepare(program, 2);
+    program.writeSettings(QStringLiteral("good.ini"), settingsOfWidth(1920));
+    program.writeSettings(QStringLiteral("bad.ini"), settingsOfWidth(1));
+    const QStringList arguments = {QStringLiteral("check"), a, QStringLiteral("good.ini"),
+                                   QStringLiteral("-")};
+    const QByteArray bad = program.content(QStringLiteral("bad.ini"));
+    HostProgram::Result result = program.run(arguments, {}, bad);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.output, QStringLiteral("a.ini: warning: width 2 corrected to 16\n"
+                                           "-: error: width 1 is below 16\n"
+                                           "-: warning: 100 % of 0.500 is less\n"
+                                           "-: note: the picture of 1 x 2\n"));
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(program.run(arguments.mid(0, 3)).exitCode, 0);
+
+    result = program.run(arguments + QStringList{QStringLiteral("--json")}, {}, bad);
+    QCOMPARE(result.exitCode, 1);
+    const QJsonObject all = QJsonDocument::fromJson(result.output.toUtf8()).object();
+    QCOMPARE(all.keys().join(QLatin1Char(' ')), QStringLiteral("accepted files format_version"));
+    QCOMPARE(all[QStringLiteral("accepted")], QJsonValue(false));
+    QStringList verdicts;
+    for (const QJsonValue& file : all[QStringLiteral("files")].toArray()) {
+        verdicts << file[QStringLiteral("file")].toString() +
+                        (file[QStringLiteral("accepted")].toBool() ? QStringLiteral(" accepted")
+                                                                   : QStringLiteral(" refused"));
+    }
+    QCOMPARE(verdicts,
+             QStringList({QStringLiteral("a.ini accepted"), QStringLiteral("good.ini accepted"),
+                          QStringLiteral("- refused")}));
+}
+
+void TestHostCheck::whatIsOfOneFileIsRefusedForSeveral_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char* name, const char* arguments, const char* line) {
+        QTest::newRow(name) << QString::fromLatin1(arguments).split(QLatin1Char(' '))
+                            << QStringLiteral("kv-mvc-settings: ") + QLatin1String(line) +
+                                   QLatin1Char('\n');
+    };
+    row("output", "check a.ini a.ini -o fixed.ini", "-o takes the settings of one file");
+    row("standard input", "check - -", "standard input can be only one of the files");
+    row("an unreadable file", "check a.ini none.ini",
+        "cannot read 'none.ini': there is no such file");
+}
+
+void TestHostCheck::whatIsOfOneFileIsRefusedForSeveral()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, line);
     HostProgram program;
     prepare(program, 1);
-    const HostProgram::Result result =
-        program.run({QStringLiteral("check"), a, QStringLiteral("-o"), fixedName});
-    QCOMPARE(result.exitCode, 1);
+    const HostProgram::Result result = program.run(arguments);
+    QCOMPARE(result.error, line);
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
     QCOMPARE(program.fileNames(), QStringList{a});
 }
 
@@ -131,22 +216,136 @@ void TestHostCheck::json()
     const QStringList arguments = {QStringLiteral("check"), QStringLiteral("--json"), a};
     HostProgram::Result result = program.run(arguments);
     QCOMPARE(result.exitCode, 1);
+    // What this encoder does not tell is null.
     QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()), QJsonDocument::fromJson(R"json({
-        "accepted": false,
-        "messages": [{"kind": "note", "text": "the picture of 1 x 2"},
-                     {"kind": "error", "text": "width 1 is below 16"},
-                     {"kind": "warning", "text": "100 % of 0.500\nis less"}],
+        "format_version": 1, "accepted": false, "level": null,
+        "messages": [{"kind": "note", "text": "the picture of 1 x 2", "rule": null, "setting": null,
+                      "view": null, "value": null, "limit": null, "level": null},
+                     {"kind": "error", "text": "width 1 is below 16", "rule": null, "setting": null,
+                      "view": null, "value": null, "limit": null, "level": null},
+                     {"kind": "warning", "text": "100 % of 0.500\nis less", "rule": null,
+                      "setting": null, "view": null, "value": null, "limit": null, "level": null}],
         "corrections": []})json"));
 
     program.writeSettings(a, settingsOfWidth(2));
     result = program.run(arguments);
     QCOMPARE(result.exitCode, 0);
+    const QJsonObject corrected = QJsonDocument::fromJson(result.output.toUtf8()).object();
+    QCOMPARE(corrected[QStringLiteral("accepted")], QJsonValue(true));
+    QCOMPARE(corrected[QStringLiteral("corrections")].toArray(), QJsonDocument::fromJson(R"json([
+                {"setting": "width", "name": "Picture width", "view": 0,
+                 "before": {"value": 2, "text": "2"}, "after": {"value": 16, "text": "16"}}])json")
+                                                                     .array());
+
+    program.writeSettings(a, settingsOfWidth(7));
+    result = program.run(arguments + QStringList{QStringLiteral("--strict")});
+    QCOMPARE(result.exitCode, 1);
     QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()), QJsonDocument::fromJson(R"json({
-        "accepted": true,
-        "messages": [{"kind": "warning", "text": "width 2 corrected to 16"}],
-        "corrections": [{"setting": "width", "name": "Picture width", "view": 0,
-                         "before": {"value": 2, "text": "2"},
-                         "after": {"value": 16, "text": "16"}}]})json"));
+        "format_version": 1, "accepted": false, "level": "3.1",
+        "messages": [{"kind": "risk", "text": "width 7 of 16", "rule": "width.odd",
+                      "setting": "width", "view": 1, "value": 7, "limit": 16.5, "level": "1b"}],
+        "corrections": []})json"));
+}
+
+void TestHostCheck::messagesAreInTheUsersLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, const char* locale, const char* option,
+                        const char* text) {
+        QStringList options;
+        if (*option != '\0') {
+            options = QStringList{QStringLiteral("--language"), QString::fromLatin1(option)};
+        }
+        QTest::newRow(name) << QString::fromLatin1(locale) << options << QString::fromUtf8(text);
+    };
+    const char* const english = "The picture width has to be at least 16 (now 0).";
+    const char* const german = "Die Bildbreite muss mindestens 16 sein (jetzt 0).";
+    const char* const japanese = "画面の幅は 16 以上にしてください (現在 0)。";
+    row("German asked for", "C", "de", german);
+    row("Japanese asked for", "C", "ja", japanese);
+#ifndef Q_OS_WIN
+    row("German", "de_DE.UTF-8", "", german);
+    row("Austrian German", "de_AT.UTF-8", "", german);
+    row("Japanese", "ja_JP.UTF-8", "", japanese);
+    row("French", "fr_FR.UTF-8", "", english);
+    row("English asked for by a German", "de_DE.UTF-8", "en", english);
+#endif
+    row("none", "C", "", english);
+}
+
+void TestHostCheck::messagesAreInTheUsersLanguage()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, options);
+    QFETCH(QString, text);
+    HostProgram program;
+    program.addBuiltLibrary(QStringLiteral("kv_mvcenc"));
+    program.addTexts();
+    KvMvcSettings settings = exampleSettings();
+    settings.views[0].width = 0;
+    settings.views[1].width = 0;
+    program.writeSettings(a, settings);
+    const QMap<QString, QString> environment = {{QStringLiteral("LC_ALL"), locale},
+                                                {QStringLiteral("LANGUAGE"), QString()}};
+    HostProgram::Result result =
+        program.run(QStringList{QStringLiteral("check"), a} + options, environment);
+    QCOMPARE(result.error, QString());
+    QVERIFY2(result.output.contains(QStringLiteral("error: ") + text + QLatin1Char('\n')),
+             qPrintable(result.output));
+    result = program.run(
+        QStringList{QStringLiteral("check"), QStringLiteral("--json"), a} + options, environment);
+    bool found = false;
+    const QJsonObject all = QJsonDocument::fromJson(result.output.toUtf8()).object();
+    for (const QJsonValue& message : all[QStringLiteral("messages")].toArray()) {
+        // The rule has its name in all languages.
+        found = found ||
+                (message[QStringLiteral("text")].toString() == text &&
+                 message[QStringLiteral("rule")].toString() == QStringLiteral("picture.width"));
+    }
+    QVERIFY2(found, qPrintable(result.output));
+}
+
+void TestHostCheck::textsAreFoundAsTheDialogFindsThem()
+{
+    // It has its language where its translation is, and the messages beside that.
+    HostProgram program;
+    program.addBuiltLibrary(QStringLiteral("kv_mvcenc"));
+    program.addBuiltLibrary(QStringLiteral("mvc_gui_texts"));
+    KvMvcSettings settings = exampleSettings();
+    settings.views[0].width = 0;
+    program.writeSettings(a, settings);
+    const QMap<QString, QString> german = {
+        {QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8")},
+        {QStringLiteral("LANGUAGE"), QString()}};
+    const QString english = QStringLiteral("error: The picture width has to be at least 16");
+    HostProgram::Result result = program.run({QStringLiteral("check"), a}, german);
+    QVERIFY2(result.output.contains(english), qPrintable(result.output));
+    QCOMPARE(result.error, QString());
+}
+
+void TestHostCheck::languagesThatThereAreNot_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("unknown") << QStringLiteral("fr")
+                             << QStringLiteral("--language does not know 'fr': en, de, ja");
+    QTest::newRow("without texts")
+        << QStringLiteral("de") << QStringLiteral("there are no texts for --language de");
+}
+
+void TestHostCheck::languagesThatThereAreNot()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, line);
+    HostProgram program;
+    prepare(program, 1);
+    const HostProgram::Result result =
+        program.run({QStringLiteral("check"), QStringLiteral("--language"), language, a});
+    QCOMPARE(result.error, QStringLiteral("kv-mvc-settings: %1\n").arg(line));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.exitCode, 2);
 }
 
 void TestHostCheck::firstEncoderNameWins()
@@ -178,7 +377,7 @@ void TestHostCheck::realEncoderAcceptsItsDefaults()
         program.run({QStringLiteral("defaults"), preset, QStringLiteral("-o"), a});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
-    result = program.run({QStringLiteral("check"), a});
+    result = program.run({QStringLiteral("check"), QStringLiteral("--strict"), a});
     QCOMPARE(result.output, QString());
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);

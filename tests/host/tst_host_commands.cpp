@@ -116,7 +116,7 @@ void TestHostCommands::helpNamesEveryCommand()
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
     for (const char* line :
-         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE ", "\n  set FILE KEY=VALUE... ",
+         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE... ", "\n  set FILE KEY=VALUE... ",
           "\n  defaults PRESET ", "\n  diff A B ", "\n  import MEDIA ", "\n  export FILE ",
           "\n  -h, --help ", "\n  -v, --version "}) {
         QVERIFY2(result.output.contains(QLatin1String(line)), line);
@@ -138,7 +138,7 @@ void TestHostCommands::everyCommandHasHelp_data()
         "--output --preset --hosting --parent --title --banner --lock --no-basic --no-advanced "
         "--no-file-buttons --no-initial-check --plain-log --no-banner --help");
     row("show", "FILE", "--json --help");
-    row("check", "FILE", "--json --notes --output --help");
+    row("check", "FILE...", "--json --language --notes --output --strict --help");
     row("set", "FILE KEY=VALUE...", "--output --help");
     row("defaults", "PRESET", "--output --set --help");
     row("diff", "A B", "--json --help");

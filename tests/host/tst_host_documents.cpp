@@ -167,7 +167,9 @@ void TestHostDocuments::completionOffers_data()
     row("show folder/", "folder/c.cfg");
     row("show --", "--help --json");
     row("diff a.ini ", "a.ini b.CFG folder");
-    row("check --", "--help --json --notes --output");
+    row("check --", "--help --json --language --notes --output --strict");
+    row("check --language ", "de en ja");
+    row("check a.ini b", "b.CFG");
     row("check a.ini -o ", "a.ini b.CFG folder");
     row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
     row("defaults s", "stereo-high");

@@ -177,9 +177,9 @@ void TestHostStreams::checkedSettingsGoOnWithoutMessages_data()
     QTest::newRow("corrected") << a << QStringLiteral("warning: width 2 corrected to 16\n")
                                << QStringLiteral("\nwidth = 16\n") << 0;
     QTest::newRow("refused") << b
-                             << QStringLiteral("note: the picture of 1 x 2\n"
-                                               "error: width 1 is below 16\n"
-                                               "warning: 100 % of 0.500 is less\n")
+                             << QStringLiteral("error: width 1 is below 16\n"
+                                               "warning: 100 % of 0.500 is less\n"
+                                               "note: the picture of 1 x 2\n")
                              << QString() << 1;
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Encoder.h"
+
+#include <QJsonObject>
+#include <QLatin1String>
+
+// What commands write as JSON; docs/json.md has it in words, docs/kv-mvc-settings.schema.json as a
+// schema.
+
+/// The version of the JSON that the program writes: it changes when a member goes or means
+/// something else, and stays when one is added.
+inline constexpr int jsonFormatVersion = 1;
+
+/// @return "error", "risk", "warning" or "note".
+QLatin1String kindName(CheckMessage::Kind kind);
+
+/// @return {"kind", "text", "rule", "setting", "view", "value", "limit", "level"}; null where the
+///         encoder does not tell.
+QJsonObject messageJson(const CheckMessage& message);
+
+/// @return {"name", "view", "used", "limit", "unit", "rule", "level"}
+QJsonObject limitJson(const LimitUse& use);
+
+/// @return The text, or null when there is none.
+QJsonValue textOrNull(const QString& text);
