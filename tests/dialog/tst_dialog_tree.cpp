@@ -9,6 +9,7 @@
 #include <QMetaMethod>
 #include <QSplitter>
 #include <QTest>
+#include <QToolButton>
 
 namespace
 {
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void presetLabelIsPlainBoldText();
     void logIsReadOnly();
     void splitterChildrenStayOpen();
+    void sectionsAreOpenInEveryDialog();
     void tabWidgetProperties();
     void designTimePagesAreGone();
     void signalsAndSlotsInOrder();
@@ -360,6 +362,24 @@ void TestDialogTree::splitterChildrenStayOpen()
     QCOMPARE(splitter->count(), 2);
     QCOMPARE(splitter->widget(0)->objectName(), QStringLiteral("infoFrame"));
     QCOMPARE(splitter->widget(1)->objectName(), QStringLiteral("tabWidget"));
+}
+
+void TestDialogTree::sectionsAreOpenInEveryDialog()
+{
+    // The second one, too, after all were closed in the first.
+    for (int time = 0; time < 2; ++time) {
+        OpenDialog dialog;
+        int sections = 0;
+        for (auto* button : dialog.tabs()->findChildren<QToolButton*>()) {
+            if (button->isCheckable()) {
+                ++sections;
+                QVERIFY(button->isChecked());
+                button->click();
+                QVERIFY(!button->isChecked());
+            }
+        }
+        QCOMPARE(sections, 9);
+    }
 }
 
 void TestDialogTree::tabWidgetProperties()

@@ -8,10 +8,7 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QPointer>
 #include <QTest>
-
-#include <memory>
 
 /// The "Basic Settings" tab: one section, and a device selector that nobody sees.
 class TestBasicPage : public QObject
@@ -28,7 +25,6 @@ private Q_SLOTS:
     void editOfTheChildIsForwardedUnchanged();
     void stateReachesTheChild();
     void frameRateItemReachesTheChild();
-    void childBelongsToThePage();
 };
 
 namespace
@@ -122,15 +118,6 @@ void TestBasicPage::frameRateItemReachesTheChild()
     page.addFramerateItem(QStringLiteral("48"));
     QCOMPARE(list->count(), 15);
     QCOMPARE(list->itemText(14), QStringLiteral("48"));
-}
-
-void TestBasicPage::childBelongsToThePage()
-{
-    auto page = std::make_unique<BasicPage>();
-    QPointer<QWidget> child = page->findChild<SettingsPage*>();
-    QVERIFY(child);
-    page.reset();
-    QVERIFY(!child);
 }
 
 QTEST_MAIN(TestBasicPage)

@@ -2,10 +2,13 @@
 #include "Controls.h"
 #include "ToolkitWarnings.h"
 
+#include "pages/ToolBox.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <cstring>
 #include <iterator>
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void spacerHasSize();
     void layoutHoldsInOrder_data();
     void layoutHoldsInOrder();
+    void sectionsFillTheirFrame_data();
+    void sectionsFillTheirFrame();
     void groupBoxWithoutTitle_data();
     void groupBoxWithoutTitle();
     void labelIsBold_data();
@@ -417,6 +422,29 @@ void TestPageLayouts::layoutHoldsInOrder()
     QVERIFY(found);
     const QStringList items = itemsOf(found);
     QTEST(items, "items");
+}
+
+void TestPageLayouts::sectionsFillTheirFrame_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const char* page : {"BasicPage", "AdvancedPage", "ViewsPage"}) {
+        QTest::newRow(page) << QString::fromLatin1(page);
+    }
+}
+
+void TestPageLayouts::sectionsFillTheirFrame()
+{
+    QFETCH(QString, page);
+    AllPages pages;
+    const QWidget* const frame =
+        findOnPage(pages.window(), page, QStringLiteral("collectionFrame"));
+    QVERIFY(frame);
+    const auto* const layout = qobject_cast<QVBoxLayout*>(frame->layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(layout->count(), 1);
+    QVERIFY(qobject_cast<ToolBox*>(layout->itemAt(0)->widget()));
+    QCOMPARE(layout->stretch(0), 0);
 }
 
 void TestPageLayouts::groupBoxWithoutTitle_data()

@@ -3,9 +3,13 @@
 #include "ToolkitWarnings.h"
 
 #include <QComboBox>
+#include <QEvent>
+#include <QHash>
+#include <QPointer>
 #include <QTest>
 
 #include <climits>
+#include <memory>
 
 /// A state that comes to the pages sets every control, switches off what is off, and is not echoed.
 class TestPageStates : public QObject
@@ -31,6 +35,8 @@ private Q_SLOTS:
     void valueOfAnotherKindIsConverted_data();
     void valueOfAnotherKindIsConverted();
     void signalsAreUnblockedAfterwards();
+    void pagesAreToldInOrder();
+    void childrenGoWithTheirContainer();
 };
 
 namespace
@@ -296,6 +302,75 @@ void TestPageStates::signalsAreUnblockedAfterwards()
     pages.receive(stateOf(&Control::a));
     for (const QObject* object : pages.window()->findChildren<QObject*>()) {
         QVERIFY2(!object->signalsBlocked(), qPrintable(object->objectName()));
+    }
+}
+
+namespace
+{
+
+/// Writes down the pages of the settings' controls that become enabled or disabled, in order.
+class PageSpy : public QObject
+{
+public:
+    explicit PageSpy(AllPages& pages)
+    {
+        for (const Control& control : controls()) {
+            if (QWidget* widget = findOnPage(pages.window(), control.page, control.name)) {
+                m_pages.insert(widget, control.page);
+                widget->installEventFilter(this);
+            }
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QString page = m_pages.value(watched);
+        if (event->type() == QEvent::EnabledChange && order.value(order.size() - 1) != page) {
+            order += page;
+        }
+        return false;
+    }
+
+    QStringList order;
+
+private:
+    QHash<QObject*, QString> m_pages;
+};
+
+} // namespace
+
+void TestPageStates::pagesAreToldInOrder()
+{
+    // A container's own controls come before its children.
+    AllPages pages;
+    ConfigState state = stateOf(&Control::a);
+    state.insert(QStringLiteral("Number of views"), 3);
+    pages.receive(state);
+    PageSpy spy(pages);
+    for (const Control& control : controls()) {
+        state.insert(control.key, state.value(control.key), false);
+    }
+    pages.receive(state);
+    QCOMPARE(spy.order, lines({"VideoFormatPage", "AdvancedPage", "GOPStructurePage",
+                               "MotionEstimationPage", "RateDistortionPage", "MiscPage",
+                               "ViewsPage", "View0Page", "View1Page", "View2Page", "View3Page"}));
+}
+
+void TestPageStates::childrenGoWithTheirContainer()
+{
+    QVector<QPointer<SettingsPage>> children;
+    auto pages = std::make_unique<AllPages>();
+    for (const SettingsPage* container : pages->containers()) {
+        for (SettingsPage* child : container->findChildren<SettingsPage*>()) {
+            children += child;
+        }
+    }
+    QCOMPARE(children.size(), 9);
+    for (SettingsPage* container : pages->containers()) {
+        delete container;
+    }
+    for (const auto& child : std::as_const(children)) {
+        QVERIFY(!child);
     }
 }
 

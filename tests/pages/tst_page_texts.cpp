@@ -30,6 +30,8 @@ private Q_SLOTS:
     void everyListTextIsFound_data();
     void everyListTextIsFound();
     void visibilityFollowsTheTranslatedMode();
+    void modeOfAStateIsAskedForInTheCommonContext_data();
+    void modeOfAStateIsAskedForInTheCommonContext();
     void unitLabelsAreAskedForInThePagesContext_data();
     void unitLabelsAreAskedForInThePagesContext();
 };
@@ -242,6 +244,39 @@ void TestPageTexts::visibilityFollowsTheTranslatedMode()
     state.insert(QStringLiteral("Bitrate Mode V0"), QStringLiteral("Variable Bitrate"));
     pages.receive(state);
     QVERIFY(!findOnPage(pages.window(), page, QStringLiteral("maxRateSpin"))->isVisible());
+}
+
+void TestPageTexts::modeOfAStateIsAskedForInTheCommonContext_data()
+{
+    QTest::addColumn<QStringList>("visible");
+    QTest::newRow("QObject|Constant Bitrate") << lines({"targetRateSpin", "iSizeSpin"});
+    QTest::newRow("QObject|Variable Bitrate")
+        << lines({"targetRateSpin", "maxRateSpin", "iSizeSpin"});
+    QTest::newRow("QObject|Const. Quality - Constant Quantizer") << lines({"quantISpin"});
+    QTest::newRow("QObject|Const. Quality - Average Quantizer")
+        << lines({"iSizeSpin", "quantISpin"});
+    // As the list has it, whose items are no part of a state.
+    QTest::newRow("View0Page|Variable Bitrate") << lines({"iSizeSpin"});
+}
+
+void TestPageTexts::modeOfAStateIsAskedForInTheCommonContext()
+{
+    const Translator translator(true);
+    AllPages pages;
+    QVERIFY(pages.show());
+    pages.window()->setCurrentWidget(pages.views);
+    ConfigState state;
+    state.insert(QStringLiteral("Bitrate Mode V0"), QString::fromLatin1(QTest::currentDataTag()));
+    state.insert(QStringLiteral("HRD V0"), 1);
+    pages.receive(state);
+    QStringList visible;
+    for (const char* name : {"targetRateSpin", "maxRateSpin", "iSizeSpin", "quantISpin"}) {
+        if (findOnPage(pages.window(), QStringLiteral("View0Page"), QLatin1String(name))
+                ->isVisible()) {
+            visible += QLatin1String(name);
+        }
+    }
+    QTEST(visible, "visible");
 }
 
 void TestPageTexts::unitLabelsAreAskedForInThePagesContext_data()

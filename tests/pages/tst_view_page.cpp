@@ -35,6 +35,7 @@ private Q_SLOTS:
 
     void oneSecondBoxSetsTheBuffer_data();
     void oneSecondBoxSetsTheBuffer();
+    void oneSecondBoxRaisesAMaximumBelowTheTarget();
     void oneSecondBoxDisablesTheBuffer();
     void bufferStaysDisabledWhileTheOneSecondBoxSetsIt_data();
     void bufferStaysDisabledWhileTheOneSecondBoxSetsIt();
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void oneSecondBoxSurvivesEveryState();
     void oneSecondBoxWinsOverTheStatesEnabling();
 
+    void stateEnablesEveryUnitButton();
     void unitsSetLabelsMaximaAndSteps_data();
     void unitsSetLabelsMaximaAndSteps();
     void unknownUnitsLeaveEverything_data();
@@ -245,8 +247,8 @@ void TestViewPage::oneSecondBoxSetsTheBuffer_data()
     QTest::addColumn<int>("target");
     QTest::addColumn<QString>("state");
     QTest::addColumn<int>("buffer");
-    const auto row = [](const char* name, Units units, int target, const char* state, int buffer) {
-        QTest::newRow(name) << int(units) << target << QString(QLatin1String(state)) << buffer;
+    const auto row = [](const char* name, int units, int target, const char* state, int buffer) {
+        QTest::newRow(name) << units << target << QString(QLatin1String(state)) << buffer;
     };
     row("bytes, 6000", Bytes, 6000, "=6000; Bitrate Buffer=750", 750);
     row("bytes, 6001 is cut off", Bytes, 6001, "=6001; Bitrate Buffer=750", 750);
@@ -254,6 +256,9 @@ void TestViewPage::oneSecondBoxSetsTheBuffer_data()
     row("bytes, largest", Bytes, largest, "=2147483647; Bitrate Buffer=268435455", 268435455);
     row("bits", Bits, 6001, "=6001; Bitrate Buffer=6001", 6001);
     row("clock", Clock, 6001, "=6001; Bitrate Buffer=6001", 6001);
+    // Of these no button is chosen.
+    row("units 3", 3, 6001, "=6001; Bitrate Buffer=6001", 6001);
+    row("units -1", -1, 6001, "=6001; Bitrate Buffer=6001", 6001);
 }
 
 void TestViewPage::oneSecondBoxSetsTheBuffer()
@@ -270,6 +275,18 @@ void TestViewPage::oneSecondBoxSetsTheBuffer()
     user::click(page.oneSecond());
     QCOMPARE(page.spy.take(), keyed({qPrintable(state)}));
     QCOMPARE(page.spin("bitrateBufferSpin")->value(), buffer);
+}
+
+void TestViewPage::oneSecondBoxRaisesAMaximumBelowTheTarget()
+{
+    OpenPage page(m_view);
+    page.receive("Target Bitrate", 6000);
+    QCOMPARE(page.spin("maxRateSpin")->value(), 5000);
+    page.spy.take();
+    user::click(page.oneSecond());
+    QCOMPARE(page.spy.take(), keyed({"=6000; Bitrate Buffer=6000; Max Bitrate=6000"}));
+    QCOMPARE(page.spin("maxRateSpin")->value(), 6000);
+    QCOMPARE(page.spin("bitrateBufferSpin")->value(), 6000);
 }
 
 void TestViewPage::oneSecondBoxDisablesTheBuffer()
@@ -382,6 +399,18 @@ void TestViewPage::oneSecondBoxWinsOverTheStatesEnabling()
     page.put("Bitrate Buffer", 5, true);
     page.receive();
     QVERIFY(!page.spin("bitrateBufferSpin")->isEnabled());
+}
+
+void TestViewPage::stateEnablesEveryUnitButton()
+{
+    OpenPage page(m_view);
+    for (const bool enabled : {false, true}) {
+        page.put("Units", int(Bits), enabled);
+        page.receive();
+        for (const Units id : {Bytes, Bits, Clock}) {
+            QCOMPARE(page.units(id)->isEnabled(), enabled);
+        }
+    }
 }
 
 void TestViewPage::unitsSetLabelsMaximaAndSteps_data()
