@@ -54,6 +54,7 @@ void tellSummary(const Stream& stream, const Level* level, Report& report);
 
 RuleGroup fieldRules();
 RuleGroup rateFieldRules();
+RuleGroup sharedRules();
 RuleGroup viewRules();
 RuleGroup pictureRules();
 RuleGroup profileRules();

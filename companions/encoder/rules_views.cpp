@@ -1,7 +1,6 @@
-// What several views have in common, and what a multiview profile allows.
+// What a multiview profile allows, and what views have of their own.
 
 #include <algorithm>
-#include <cmath>
 
 #include "field_table.h"
 #include "rules.h"
@@ -14,18 +13,6 @@ namespace
 
 using V = KvMvcViewSettings;
 
-constexpr Rule<> alignedPicture = {
-    "views.picture", Severity::Warning,
-    "View 1 now has the base view's picture format, which all views share.",
-    "H.7.4.2.1.1, H.7.4.3: size, frame coding and chroma format are the same in all views"};
-constexpr Rule<> alignedStream = {
-    "views.stream", Severity::Warning,
-    "View 1 now has the base view's preset, profile and level, which all views share.",
-    "H.10.1.2: level_idc is the same in all parameter sets; the preset names the stream"};
-constexpr Rule<> alignedGop = {
-    "views.gop", Severity::Warning,
-    "View 1 now has the base view's GOP structure, which all views share.",
-    "H.7.4.1.1: IDR, anchor and temporal identifiers are those of the access unit"};
 constexpr Rule<> otherTools = {
     "views.tools", Severity::Note,
     "The advanced settings of view 1 differ from those of the base view.",
@@ -64,31 +51,14 @@ constexpr ViewRule<int, int, int> listSize = {
                  "views included."),
     "H.7.4.3: active references in a list, inter-view pictures included"};
 
-using Fields = std::span<const FieldRow<V>* const>;
-
-template <Sharing shared>
-constexpr auto fieldsOf = selectFields<viewFields, [](const FieldRow<V>& row) {
-    return row.shared == shared && row.field;
+constexpr auto tools = selectFields<viewFields, [](const FieldRow<V>& row) {
+    return row.shared == Sharing::Tools && row.field;
 }>();
 
-// The frame rate of the picture is the one field that is no whole number; alignViews knows it.
-static_assert(std::ranges::count_if(viewFields, [](const auto& row) { return !row.field; }) == 1);
-
-/// @return Whether a field had to be copied.
-bool copyFields(Fields fields, const V& from, V& to)
-{
-    bool changed = false;
-    for (const FieldRow<V>* row : fields) {
-        changed = changed || to.*row->field != from.*row->field;
-        to.*row->field = from.*row->field;
-    }
-    return changed;
-}
-
-bool sameFields(Fields fields, const V& a, const V& b)
+bool sameTools(const V& a, const V& b)
 {
     return std::ranges::all_of(
-        fields, [&](const FieldRow<V>* row) { return a.*row->field == b.*row->field; });
+        tools, [&](const FieldRow<V>* row) { return a.*row->field == b.*row->field; });
 }
 
 /// Pictures of other views that a list may name (H.7.4.2.1.4); the base view uses none.
@@ -109,37 +79,11 @@ void judgeLists(const Stream& stream, Report& report)
 }
 
 constexpr const RuleInfo* rules[] = {
-    &alignedPicture, &alignedStream,   &alignedGop,  &otherTools, &beyondRecord, &splitOne,
-    &stereoViews,    &multiviewFrames, &baseProfile, &chroma,     &depth,        &listSize,
+    &otherTools,  &beyondRecord, &splitOne, &stereoViews, &multiviewFrames,
+    &baseProfile, &chroma,       &depth,    &listSize,
 };
 
 } // namespace
-
-void alignViews(KvMvcSettings& record, Report& report)
-{
-    if (countSubRecords(record) < 2) {
-        return;
-    }
-    const V& base = record.views[0];
-    V& second = record.views[1];
-    bool picture = copyFields(fieldsOf<Sharing::Picture>, base, second);
-    const double rate = base.frame_rate;
-    const double own = second.frame_rate;
-    const bool neitherIsANumber = std::isnan(rate) && std::isnan(own);
-    if (rate != own && !neitherIsANumber) {
-        second.frame_rate = rate;
-        picture = true;
-    }
-    if (picture) {
-        report.say(alignedPicture);
-    }
-    if (copyFields(fieldsOf<Sharing::Stream>, base, second)) {
-        report.say(alignedStream);
-    }
-    if (copyFields(fieldsOf<Sharing::Gop>, base, second)) {
-        report.say(alignedGop);
-    }
-}
 
 void judgeViews(const Stream& stream, Report& report)
 {
@@ -149,7 +93,7 @@ void judgeViews(const Stream& stream, Report& report)
         }
         return;
     }
-    if (!sameFields(fieldsOf<Sharing::Tools>, stream.base, stream.record.views[1])) {
+    if (!sameTools(stream.base, stream.record.views[1])) {
         report.say(otherTools);
     }
     if (stream.views > KV_MVC_RECORD_VIEWS) {

@@ -5,6 +5,8 @@
 
 #define KV_BASE_VIEW "Basisansicht: "
 #define KV_OTHER_VIEW "Ansicht %d: "
+#define KV_SHARED_SETTING(name)                                                                    \
+    "Ansicht 1 hat jetzt den Wert der Basisansicht, der für alle Ansichten gilt: " name "."
 
 namespace kv::texts
 {
@@ -183,16 +185,40 @@ inline constexpr Text german[] = {
         "The minimum quantizer was %d; it is now %d (%d to %d).",
         "„Kleinster Quantisierer“ war %d und ist jetzt %d (%d bis %d)."),
 
-    // Views
+    // Shared by all views
+    KV_TEXT_OF_SHARED("views.video-type", "Preset", "Voreinstellung"),
+    KV_TEXT_OF_SHARED("views.profile", "Profile", "Profil"),
+    KV_TEXT_OF_SHARED("views.level", "Level", "Level"),
+    KV_TEXT_OF_SHARED("views.width", "Picture width", "Bildbreite"),
+    KV_TEXT_OF_SHARED("views.height", "Picture height", "Bildhöhe"),
+    KV_TEXT_OF_SHARED("views.frame-rate", "Frame rate", "Bildrate"),
+    KV_TEXT_OF_SHARED("views.interlace-mode", "Picture structure", "Bildstruktur"),
+    KV_TEXT_OF_SHARED("views.field-order", "Field order", "Halbbildreihenfolge"),
+    KV_TEXT_OF_SHARED("views.pulldown", "Pulldown", "Pulldown"),
+    KV_TEXT_OF_SHARED("views.display-aspect-x", "Picture aspect ratio, horizontal part", "Bildseitenverhältnis, waagerechter Anteil"),
+    KV_TEXT_OF_SHARED("views.display-aspect-y", "Picture aspect ratio, vertical part", "Bildseitenverhältnis, senkrechter Anteil"),
+    KV_TEXT_OF_SHARED("views.pixel-aspect-x", "Pixel aspect ratio, horizontal part", "Pixelseitenverhältnis, waagerechter Anteil"),
+    KV_TEXT_OF_SHARED("views.pixel-aspect-y", "Pixel aspect ratio, vertical part", "Pixelseitenverhältnis, senkrechter Anteil"),
+    KV_TEXT_OF_SHARED("views.chroma-format", "Chroma format", "Chroma-Format"),
+    KV_TEXT_OF_SHARED("views.bit-depth-luma", "Bit-depth luma", "Bittiefe Luma"),
+    KV_TEXT_OF_SHARED("views.bit-depth-chroma", "Bit-depth chroma", "Bittiefe Chroma"),
+    KV_TEXT_OF_SHARED("views.i-interval", "I-frame interval", "I-Bild-Abstand"),
+    KV_TEXT_OF_SHARED("views.force-i", "Min. I-frame distance", "Min. I-Bild-Abstand"),
+    KV_TEXT_OF_SHARED("views.fixed-i-position", "Fixed I-frames distance", "Fester I-Bild-Abstand"),
+    KV_TEXT_OF_SHARED("views.idr-marker", "Mark every so many I-frames as IDR", "Anzahl der I-Bilder je IDR-Bild"),
+    KV_TEXT_OF_SHARED("views.scene-detection", "Enable scene detection", "Szenenwechsel erkennen"),
+    KV_TEXT_OF_SHARED("views.ref-distance", "Number of B-frames", "Anzahl der B-Bilder"),
+    KV_TEXT_OF_SHARED("views.adaptive-b", "Adaptive B-frame placement", "B-Bilder adaptiv setzen"),
+    KV_TEXT_OF_SHARED("views.reference-b", "B-frames as reference frames", "B-Bilder als Referenzbilder"),
+    KV_TEXT_OF_SHARED("views.pyramid-b", "Pyramidal structure for B-frames", "Pyramidenstruktur der B-Bilder"),
     {"views.picture",
         "View 1 now has the base view's picture format, which all views share.",
         "Ansicht 1 hat jetzt das Bildformat der Basisansicht, denn es gilt für alle Ansichten."},
-    {"views.stream",
-        "View 1 now has the base view's preset, profile and level, which all views share.",
-        "Ansicht 1 hat jetzt Voreinstellung, Profil und Level der Basisansicht, denn sie gelten für alle Ansichten."},
     {"views.gop",
         "View 1 now has the base view's GOP structure, which all views share.",
         "Ansicht 1 hat jetzt die GOP-Struktur der Basisansicht, denn sie gilt für alle Ansichten."},
+
+    // Views
     {"views.tools",
         "The advanced settings of view 1 differ from those of the base view.",
         "Die erweiterten Einstellungen von Ansicht 1 weichen von denen der Basisansicht ab."},
@@ -659,3 +685,4 @@ inline constexpr Text german[] = {
 
 #undef KV_BASE_VIEW
 #undef KV_OTHER_VIEW
+#undef KV_SHARED_SETTING

@@ -5,6 +5,8 @@
 
 #define KV_BASE_VIEW "ベースビュー: "
 #define KV_OTHER_VIEW "ビュー %d: "
+#define KV_SHARED_SETTING(name)                                                                    \
+    "ビュー 1 を全ビュー共通のベースビューの値に合わせました: " name "。"
 
 namespace kv::texts
 {
@@ -183,16 +185,40 @@ inline constexpr Text japanese[] = {
         "The minimum quantizer was %d; it is now %d (%d to %d).",
         "最小量子化値は %d でしたが、%d にしました (%d ～ %d)。"),
 
-    // Views
+    // Shared by all views
+    KV_TEXT_OF_SHARED("views.video-type", "Preset", "プリセット"),
+    KV_TEXT_OF_SHARED("views.profile", "Profile", "プロファイル"),
+    KV_TEXT_OF_SHARED("views.level", "Level", "レベル"),
+    KV_TEXT_OF_SHARED("views.width", "Picture width", "画面の幅"),
+    KV_TEXT_OF_SHARED("views.height", "Picture height", "画面の高さ"),
+    KV_TEXT_OF_SHARED("views.frame-rate", "Frame rate", "フレームレート"),
+    KV_TEXT_OF_SHARED("views.interlace-mode", "Picture structure", "ピクチャ構造"),
+    KV_TEXT_OF_SHARED("views.field-order", "Field order", "フィールドオーダー"),
+    KV_TEXT_OF_SHARED("views.pulldown", "Pulldown", "プルダウン"),
+    KV_TEXT_OF_SHARED("views.display-aspect-x", "Picture aspect ratio, horizontal part", "画面アスペクト比 (横)"),
+    KV_TEXT_OF_SHARED("views.display-aspect-y", "Picture aspect ratio, vertical part", "画面アスペクト比 (縦)"),
+    KV_TEXT_OF_SHARED("views.pixel-aspect-x", "Pixel aspect ratio, horizontal part", "ピクセルアスペクト比 (横)"),
+    KV_TEXT_OF_SHARED("views.pixel-aspect-y", "Pixel aspect ratio, vertical part", "ピクセルアスペクト比 (縦)"),
+    KV_TEXT_OF_SHARED("views.chroma-format", "Chroma format", "色差フォーマット"),
+    KV_TEXT_OF_SHARED("views.bit-depth-luma", "Bit-depth luma", "輝度ビット深度"),
+    KV_TEXT_OF_SHARED("views.bit-depth-chroma", "Bit-depth chroma", "色差ビット深度"),
+    KV_TEXT_OF_SHARED("views.i-interval", "I-frame interval", "I フレーム間隔"),
+    KV_TEXT_OF_SHARED("views.force-i", "Min. I-frame distance", "I フレーム最小間隔"),
+    KV_TEXT_OF_SHARED("views.fixed-i-position", "Fixed I-frames distance", "I フレーム間隔を固定"),
+    KV_TEXT_OF_SHARED("views.idr-marker", "Mark every so many I-frames as IDR", "IDR にする I フレームの間隔"),
+    KV_TEXT_OF_SHARED("views.scene-detection", "Enable scene detection", "シーン検出を使用"),
+    KV_TEXT_OF_SHARED("views.ref-distance", "Number of B-frames", "B フレーム数"),
+    KV_TEXT_OF_SHARED("views.adaptive-b", "Adaptive B-frame placement", "B フレームの適応配置"),
+    KV_TEXT_OF_SHARED("views.reference-b", "B-frames as reference frames", "B フレームを参照に使用"),
+    KV_TEXT_OF_SHARED("views.pyramid-b", "Pyramidal structure for B-frames", "B フレームのピラミッド構造"),
     {"views.picture",
         "View 1 now has the base view's picture format, which all views share.",
         "ビュー 1 の映像フォーマットを、全ビュー共通であるベースビューの設定に揃えました。"},
-    {"views.stream",
-        "View 1 now has the base view's preset, profile and level, which all views share.",
-        "ビュー 1 のプリセット、プロファイル、レベルを、全ビュー共通であるベースビューの設定に揃えました。"},
     {"views.gop",
         "View 1 now has the base view's GOP structure, which all views share.",
         "ビュー 1 の GOP 構造を、全ビュー共通であるベースビューの設定に揃えました。"},
+
+    // Views
     {"views.tools",
         "The advanced settings of view 1 differ from those of the base view.",
         "ビュー 1 の詳細設定がベースビューと異なります。"},
@@ -659,3 +685,4 @@ inline constexpr Text japanese[] = {
 
 #undef KV_BASE_VIEW
 #undef KV_OTHER_VIEW
+#undef KV_SHARED_SETTING

@@ -27,3 +27,9 @@ struct Text {
     {                                                                                              \
         rule, "View %d: " english, KV_OTHER_VIEW translation                                       \
     }
+/// The row of a setting that view 1 gets from the base view: its name, in KV_SHARED_SETTING.
+#define KV_TEXT_OF_SHARED(rule, english, translation)                                              \
+    {                                                                                              \
+        rule, "View 1 now has the base view's value, which all views share: " english ".",         \
+            KV_SHARED_SETTING(translation)                                                         \
+    }

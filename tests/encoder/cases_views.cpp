@@ -9,19 +9,94 @@ using Record = KvMvcSettings;
 using encoder::setBoth;
 using encoder::setFrameRate;
 
+void fourOfThePicture(Record& r)
+{
+    r.views[1].width = 1280;
+    r.views[1].height = 720;
+    r.views[1].frame_rate = 50;
+    r.views[1].field_order = 1;
+}
+
+void fiveOfThePicture(Record& r)
+{
+    fourOfThePicture(r);
+    r.views[1].pulldown = 1;
+}
+
+void fourOfTheGop(Record& r)
+{
+    r.views[1].i_interval = 12;
+    r.views[1].force_i = 2;
+    r.views[1].idr_marker = 0;
+    r.views[1].scene_detection = 0;
+}
+
 constexpr RuleCase rows[] = {
-    {"views.picture", "same", 2, [](Record&) {}, false},
-    {"views.picture", "width differs", 2, [](Record& r) { r.views[1].width = 1280; }, true},
-    {"views.picture", "frame rate differs", 2, [](Record& r) { r.views[1].frame_rate = 25; }, true},
-    {"views.picture", "chroma differs", 2, [](Record& r) { r.views[1].chroma_format = 1; }, true},
-    {"views.picture", "differs in an unused view", 0, [](Record& r) { r.views[1].width = 1280; },
+    // clang-format off
+    {"views.video-type", "differs", 2, [](Record& r) { r.views[1].video_type = 1; }, true},
+    {"views.video-type", "same", 2, [](Record&) {}, false},
+    {"views.profile", "differs", 2, [](Record& r) { r.views[1].profile = 1; }, true},
+    {"views.profile", "same", 2, [](Record&) {}, false},
+    {"views.level", "differs", 2, [](Record& r) { r.views[1].level = 51; }, true},
+    {"views.level", "same", 2, [](Record&) {}, false},
+    {"views.width", "differs", 2, [](Record& r) { r.views[1].width = 1280; }, true},
+    {"views.width", "same", 2, [](Record&) {}, false},
+    {"views.height", "differs", 2, [](Record& r) { r.views[1].height = 720; }, true},
+    {"views.height", "same", 2, [](Record&) {}, false},
+    {"views.frame-rate", "differs", 2, [](Record& r) { r.views[1].frame_rate = 25; }, true},
+    {"views.frame-rate", "same", 2, [](Record&) {}, false},
+    {"views.interlace-mode", "differs", 2, [](Record& r) { r.views[1].interlace_mode = 1; }, true},
+    {"views.interlace-mode", "same", 2, [](Record&) {}, false},
+    {"views.field-order", "differs", 2, [](Record& r) { r.views[1].field_order = 1; }, true},
+    {"views.field-order", "same", 2, [](Record&) {}, false},
+    {"views.pulldown", "differs", 2, [](Record& r) { r.views[1].pulldown = 1; }, true},
+    {"views.pulldown", "same", 2, [](Record&) {}, false},
+    {"views.display-aspect-x", "differs", 2, [](Record& r) { r.views[1].display_aspect_x = 4; }, true},
+    {"views.display-aspect-x", "same", 2, [](Record&) {}, false},
+    {"views.display-aspect-y", "differs", 2, [](Record& r) { r.views[1].display_aspect_y = 3; }, true},
+    {"views.display-aspect-y", "same", 2, [](Record&) {}, false},
+    {"views.pixel-aspect-x", "differs", 2, [](Record& r) { r.views[1].pixel_aspect_x = 4; }, true},
+    {"views.pixel-aspect-x", "same", 2, [](Record&) {}, false},
+    {"views.pixel-aspect-y", "differs", 2, [](Record& r) { r.views[1].pixel_aspect_y = 3; }, true},
+    {"views.pixel-aspect-y", "same", 2, [](Record&) {}, false},
+    {"views.chroma-format", "differs", 2, [](Record& r) { r.views[1].chroma_format = 1; }, true},
+    {"views.chroma-format", "same", 2, [](Record&) {}, false},
+    {"views.bit-depth-luma", "differs", 2, [](Record& r) { r.views[1].bit_depth_luma = 10; }, true},
+    {"views.bit-depth-luma", "same", 2, [](Record&) {}, false},
+    {"views.bit-depth-chroma", "differs", 2, [](Record& r) { r.views[1].bit_depth_chroma = 10; }, true},
+    {"views.bit-depth-chroma", "same", 2, [](Record&) {}, false},
+    {"views.i-interval", "differs", 2, [](Record& r) { r.views[1].i_interval = 12; }, true},
+    {"views.i-interval", "same", 2, [](Record&) {}, false},
+    {"views.force-i", "differs", 2, [](Record& r) { r.views[1].force_i = 2; }, true},
+    {"views.force-i", "same", 2, [](Record&) {}, false},
+    {"views.fixed-i-position", "differs", 2, [](Record& r) { r.views[1].fixed_i_position = 1; }, true},
+    {"views.fixed-i-position", "same", 2, [](Record&) {}, false},
+    {"views.idr-marker", "differs", 2, [](Record& r) { r.views[1].idr_marker = 0; }, true},
+    {"views.idr-marker", "same", 2, [](Record&) {}, false},
+    {"views.scene-detection", "differs", 2, [](Record& r) { r.views[1].scene_detection = 0; }, true},
+    {"views.scene-detection", "same", 2, [](Record&) {}, false},
+    {"views.ref-distance", "differs", 2, [](Record& r) { r.views[1].ref_distance = 1; }, true},
+    {"views.ref-distance", "same", 2, [](Record&) {}, false},
+    {"views.adaptive-b", "differs", 2, [](Record& r) { r.views[1].adaptive_b = 1; }, true},
+    {"views.adaptive-b", "same", 2, [](Record&) {}, false},
+    {"views.reference-b", "differs", 2, [](Record& r) { r.views[1].reference_b = 1; }, true},
+    {"views.reference-b", "same", 2, [](Record&) {}, false},
+    {"views.pyramid-b", "differs", 2, [](Record& r) { r.views[1].pyramid_b = 1; }, true},
+    {"views.pyramid-b", "same", 2, [](Record&) {}, false},
+    // clang-format on
+    {"views.width", "differs in an unused view", 0, [](Record& r) { r.views[1].width = 1280; },
      false},
-    {"views.stream", "level differs", 2, [](Record& r) { r.views[1].level = 51; }, true},
-    {"views.stream", "preset differs", 2, [](Record& r) { r.views[1].video_type = 1; }, true},
-    {"views.stream", "same", 2, [](Record&) {}, false},
-    {"views.gop", "interval differs", 2, [](Record& r) { r.views[1].i_interval = 12; }, true},
-    {"views.gop", "IDR marking differs", 2, [](Record& r) { r.views[1].idr_marker = 0; }, true},
-    {"views.gop", "same", 2, [](Record&) {}, false},
+    {"views.picture", "four settings differ", 2, fourOfThePicture, false},
+    {"views.width", "four settings differ", 2, fourOfThePicture, true},
+    {"views.picture", "five settings differ", 2, fiveOfThePicture, true},
+    {"views.width", "five settings differ", 2, fiveOfThePicture, false},
+    {"views.gop", "four settings differ", 2, fourOfTheGop, false},
+    {"views.gop", "five settings differ", 2,
+     [](Record& r) {
+         fourOfTheGop(r);
+         r.views[1].ref_distance = 1;
+     },
+     true},
     {"views.tools", "same", 2, [](Record&) {}, false},
     {"views.tools", "slices differ", 2, [](Record& r) { r.views[1].num_slices = 5; }, true},
     {"views.tools", "rates differ", 2, [](Record& r) { r.views[1].bitrate = 5000000; }, false},
