@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cmath>
 #include <cstring>
 
 using Kind = SettingKind;
@@ -68,17 +70,11 @@ constexpr NamedRate namedRates[] = {{24000.0 / 1001.0, "23.976 (24000/1001)"_l1}
                                     {60000.0 / 1001.0, "59.94 (60000/1001)"_l1},
                                     {0.0, "not set"_l1}};
 
-const char* baseOf(const KvMvcSettings& settings, int view)
-{
-    return view < 0 ? reinterpret_cast<const char*>(&settings)
-                    : reinterpret_cast<const char*>(&settings.views[view]);
-}
-
 template <class Number>
 Number numberAt(const KvMvcSettings& settings, Place place)
 {
     Number number;
-    std::memcpy(&number, baseOf(settings, place.view) + place.setting->offset, sizeof number);
+    std::memcpy(&number, &bytesOf(settings, place.view)[place.setting->offset], sizeof number);
     return number;
 }
 
@@ -115,22 +111,19 @@ QLatin1String selectedUnit(std::span<const ValueName> units, const KvMvcSettings
 }
 
 /// Adds what differs in one view, or in the record apart from its views.
-void compareScope(std::span<const Setting> table, const KvMvcSettings& before,
-                  const KvMvcSettings& after, int view, std::size_t size,
+void compareScope(const KvMvcSettings& before, const KvMvcSettings& after, int view,
                   std::vector<Difference>& differences)
 {
-    const char* a = baseOf(before, view);
-    const char* b = baseOf(after, view);
-    std::vector<bool> named(size);
-    for (const Setting& setting : table) {
-        std::fill_n(named.begin() + static_cast<std::ptrdiff_t>(setting.offset), setting.size(),
-                    true);
-        if (std::memcmp(a + setting.offset, b + setting.offset, setting.size()) != 0) {
+    const auto a = bytesOf(before, view);
+    const auto b = bytesOf(after, view);
+    const std::vector<bool> named = namedBytes(view);
+    for (const Setting& setting : view < 0 ? recordSettings() : viewSettings()) {
+        if (std::memcmp(&a[setting.offset], &b[setting.offset], setting.size()) != 0) {
             differences.push_back({{&setting, view}, 0});
         }
     }
     std::size_t reserved = 0;
-    for (std::size_t at = 0; at < size; ++at) {
+    for (std::size_t at = 0; at < named.size(); ++at) {
         reserved += !named[at] && a[at] != b[at] ? 1 : 0;
     }
     if (reserved != 0) {
@@ -150,6 +143,11 @@ std::size_t Setting::size() const
     return kind == Kind::Rate ? sizeof(double) : sizeof(qint32);
 }
 
+bool Setting::isCode() const
+{
+    return kind == Kind::Switch || kind == Kind::Code || kind == Kind::Level || kind == Kind::Depth;
+}
+
 std::span<const Setting> recordSettings()
 {
     return recordTable;
@@ -163,6 +161,24 @@ std::span<const Setting> viewSettings()
 QLatin1String viewName(int view)
 {
     return viewNames.at(static_cast<std::size_t>(view));
+}
+
+std::span<const char> bytesOf(const KvMvcSettings& settings, int view)
+{
+    if (view < 0) {
+        return {reinterpret_cast<const char*>(&settings), offsetof(KvMvcSettings, views)};
+    }
+    return {reinterpret_cast<const char*>(&settings.views[view]), sizeof(KvMvcViewSettings)};
+}
+
+std::vector<bool> namedBytes(int view)
+{
+    std::vector<bool> named(view < 0 ? offsetof(KvMvcSettings, views) : sizeof(KvMvcViewSettings));
+    for (const Setting& setting : view < 0 ? recordSettings() : viewSettings()) {
+        std::fill_n(named.begin() + static_cast<std::ptrdiff_t>(setting.offset), setting.size(),
+                    true);
+    }
+    return named;
 }
 
 QString settingText(const KvMvcSettings& settings, Place place)
@@ -191,19 +207,30 @@ QString settingText(const KvMvcSettings& settings, Place place)
 
 QJsonObject settingJson(const KvMvcSettings& settings, Place place)
 {
-    const QJsonValue value = place.setting->kind == Kind::Rate
-                                 ? QJsonValue(numberAt<double>(settings, place))
-                                 : QJsonValue(numberAt<qint32>(settings, place));
-    return {{QStringLiteral("value"), value},
-            {QStringLiteral("text"), settingText(settings, place)}};
+    const Setting& setting = *place.setting;
+    QJsonObject object = {{QStringLiteral("text"), settingText(settings, place)}};
+    if (setting.kind == Kind::Rate) {
+        const auto rate = numberAt<double>(settings, place);
+        object[QStringLiteral("value")] = rate; // null where JSON has no such number
+        if (!std::isfinite(rate) || (rate == 0 && std::signbit(rate))) {
+            object[QStringLiteral("bits")] =
+                QStringLiteral("0x%1").arg(std::bit_cast<quint64>(rate), 16, 16, QLatin1Char('0'));
+        }
+        return object;
+    }
+    const auto number = numberAt<qint32>(settings, place);
+    object[QStringLiteral("value")] = number;
+    if (setting.isCode() && findName(setting.names, number) == nullptr) {
+        object[QStringLiteral("unknown")] = true;
+    }
+    return object;
 }
 
 std::vector<Difference> compareSettings(const KvMvcSettings& before, const KvMvcSettings& after)
 {
     std::vector<Difference> differences;
-    compareScope(recordTable, before, after, -1, offsetof(KvMvcSettings, views), differences);
-    for (int view = 0; view < KV_MVC_RECORD_VIEWS; ++view) {
-        compareScope(viewTable, before, after, view, sizeof(KvMvcViewSettings), differences);
+    for (int view = -1; view < KV_MVC_RECORD_VIEWS; ++view) {
+        compareScope(before, after, view, differences);
     }
     return differences;
 }

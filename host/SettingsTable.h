@@ -41,6 +41,8 @@ struct Setting {
 
     /// @return Bytes of the field.
     [[nodiscard]] std::size_t size() const;
+    /// @return Whether there are no other values than those with a name.
+    [[nodiscard]] bool isCode() const;
 };
 
 /// The settings of the whole record, and those that every view has, in the dialog's order. No field
@@ -58,11 +60,17 @@ struct Place {
     int view;
 };
 
+/// @param view The view's number, or -1 for the record apart from its views.
+std::span<const char> bytesOf(const KvMvcSettings& settings, int view);
+
+/// @return For each of these bytes, whether it belongs to a setting; the others are reserved.
+std::vector<bool> namedBytes(int view);
+
 /// @return The value as the dialog shows it, with its unit.
 QString settingText(const KvMvcSettings& settings, Place place);
 
-/// @return {"value": the field's number, or null where JSON has none: infinity and NaN, "text":
-///         settingText()}.
+/// @return {"value": the field's number, "text": settingText()}; with "unknown": true when it is no
+///         code of the field. Of infinity and NaN "value" is null; "bits" tells them, and -0.
 QJsonObject settingJson(const KvMvcSettings& settings, Place place);
 
 /// A setting that differs, or the reserved bytes of a view or of the record that do.

@@ -3,10 +3,10 @@
 #include "Commands.h"
 #include "Failure.h"
 #include "SettingsFiles.h"
+#include "SettingsJson.h"
 #include "SettingsTable.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <array>
@@ -65,26 +65,6 @@ QString table(const KvMvcSettings& settings)
     return text;
 }
 
-QJsonObject scopeJson(std::span<const Setting> scope, const KvMvcSettings& settings, int view)
-{
-    QJsonObject object;
-    for (const Setting& setting : scope) {
-        object[setting.key] = settingJson(settings, {&setting, view});
-    }
-    return object;
-}
-
-QJsonObject settingsJson(const KvMvcSettings& settings)
-{
-    QJsonObject object = scopeJson(recordSettings(), settings, -1);
-    QJsonArray views;
-    for (int view = 0; view < KV_MVC_RECORD_VIEWS; ++view) {
-        views.append(scopeJson(viewSettings(), settings, view));
-    }
-    object[QStringLiteral("views")] = views;
-    return object;
-}
-
 } // namespace
 
 QList<QCommandLineOption> showOptions()
@@ -96,8 +76,8 @@ Outcome runShow(const Invocation& call)
 {
     const SettingsFiles files(call.directory);
     const KvMvcSettings settings = files.read(call.files.first());
-    return {ExitYes, call.has("json") ? QJsonDocument(settingsJson(settings)).toJson()
-                                      : table(settings).toUtf8()};
+    return {ExitYes,
+            call.has("json") ? jsonText(settingsJson(settings)) : table(settings).toUtf8()};
 }
 
 QList<QCommandLineOption> diffOptions()
@@ -124,5 +104,5 @@ Outcome runDiff(const Invocation& call)
     }
     const QJsonObject object = {{QStringLiteral("same"), differences.empty()},
                                 {QStringLiteral("differences"), list}};
-    return {exitCode, QJsonDocument(object).toJson()};
+    return {exitCode, jsonText(object)};
 }

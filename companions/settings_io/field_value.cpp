@@ -1,18 +1,20 @@
 #include "field_value.h"
 
+#include "hex_bytes.h"
+
 #include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace kv
 {
 namespace
 {
 
-constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t rateDigits = 16; // a double's bit pattern in hexadecimal
 
 /// The rates that the dialog shows rounded: as it does, what is meant, and how a rate is written
@@ -29,11 +31,6 @@ const RoundedRate* findRoundedRate(std::string_view text)
 {
     const auto rate = std::ranges::find(roundedRates, text, &RoundedRate::shown);
     return rate == std::end(roundedRates) ? nullptr : rate;
-}
-
-char lower(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 template <typename Number>
@@ -189,7 +186,21 @@ std::string expectation(const Field& field)
     return alternatives(texts);
 }
 
+template <typename Number>
+bool store(std::optional<Number> number, const Field& field, unsigned char* base)
+{
+    if (number) {
+        std::memcpy(base + field.offset, &*number, sizeof *number);
+    }
+    return number.has_value();
+}
+
 } // namespace
+
+char lower(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 
 std::string_view trimmed(std::string_view text)
 {
@@ -253,48 +264,25 @@ std::string formatField(const Field& field, const unsigned char* base)
 
 std::string parseField(const Field& field, std::string_view text, unsigned char* base)
 {
-    const auto store = [&](auto value) {
-        if (value) {
-            std::memcpy(base + field.offset, &*value, sizeof *value);
-        }
-        return value.has_value();
-    };
-    const bool stored =
-        field.kind == FieldKind::Rate ? store(parseRate(text)) : store(parseInteger(field, text));
-    return stored ? std::string() : "expected " + expectation(field);
+    const bool isStored = field.kind == FieldKind::Rate
+                              ? store(parseRate(text), field, base)
+                              : store(parseInteger(field, text), field, base);
+    return isStored ? std::string() : "expected " + expectation(field);
 }
 
-std::string formatBytes(std::span<const unsigned char> bytes)
+std::string parseNumber(const Field& field, std::string_view text, bool isUnknownCode,
+                        unsigned char* base)
 {
-    constexpr std::size_t group = 4;
-    std::string text;
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-        if (at != 0 && at % group == 0) {
-            text += ' ';
-        }
-        text += hexDigits[bytes[at] >> 4];
-        text += hexDigits[bytes[at] & 15];
+    const auto number = parseDecimal<double>(text);
+    if (field.kind == FieldKind::Rate) {
+        return store(number, field, base) ? std::string() : "expected " + expectation(field);
     }
-    return text;
-}
-
-std::optional<std::vector<unsigned char>> parseBytes(std::string_view text)
-{
-    std::vector<unsigned char> bytes;
-    for (std::size_t at = 0; at < text.size();) {
-        if (text[at] == ' ' || text[at] == '\t') {
-            ++at;
-            continue;
-        }
-        const auto high = hexDigits.find(lower(text[at]));
-        const auto low = at + 1 < text.size() ? hexDigits.find(lower(text[at + 1])) : text.npos;
-        if (high == text.npos || low == text.npos) {
-            return std::nullopt;
-        }
-        bytes.push_back(static_cast<unsigned char>(high << 4 | low));
-        at += 2;
-    }
-    return bytes.empty() ? std::nullopt : std::optional(bytes);
+    const auto isWhole = number && *number >= std::numeric_limits<std::int32_t>::min() &&
+                         *number <= std::numeric_limits<std::int32_t>::max() &&
+                         *number == std::trunc(*number);
+    const auto whole = isWhole ? std::optional(static_cast<std::int32_t>(*number)) : std::nullopt;
+    const bool isTaken = whole && (isUnknownCode || takesNumber(field, *whole));
+    return isTaken && store(whole, field, base) ? std::string() : "expected " + expectation(field);
 }
 
 } // namespace kv

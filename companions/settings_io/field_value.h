@@ -1,13 +1,11 @@
-// The values of settings files: numbers, names, frame rates, runs of bytes.
+// The values of settings files: numbers, names, frame rates.
 #pragma once
 
 #include "settings_fields.h"
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kv
 {
@@ -28,11 +26,10 @@ std::string formatField(const Field& field, const unsigned char* base);
 /// @return What is wrong with the text; empty when it was stored.
 std::string parseField(const Field& field, std::string_view text, unsigned char* base);
 
-/// Bytes as hexadecimal digits, in groups of four bytes.
-std::string formatBytes(std::span<const unsigned char> bytes);
-
-/// The bytes of hexadecimal digits, blanks between whole bytes ignored; none for other text.
-std::optional<std::vector<unsigned char>> parseBytes(std::string_view text);
+/// The same for the field's own number, which may have zeros behind its point.
+/// @param isUnknownCode Whether it may be a code that the field does not have.
+std::string parseNumber(const Field& field, std::string_view text, bool isUnknownCode,
+                        unsigned char* base);
 
 /// A decimal number; none for anything else, also beyond the type's range.
 template <typename Number>
@@ -41,7 +38,8 @@ std::optional<Number> parseDecimal(std::string_view text);
 /// Without blanks and tabulators around it.
 std::string_view trimmed(std::string_view text);
 
-/// ASCII only, since every name and key is.
+/// Of ASCII only, since every name and key is.
+char lower(char letter);
 bool equalIgnoringCase(std::string_view left, std::string_view right);
 
 } // namespace kv

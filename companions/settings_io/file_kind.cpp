@@ -16,7 +16,7 @@ constexpr std::string_view settingsSuffixes[] = {KV_MVC_SETTINGS_SUFFIXES};
 constexpr std::string_view mediaSuffixes[] = {KV_MVC_MEDIA_SUFFIXES};
 
 /// What no line of a text holds.
-bool isControl(char byte)
+bool isControlByte(char byte)
 {
     return static_cast<unsigned char>(byte) < 0x20 && byte != '\t' && byte != '\r' && byte != '\n';
 }
@@ -36,11 +36,15 @@ FileKind kindByName(std::string_view name)
 bool looksLikeSettings(std::string_view content)
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (!isUtf8(content) || std::ranges::any_of(content, isControl)) {
+    if (!isUtf8(content) || std::ranges::any_of(content, isControlByte)) {
         return false;
     }
     if (content.starts_with(byteOrderMark)) {
         content.remove_prefix(byteOrderMark.size());
+    }
+    if (content.substr(std::min(content.find_first_not_of(" \t\r\n"), content.size()))
+            .starts_with('{')) {
+        return true; // JSON
     }
     bool lineBegins = true;
     for (const char byte : content) {

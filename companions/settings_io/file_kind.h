@@ -11,7 +11,7 @@ enum class FileKind { Settings, Media, Unknown };
 /// By what follows the last dot, without regard to case.
 FileKind kindByName(std::string_view name);
 
-/// Whether it is text with the heading of a section, or no text at all.
+/// Whether it is text with the heading of a section, an object of JSON, or no text at all.
 bool looksLikeSettings(std::string_view content);
 
 } // namespace kv

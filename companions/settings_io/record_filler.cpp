@@ -1,6 +1,7 @@
 #include "record_filler.h"
 
 #include "field_value.h"
+#include "hex_bytes.h"
 #include "nearest_name.h"
 #include "utf8.h"
 
@@ -28,12 +29,17 @@ std::vector<std::string_view> sectionNames()
 std::string quoted(std::string_view text)
 {
     constexpr std::size_t longest = 60;
-    std::size_t end = 0;
-    while (end < text.size() && end < longest && nextCodePoint(text, end)) {
-    }
     std::string result("'");
-    result.append(text.substr(0, end)).append(end < text.size() ? "...'" : "'");
-    return result;
+    std::size_t end = 0;
+    while (end < text.size() && end < longest) {
+        const std::size_t begin = end;
+        const auto point = nextCodePoint(text, end);
+        if (!point) {
+            break;
+        }
+        result.append(isControl(*point) ? "?" : text.substr(begin, end - begin));
+    }
+    return result.append(end < text.size() ? "...'" : "'");
 }
 
 std::vector<std::string_view> keysOf(const Section& section)
@@ -63,6 +69,10 @@ const Field* findField(const Section& section, std::string_view name)
     return nullptr;
 }
 
+namespace
+{
+
+/// What stands behind the message about an unknown key: where it belongs, or what was meant.
 std::string hintAtKey(const Section& section, std::string_view key)
 {
     const auto sections = settingsSections();
@@ -71,6 +81,8 @@ std::string hintAtKey(const Section& section, std::string_view key)
     return owner != sections.end() ? "; it belongs in section " + quoted(owner->name)
                                    : didYouMean(nearestName(key, keysOf(section)));
 }
+
+} // namespace
 
 const Section* RecordFiller::begin(std::string_view name, std::size_t line)
 {
@@ -98,8 +110,7 @@ void RecordFiller::set(const Section& section, std::string_view key, std::string
     if (key.starts_with(bytesKey)) {
         return setBytes(section, trimmed(key.substr(bytesKey.size())), value, line);
     }
-    report(line, "unknown key " + quoted(key) + " in section " + quoted(section.name) +
-                     hintAtKey(section, key));
+    reportUnknownKey(section, key, line);
 }
 
 void RecordFiller::setField(const Section& section, const Field& field, std::string_view value,
@@ -111,6 +122,18 @@ void RecordFiller::setField(const Section& section, const Field& field, std::str
     const std::string wrong = parseField(field, value, base(section));
     if (!wrong.empty()) {
         report(line, badValue(field.name, value, wrong));
+    }
+}
+
+void RecordFiller::setNumber(const Section& section, const Field& field, std::string_view number,
+                             bool isUnknownCode, std::size_t line)
+{
+    if (!claim(section, field.name, field.offset, field.size(), line)) {
+        return;
+    }
+    const std::string wrong = parseNumber(field, number, isUnknownCode, base(section));
+    if (!wrong.empty()) {
+        report(line, badValue(field.name, number, wrong));
     }
 }
 
@@ -148,14 +171,22 @@ bool RecordFiller::claim(const Section& section, std::string_view key, std::size
     return true;
 }
 
+void RecordFiller::reportUnknownKey(const Section& section, std::string_view key, std::size_t line)
+{
+    report(line, "unknown key " + quoted(key) + " in section " + quoted(section.name) +
+                     hintAtKey(section, key));
+}
+
 void RecordFiller::report(std::size_t line, std::string reason)
 {
-    problems.push_back({line, std::move(reason)});
+    if (!isFull()) {
+        m_problems.push_back({line, std::move(reason)});
+    }
 }
 
 void RecordFiller::finish(std::size_t line)
 {
-    if (!problems.empty()) {
+    if (!m_problems.empty()) {
         return;
     }
     for (const Section& section : settingsSections().first(2)) {
@@ -164,6 +195,14 @@ void RecordFiller::finish(std::size_t line)
                    "section " + quoted(section.name) + " is missing");
         }
     }
+}
+
+std::vector<Problem> RecordFiller::result(KvMvcSettings& settings) const
+{
+    if (m_problems.empty()) {
+        settings = m_settings;
+    }
+    return m_problems;
 }
 
 } // namespace kv

@@ -25,9 +25,6 @@ std::vector<std::string_view> keysOf(const Section& section);
 /// @return Null when the section has no such field.
 const Field* findField(const Section& section, std::string_view name);
 
-/// What stands behind the message about an unknown key: where it belongs, or what was meant.
-std::string hintAtKey(const Section& section, std::string_view key);
-
 class RecordFiller
 {
 public:
@@ -39,26 +36,37 @@ public:
              std::size_t line);
     void setField(const Section& section, const Field& field, std::string_view value,
                   std::size_t line);
+    /// @param number The field's own number, whatever text would stand for it.
+    /// @param isUnknownCode Whether it may be a code that the field does not have.
+    void setNumber(const Section& section, const Field& field, std::string_view number,
+                   bool isUnknownCode, std::size_t line);
     void setBytes(const Section& section, std::string_view offset, std::string_view value,
                   std::size_t line);
 
     void report(std::size_t line, std::string reason);
+    void reportUnknownKey(const Section& section, std::string_view key, std::size_t line);
+    /// Whether so many are reported that more would be of no use.
+    bool isFull() const { return m_problems.size() >= mostProblems; }
 
     /// Without problems so far: sections that are missing. @param line The last one.
     void finish(std::size_t line);
 
-    KvMvcSettings settings{};
-    std::vector<Problem> problems;
+    /// @param settings Written only when there is no problem.
+    std::vector<Problem> result(KvMvcSettings& settings) const;
 
 private:
+    static constexpr std::size_t mostProblems = 20;
+
     /// Whether the bytes were not set before.
     bool claim(const Section& section, std::string_view key, std::size_t offset, std::size_t count,
                std::size_t line);
     unsigned char* base(const Section& section)
     {
-        return reinterpret_cast<unsigned char*>(&settings) + section.offset;
+        return reinterpret_cast<unsigned char*>(&m_settings) + section.offset;
     }
 
+    KvMvcSettings m_settings{};
+    std::vector<Problem> m_problems;
     std::vector<const Section*> m_seen;
     std::array<std::size_t, sizeof(KvMvcSettings)> m_setBy{}; // each byte's line; 0: none yet
 };

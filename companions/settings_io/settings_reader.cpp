@@ -3,20 +3,21 @@
 #include "settings_text.h"
 #include "utf8.h"
 
+#include <algorithm>
+
 namespace kv
 {
 namespace
 {
 
-constexpr std::size_t mostProblems = 20;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// What no line of a text file holds: controls of the C0 and C1 sets, but for the tabulator.
+/// What no line of a text file holds.
 bool holdsControls(std::string_view line)
 {
     for (std::size_t at = 0; at < line.size();) {
         const auto point = nextCodePoint(line, at);
-        if (!point || (*point < 0x20 && *point != '\t') || (*point >= 0x7F && *point < 0xA0)) {
+        if (!point || isControl(*point)) {
             return true;
         }
     }
@@ -89,8 +90,11 @@ std::vector<Problem> parseSettings(std::string_view text, KvMvcSettings& setting
     if (text.starts_with(byteOrderMark)) {
         text.remove_prefix(byteOrderMark.size());
     }
+    if (text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size())).starts_with('{')) {
+        return parseJsonSettings(text, settings);
+    }
     Reader reader;
-    while (!text.empty() && reader.filler.problems.size() < mostProblems) {
+    while (!text.empty() && !reader.filler.isFull()) {
         const auto feed = text.find('\n');
         std::string_view line = text.substr(0, feed);
         text.remove_prefix(feed == text.npos ? text.size() : feed + 1);
@@ -100,10 +104,7 @@ std::vector<Problem> parseSettings(std::string_view text, KvMvcSettings& setting
         reader.readLine(line);
     }
     reader.finish();
-    if (reader.filler.problems.empty()) {
-        settings = reader.filler.settings;
-    }
-    return reader.filler.problems;
+    return reader.filler.result(settings);
 }
 
 } // namespace kv

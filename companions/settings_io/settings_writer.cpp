@@ -1,4 +1,5 @@
 #include "field_value.h"
+#include "hex_bytes.h"
 #include "settings_text.h"
 
 #include <algorithm>

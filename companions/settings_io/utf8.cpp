@@ -30,6 +30,11 @@ std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& positi
     return point;
 }
 
+bool isControl(char32_t point)
+{
+    return (point < 0x20 && point != '\t') || (point >= 0x7F && point < 0xA0);
+}
+
 bool isUtf8(std::string_view text)
 {
     for (std::size_t at = 0; at < text.size();) {

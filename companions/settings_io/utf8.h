@@ -11,6 +11,9 @@ namespace kv
 /// Decodes one code point at `position` and moves behind it; none for ill-formed text.
 std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position);
 
+/// Of the C0 and C1 sets, but for the tabulator.
+bool isControl(char32_t point);
+
 bool isUtf8(std::string_view text);
 
 /// Undoes "UTF-8 bytes that were read as Latin-1 and encoded as UTF-8 again".

@@ -145,7 +145,8 @@ void TestHostDiff::jsonListsTheDifferences()
     HostProgram::Result result = diff(exampleSettings(), exampleSettings(), json);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()),
-             QJsonDocument::fromJson(R"json({"same": true, "differences": []})json"));
+             QJsonDocument::fromJson(
+                 R"json({"format_version": 1, "same": true, "differences": []})json"));
 
     KvMvcSettings after = exampleSettings();
     after.num_views = 1;
@@ -156,6 +157,7 @@ void TestHostDiff::jsonListsTheDifferences()
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(result.error, QString());
     QCOMPARE(QJsonDocument::fromJson(result.output.toUtf8()), QJsonDocument::fromJson(R"json({
+        "format_version": 1,
         "same": false,
         "differences": [
             {"setting": "num_views", "name": "Number of additional views", "view": null,

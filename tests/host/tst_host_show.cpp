@@ -197,8 +197,9 @@ void TestHostShow::jsonHoldsEveryField()
     const HostProgram program;
     program.writeSettings(fileName, settings);
     const QJsonObject shown = shownJson(program);
-    QCOMPARE(shown.keys(), QStringList({QStringLiteral("num_views"), QStringLiteral("split_views"),
-                                        QStringLiteral("views")}));
+    QCOMPARE(shown.keys(),
+             QStringList({QStringLiteral("format_version"), QStringLiteral("num_views"),
+                          QStringLiteral("split_views"), QStringLiteral("views")}));
     QCOMPARE(valueOf(shown, QLatin1String("num_views")), 1001.0);
     QCOMPARE(valueOf(shown, QLatin1String("split_views")), 1002.0);
     QCOMPARE(shown[QStringLiteral("views")].toArray().size(), 2);
