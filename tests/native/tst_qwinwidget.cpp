@@ -78,10 +78,14 @@ private Q_SLOTS:
     void childEvents_data();
     void childEvents();
     void eventsAreNotConsumed();
+    void hidesWhenAWindowIsShown_data();
+    void hidesWhenAWindowIsShown();
     void previousFocusIsKeptFromTheFirstChild();
+    void hostGetsTheFocusThatNoneHadAtFirst();
     void secondModalChildDisablesNothing();
     void minimizedDialogKeepsTheHostDisabled();
     void hostIsEnabledWhenAChildIsTakenAway();
+    void childThatDisabledNothingIsTakenAway();
     void dialogClosed_data();
     void dialogClosed();
 
@@ -91,6 +95,7 @@ private Q_SLOTS:
     void otherReasonsMoveNoFocus();
     void tabKeys_data();
     void tabKeys();
+    void backtabFromTheWindowItself();
     void tabKeyWithoutAHostWindow();
 
 private:
@@ -150,7 +155,6 @@ void TestQWinWidget::nothingWithoutAHostWindow()
     dialog.exec();
     QCOMPARE(calls(), QStringList());
     QCOMPARE(embedding.count(), 0);
-    QVERIFY(host.isHidden());
 }
 
 void TestQWinWidget::goesWithItsParentObject()
@@ -195,6 +199,8 @@ void TestQWinWidget::childEvents_data()
         QStringLiteral("activate H"), true);
     row("hidden, to be deleted", Window | DeleteOnClose, {QEvent::Hide}, QStringLiteral("focus H"),
         true);
+    row("control closed, to be deleted", DeleteOnClose, {QEvent::Close},
+        QStringLiteral("activate H"), true);
     row("control hidden, to be deleted", DeleteOnClose, {QEvent::Hide}, QStringLiteral("focus H"));
     row("modal and hidden, deactivated", Modal | Window | Hidden, {QEvent::WindowDeactivate},
         QStringLiteral("raise H"));
@@ -237,6 +243,28 @@ void TestQWinWidget::eventsAreNotConsumed()
     }
 }
 
+void TestQWinWidget::hidesWhenAWindowIsShown_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("hidden");
+    QTest::newRow("modal window") << int(Modal | Window) << true;
+    QTest::newRow("other window") << int(Window) << true;
+    QTest::newRow("control") << 0 << false;
+}
+
+void TestQWinWidget::hidesWhenAWindowIsShown()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, hidden);
+    QWinWidget host(windowNamed('H'));
+    const auto child = childOf(&host, kind);
+    child->hide();
+    host.show();
+    QVERIFY(!host.isHidden());
+    child->show();
+    QCOMPARE(host.isHidden(), hidden);
+}
+
 void TestQWinWidget::previousFocusIsKeptFromTheFirstChild()
 {
     QWinWidget host(windowNamed('H'));
@@ -249,6 +277,18 @@ void TestQWinWidget::previousFocusIsKeptFromTheFirstChild()
     second.show();
     second.hide();
     QCOMPARE(calls(), QStringList{QStringLiteral("focus F")});
+}
+
+void TestQWinWidget::hostGetsTheFocusThatNoneHadAtFirst()
+{
+    QWinWidget host(windowNamed('H'));
+    QDialog first(&host);
+    first.show();
+    recordedNativeWindow() = {{}, windowNamed('G'), {}};
+    QDialog second(&host);
+    second.show();
+    second.hide();
+    QCOMPARE(calls(), QStringList{QStringLiteral("focus H")});
 }
 
 void TestQWinWidget::secondModalChildDisablesNothing()
@@ -291,6 +331,21 @@ void TestQWinWidget::hostIsEnabledWhenAChildIsTakenAway()
     QCOMPARE(calls(), QStringList{QStringLiteral("enable H")});
 }
 
+void TestQWinWidget::childThatDisabledNothingIsTakenAway()
+{
+    QWinWidget host(windowNamed('H'));
+    recordedNativeWindow() = {{}, windowNamed('F'), {}};
+    const auto child = childOf(&host, Window);
+    QEvent shown(QEvent::Show);
+    static_cast<QObject&>(host).eventFilter(child.get(), &shown);
+    child->setParent(nullptr);
+    QCOMPARE(calls(), QStringList());
+    // Its events are still the host's.
+    QEvent hidden(QEvent::Hide);
+    QCoreApplication::sendEvent(child.get(), &hidden);
+    QCOMPARE(calls(), QStringList{QStringLiteral("focus F")});
+}
+
 void TestQWinWidget::dialogClosed_data()
 {
     QTest::addColumn<QByteArray>("way");
@@ -307,6 +362,7 @@ void TestQWinWidget::dialogClosed()
     QFETCH(QByteArray, way);
     QFETCH(QStringList, requests);
     QWinWidget host(windowNamed('H'));
+    host.show();
     recordedNativeWindow() = {{}, windowNamed('F'), {}};
     QDialog dialog(&host);
     QStringList open;
@@ -397,6 +453,16 @@ void TestQWinWidget::tabKeys()
     QTest::keyClick(fields.named(from), forward ? Qt::Key_Tab : Qt::Key_Backtab);
     QCOMPARE(QApplication::focusWidget(), fields.named(to.isEmpty() ? from : to));
     QCOMPARE(calls(), to.isEmpty() ? QStringList{QStringLiteral("focus H")} : QStringList());
+}
+
+void TestQWinWidget::backtabFromTheWindowItself()
+{
+    Fields fields(windowNamed('H'));
+    fields.host.setFocusPolicy(Qt::StrongFocus);
+    fields.host.setFocus();
+    QTest::keyClick(&fields.host, Qt::Key_Backtab);
+    QCOMPARE(calls(), QStringList{QStringLiteral("focus H")});
+    QCOMPARE(QApplication::focusWidget(), &fields.host);
 }
 
 void TestQWinWidget::tabKeyWithoutAHostWindow()
