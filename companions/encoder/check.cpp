@@ -24,6 +24,7 @@ bool checkSettings(KvMvcSettings& record, Report& report)
     judgeRates(stream, report);
     const Level* level = judgeLevel(stream, report);
     tellLimits(stream, level, report);
+    tellDiscLimits(stream, report);
     judgeDisc(stream, report);
     tellSummary(stream, level, report);
     return report.errors() == 0;

@@ -30,6 +30,16 @@ constexpr char frames[] = "frames";
 constexpr char bits[] = "bit";
 constexpr char bitRate[] = "bit/s";
 
+/// What would say so if the rate was beyond the limit.
+const char* macroblockRateRule(const Stream& stream, double limit)
+{
+    const double times = stream.frameRate > 0 ? stream.outputRate / stream.frameRate : 1;
+    if (times > 1 && macroblockRate(stream) / times <= limit) {
+        return "level.rate-pulldown";
+    }
+    return stream.multiview ? "level.rate-views" : "level.rate";
+}
+
 void tellPictures(const Stream& stream, const Level& level, const Teller& tell)
 {
     const bool several = stream.multiview != nullptr;
@@ -38,9 +48,9 @@ void tellPictures(const Stream& stream, const Level& level, const Teller& tell)
          level.frameMbs);
     tell("Picture width", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.widthMbs, side);
     tell("Picture height", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.heightMbs, side);
-    tell("Macroblock rate", "macroblocks/s", several ? "level.rate-views" : "level.rate",
-         KV_MVC_ALL_VIEWS, macroblockRate(stream),
-         static_cast<double>(macroblockRateLimit(stream, level)));
+    const auto rateLimit = static_cast<double>(macroblockRateLimit(stream, level));
+    tell("Macroblock rate", "macroblocks/s", macroblockRateRule(stream, rateLimit),
+         KV_MVC_ALL_VIEWS, macroblockRate(stream), rateLimit);
     const std::int64_t most = dpbFrames(stream, level);
     const std::int64_t kept = most - referenceRoom(stream, level);
     tell("Decoded pictures", frames,

@@ -76,7 +76,7 @@ void Report::tellAbout(const RuleInfo& rule, int view, std::span<const Argument>
     KvMvcMessageAbout about{};
     about.size = sizeof about;
     about.kind = kinds[static_cast<std::size_t>(rule.severity)].kind;
-    about.rule = rule.id;
+    about.rule = subject.rule ? subject.rule : rule.id;
     about.setting = subject.setting;
     about.view = view;
     if (subject.value > 0) {

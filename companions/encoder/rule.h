@@ -33,6 +33,7 @@ struct Subject {
     int level = 0;
     int less = 0;                ///< what value and limit are less than the field has
     int view = KV_MVC_ALL_VIEWS; ///< of a message that is always about one view
+    const char* rule = nullptr;  ///< for programs, of a rule that is another in other words
 };
 
 struct RuleInfo {

@@ -42,6 +42,7 @@ void judgeLimits(const Stream& stream, const Level& level, const Level* other, R
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
 /// Tells how much of the level's limits is used, where anybody wants to know.
 void tellLimits(const Stream& stream, const Level* level, const Report& report);
+void tellDiscLimits(const Stream& stream, const Report& report);
 /// Whether rates or buffers are more than a level allows for picture data (VCL NAL units), which
 /// is less than for all.
 bool exceedsPictureData(const Stream& stream, const Level& level);

@@ -12,94 +12,144 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<> views = {"disc.views", Severity::Error,
+constexpr Rule<> views = {"disc.views",
+                          Severity::Error,
                           "Blu-ray 3D has two views (now 1): set 1 additional view.",
-                          "disc: Stereo High"};
-constexpr Rule<const char*> profile = {"disc.profile", Severity::Error,
+                          "disc: Stereo High",
+                          {.setting = "num_views"}};
+constexpr Rule<const char*> profile = {"disc.profile",
+                                       Severity::Error,
                                        "Blu-ray 3D requires profile High (now %s): choose High.",
-                                       "disc: base view High at level 4.1"};
-constexpr Rule<const char*> discLevel = {"disc.level", Severity::Error,
+                                       "disc: base view High at level 4.1",
+                                       {.setting = "profile"}};
+constexpr Rule<const char*> discLevel = {"disc.level",
+                                         Severity::Error,
                                          "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
-                                         "disc: Stereo High at level 4.1"};
+                                         "disc: Stereo High at level 4.1",
+                                         {.setting = "level", .level = 1}};
 constexpr Rule<int, int, Decimal, int, int, Decimal> format = {
-    "disc.format", Severity::Error,
+    "disc.format",
+    Severity::Error,
     "Blu-ray has no %d x %d at %d.%0*d frames/s in this structure; the nearest is %d x %d at "
     "%d.%0*d, progressive.",
-    "disc: table of picture formats; the nearest of those that are known of two views"};
+    "disc: table of picture formats; the nearest of those that are known of two views",
+    {.setting = "frame_rate", .value = 3, .limit = 6}};
 constexpr Rule<> unconfirmed = {
-    "disc.format-3d", Severity::Risk,
+    "disc.format-3d",
+    Severity::Risk,
     "Blu-ray 3D is known at 1920 x 1080, 23.976 frames/s, and 1280 x 720, 50 or 59.94; others may "
     "fail.",
     "disc: authoring programs offer 23.976, 50 and 59.94 frames/s for two views; all discs that "
-    "are described have the first"};
-constexpr Rule<> chroma = {"disc.chroma", Severity::Error,
+    "are described have the first",
+    {.setting = "frame_rate"}};
+constexpr Rule<> chroma = {"disc.chroma",
+                           Severity::Error,
                            "Blu-ray 3D requires the chroma format 4:2:0: choose 4:2:0.",
-                           "disc: 4:2:0 of 8 bits"};
+                           "disc: 4:2:0 of 8 bits",
+                           {.setting = "chroma_format"}};
 constexpr const char* aspectClause = "disc: sample aspect ratio is signalled, one of the format's";
 constexpr Rule<int, int> aspect = {
-    "disc.aspect", Severity::Error,
-    "Blu-ray requires the pixel aspect ratio %d:%d at this picture size: set it.", aspectClause};
+    "disc.aspect",
+    Severity::Error,
+    "Blu-ray requires the pixel aspect ratio %d:%d at this picture size: set it.",
+    aspectClause,
+    {.setting = "pixel_aspect_x"}};
 constexpr Rule<int, int, int, int> twoAspects = {
-    "disc.aspect-two", Severity::Error,
+    "disc.aspect-two",
+    Severity::Error,
     "Blu-ray requires the pixel aspect ratio %d:%d (4:3) or %d:%d (16:9) at this picture size.",
-    aspectClause};
+    aspectClause,
+    {.setting = "pixel_aspect_x"}};
 constexpr Rule<int, int> gop = {
-    "disc.gop", Severity::Error,
+    "disc.gop",
+    Severity::Error,
     "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
     "disc: about one second. Two at 15 Mbit/s or less are told of, but not confirmed; that they "
     "are "
-    "not taken is a choice of the encoder"};
+    "not taken is a choice of the encoder",
+    {.setting = "i_interval", .value = 2, .limit = 1}};
 constexpr Rule<> idr = {
-    "disc.idr", Severity::Risk,
+    "disc.idr",
+    Severity::Risk,
     "Only the first I-frame is an IDR frame, so some Blu-ray players may fail to start elsewhere.",
-    "disc: entry points about once a second; without IDR their references may be missing"};
+    "disc: entry points about once a second; without IDR their references may be missing",
+    {.setting = "idr_marker"}};
 constexpr Rule<int, int> references = {
-    "disc.references", Severity::Error,
+    "disc.references",
+    Severity::Error,
     "Blu-ray allows at most %d reference frames per view at this size (now %d): use fewer.",
-    "disc: 4 at 1080 lines, 6 below"};
+    "disc: 4 at 1080 lines, 6 below",
+    {.setting = "num_ref_frames", .value = 2, .limit = 1}};
 constexpr Rule<> spareReference = {
-    "disc.references-spare", Severity::Risk,
+    "disc.references-spare",
+    Severity::Risk,
     "More than 3 reference frames per view may fail on some Blu-ray 3D players.",
-    "disc: a limit beyond the standard's is not confirmed"};
+    "disc: a limit beyond the standard's is not confirmed",
+    {.setting = "num_ref_frames"}};
 constexpr Rule<> referenceB = {
-    "disc.reference-b", Severity::Risk,
+    "disc.reference-b",
+    Severity::Risk,
     "Blu-ray allows one reference B-frame in a row: switch the pyramidal structure on.",
-    "disc: strict pyramid"};
+    "disc: strict pyramid",
+    {.setting = "pyramid_b"}};
 constexpr Rule<> weightedP = {
-    "disc.weighted-p", Severity::Risk,
-    "Weighted prediction for P-frames is known to fail on some Blu-ray players.", "practice"};
-constexpr Rule<> pulldown = {"disc.pulldown", Severity::Note,
+    "disc.weighted-p",
+    Severity::Risk,
+    "Weighted prediction for P-frames is known to fail on some Blu-ray players.",
+    "practice",
+    {.setting = "weighted_p"}};
+constexpr Rule<> pulldown = {"disc.pulldown",
+                             Severity::Note,
                              "Blu-ray 3D plays its frame rate as it is, so pulldown is not needed.",
-                             "practice"};
+                             "practice",
+                             {.setting = "pulldown"}};
 constexpr Rule<int> slices = {
-    "disc.slices", Severity::Error,
-    "Blu-ray requires at least 4 slices per picture at level 4.1 (now %d): use more.", "disc"};
+    "disc.slices",
+    Severity::Error,
+    "Blu-ray requires at least 4 slices per picture at level 4.1 (now %d): use more.",
+    "disc",
+    {.setting = "num_slices", .value = 1}};
 constexpr ViewRule<Decimal, Decimal> rateOfView = {
-    "disc.bitrate", Severity::Error,
+    "disc.bitrate",
+    Severity::Error,
     KV_EACH_VIEW("Blu-ray 3D allows at most %d.%0*d Mbit/s (now %d.%0*d): lower the bitrate."),
-    "disc: 40 Mbit/s in each view"};
+    "disc: 40 Mbit/s in each view",
+    {.setting = "bitrate", .value = 2, .limit = 1}};
 constexpr Rule<Decimal, Decimal> rateOfBoth = {
-    "disc.bitrate-both", Severity::Error,
+    "disc.bitrate-both",
+    Severity::Error,
     "Blu-ray 3D allows both views together at most %d.%0*d Mbit/s (now %d.%0*d): lower a bitrate.",
-    "disc: 60 Mbit/s in both views"};
+    "disc: 60 Mbit/s in both views",
+    {.setting = "bitrate", .value = 2, .limit = 1}};
 constexpr ViewRule<> mode = {
-    "disc.bitrate-mode", Severity::Error,
+    "disc.bitrate-mode",
+    Severity::Error,
     KV_EACH_VIEW("Blu-ray does not allow constant quality: choose Variable Bitrate."),
-    "disc: a maximum rate is signalled and kept"};
-constexpr Rule<> hrd = {"disc.hrd", Severity::Error,
-                        "Blu-ray requires HRD conformance in the base view: switch it on.", "disc"};
-constexpr Rule<> hrdOther = {"disc.hrd-other", Severity::Risk,
+    "disc: a maximum rate is signalled and kept",
+    {.setting = "bitrate_mode"}};
+constexpr Rule<> hrd = {"disc.hrd",
+                        Severity::Error,
+                        "Blu-ray requires HRD conformance in the base view: switch it on.",
+                        "disc",
+                        {.setting = "hrd_mode", .view = 0}};
+constexpr Rule<> hrdOther = {"disc.hrd-other",
+                             Severity::Risk,
                              "Blu-ray 3D players expect HRD conformance in view 1, too.",
-                             "disc: stated for the base view only"};
+                             "disc: stated for the base view only",
+                             {.setting = "hrd_mode", .view = 1}};
 constexpr Rule<Decimal, int> bufferBase = {
-    "disc.buffer", Severity::Error,
+    "disc.buffer",
+    Severity::Error,
     "Blu-ray allows the base view a bitrate buffer of at most %d.%0*d Mbit (%d bytes): make it "
     "smaller.",
-    "disc: 30 Mbit"};
+    "disc: 30 Mbit",
+    {.setting = "bitrate_buffer", .limit = 1, .view = 0}};
 constexpr Rule<Decimal, int> bufferOther = {
-    "disc.buffer-other", Severity::Risk,
+    "disc.buffer-other",
+    Severity::Risk,
     "In view 1, a bitrate buffer above %d.%0*d Mbit (%d bytes) may fail on some players.",
-    "disc: stated for the base view only"};
+    "disc: stated for the base view only",
+    {.setting = "bitrate_buffer", .limit = 1, .view = 1}};
 
 constexpr int maxViewRate = 40'000'000;
 constexpr int maxBothRate = 60'000'000;
@@ -299,6 +349,32 @@ void judgeDisc(const Stream& stream, Report& report)
     }
     judgeTools(stream, report);
     judgeRate(stream, report);
+}
+
+void tellDiscLimits(const Stream& stream, const Report& report)
+{
+    if (!stream.disc || !report.wantsLimits()) {
+        return;
+    }
+    const auto tell = [&](const char* name, const char* unit, const RuleInfo& rule, int view,
+                          std::int64_t used, int limit) {
+        report.tellLimit({0, view, name, unit, rule.id, nullptr, static_cast<double>(used),
+                          static_cast<double>(limit)});
+    };
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const KvMvcViewSettings& view = stream.record.views[v];
+        if (aimsAtRate(view)) {
+            tell("Bitrate on a disc", "bit/s", rateOfView, v, limitRate(view), maxViewRate);
+        }
+        if (keepsBuffer(view)) {
+            tell("Buffer on a disc", "bit", v == 0 ? bufferBase : bufferOther, v, bufferBits(view),
+                 discBuffer);
+        }
+    }
+    if (stream.multiview && stream.totalRate() > 0) {
+        tell("Bitrate on a disc", "bit/s", rateOfBoth, KV_MVC_ALL_VIEWS, stream.totalRate(),
+             maxBothRate);
+    }
 }
 
 RuleGroup discRules()

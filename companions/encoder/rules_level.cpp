@@ -16,108 +16,133 @@ struct LevelRule {
     Rule<Args...> none;
 };
 
+/// The subject of a rule's other words, which no other level is named in.
+constexpr Subject inOtherWords(const char* rule, Subject subject)
+{
+    subject.rule = rule;
+    return subject;
+}
+
+constexpr Subject ofLevel = {.setting = "level", .value = 3, .limit = 2, .level = 1};
 constexpr const char* sizeClause =
     "A.3.1 e, A.3.2 c, H.10.2.1 c, Table A-1: MaxFS; of each view by itself";
 constexpr LevelRule<const char*, int, double> pictureSize = {
     {"level.picture", Severity::Error,
-     "Level %s allows at most %d macroblocks in a picture (now %.0f): choose level %s.",
-     sizeClause},
+     "Level %s allows at most %d macroblocks in a picture (now %.0f): choose level %s.", sizeClause,
+     ofLevel},
     {"level.picture-none", Severity::Error,
      "Level %s allows at most %d macroblocks in a picture (now %.0f): choose a smaller picture.",
-     sizeClause}};
+     sizeClause, inOtherWords("level.picture", ofLevel)}};
 constexpr const char* sideClause =
     "A.3.1 f, g, A.3.2 d, e, H.10.2.1 d, e: the square root of 8 * MaxFS; of each view by itself";
+// Either side may be the one that is too long.
+constexpr Subject sideSubject = {.setting = "level", .level = 1};
 constexpr LevelRule<const char*, int, double, double> pictureSide = {
     {"level.side", Severity::Error,
      "Level %s allows at most %d macroblocks in a row or column (now %.0f x %.0f): choose level "
      "%s.",
-     sideClause},
+     sideClause, sideSubject},
     {"level.side-none", Severity::Error,
      "Level %s allows at most %d macroblocks in a row or column (now %.0f x %.0f): choose fewer.",
-     sideClause}};
+     sideClause, inOtherWords("level.side", sideSubject)}};
 constexpr const char* mbRateClause = "A.3.1 a, b, A.3.2 a, b, Table A-1: MaxMBPS";
 constexpr LevelRule<const char*, int, double> mbRate = {
     {"level.rate", Severity::Error,
      "Level %s allows at most %d macroblocks/s (now %.0f): lower the frame rate, or choose level "
      "%s.",
-     mbRateClause},
+     mbRateClause, ofLevel},
     {"level.rate-none", Severity::Error,
-     "Level %s allows at most %d macroblocks/s (now %.0f): lower the frame rate.", mbRateClause}};
+     "Level %s allows at most %d macroblocks/s (now %.0f): lower the frame rate.", mbRateClause,
+     inOtherWords("level.rate", ofLevel)}};
 constexpr const char* viewsRateClause =
     "H.10.2.1 a, b: mvcScaleFactor 2 * MaxMBPS; the macroblocks of all views together";
+constexpr Subject viewsRateSubject = {.setting = "level", .value = 4, .limit = 2, .level = 1};
 constexpr LevelRule<const char*, int, int, double> mbRateViews = {
     {"level.rate-views", Severity::Error,
      "Level %s allows at most %d macroblocks/s for %d views (now %.0f): lower the frame rate, or "
      "choose level %s.",
-     viewsRateClause},
+     viewsRateClause, viewsRateSubject},
     {"level.rate-views-none", Severity::Error,
      "Level %s allows at most %d macroblocks/s for %d views (now %.0f): lower the frame rate.",
-     viewsRateClause}};
+     viewsRateClause, inOtherWords("level.rate-views", viewsRateSubject)}};
 constexpr const char* pulldownClause =
     "A.3.1 b, A.3.2 b, H.10.2.1 b: the shortest distance of output times; of all views together";
+constexpr Subject pulldownSubject = {.setting = "pulldown", .value = 2, .limit = 4, .level = 3};
 constexpr LevelRule<Decimal, double, const char*, int> mbRatePulldown = {
     {"level.rate-pulldown", Severity::Error,
      "Pulldown makes %d.%0*d times as many macroblocks/s, %.0f; level %s allows %d: set it to Off, "
      "or choose level %s.",
-     pulldownClause},
+     pulldownClause, pulldownSubject},
     {"level.rate-pulldown-none", Severity::Error,
      "Pulldown makes %d.%0*d times as many macroblocks/s, %.0f; level %s allows %d: set it to Off.",
-     pulldownClause}};
+     pulldownClause, inOtherWords("level.rate-pulldown", pulldownSubject)}};
 constexpr const char* interlaceClause =
     "A.3.3 d, H.10.2.2 a, Table A-4: frame_mbs_only_flag; levels 2.1 to 4.1 have interlace";
+constexpr Subject interlaceSubject = {.setting = "interlace_mode", .level = 1};
 constexpr LevelRule<const char*> interlace = {
     {"level.interlace", Severity::Error,
-     "Level %s allows progressive pictures only: choose Progressive, or level %s.",
-     interlaceClause},
+     "Level %s allows progressive pictures only: choose Progressive, or level %s.", interlaceClause,
+     interlaceSubject},
     {"level.interlace-none", Severity::Error,
-     "Level %s allows progressive pictures only: choose Progressive.", interlaceClause}};
+     "Level %s allows progressive pictures only: choose Progressive.", interlaceClause,
+     inOtherWords("level.interlace", interlaceSubject)}};
 constexpr const char* baseClause =
     "A.3.1 j, A.3.3 h: MaxBR * cpbBrNalFactor; the base view by itself";
+constexpr Subject baseSubject = {
+    .setting = "bitrate", .value = 3, .limit = 2, .level = 1, .view = 0};
 constexpr LevelRule<const char*, Decimal, Decimal> bitrate = {
     {"level.bitrate", Severity::Error,
      "Level %s allows the base view at most %d.%0*d Mbit/s (now %d.%0*d): lower its bitrate, or "
      "choose level %s.",
-     baseClause},
+     baseClause, baseSubject},
     {"level.bitrate-none", Severity::Error,
      "Level %s allows the base view at most %d.%0*d Mbit/s (now %d.%0*d): lower its bitrate.",
-     baseClause}};
+     baseClause, inOtherWords("level.bitrate", baseSubject)}};
 constexpr const char* viewsClause = "H.10.2.1 r: MaxBR * 1500, not doubled; all views together";
+constexpr Subject viewsSubject = {.setting = "bitrate", .value = 4, .limit = 2, .level = 1};
 constexpr LevelRule<const char*, Decimal, int, Decimal> bitrateViews = {
     {"level.bitrate-views", Severity::Error,
      "Level %s allows at most %d.%0*d Mbit/s for %d views together (now %d.%0*d): lower a bitrate, "
      "or choose level %s.",
-     viewsClause},
+     viewsClause, viewsSubject},
     {"level.bitrate-views-none", Severity::Error,
      "Level %s allows at most %d.%0*d Mbit/s for %d views together (now %d.%0*d): lower a "
      "bitrate.",
-     viewsClause}};
+     viewsClause, inOtherWords("level.bitrate-views", viewsSubject)}};
 constexpr const char* vclClause =
     "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxBR * cpbBrVclFactor; the base view by itself, and all views "
     "together";
+constexpr Subject vclSubject = {.setting = "bitrate", .value = 1, .limit = 3, .level = 2};
 constexpr LevelRule<Decimal, const char*, Decimal> bitrateVcl = {
     {"level.bitrate-vcl", Severity::Risk,
      "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data: lower a bitrate, or "
      "choose level %s.",
-     vclClause},
+     vclClause, vclSubject},
     {"level.bitrate-vcl-none", Severity::Risk,
      "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data: lower a bitrate.",
-     vclClause}};
+     vclClause, inOtherWords("level.bitrate-vcl", vclSubject)}};
 constexpr Rule<const char*, Decimal, Decimal> buffer = {
-    "level.buffer", Severity::Error,
+    "level.buffer",
+    Severity::Error,
     "Level %s allows the base view a bitrate buffer of at most %d.%0*d Mbit (now %d.%0*d): make it "
     "smaller.",
-    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view by itself"};
+    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view by itself",
+    {.setting = "bitrate_buffer", .value = 3, .limit = 2, .level = 1, .view = 0}};
 constexpr Rule<const char*, Decimal, int, Decimal> bufferViews = {
-    "level.buffer-views", Severity::Error,
+    "level.buffer-views",
+    Severity::Error,
     "Level %s allows bitrate buffers of at most %d.%0*d Mbit for %d views together (now %d.%0*d): "
     "make one smaller.",
-    "H.10.2.1 r: MaxCPB * 1500, not doubled; all views together"};
+    "H.10.2.1 r: MaxCPB * 1500, not doubled; all views together",
+    {.setting = "bitrate_buffer", .value = 4, .limit = 2, .level = 1}};
 constexpr Rule<Decimal, const char*, Decimal> bufferVcl = {
-    "level.buffer-vcl", Severity::Risk,
+    "level.buffer-vcl",
+    Severity::Risk,
     "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make "
     "one smaller.",
     "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor; the base view by itself, and all views "
-    "together"};
+    "together",
+    {.setting = "bitrate_buffer", .value = 1, .limit = 3, .level = 2}};
 
 /// A stream at a level, and the level that would do instead; null when none would.
 struct Judge {

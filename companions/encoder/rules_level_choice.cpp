@@ -13,30 +13,48 @@ namespace
 {
 
 constexpr Rule<const char*> reserved = {
-    "level.code", Severity::Error,
+    "level.code",
+    Severity::Error,
     "Level %s is none of the H.264 levels from 1.0 to 5.2: choose another level, or Auto.",
-    "A.1: all values of level_idc outside Table A-1"};
+    "A.1: all values of level_idc outside Table A-1",
+    {.setting = "level", .level = 1}};
 constexpr Rule<int, Decimal> frameRate = {
-    "level.frame-rate", Severity::Error,
+    "level.frame-rate",
+    Severity::Error,
     "No level allows more than %d frames/s (now %d.%0*d): choose a lower frame rate.",
-    "A.3: fR is 1/172"};
-constexpr Rule<> none = {"level.none", Severity::Note,
-                         "These settings fit no level from 1.0 to 5.2.", "A.3"};
+    "A.3: fR is 1/172",
+    {.setting = "frame_rate", .value = 2, .limit = 1}};
+constexpr Rule<> none = {"level.none",
+                         Severity::Note,
+                         "These settings fit no level from 1.0 to 5.2.",
+                         "A.3",
+                         {.setting = "level"}};
 constexpr const char* searchClause =
     "A.3: the first level that holds every limit, for picture data as well as with headers";
 constexpr Rule<const char*> automatic = {
-    "level.auto", Severity::Note, "With level Auto, the stream has level %s, the lowest that fits.",
-    searchClause};
-constexpr Rule<const char*> lowest = {"level.lowest", Severity::Note,
-                                      "Level %s is the lowest that fits.", searchClause};
+    "level.auto",
+    Severity::Note,
+    "With level Auto, the stream has level %s, the lowest that fits.",
+    searchClause,
+    {.setting = "level", .level = 1}};
+constexpr Rule<const char*> lowest = {"level.lowest",
+                                      Severity::Note,
+                                      "Level %s is the lowest that fits.",
+                                      searchClause,
+                                      {.setting = "level", .level = 1}};
 // A disc has one level, whether a lower one would do or not.
 constexpr const char* discClause = "disc: Stereo High at level 4.1";
 constexpr Rule<const char*> automaticOfDisc = {
-    "level.auto-disc", Severity::Note,
-    "With level Auto, the stream has level %s, which Blu-ray 3D requires.", discClause};
-constexpr Rule<const char*> fitsDisc = {"level.fits-disc", Severity::Note,
+    "level.auto-disc",
+    Severity::Note,
+    "With level Auto, the stream has level %s, which Blu-ray 3D requires.",
+    discClause,
+    {.setting = "level", .level = 1}};
+constexpr Rule<const char*> fitsDisc = {"level.fits-disc",
+                                        Severity::Note,
                                         "These settings fit level %s, which Blu-ray 3D requires.",
-                                        discClause};
+                                        discClause,
+                                        {.setting = "level", .level = 1}};
 
 struct Search {
     const Level* lowest;  ///< null when no level fits

@@ -10,31 +10,47 @@ namespace kv::encoder
 namespace
 {
 
-constexpr Rule<const char*, int> oneView = {"summary.stream", Severity::Note,
-                                            "One view, profile %s (profile_idc %d).", "A.2"};
+constexpr Rule<const char*, int> oneView = {"summary.stream",
+                                            Severity::Note,
+                                            "One view, profile %s (profile_idc %d).",
+                                            "A.2",
+                                            {.setting = "profile"}};
 constexpr Rule<int, const char*, int, const char*> severalViews = {
-    "summary.stream-views", Severity::Note,
+    "summary.stream-views",
+    Severity::Note,
     "%d views, profile %s (profile_idc %d); the base view has profile %s.",
-    "H.10.1: two views carry 118 or 128, and players know 128"};
+    "H.10.1: two views carry 118 or 128, and players know 128",
+    {.setting = "profile"}};
 constexpr Rule<int, int, const char*> buffered = {
-    "summary.dpb", Severity::Note,
+    "summary.dpb",
+    Severity::Note,
     "Reference frames: %d of the %d frames of this size that level %s can store.",
-    "A.3.1 h, A.3.2 f, H.10.2.1 f"};
+    "A.3.1 h, A.3.2 f, H.10.2.1 f",
+    {.setting = "num_ref_frames", .value = 1, .limit = 2, .level = 3}};
 constexpr ViewRule<int, int, const char*> bufferedViews = {
-    "summary.dpb-views", Severity::Note,
+    "summary.dpb-views",
+    Severity::Note,
     KV_ALL_VIEWS("Reference frames: %d of the %d per view that level %s has room for."),
-    "H.10.2.1 f, x, C.4.5.2"};
+    "H.10.2.1 f, x, C.4.5.2",
+    {.setting = "num_ref_frames", .value = 1, .limit = 2, .level = 3}};
 constexpr Rule<Decimal, Decimal, const char*> rate = {
-    "summary.bitrate", Severity::Note,
-    "Bitrate: %d.%0*d of the %d.%0*d Mbit/s that level %s allows.", "A.3.1 j, A.3.3 h, H.10.2.1 r"};
+    "summary.bitrate",
+    Severity::Note,
+    "Bitrate: %d.%0*d of the %d.%0*d Mbit/s that level %s allows.",
+    "A.3.1 j, A.3.3 h, H.10.2.1 r",
+    {.setting = "bitrate", .value = 1, .limit = 2, .level = 3}};
 constexpr Rule<> rateUnknown = {
-    "summary.bitrate-unknown", Severity::Note,
+    "summary.bitrate-unknown",
+    Severity::Note,
     "With constant quality, whether the bitrate fits the level shows only when encoding.",
-    "A.3.1 j, A.3.3 h, H.10.2.1 r"};
+    "A.3.1 j, A.3.3 h, H.10.2.1 r",
+    {.setting = "bitrate_mode"}};
 constexpr ViewRule<Decimal, Decimal> bufferTime = {
-    "summary.buffer", Severity::Note,
+    "summary.buffer",
+    Severity::Note,
     KV_EACH_VIEW("The bitrate buffer holds %d.%0*d s; decoding starts after %d.%0*d s."),
-    "C.1.1: size and initial fullness over the rate"};
+    "C.1.1: size and initial fullness over the rate",
+    {.setting = "bitrate_buffer"}};
 
 // What exceeds a limit has its error already, and no note says it again.
 void tellRates(const Stream& stream, const Level* level, Report& report)

@@ -38,7 +38,8 @@ int collect(Severity heardAs, const char* format, va_list arguments)
                     listed = true;
                     // Each message is told what it is about, before it.
                     if (current->abouts.size() != current->rules.size() ||
-                        current->abouts.last().rule != rule->id) {
+                        current->abouts.last().rule !=
+                            (rule->subject.rule ? rule->subject.rule : rule->id)) {
                         qFatal("nobody said what this is about: %s", format);
                     }
                 }

@@ -57,6 +57,32 @@ const AboutCase aboutCases[] = {
      2,
      [](Record& r) { setBoth(r, &V::force_i, 30); },
      {KV_MVC_MESSAGE_ERROR, "gop.force-i", "force_i", -1, 30, 24, ""}},
+    {"a code is the setting's value",
+     2,
+     [](Record& r) { setBoth(r, &V::profile, 1); },
+     {KV_MVC_MESSAGE_NOTE, "summary.stream-views", "profile", -1, 1, none, ""}},
+    {"a rate of frames",
+     0,
+     [](Record& r) { setFrameRate(r, 200); },
+     {KV_MVC_MESSAGE_ERROR, "level.frame-rate", "frame_rate", -1, 200, 172, ""}},
+    {"a risk is told as such",
+     3,
+     [](Record& r) { setBoth(r, &V::weighted_p, 1); },
+     {KV_MVC_MESSAGE_RISK, "disc.weighted-p", "weighted_p", -1, 1, none, ""}},
+    // Table A-1: MaxFS 1620, MaxMBPS 40500 at level 3; 1920 x 1080 are 120 x 68.
+    {"a level's limit",
+     0,
+     [](Record& r) { setBoth(r, &V::level, 30); },
+     {KV_MVC_MESSAGE_ERROR, "level.picture", "level", -1, 8160, 1620, "3.0"}},
+    // Where no other level would do, the rule is the same in other words.
+    {"a limit of all levels",
+     0,
+     [](Record& r) { setFrameRate(r, 171); },
+     {KV_MVC_MESSAGE_ERROR, "level.rate", "level", -1, 1395360, 245760, "4.1"}},
+    {"a message about the base view alone",
+     0,
+     [](Record& r) { setBoth(r, &V::max_bitrate, 80000000); },
+     {KV_MVC_MESSAGE_ERROR, "level.bitrate", "bitrate", 0, 80000000, 75000000, "4.1"}},
     {"a level's limit of the picture",
      0,
      [](Record& r) { setBoth(r, &V::num_ref_frames, 5); },
@@ -75,6 +101,7 @@ private Q_SLOTS:
     void usesOfLimits_data();
     void usesOfLimits();
     void usesAreThoseOfTheLevelThatResults();
+    void discsHaveLimitsOfTheirOwn();
     void nothingIsUsedWithoutALevelOrASize();
     void whatIsBeyondALimitIsRefused_data();
     void whatIsBeyondALimitIsRefused();
@@ -180,6 +207,25 @@ void TestEncoderAbout::usesAreThoseOfTheLevelThatResults()
     QCOMPARE(outcome.uses[0].limit, 1620.0);
 }
 
+void TestEncoderAbout::discsHaveLimitsOfTheirOwn()
+{
+    KvMvcSettings record = encoder::preset(3);
+    const Outcome outcome = encoder::check(record);
+    QByteArrayList own;
+    for (const LimitUse& use : outcome.uses) {
+        if (use.level.isEmpty()) {
+            own.append(use.name + ' ' + QByteArray::number(use.view) + ": " +
+                       QByteArray::number(use.used / 1e6) + " of " +
+                       QByteArray::number(use.limit / 1e6) + " M" + use.unit + ", " + use.rule);
+        }
+    }
+    QCOMPARE(own, QByteArrayList({"Bitrate on a disc 0: 30 of 40 Mbit/s, disc.bitrate",
+                                  "Buffer on a disc 0: 30 of 30 Mbit, disc.buffer",
+                                  "Bitrate on a disc 1: 15 of 40 Mbit/s, disc.bitrate",
+                                  "Buffer on a disc 1: 15 of 30 Mbit, disc.buffer-other",
+                                  "Bitrate on a disc -1: 45 of 60 Mbit/s, disc.bitrate-both"}));
+}
+
 void TestEncoderAbout::nothingIsUsedWithoutALevelOrASize()
 {
     KvMvcSettings none = encoder::preset(0);
@@ -200,6 +246,7 @@ void TestEncoderAbout::whatIsBeyondALimitIsRefused_data()
     QTest::newRow("picture") << row++ << QByteArray("level.picture");
     QTest::newRow("macroblocks/s") << row++ << QByteArray("level.rate");
     QTest::newRow("macroblocks/s of two views") << row++ << QByteArray("level.rate-views");
+    QTest::newRow("macroblocks/s of pulldown") << row++ << QByteArray("level.rate-pulldown");
     QTest::newRow("references") << row++ << QByteArray("level.dpb");
     QTest::newRow("references of two views") << row++ << QByteArray("level.dpb-views");
     QTest::newRow("references and a B picture") << row++ << QByteArray("level.dpb-views-b");
@@ -220,6 +267,11 @@ void TestEncoderAbout::whatIsBeyondALimitIsRefused()
         {0, [](Record& r) { setBoth(r, &V::level, 32); }},
         {0, [](Record& r) { setFrameRate(r, 31); }},
         {2, [](Record& r) { setFrameRate(r, 31); }},
+        {0,
+         [](Record& r) {
+             setFrameRate(r, 25);
+             setBoth(r, &V::pulldown, 1);
+         }},
         {0, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }},
         {2, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }},
         {2, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }},
