@@ -69,6 +69,16 @@ ExportRow unsaid(const char* reason, bool (*isMet)(const ExportJob&))
     return {{}, {{reason, isMet}}};
 }
 
+std::vector<ExportRow*> rowsOf(ExportTable& table)
+{
+    std::vector<ExportRow*> rows;
+    rows.reserve(std::size(namedRows));
+    for (const NamedRow& named : namedRows) {
+        rows.push_back(&(table.*named.row));
+    }
+    return rows;
+}
+
 std::vector<ExportEntry> entriesOf(const ExportTable& table)
 {
     std::vector<ExportEntry> entries;

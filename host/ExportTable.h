@@ -70,6 +70,8 @@ struct ExportTable {
 #include <kv_config_gui_mvc/settings_fields.def>
 };
 
+std::vector<ExportRow*> rowsOf(ExportTable& table);
+
 /// A setting and its row.
 struct ExportEntry {
     const Setting* setting;

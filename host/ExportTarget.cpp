@@ -13,6 +13,12 @@ constexpr char x264Description[] =
     "or without one, has raw planar pictures in the format of the settings, of 16 bits a sample\n"
     "where these have 10; any other tells its format, and standard input is YUV4MPEG2.";
 
+constexpr char ffmpegDescription[] =
+    "A command line of the `ffmpeg` program, which codes one view with libx264. Inputs are those "
+    "of\n"
+    "x264, and of the streams in one the first with video is taken. What is written is the video\n"
+    "alone, in the container that its name asks for; a file of that name is replaced.";
+
 } // namespace
 
 const std::vector<ExportTarget>& exportTargets()
@@ -20,6 +26,7 @@ const std::vector<ExportTarget>& exportTargets()
     static const QStringList scripts = {QStringLiteral("sh"), QStringLiteral("txt"), QString()};
     static const std::vector<ExportTarget> targets = {
         {"x264", "x264", x264Description, x264Table, writeX264, scripts, 1},
+        {"ffmpeg", "ffmpeg", ffmpegDescription, ffmpegTable, writeFfmpeg, scripts, 1},
     };
     return targets;
 }

@@ -53,3 +53,5 @@ bool isRawPictures(const QString& input);
 
 const ExportTable& x264Table();
 ExportText writeX264(const ExportTask& task);
+const ExportTable& ffmpegTable();
+ExportText writeFfmpeg(const ExportTask& task);

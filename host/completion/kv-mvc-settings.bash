@@ -57,7 +57,7 @@ _kv_mvc_settings() {
             ;;
         --banner) _kv_mvc_settings_files "$word" '' ;;
         --language) _kv_mvc_settings_words "$word" en de ja ;;
-        --to) _kv_mvc_settings_words "$word" x264 ;;
+        --to) _kv_mvc_settings_words "$word" x264 ffmpeg ;;
         --input | --stream) _kv_mvc_settings_files "$word" '' ;;
         --title | --parent | --set | --view) ;;
         *)

@@ -10,6 +10,8 @@ struct ExportCase {
     /// Over `toldByAll`: "-name" is not told, "name=value" is not told as it was set.
     const char* told;
     int frames = 30;
+    /// From which frame on the pictures are others; 0: there is no change.
+    int sceneChange = 0;
 };
 
 /// Every case has these, of small pictures.

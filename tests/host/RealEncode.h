@@ -9,6 +9,7 @@
 #include "../settings_io/EncoderLibrary.h"
 #include "../settings_io/SettingsLibrary.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include <span>
@@ -83,7 +84,7 @@ public:
         m_program.writeSettings(QStringLiteral("settings.cfg"), settings);
         const QString input = QStringLiteral("input.") + QLatin1String(suffix);
         QFile::remove(m_program.path(stream));
-        QString failure = makeInput(settings.views[0], input, row.frames);
+        QString failure = makeInput(settings.views[0], input, row);
         if (failure.isEmpty()) {
             failure = encode(target, input, view);
         }
@@ -99,9 +100,41 @@ public:
         return failure.isEmpty() ? wrongSettings(told, settings, view, imported, 0) : failure;
     }
 
+    /// The numbers of the I-frames in the last stream, as they are shown.
+    QString iFrames() const
+    {
+        QStringList frames;
+        int number = 0;
+        const QString said =
+            probe({QStringLiteral("-show_entries"), QStringLiteral("frame=pict_type")});
+        for (const QString& line : said.split(QLatin1Char('\n'))) {
+            const bool isFrame =
+                QRegularExpression(QStringLiteral("^[IPB]")).match(line).hasMatch();
+            if (line.startsWith(QLatin1Char('I'))) {
+                frames << QString::number(number);
+            }
+            number += isFrame ? 1 : 0; // further lines are of side data
+        }
+        return frames.join(QLatin1Char(' '));
+    }
+
 private:
+    /// What ffprobe says, and complains of.
+    QString probe(const QStringList& entries) const
+    {
+        QProcess probe;
+        probe.start(QStringLiteral("ffprobe"),
+                    QStringList{QStringLiteral("-v"), QStringLiteral("error"),
+                                QStringLiteral("-of"), QStringLiteral("csv=p=0")} +
+                        entries + QStringList{m_program.path(stream)});
+        probe.waitForFinished();
+        return QString::fromUtf8(probe.readAllStandardError() + probe.readAllStandardOutput())
+            .trimmed();
+    }
+
     /// Moving pictures in the format of the settings, but always at 25 a second.
-    QString makeInput(const KvMvcViewSettings& view, const QString& name, int frames) const
+    QString makeInput(const KvMvcViewSettings& view, const QString& name,
+                      const ExportCase& row) const
     {
         const QString chroma = QLatin1String(view.chroma_format == KV_MVC_CHROMA_400   ? "gray"
                                              : view.chroma_format == KV_MVC_CHROMA_422 ? "yuv422p"
@@ -109,12 +142,15 @@ private:
         const QString depth = QLatin1String(view.bit_depth_luma > 8 ? "10le" : "");
         // YUV4MPEG2 of deep samples is no standard.
         const QString arguments =
-            QStringLiteral("-f lavfi -i testsrc=size=%1x%2:rate=25 -frames:v %3 -pix_fmt %4 "
-                           "-strict -1")
+            QStringLiteral("-f lavfi -i testsrc=size=%1x%2:rate=25%5 -frames:v %3 -pix_fmt "
+                           "%4 -strict -1")
                 .arg(view.width)
                 .arg(view.height)
-                .arg(frames)
-                .arg(chroma + depth);
+                .arg(row.frames)
+                .arg(chroma + depth,
+                     row.sceneChange > 0
+                         ? QStringLiteral(",negate=enable=gte(n\\,%1)").arg(row.sceneChange)
+                         : QString());
         const bool isRaw = name.endsWith(QLatin1String(".yuv"));
         return QString::fromUtf8(makeMedia(arguments + QLatin1String(isRaw ? " -f rawvideo" : ""),
                                            m_program.path(name)));
@@ -135,15 +171,10 @@ private:
 
     QString decode(int frames) const
     {
-        QProcess probe;
-        probe.start(QStringLiteral("ffprobe"),
-                    {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
-                     QStringLiteral("-show_entries"), QStringLiteral("stream=nb_read_frames"),
-                     QStringLiteral("-of"), QStringLiteral("csv=p=0"), m_program.path(stream)});
-        probe.waitForFinished();
-        const QByteArray said = (probe.readAllStandardError() + probe.readAllStandardOutput());
-        return said.trimmed() == QByteArray::number(frames) ? QString()
-                                                            : QString::fromUtf8("ffprobe: " + said);
+        const QString said =
+            probe({QStringLiteral("-count_frames"), QStringLiteral("-show_entries"),
+                   QStringLiteral("stream=nb_read_frames")});
+        return said == QString::number(frames) ? QString() : QStringLiteral("ffprobe: ") + said;
     }
 
     const QString stream = QStringLiteral("out.264");

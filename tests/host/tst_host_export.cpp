@@ -23,6 +23,10 @@ private Q_SLOTS:
     void eachViewHasItsInput();
     void namesReachTheShellAsTheyAre_data();
     void namesReachTheShellAsTheyAre();
+    void namesAreNoAddressesOfFfmpeg_data();
+    void namesAreNoAddressesOfFfmpeg();
+    void standardStreamsAreTold_data();
+    void standardStreamsAreTold();
     void whatIsLostIsTold_data();
     void whatIsLostIsTold();
     void outputReplacesAFile();
@@ -97,6 +101,24 @@ void TestHostExport::presetsBecomeCommandLines_data()
         "--me umh --weightp 0 --no-mixed-refs --no-fast-pskip --aq-mode 0 --slices 4 "
         "-o right.264 right.y4m",
         twoViews);
+    row("ffmpeg", KV_MVC_VIDEO_TYPE_NONE, "--to ffmpeg",
+        "ffmpeg -nostdin -y -f rawvideo -video_size 1920x1080 -framerate 24000/1001 "
+        "-pixel_format yuv420p -i INPUT.yuv -map 0:v:0 -c:v libx264 -profile:v high -level:v 4.1 "
+        "-pix_fmt yuv420p -b:v 20000k -maxrate 30000k -bufsize 30000k -vf setsar=1/1:max=65535 "
+        "-x264-params force-cfr=1:nal-hrd=vbr:vbv-init=0.5:qpmin=2:qpmax=51:keyint=24:"
+        "min-keyint=1:bframes=2:b-adapt=0:b-pyramid=none:partitions=p8x8,b8x8,i8x8,i4x4:subme=7:"
+        "ref=3:merange=64:me=umh:weightp=0:no-mixed-refs=1:no-fast-pskip=1:aq-mode=0:slices=4 "
+        "OUTPUT.264",
+        "");
+    row("ffmpeg, disc, second view", KV_MVC_BLURAY_3D,
+        "--to ffmpeg --view 1 --input right.mkv --stream right.mp4",
+        "ffmpeg -nostdin -y -r 24000/1001 -i right.mkv -map 0:v:0 -c:v libx264 -profile:v high "
+        "-level:v 4.1 -pix_fmt yuv420p -b:v 11000k -maxrate 15000k -bufsize 15000k "
+        "-vf setsar=1/1:max=65535 -x264-params bluray-compat=1:force-cfr=1:nal-hrd=vbr:"
+        "vbv-init=0.5:qpmin=2:qpmax=51:keyint=24:min-keyint=1:bframes=2:b-adapt=0:b-pyramid=none:"
+        "partitions=p8x8,b8x8,i8x8,i4x4:subme=7:ref=3:merange=64:me=umh:weightp=0:"
+        "no-mixed-refs=1:no-fast-pskip=1:aq-mode=0:slices=4 right.mp4",
+        twoViews);
 }
 
 void TestHostExport::presetsBecomeCommandLines()
@@ -120,8 +142,8 @@ void TestHostExport::linesAreRefused_data()
     const auto row = [](const char* arguments, const char* line) {
         QTest::newRow(arguments) << words(arguments) << QString::fromUtf8(line);
     };
-    row("", "--to is missing: x264");
-    row("--to h265", "there is no export to 'h265'; there are x264");
+    row("", "--to is missing: x264 or ffmpeg");
+    row("--to h265", "there is no export to 'h265'; there are x264 and ffmpeg");
     row("--to x264 --view 2", "there is no view '2'; the settings have views 0 to 1");
     row("--to x264 --view left", "there is no view 'left'; the settings have views 0 to 1");
     row("--to x264 --view -1", "there is no view '-1'; the settings have views 0 to 1");
@@ -134,6 +156,8 @@ void TestHostExport::linesAreRefused_data()
                                               "ends in .sh (--stream names what is encoded)")
                                    .arg(QLatin1String(name));
     }
+    row("--to ffmpeg -o out.mp4", "cannot write 'out.mp4': the name of an export to ffmpeg ends in "
+                                  ".sh (--stream names what is encoded)");
     row("--to x264 -o folder.sh", "cannot write 'folder.sh': it is no file");
 }
 
@@ -214,6 +238,58 @@ void TestHostExport::namesReachTheShellAsTheyAre()
         result.output);
     QCOMPARE(words.output, QStringLiteral("<-o><%1><%2>").arg(name, arrives));
     QCOMPARE(words.error, QString());
+}
+
+void TestHostExport::namesAreNoAddressesOfFfmpeg_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("arrives");
+    const auto row = [](const char* name, const char* arrives) {
+        QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(arrives);
+    };
+    row("a.mkv", "a.mkv");
+    row("12:30.mkv", "file:12:30.mkv");
+    row("C:/a.mkv", "file:C:/a.mkv");
+    row("-a.mkv", "./-a.mkv");
+    row("http://host/a.mkv", "http://host/a.mkv");
+}
+
+void TestHostExport::namesAreNoAddressesOfFfmpeg()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, arrives);
+    write(KV_MVC_VIDEO_TYPE_NONE);
+    const HostProgram::Result result =
+        m_program.run(words("export movie.ini --to ffmpeg --input") +
+                      QStringList{name, QStringLiteral("--stream"), name});
+    QVERIFY2(result.output.contains(QStringLiteral(" -i %1 ").arg(arrives)),
+             qPrintable(result.output));
+    QVERIFY2(result.output.endsWith(QStringLiteral(" %1\n").arg(arrives)),
+             qPrintable(result.output));
+}
+
+void TestHostExport::standardStreamsAreTold_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("x264") << QStringLiteral("x264") << QStringLiteral("x264 --demuxer y4m ")
+                          << QStringLiteral(" -o - -\n");
+    QTest::newRow("ffmpeg") << QStringLiteral("ffmpeg")
+                            << QStringLiteral(" -f yuv4mpegpipe -r 24000/1001 -i - ")
+                            << QStringLiteral(" -f h264 -\n");
+}
+
+void TestHostExport::standardStreamsAreTold()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, input);
+    QFETCH(QString, end);
+    write(KV_MVC_VIDEO_TYPE_NONE);
+    const HostProgram::Result result =
+        m_program.run(words("export movie.ini --input - --stream - --to") + QStringList{target});
+    QVERIFY2(result.output.contains(input), qPrintable(result.output));
+    QVERIFY2(result.output.endsWith(end), qPrintable(result.output));
 }
 
 void TestHostExport::whatIsLostIsTold_data()
@@ -304,6 +380,16 @@ void TestHostExport::whatIsLostIsTold_data()
     row("x264", "complexity=-1",
         "Adaptive quantization, complexity based: x264 has no negative strength");
     row("x264", "complexity=100", "");
+
+    // What x264 lacks it lacks there, too.
+    row("ffmpeg", "", "");
+    row("ffmpeg", "interlace_mode=1", "Picture structure: x264 codes MBAFF frames, not fields");
+    row("ffmpeg", "level=16", "Level: it is no level of H.264, x264 chooses one");
+    row("ffmpeg", "bitrate=20000500",
+        "Target bitrate (bps): rates and buffers are rounded to thousands of bits");
+    row("ffmpeg", "pulldown=2", "Pulldown: ffmpeg does not tell x264 of it");
+    row("ffmpeg", "pulldown=2 field_order=1", "Pulldown: ffmpeg does not tell x264 of it");
+    row("ffmpeg", "fixed_i_position=1", "");
 }
 
 void TestHostExport::whatIsLostIsTold()
@@ -346,7 +432,7 @@ void TestHostExport::settingsComeOnStandardInput()
 void TestHostExport::documentHasEverySettingOnce_data()
 {
     QTest::addColumn<QString>("title");
-    for (const char* title : {"x264"}) {
+    for (const char* title : {"x264", "ffmpeg"}) {
         QTest::newRow(title) << QString::fromUtf8(title);
     }
 }

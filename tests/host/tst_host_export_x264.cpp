@@ -27,6 +27,8 @@ private Q_SLOTS:
     void initTestCase();
     void streamsTellWhatWasSet_data();
     void streamsTellWhatWasSet();
+    void sceneChangesMeetTheInterval_data();
+    void sceneChangesMeetTheInterval();
     void eachViewHasItsOwnRates();
     void inputMayTellItsFormat();
 
@@ -52,6 +54,29 @@ void TestHostExportX264::streamsTellWhatWasSet()
 {
     QFETCH(const ExportCase*, row);
     QCOMPARE(m_encode.roundTrip(*row, "x264", "yuv"), QString());
+}
+
+void TestHostExportX264::sceneChangesMeetTheInterval_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("iFrames");
+    const auto row = [](const char* set, const char* iFrames) {
+        QTest::newRow(set) << QString::fromUtf8(set) << QString::fromUtf8(iFrames);
+    };
+    row("scene_detection=1", "0 5 15 25");
+    row("scene_detection=0", "0 10 20");
+    // It cannot be told.
+    row("scene_detection=1 fixed_i_position=1", "0 5 15 25");
+}
+
+void TestHostExportX264::sceneChangesMeetTheInterval()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, iFrames);
+    const QByteArray all = "i_interval=10 " + set.toUtf8();
+    const ExportCase row = {"", 0, all.constData(), "", 30, 5};
+    QCOMPARE(m_encode.roundTrip(row, "x264", "yuv"), QString());
+    QCOMPARE(m_encode.iFrames(), iFrames);
 }
 
 void TestHostExportX264::eachViewHasItsOwnRates()
