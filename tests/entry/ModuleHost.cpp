@@ -24,6 +24,7 @@
 // | stay            | has the application outlive its last window, if nothing else ends it   |
 // | locale          | says which the process has                                           |
 // | translate       | says what "Views" is called in the application                        |
+// | resources       | says whether the module's are there                                  |
 // | unload          | unloads the module                                                   |
 // | remove=LIBRARY  | takes away a library, mapped or not, that lies beside the module     |
 // | replace=LIBRARY | puts "replacement" in the place of one that is not mapped            |
@@ -32,6 +33,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -298,6 +300,9 @@ bool Host::step(const std::string& text)
     } else if (name == "translate") {
         say(QStringLiteral("translated ") +
             QCoreApplication::translate("AVCVideoEncoderDlg", "Views"));
+    } else if (name == "resources") {
+        say(QStringLiteral("resources ") +
+            yesNo(QFile::exists(QStringLiteral(":/res_mvc/banners/banner.png"))));
     } else if (name == "remove") {
         // Windows keeps a file that is mapped, but lets it have another name.
         std::filesystem::rename(libraryBeside(value), libraryBeside(value + ".removed"));

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void companionBesideTheModuleIsFound();
     void oneOfEachPlace();
     void brokenFileCountsAsMissing();
+    void brokenFileBesideTheHostHidesOneBesideTheModule();
     void failedCallsLibrariesAreReleasedByTheNextCall();
     void probeOfAFailedCallIsReleasedByTheNextCall();
     void missingFunctionIsNotFoundInAnEarlierCallsLibrary();
@@ -171,6 +172,20 @@ void TestEntryCompanions::brokenFileCountsAsMissing()
     const auto run = sandbox.run(ownCall);
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QVERIFY(run.log.contains(QLatin1String("load host/kv_mvcenc")));
+}
+
+void TestEntryCompanions::brokenFileBesideTheHostHidesOneBesideTheModule()
+{
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io");
+    sandbox.add("stub_entry_encoder", "kv_mvcenc", "module");
+    QFile broken(sandbox.libraryPath("kv_mvcenc"));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("no library");
+    broken.close();
+    const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
+    QCOMPARE(run.value("result"), QStringLiteral("1"));
+    QCOMPARE(run.log.filter(QStringLiteral("kv_mvcenc")), QStringList());
 }
 
 void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()

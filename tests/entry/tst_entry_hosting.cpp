@@ -26,6 +26,8 @@ private Q_SLOTS:
     void focusIsOnTheTabs();
     void modes_data();
     void modes();
+    void recordIsNotTouchedWithoutTheLibraries_data();
+    void recordIsNotTouchedWithoutTheLibraries();
     void titleAndBannerOfTheRecord_data();
     void titleAndBannerOfTheRecord();
     void activeWindowOfTheHostIsTheParent();
@@ -139,6 +141,25 @@ void TestEntryHosting::modes()
     QCOMPARE(run.value("result"), result);
     QCOMPARE(run.value("record flags"), recordFlags);
     QCOMPARE(run.values("title").size(), result == QLatin1String("1") ? 0 : 1);
+}
+
+void TestEntryHosting::recordIsNotTouchedWithoutTheLibraries_data()
+{
+    QTest::addColumn<QString>("missing");
+    QTest::newRow("encoder") << QStringLiteral("kv_mvcenc");
+    QTest::newRow("settings files") << QStringLiteral("kv_mvc_settings_io");
+}
+
+void TestEntryHosting::recordIsNotTouchedWithoutTheLibraries()
+{
+    QFETCH(QString, missing);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run =
+        sandbox.run({QLatin1String("remove=") + missing, QStringLiteral("flags=0x20000001"),
+                     QStringLiteral("ext=record:null"), QStringLiteral("call")});
+    QCOMPARE(run.value("result"), QStringLiteral("1"));
+    QCOMPARE(run.value("record flags"), QStringLiteral("ffffffff"));
 }
 
 void TestEntryHosting::titleAndBannerOfTheRecord_data()

@@ -89,9 +89,11 @@ void TestEntryLifetime::hostGoesOnWithoutTheModule()
     // The last window's end goes through what the module connected on the host's object.
     const Sandbox sandbox;
     sandbox.addRequired();
-    const auto run = sandbox.run(words("application ext=application flags=0x10000013 call unload "
-                                       "mapped window unwindow window run delete"));
+    const auto run =
+        sandbox.run(words("application ext=application flags=0x10000013 call resources "
+                          "unload mapped resources window unwindow window run delete"));
     QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.values("resources"), words("yes no"));
     QCOMPARE(run.value("mapped"), QString(QLatin1String("")));
     QCOMPARE(run.value("loop"), QStringLiteral("0"));
     QCOMPARE(run.lines.last(), QStringLiteral("end"));

@@ -76,6 +76,7 @@ private Q_SLOTS:
     void destructionUnloads();
     void namesOutsideAscii();
     void longNameIsCut();
+    void errorTextOfALongNameIsCut();
 };
 
 void TestEntryLoader::beginsEmpty()
@@ -233,12 +234,26 @@ void TestEntryLoader::namesOutsideAscii()
 
 void TestEntryLoader::longNameIsCut()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows loads nothing by such a name");
+#endif
+    std::wstring directory = qEnvironmentVariable("KV_ENTRY_STUBS").toStdWString();
+    while (directory.size() < 2048) {
+        directory += L"/.";
+    }
+    LibraryLoader loader;
+    QVERIFY2(loader.load(directory + L"/stub_entry_empty"), loader.lastErrorText().c_str());
+    QCOMPARE(loader.fileName().size(), std::size_t(2048));
+    QVERIFY(loader.fileName() == directory.substr(0, 2048));
+}
+
+void TestEntryLoader::errorTextOfALongNameIsCut()
+{
     LibraryLoader loader;
     QVERIFY(!loader.load(std::wstring(5000, L'x')));
     QCOMPARE(loader.lastErrorCode(), 126U);
     QVERIFY(!loader.lastErrorText().empty());
     QVERIFY(loader.lastErrorText().size() <= 2048);
-    QVERIFY(loader.fileName().size() <= 2048);
 }
 
 QTEST_APPLESS_MAIN(TestEntryLoader)
