@@ -1,7 +1,27 @@
 #include "SkinSheet.h"
 #include "ToolkitWarnings.h"
 
+#include <QColor>
+#include <QRegularExpression>
 #include <QTest>
+
+namespace
+{
+
+/// The backgrounds that the metal skin has for the selectors.
+QMap<QString, QString> metalBackgrounds()
+{
+    const QString background = QStringLiteral("background");
+    QMap<QString, QString> backgrounds;
+    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal")))) {
+        if (rule.declarations.contains(background)) {
+            backgrounds.insert(rule.selector, rule.declarations.value(background));
+        }
+    }
+    return backgrounds;
+}
+
+} // namespace
 
 /// What the two style sheets say.
 class TestSkinSheets : public QObject
@@ -17,6 +37,8 @@ private Q_SLOTS:
     void metalHasRule_data();
     void metalHasRule();
     void metalTablesHaveTheGradientOfTheLog();
+    void metalIsBanded_data();
+    void metalIsBanded();
 };
 
 void TestSkinSheets::linesEndInCrLfAndAreAscii_data()
@@ -136,18 +158,44 @@ void TestSkinSheets::metalHasRule()
 
 void TestSkinSheets::metalTablesHaveTheGradientOfTheLog()
 {
-    QMap<QString, QString> backgrounds;
-    for (const SkinRule& rule : skinRules(skinText(QStringLiteral("metal")))) {
-        if (rule.declarations.contains(QStringLiteral("background"))) {
-            backgrounds.insert(rule.selector,
-                               rule.declarations.value(QStringLiteral("background")));
-        }
-    }
+    const QMap<QString, QString> backgrounds = metalBackgrounds();
     const QString log = backgrounds.value(QStringLiteral("QWidget#errorLog"));
     QCOMPARE(log, QStringLiteral("qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, "
                                  "stop: 0 #f6f7fa, stop: 1 #aaabae)"));
     QCOMPARE(backgrounds.value(QStringLiteral("QTableView")), log);
     QCOMPARE(backgrounds.value(QStringLiteral("QTableView *")), log);
+}
+
+// From top to bottom, with a step to a darker tone at the middle.
+void TestSkinSheets::metalIsBanded_data()
+{
+    QTest::addColumn<int>("darkest");
+    QTest::addColumn<int>("lightest");
+    QTest::newRow("QTabBar::tab") << 0 << 120;
+    QTest::newRow("QTabBar::tab:selected") << 200 << 255;
+    QTest::newRow("QTabBar::tab:hover") << 200 << 255;
+    QTest::newRow("QSplitter::handle") << 80 << 150;
+    QTest::newRow("QSplitter::handle:hover") << 200 << 255;
+}
+
+void TestSkinSheets::metalIsBanded()
+{
+    QFETCH(int, darkest);
+    QFETCH(int, lightest);
+    const QString value = metalBackgrounds().value(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY2(value.startsWith(QLatin1String("qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1,")),
+             qPrintable(value));
+    QMap<double, int> tones;
+    static const QRegularExpression stop(QStringLiteral("stop: ([0-9.]+) (#[0-9a-f]{6})"));
+    for (auto match = stop.globalMatch(value); match.hasNext();) {
+        const QRegularExpressionMatch found = match.next();
+        const int tone = qGray(QColor(found.captured(2)).rgb());
+        QVERIFY2(tone >= darkest && tone <= lightest, qPrintable(found.captured()));
+        tones.insert(found.captured(1).toDouble(), tone);
+    }
+    QCOMPARE(tones.keys(), QList<double>({0, 0.48, 0.52, 1}));
+    QVERIFY(tones[0.48] - tones[0.52] >= 12);
+    QVERIFY(tones[0] > tones[0.48]);
 }
 
 QTEST_GUILESS_MAIN(TestSkinSheets)
