@@ -48,6 +48,8 @@ void tellDiscLimits(const Stream& stream, const Report& report);
 bool exceedsPictureData(const Stream& stream, const Level& level);
 /// Fewest slices of a picture at a level. Needs a size and a profile.
 int leastSlices(const Stream& stream, const Level& level);
+/// Most bytes of an I picture of one view at a level; infinite without a limit. Likewise.
+double mostBytes(const Stream& stream, const Level& level);
 /// Whether a disc may have the picture format.
 bool isDiscFormat(const Stream& stream);
 void judgeDisc(const Stream& stream, Report& report);

@@ -179,9 +179,6 @@ bool Judge::judgeSize() const
     const int side = maxSideMbs(level);
     const bool large = stream.frameMbs > level.frameMbs;
     const bool uneven = stream.widthMbs > side || stream.heightMbs > side;
-    if (stream.disc && !isDiscFormat(stream)) {
-        return !large && !uneven; // the disc refuses it, and has no format of that size
-    }
     if (large) {
         say(pictureSize, level.name, static_cast<int>(level.frameMbs),
             static_cast<double>(stream.frameMbs));
@@ -194,7 +191,7 @@ bool Judge::judgeSize() const
 
 void Judge::judgeMbRate() const
 {
-    if (stream.frameRate > maxFrameRate || (stream.disc && !isDiscFormat(stream))) {
+    if (stream.frameRate > maxFrameRate) {
         return; // refused for that already
     }
     const double rate = macroblockRate(stream);
@@ -287,10 +284,7 @@ void Judge::judgeBuffer() const
 
 void Judge::judgeInterlace() const
 {
-    // A profile without interlace refuses it at every level.
-    const bool allowed = (!stream.profile || stream.profile->interlace) &&
-                         (!stream.multiview || stream.multiview->interlace);
-    if (allowed && stream.interlaced && level.framesOnly) {
+    if (stream.mayInterlace() && stream.interlaced && level.framesOnly) {
         say(interlace, level.name);
     }
 }
@@ -310,13 +304,16 @@ constexpr auto rules =
 
 void judgeLimits(const Stream& stream, const Level& level, const Level* other, Report& report)
 {
+    if (stream.disc && !isDiscFormat(stream)) {
+        return; // refused for that, and no format of a disc is beyond its level
+    }
     const Judge judge = {stream, level, other, report};
     const bool fits = judge.judgeSize();
-    judge.judgeMbRate();
     judge.judgeBitrate();
     judge.judgeBuffer();
     judge.judgeInterlace();
     if (fits) { // the rest would say the same in other numbers
+        judge.judgeMbRate();
         judgeLevelPictures(stream, level, report);
     }
 }

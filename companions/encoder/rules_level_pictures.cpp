@@ -258,10 +258,9 @@ void judgePictureBytes(const Stream& stream, const Level& level, Report& report)
     if (!stream.streamProfile()->limitsPictureBytes) {
         return;
     }
-    const double first = 384 * firstPictureMbs(stream, level) / level.minCompression;
     const double later = 384 * laterPictureMbs(stream, level) / level.minCompression;
     for (const PictureBytes& row : pictureBytes) {
-        judgeBytesOf(stream, level, row, row.first ? std::min(first, later) : later, report);
+        judgeBytesOf(stream, level, row, row.first ? mostBytes(stream, level) : later, report);
     }
 }
 
@@ -290,13 +289,23 @@ constexpr auto rules = joinRules(singles, rulesOf(pictureBytes), togetherRules);
 
 int leastSlices(const Stream& stream, const Level& level)
 {
-    if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs) {
+    const bool refused = stream.interlaced && !stream.mayInterlace();
+    if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs || refused) {
         return 1;
     }
     const bool pairs = stream.base.interlace_mode == KV_MVC_MBAFF;
     const std::int64_t rowMbs = stream.widthMbs * (pairs ? 2 : 1);
     const std::int64_t rowsASlice = std::max<std::int64_t>(level.frameMbs / 4 / rowMbs, 1);
     return static_cast<int>((sliceRows(stream.base) + rowsASlice - 1) / rowsASlice);
+}
+
+double mostBytes(const Stream& stream, const Level& level)
+{
+    if (!stream.streamProfile()->limitsPictureBytes) {
+        return std::numeric_limits<double>::infinity();
+    }
+    const double mbs = std::min(firstPictureMbs(stream, level), laterPictureMbs(stream, level));
+    return 384 * mbs / level.minCompression;
 }
 
 void judgeLevelPictures(const Stream& stream, const Level& level, Report& report)

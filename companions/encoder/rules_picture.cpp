@@ -124,15 +124,10 @@ constexpr SampleAspect predefined[] = {
     {80, 33}, {18, 11}, {15, 11}, {64, 33}, {160, 99}, {4, 3},   {3, 2},   {2, 1},
 };
 
-void judgeSize(const Stream& stream, Report& report)
+/// Whether a size can be cropped to. Discs have formats, and refuse all others as such.
+void judgeSteps(const Stream& stream, Report& report)
 {
     const KvMvcViewSettings& base = stream.base;
-    if (base.width < 16) {
-        report.say(smallWidth, base.width);
-    }
-    if (base.height < 16) {
-        report.say(smallHeight, base.height);
-    }
     // Cropping counts chroma samples, and rows of both fields at once.
     const bool mono = base.chroma_format == KV_MVC_CHROMA_400;
     const int across = mono ? 1 : 2;
@@ -143,6 +138,20 @@ void judgeSize(const Stream& stream, Report& report)
     }
     if (base.height >= 16 && base.height % down != 0) {
         report.say(heightStep, down, base.height);
+    }
+}
+
+void judgeSize(const Stream& stream, Report& report)
+{
+    const KvMvcViewSettings& base = stream.base;
+    if (base.width < 16) {
+        report.say(smallWidth, base.width);
+    }
+    if (base.height < 16) {
+        report.say(smallHeight, base.height);
+    }
+    if (!stream.disc) {
+        judgeSteps(stream, report);
     }
     if (stream.frameRate == 0) {
         report.say(rateUnset);

@@ -175,7 +175,10 @@ void judgeFullness(const Stream& stream, int v, Report& report)
     const std::int64_t bits = bufferBits(view);
     const std::int64_t rate = limitRate(view);
     const std::int64_t bytes = bits / 8;
-    if (view.frame_size_i > bytes) {
+    // Beyond the level's own limit a larger buffer does not help.
+    const Level* const level = findLevel(stream.disc ? discLevelCode : stream.base.level);
+    const bool judged = level && stream.sized && stream.streamProfile();
+    if (view.frame_size_i > bytes && !(judged && view.frame_size_i > mostBytes(stream, *level))) {
         report.sayOf(v, iPicture, static_cast<double>(bytes), view.frame_size_i);
     }
     if (const double time = static_cast<double>(bits) / static_cast<double>(rate); time < 0.5) {

@@ -73,6 +73,11 @@ struct Stream {
 
     /// The profile that limits rates and slices: the multiview profile, else the base view's.
     const Profile* streamProfile() const { return multiview ? multiview : profile; }
+    /// Whether the profiles allow interlaced pictures; others are refused at every level.
+    bool mayInterlace() const
+    {
+        return (!profile || profile->interlace) && (!multiview || multiview->interlace);
+    }
     /// Coded views that a sub-record stands for.
     int viewsLike(int subRecord) const { return subRecord == 0 ? 1 : views - 1; }
     /// Sums over all views.

@@ -239,16 +239,33 @@ constexpr RuleCase rows[] = {
          setBoth(r, &V::vbv_initial, 90001);
      },
      true},
-    {"hrd.i-size", "fills the buffer", 0, [](Record& r) { setBoth(r, &V::frame_size_i, 3750000); },
+    {"hrd.i-size", "fills the buffer", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate_buffer, 1000000);
+         setBoth(r, &V::frame_size_i, 1000000);
+     },
      false},
-    {"hrd.i-size", "one byte more", 0, [](Record& r) { setBoth(r, &V::frame_size_i, 3750001); },
+    {"hrd.i-size", "one byte more", 0,
+     [](Record& r) {
+         setBoth(r, &V::bitrate_buffer, 1000000);
+         setBoth(r, &V::frame_size_i, 1000001);
+     },
      true},
     {"hrd.i-size", "one byte more without HRD", 0,
      [](Record& r) {
-         setBoth(r, &V::frame_size_i, 3750001);
+         setBoth(r, &V::bitrate_buffer, 1000000);
+         setBoth(r, &V::frame_size_i, 1000001);
          setBoth(r, &V::hrd_mode, 0);
      },
      false},
+    {"hrd.i-size", "one byte more in view 1, level Auto", 2,
+     [](Record& r) {
+         setBoth(r, &V::level, 100);
+         r.views[1].frame_size_i = 1875001;
+     },
+     true},
+    {"hrd.i-size", "one byte more, and beyond the level", 0,
+     [](Record& r) { setBoth(r, &V::frame_size_i, 3750001); }, false},
     {"hrd.initial-short", "one frame time in ticks, 3754", 0,
      [](Record& r) {
          setBoth(r, &V::bitrate_units, 2);
