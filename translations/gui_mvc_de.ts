@@ -153,6 +153,22 @@ Soll sie überschrieben werden?</translation>
         <source>The encoder failed to check the settings.</source>
         <translation>Der Encoder konnte die Einstellungen nicht prüfen.</translation>
     </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>File %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Voreinstellung %1</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

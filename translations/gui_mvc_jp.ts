@@ -153,6 +153,22 @@ Do you want to overwrite it?</source>
         <source>The encoder failed to check the settings.</source>
         <translation>エンコーダーは設定を検査できませんでした。</translation>
     </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>やり直し: %1</translation>
+    </message>
+    <message>
+        <source>File %1</source>
+        <translation>ファイル %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>プリセット %1</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

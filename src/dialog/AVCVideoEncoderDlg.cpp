@@ -16,6 +16,7 @@
 #include "pages/WheelGuard.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
@@ -93,6 +94,10 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     settingsToState();
 
     shortcuts::add(this, ui.tabWidget, ui.errorLog);
+    shortcuts::addHistory(
+        this, [this] { turnHistory(&EditHistory::undo, tr("Undo: %1")); },
+        [this] { turnHistory(&EditHistory::redo, tr("Redo: %1")); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_history.interrupt(); });
     m_lastLoadDirectory = QStringLiteral("./");
     m_lastSaveDirectory = QStringLiteral("./");
     ui.tabWidget->setAcceptDrops(true);
@@ -103,6 +108,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
 
 AVCVideoEncoderDlg::~AVCVideoEncoderDlg()
 {
+    qApp->disconnect(this);
     // A field that loses the focus while the dialog is deleted still reports what was typed.
     for (SettingsPage* page :
          std::initializer_list<SettingsPage*>{m_basicPage, m_advancedPage, m_viewsPage}) {
@@ -257,9 +263,11 @@ void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
     if (!m_caller) {
         return;
     }
-    stateToSettings(state);
-    settingsToState();
-    check();
+    takeStep(describeEdit(state), keysOfNumber(state), [&] {
+        stateToSettings(state);
+        settingsToState();
+        check();
+    });
 }
 
 void AVCVideoEncoderDlg::takeSettings(const KvMvcSettings& settings)

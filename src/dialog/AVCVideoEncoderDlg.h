@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EditHistory.h"
 #include "model/ConfigState.h"
 #include "model/KeyTable.h"
 #include "model/Vocabulary.h"
@@ -80,6 +81,19 @@ private:
     /// The encoder's part of it; while the dialog is constructed, an exception goes through.
     bool runCheck(KvMvcSettings& settings);
 
+    /// Makes a change, and a step of the history of it and of all that follows from it.
+    void takeStep(const QString& text, const QString& goesOn, const std::function<void()>& change);
+    EditedState editedState() const { return {m_record, m_currentView}; }
+    /// Makes the state that a step of the history comes to the working copy, shows and checks it.
+    /// @param message What is told of it, with %1 for the step.
+    void turnHistory(std::optional<EditHistory::Turn> (EditHistory::*turn)(),
+                     const QString& message);
+    /// What the user chose, in words.
+    QString describeEdit(const ConfigState& state) const;
+    /// The keys of a number that is being changed, by which its changes in a row are known; empty
+    /// for other edits.
+    QString keysOfNumber(const ConfigState& state) const;
+
     void loadFromFile(const QString& path);
     void saveToFile(const QString& path);
     void dragEntersTabs(QDragEnterEvent* event);
@@ -93,6 +107,8 @@ private:
     /// A hook: set, it makes the next OK do nothing but clear it. Every check clears it, too.
     bool m_suppressNextAccept = false;
     bool m_updating = false;
+    EditHistory m_history;
+    bool m_isTakingStep = false;
     bool m_isUnderConstruction = true;
     bool m_isClosed = false;
     /// How often the encoder's check was called.

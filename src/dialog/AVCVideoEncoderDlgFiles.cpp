@@ -63,11 +63,13 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
     if (!settings) {
         return;
     }
-    takeSettings(*settings);
-    check();
-    if (self) {
-        settingsToState();
-    }
+    takeStep(tr("File %1").arg(QFileInfo(path).fileName()), {}, [&] {
+        takeSettings(*settings);
+        check();
+        if (self) {
+            settingsToState();
+        }
+    });
 }
 
 void AVCVideoEncoderDlg::saveToFile(const QString& path)

@@ -59,3 +59,10 @@ void shortcuts::add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log)
         }
     }
 }
+
+void shortcuts::addHistory(QDialog* dialog, const std::function<void()>& undo,
+                           const std::function<void()>& redo)
+{
+    bind(dialog, {Qt::CTRL | Qt::Key_Z}, undo);
+    bind(dialog, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, redo);
+}

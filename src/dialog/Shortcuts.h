@@ -1,12 +1,14 @@
 #pragma once
 
+#include <functional>
+
 class QDialog;
 class QTabWidget;
 class QTextEdit;
 
-/// The dialog's keys beside those of its controls; they work wherever the focus is, and change no
-/// setting:
+/// The dialog's keys beside those of its controls; they work wherever the focus is:
 /// - Ctrl+Tab, Ctrl+PgDown, and with Shift or PgUp back: the next tab; Ctrl+1 to 3: a certain one;
+/// - Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y: take an edit back, and back again;
 /// - F8: the message log;
 /// - F1: what the control with the focus is for. Shift+F1 the toolkit itself has for What's This.
 namespace shortcuts
@@ -14,5 +16,9 @@ namespace shortcuts
 
 /// Adds them; what a control's tip says becomes its What's This, where it has none.
 void add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log);
+
+/// Adds the keys of the history.
+void addHistory(QDialog* dialog, const std::function<void()>& undo,
+                const std::function<void()>& redo);
 
 } // namespace shortcuts

@@ -4,6 +4,9 @@
 #include "TypingGuard.h"
 #include "WheelGuard.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QLabel>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -19,6 +22,30 @@ void setBlocked(Control* control, const ConfigEntry& entry, Set set)
     control->setEnabled(entry.enabled);
 }
 
+/// As screen readers have it, but for lists, which they call by the chosen item.
+QString captionOf(const QWidget* control)
+{
+    if (!control) {
+        return {};
+    }
+    QString caption = control->accessibleName();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control);
+        caption.isEmpty() && button) {
+        caption = button->text();
+    }
+    const auto labels =
+        control->parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QLabel* label : labels) {
+        if (caption.isEmpty() && label->buddy() == control) {
+            caption = label->text();
+        }
+    }
+    if (caption.endsWith(QLatin1Char(':'))) {
+        caption.chop(1);
+    }
+    return caption.trimmed();
+}
+
 } // namespace
 
 SettingsPage::SettingsPage(QWidget* parent) : QFrame(parent) {}
@@ -28,6 +55,17 @@ void SettingsPage::receiveState(const ConfigState& state)
     for (const StateSetter& setFromState : std::as_const(m_setters)) {
         setFromState(state);
     }
+}
+
+QString SettingsPage::captionOf(const QString& key) const
+{
+    const QObject* control = controlOf(key);
+    if (const auto* group = qobject_cast<const QButtonGroup*>(control)) {
+        control = group->checkedButton();
+    }
+    const QString caption = ::captionOf(qobject_cast<const QWidget*>(control));
+    const bool isNamed = !caption.isEmpty() && !accessibleName().isEmpty();
+    return isNamed ? accessibleName() + QLatin1String(", ") + caption : caption;
 }
 
 void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter setFromState)

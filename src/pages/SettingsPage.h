@@ -25,6 +25,13 @@ public:
     /// empty value: no item, the smallest number, not checked, and enabled.
     virtual void receiveState(const ConfigState& state);
 
+    /// What edits the key: a control, or the group of buttons of which one is chosen; null when
+    /// none of this page's own does.
+    const QObject* controlOf(const QString& key) const { return controlKeys.key(key); }
+    /// What the page calls that, in the user's language, with the page's own name before it where
+    /// it has one.
+    QString captionOf(const QString& key) const;
+
 Q_SIGNALS:
     /// One edit by the user.
     void stateChanged(const ConfigState& state);

@@ -27,6 +27,11 @@ TypingGuard::TypingGuard(QSpinBox* field)
 
 bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride &&
+        isForTheDialog(static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return true;
+    }
     if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(watched, event);
     }
@@ -40,6 +45,12 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
     }
     event->accept();
     return true;
+}
+
+bool TypingGuard::isForTheDialog(const QKeyEvent* key) const
+{
+    return (key->matches(QKeySequence::Undo) && !(m_before && m_text->isUndoAvailable())) ||
+           (key->matches(QKeySequence::Redo) && !(m_before && m_text->isRedoAvailable()));
 }
 
 void TypingGuard::takeBack()

@@ -4,13 +4,14 @@
 
 #include <optional>
 
+class QKeyEvent;
 class QLineEdit;
 class QSpinBox;
 
 /// Enter and Escape in a field in which a number is being typed are for the number alone. Enter
 /// takes it, and does not also press the dialog's default button: what the check says of the number
 /// shall be seen first. Escape takes the typing back. Where nothing is typed both go on to the
-/// dialog.
+/// dialog, and so do the keys that undo and redo, which the text would keep for itself.
 class TypingGuard : public QObject
 {
     Q_OBJECT
@@ -23,6 +24,7 @@ public:
 private:
     explicit TypingGuard(QSpinBox* field);
 
+    bool isForTheDialog(const QKeyEvent* key) const;
     void takeBack();
 
     QSpinBox* m_field;

@@ -23,6 +23,8 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
     makeToolBox(ui.collectionFrame);
     for (std::size_t i = 0; i < std::size(views); ++i) {
         addPage(views[i], titles[i]);
+        // The four have the same captions.
+        views[i]->setAccessibleName(titles[i]);
     }
     m_additionalViews = {views[1], views[2], views[3]};
 }

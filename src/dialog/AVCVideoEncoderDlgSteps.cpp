@@ -1,0 +1,91 @@
+// What the user did, in steps that can be taken back.
+
+#include "AVCVideoEncoderDlg.h"
+
+#include "model/KeyNames.h"
+#include "pages/SettingsPage.h"
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QPointer>
+#include <QToolTip>
+
+#include <algorithm>
+
+void AVCVideoEncoderDlg::takeStep(const QString& text, const QString& goesOn,
+                                  const std::function<void()>& change)
+{
+    // What a page reports while it is told of an edit belongs to the edit.
+    if (m_isTakingStep) {
+        change();
+        return;
+    }
+    // Not a guard object: the host may delete the dialog meanwhile.
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    const EditedState before = editedState();
+    m_isTakingStep = true;
+    change();
+    if (self) {
+        m_isTakingStep = false;
+        m_history.add(before, editedState(), text, goesOn);
+    }
+}
+
+void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHistory::*turn)(),
+                                     const QString& message)
+{
+    if (m_isTakingStep) {
+        return;
+    }
+    const auto reached = (m_history.*turn)();
+    if (!reached) {
+        return;
+    }
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    m_isTakingStep = true;
+    m_record = reached->state.record;
+    m_currentView = reached->state.currentView;
+    settingsToState();
+    check();
+    if (self) {
+        m_isTakingStep = false;
+        QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()), message.arg(reached->text));
+    }
+}
+
+QString AVCVideoEncoderDlg::describeEdit(const ConfigState& state) const
+{
+    const auto pages = findChildren<SettingsPage*>();
+    QStringList captions;
+    const auto& entries = state.entries();
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        if (entry.key() == keys::videoType || entry.key() == keys::restorePreset) {
+            return tr("Preset %1").arg(entry->value.toString());
+        }
+        for (const SettingsPage* page : pages) {
+            const QString caption = page->captionOf(entry.key());
+            if (!caption.isEmpty()) {
+                captions += caption;
+                break;
+            }
+        }
+    }
+    return captions.join(QLatin1String("; "));
+}
+
+QString AVCVideoEncoderDlg::keysOfNumber(const ConfigState& state) const
+{
+    const auto pages = findChildren<SettingsPage*>();
+    const QStringList keys = state.entries().keys();
+    for (const QString& key : keys) {
+        const auto isNumber = [&key](const SettingsPage* page) {
+            const QObject* const control = page->controlOf(key);
+            return qobject_cast<const QAbstractSpinBox*>(control) ||
+                   qobject_cast<const QAbstractSlider*>(control);
+        };
+        if (std::none_of(pages.begin(), pages.end(), isNumber)) {
+            return {};
+        }
+    }
+    return keys.join(QLatin1Char('\n'));
+}
