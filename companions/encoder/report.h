@@ -35,7 +35,7 @@ public:
     void sayOf(int view, const ViewRule<Args...>& rule, std::type_identity_t<Args>... args)
     {
         if (view == 0 || !rule.viewFormat) {
-            send(rule, rule.ofBaseView ? 0 : KV_MVC_ALL_VIEWS, rule.format, std::tuple(), args...);
+            send(rule, rule.ofBaseView ? 0 : rule.subject.view, rule.format, std::tuple(), args...);
         } else {
             send(rule, view, rule.viewFormat, std::tuple(view), args...);
         }

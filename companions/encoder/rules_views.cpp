@@ -18,38 +18,54 @@ constexpr Rule<> otherTools = {
     "The advanced settings of view 1 differ from those of the base view.",
     "legal: parameter sets may differ"};
 constexpr Rule<int> beyondRecord = {
-    "views.beyond", Severity::Risk,
+    "views.beyond",
+    Severity::Risk,
     "The views up to view %d are coded like view 1: what is set for their rates is not used.",
-    "the record holds two views: the third and fourth count as the second does"};
-constexpr Rule<> splitOne = {"views.split", Severity::Note,
+    "the record holds two views: the third and fourth count as the second does",
+    {.setting = "num_views"}};
+constexpr Rule<> splitOne = {"views.split",
+                             Severity::Note,
                              "Split views has no effect: there is only one view.",
-                             "nothing to split"};
+                             "nothing to split",
+                             {.setting = "split_views"}};
 
 constexpr Rule<int> stereoViews = {
-    "mvc.stereo-views", Severity::Error,
+    "mvc.stereo-views",
+    Severity::Error,
     "Stereo High has two views (now %d): set 1 additional view, or choose another preset.",
-    "H.10.1.2"};
+    "H.10.1.2",
+    {.setting = "num_views", .value = 1}};
 constexpr Rule<> multiviewFrames = {
-    "mvc.frames", Severity::Error,
+    "mvc.frames",
+    Severity::Error,
     "Multiview High allows progressive pictures only: set the picture structure to Progressive.",
-    "H.10.1.1: frame_mbs_only_flag is 1 in all views"};
+    "H.10.1.1: frame_mbs_only_flag is 1 in all views",
+    {.setting = "interlace_mode"}};
 constexpr Rule<const char*> baseProfile = {
-    "mvc.base-profile", Severity::Error,
+    "mvc.base-profile",
+    Severity::Error,
     "With several views, the profile cannot be %s: choose Baseline, Main or High.",
-    "H.10.1: the base view conforms to High, Main or Constrained Baseline"};
-constexpr Rule<> chroma = {"mvc.chroma", Severity::Error,
+    "H.10.1: the base view conforms to High, Main or Constrained Baseline",
+    {.setting = "profile"}};
+constexpr Rule<> chroma = {"mvc.chroma",
+                           Severity::Error,
                            "With several views, the chroma format cannot be 4:2:2: choose 4:2:0.",
-                           "H.10.1.1, H.10.1.2"};
+                           "H.10.1.1, H.10.1.2",
+                           {.setting = "chroma_format"}};
 constexpr Rule<> depth = {
-    "mvc.depth", Severity::Error,
+    "mvc.depth",
+    Severity::Error,
     "With several views, luma and chroma have a bit-depth of 8: choose 8 bits.",
-    "H.10.1.1, H.10.1.2"};
+    "H.10.1.1, H.10.1.2",
+    {.setting = "bit_depth_luma"}};
 // Only the active references of a list are limited: frames beyond them may be kept.
 constexpr ViewRule<int, int, int> listSize = {
-    "mvc.list-size", Severity::Note,
+    "mvc.list-size",
+    Severity::Note,
     KV_EACH_VIEW("With %d views, a picture refers to at most %d frames at once; %d are kept, other "
                  "views included."),
-    "H.7.4.3: active references in a list, inter-view pictures included"};
+    "H.7.4.3: active references in a list, inter-view pictures included",
+    {.setting = "num_ref_frames", .value = 3, .limit = 2}};
 
 constexpr auto tools = selectFields<viewFields, [](const FieldRow<V>& row) {
     return row.shared == Sharing::Tools && row.field;

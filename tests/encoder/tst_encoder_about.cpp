@@ -6,6 +6,8 @@
 #include <cstring>
 
 #include "Encoder.h"
+#include "SettingsLedger.h"
+#include "rules.h"
 
 namespace
 {
@@ -74,6 +76,10 @@ const AboutCase aboutCases[] = {
      0,
      [](Record& r) { setBoth(r, &V::level, 30); },
      {KV_MVC_MESSAGE_ERROR, "level.picture", "level", -1, 8160, 1620, "3.0"}},
+    {"what view 1 got from the base view",
+     2,
+     [](Record& r) { r.views[1].width = 1280; },
+     {KV_MVC_MESSAGE_WARNING, "views.width", "width", 1, 1920, none, ""}},
     // Where no other level would do, the rule is the same in other words.
     {"a limit of all levels",
      0,
@@ -98,6 +104,7 @@ class TestEncoderAbout : public QObject
 private Q_SLOTS:
     void messagesAreAboutASetting_data();
     void messagesAreAboutASetting();
+    void settingsHaveTheirNamesInTheTable();
     void usesOfLimits_data();
     void usesOfLimits();
     void usesAreThoseOfTheLevelThatResults();
@@ -130,6 +137,26 @@ void TestEncoderAbout::messagesAreAboutASetting()
     QCOMPARE(about.value.value_or(-1), test.about.value.value_or(-1));
     QCOMPARE(about.limit.value_or(-1), test.about.limit.value_or(-1));
     QCOMPARE(about.level, test.about.level);
+}
+
+void TestEncoderAbout::settingsHaveTheirNamesInTheTable()
+{
+    // What has no single setting to look at.
+    const QByteArrayList ofSeveral = {"views.picture", "views.gop", "views.tools"};
+    QByteArrayList without;
+    for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
+        for (const kv::encoder::RuleInfo* rule : group.rules) {
+            if (!rule->subject.setting) {
+                without.append(rule->id);
+                continue;
+            }
+            QVERIFY2(std::ranges::any_of(
+                         ledger::settings(),
+                         [&](const auto& setting) { return setting.is(rule->subject.setting); }),
+                     rule->subject.setting);
+        }
+    }
+    QCOMPARE(without, ofSeveral);
 }
 
 void TestEncoderAbout::usesOfLimits_data()
