@@ -4,10 +4,10 @@
 #include "MessageJson.h"
 #include "MessageTexts.h"
 #include "SettingsFiles.h"
+#include "SettingsJson.h"
 #include "SettingsTable.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <array>
@@ -90,8 +90,7 @@ QByteArray resultsJson(const std::vector<Checked>& all, bool accepted)
         }
         object = {{QStringLiteral("accepted"), accepted}, {QStringLiteral("files"), files}};
     }
-    object[QStringLiteral("format_version")] = jsonFormatVersion;
-    return QJsonDocument(object).toJson();
+    return jsonText(object);
 }
 
 QByteArray resultsText(const std::vector<Checked>& all, bool notesToo)

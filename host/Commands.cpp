@@ -39,6 +39,16 @@ Exit code: 0 when the encoder accepts all settings, 1 when it refuses some, 2 on
 trouble.
 )";
 
+constexpr char reportHelp[] = R"(
+Tells for each level whether the settings in FILE fit it, and what keeps them
+from it; then how much of its limits they use at the level that they have, as
+bars. FILE may be -, which is standard input. The encoder tells all of it; of
+one that does not, only which levels it accepts is known.
+
+Exit code: 0 when the encoder accepts the settings, 1 when it refuses them, 2 on
+trouble.
+)";
+
 constexpr char defaultsHelp[] = R"(
 Writes a settings file with the defaults of a preset, and with what --set says
 over them.
@@ -89,6 +99,8 @@ constexpr Command commands[] = {
      true},
     {"check", "FILE...", 1, anyNumber, "Runs the encoder's check, without a window.", checkHelp,
      checkOptions, runCheck, false, true},
+    {"report", "FILE", 1, 1, "Tells which levels the settings fit.", reportHelp, reportOptions,
+     runReport, false, true},
     {"set", "FILE KEY=VALUE...", 2, anyNumber, "Sets settings in a file.", setHelp, setOptions,
      runSet, false, true},
     {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, defaultsOptions,

@@ -21,6 +21,9 @@ Outcome runDiff(const Invocation& call);
 QList<QCommandLineOption> checkOptions();
 Outcome runCheck(const Invocation& call);
 
+QList<QCommandLineOption> reportOptions();
+Outcome runReport(const Invocation& call);
+
 QList<QCommandLineOption> defaultsOptions();
 Outcome runDefaults(const Invocation& call);
 

@@ -55,6 +55,6 @@ QJsonObject limitJson(const LimitUse& use)
             {QStringLiteral("used"), use.used},
             {QStringLiteral("limit"), use.limit},
             {QStringLiteral("unit"), use.unit},
-            {QStringLiteral("rule"), use.rule},
+            {QStringLiteral("rule"), textOrNull(use.rule)},
             {QStringLiteral("level"), textOrNull(use.level)}};
 }

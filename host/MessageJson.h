@@ -5,12 +5,8 @@
 #include <QJsonObject>
 #include <QLatin1String>
 
-// What commands write as JSON; docs/json.md has it in words, docs/kv-mvc-settings.schema.json as a
+// What the encoder says, as JSON: docs/json.md has it in words, docs/messages.schema.json as a
 // schema.
-
-/// The version of the JSON that the program writes: it changes when a member goes or means
-/// something else, and stays when one is added.
-inline constexpr int jsonFormatVersion = 1;
 
 /// @return "error", "risk", "warning" or "note".
 QLatin1String kindName(CheckMessage::Kind kind);

@@ -1,6 +1,5 @@
 #include "SettingsJson.h"
 
-#include "MessageJson.h"
 #include "SettingsTable.h"
 
 #include <QJsonArray>
@@ -10,6 +9,9 @@
 
 namespace
 {
+
+/// It changes when a member goes or means something else, and stays when one is added.
+constexpr int formatVersion = 1;
 
 /// The reserved bytes that are not zero, in runs that begin at multiples: {OFFSET: DIGITS}.
 QJsonObject bytesJson(const KvMvcSettings& settings, int view)
@@ -51,7 +53,7 @@ QJsonObject scopeJson(std::span<const Setting> scope, const KvMvcSettings& setti
 
 QByteArray jsonText(QJsonObject object)
 {
-    object[QStringLiteral("format_version")] = jsonFormatVersion;
+    object[QStringLiteral("format_version")] = formatVersion;
     return QJsonDocument(object).toJson();
 }
 

@@ -158,6 +158,11 @@ std::span<const Setting> viewSettings()
     return viewTable;
 }
 
+std::span<const ValueName> levelNames()
+{
+    return namesOfLevel;
+}
+
 QLatin1String viewName(int view)
 {
     return viewNames.at(static_cast<std::size_t>(view));

@@ -50,6 +50,9 @@ struct Setting {
 std::span<const Setting> recordSettings();
 std::span<const Setting> viewSettings();
 
+/// The levels that the dialog offers, in its order.
+std::span<const ValueName> levelNames();
+
 /// "Base view", "View 1".
 QLatin1String viewName(int view);
 

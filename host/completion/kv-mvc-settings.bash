@@ -41,7 +41,7 @@ _kv_mvc_settings() {
 
     if [[ $COMP_CWORD -eq 1 ]]; then
         # shellcheck disable=SC2046 # one word an option
-        _kv_mvc_settings_words "$word" edit show check set defaults diff import export \
+        _kv_mvc_settings_words "$word" edit show check report set defaults diff import export \
             $(_kv_mvc_settings_options "$program")
         return
     fi
@@ -72,7 +72,7 @@ _kv_mvc_settings() {
                     # Behind the file come assignments.
                     [[ $COMP_CWORD -eq 2 || $previous == -* ]] && _kv_mvc_settings_files "$word" "$settings"
                     ;;
-                edit | show | check | diff | export) _kv_mvc_settings_files "$word" "$settings" ;;
+                edit | show | check | report | diff | export) _kv_mvc_settings_files "$word" "$settings" ;;
                 import) _kv_mvc_settings_files "$word" "$media" ;;
                 defaults) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
             esac

@@ -1,5 +1,6 @@
 #include "ExampleSettings.h"
 #include "HostProgram.h"
+#include "JsonSchema.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,6 +27,9 @@ private Q_SLOTS:
     void textsAreFoundAsTheDialogFindsThem();
     void languagesThatThereAreNot_data();
     void languagesThatThereAreNot();
+    void jsonFitsItsSchema_data();
+    void jsonFitsItsSchema();
+    void schemaRefuses();
     void firstEncoderNameWins();
     void realEncoderAcceptsItsDefaults_data();
     void realEncoderAcceptsItsDefaults();
@@ -34,6 +38,13 @@ private Q_SLOTS:
 
 namespace
 {
+
+/// @return What of the program's JSON is not as the schema of messages has it.
+QString problemOf(const HostProgram::Result& result)
+{
+    static const JsonSchema schema(QStringLiteral(KV_SOURCE_DIR "/docs/messages.schema.json"));
+    return schema.problemOf(QJsonDocument::fromJson(result.output.toUtf8()).object());
+}
 
 const QString a = QStringLiteral("a.ini");
 const QString fixedName = QStringLiteral("fixed.ini");
@@ -167,6 +178,7 @@ void TestHostCheck::severalFiles()
 
     result = program.run(arguments + QStringList{QStringLiteral("--json")}, {}, bad);
     QCOMPARE(result.exitCode, 1);
+    QCOMPARE(problemOf(result), QString());
     const QJsonObject all = QJsonDocument::fromJson(result.output.toUtf8()).object();
     QCOMPARE(all.keys().join(QLatin1Char(' ')), QStringLiteral("accepted files format_version"));
     QCOMPARE(all[QStringLiteral("accepted")], QJsonValue(false));
@@ -346,6 +358,52 @@ void TestHostCheck::languagesThatThereAreNot()
     QCOMPARE(result.error, QStringLiteral("kv-mvc-settings: %1\n").arg(line));
     QCOMPARE(result.output, QString());
     QCOMPARE(result.exitCode, 2);
+}
+
+void TestHostCheck::jsonFitsItsSchema_data()
+{
+    QTest::addColumn<QString>("encoder");
+    QTest::addColumn<int>("width");
+    for (const int width : {1, 2, 5, 7}) {
+        QTest::addRow("another encoder, %d", width) << QStringLiteral("stub") << width;
+    }
+    QTest::newRow("no messages") << QStringLiteral("stub") << 1920;
+    QTest::newRow("corrections") << QStringLiteral("real") << 1920;
+    QTest::newRow("errors") << QStringLiteral("real") << 0;
+    QTest::newRow("no level") << QStringLiteral("real") << 100000;
+}
+
+void TestHostCheck::jsonFitsItsSchema()
+{
+    QFETCH(QString, encoder);
+    QFETCH(int, width);
+    HostProgram program;
+    if (encoder == QStringLiteral("stub")) {
+        prepare(program, width);
+    } else {
+        program.addBuiltLibrary(QStringLiteral("kv_mvcenc"));
+        KvMvcSettings settings = settingsOfWidth(width);
+        // A code, a rate and a switch to correct.
+        settings.views[0].pulldown = 99;
+        settings.views[0].frame_rate = -1;
+        settings.views[1].hadamard = 7;
+        program.writeSettings(a, settings);
+    }
+    const HostProgram::Result result =
+        program.run({QStringLiteral("check"), QStringLiteral("--json"), a});
+    QCOMPARE(result.error, QString());
+    QCOMPARE(problemOf(result), QString());
+}
+
+void TestHostCheck::schemaRefuses()
+{
+    for (const char* const text : {"{}", R"({"format_version": 1, "accepted": true})",
+                                   R"({"format_version": 2, "accepted": true, "level": null,
+                                       "messages": [], "corrections": []})",
+                                   R"({"format_version": 1, "accepted": true, "level": null,
+                                       "messages": [{"kind": "hint"}], "corrections": []})"}) {
+        QVERIFY2(!problemOf({0, QString::fromLatin1(text), {}}).isEmpty(), text);
+    }
 }
 
 void TestHostCheck::firstEncoderNameWins()

@@ -116,9 +116,9 @@ void TestHostCommands::helpNamesEveryCommand()
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
     for (const char* line :
-         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE... ", "\n  set FILE KEY=VALUE... ",
-          "\n  defaults PRESET ", "\n  diff A B ", "\n  import MEDIA ", "\n  export FILE ",
-          "\n  -h, --help ", "\n  -v, --version "}) {
+         {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE... ", "\n  report FILE ",
+          "\n  set FILE KEY=VALUE... ", "\n  defaults PRESET ", "\n  diff A B ",
+          "\n  import MEDIA ", "\n  export FILE ", "\n  -h, --help ", "\n  -v, --version "}) {
         QVERIFY2(result.output.contains(QLatin1String(line)), line);
     }
     QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
@@ -139,6 +139,7 @@ void TestHostCommands::everyCommandHasHelp_data()
         "--no-file-buttons --no-initial-check --plain-log --no-banner --help");
     row("show", "FILE", "--json --help");
     row("check", "FILE...", "--json --language --notes --output --strict --help");
+    row("report", "FILE", "--json --language --help");
     row("set", "FILE KEY=VALUE...", "--output --help");
     row("defaults", "PRESET", "--output --set --help");
     row("diff", "A B", "--json --help");

@@ -25,10 +25,10 @@ private Q_SLOTS:
 namespace
 {
 
-const QStringList commandNames = {QStringLiteral("edit"),     QStringLiteral("show"),
-                                  QStringLiteral("check"),    QStringLiteral("set"),
-                                  QStringLiteral("defaults"), QStringLiteral("diff"),
-                                  QStringLiteral("import"),   QStringLiteral("export")};
+const QStringList commandNames = {
+    QStringLiteral("edit"),   QStringLiteral("show"),   QStringLiteral("check"),
+    QStringLiteral("report"), QStringLiteral("set"),    QStringLiteral("defaults"),
+    QStringLiteral("diff"),   QStringLiteral("import"), QStringLiteral("export")};
 
 QString textOf(const char* name)
 {
@@ -158,7 +158,7 @@ void TestHostDocuments::completionOffers_data()
         QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(offers);
     };
     // The last word of the line, after its last blank, is being typed.
-    row("", "--help --version check defaults diff edit export import set show");
+    row("", "--help --version check defaults diff edit export import report set show");
     row("d", "defaults diff");
     row("e", "edit export");
     row("--v", "--version");
@@ -169,6 +169,8 @@ void TestHostDocuments::completionOffers_data()
     row("diff a.ini ", "a.ini b.CFG folder");
     row("check --", "--help --json --language --notes --output --strict");
     row("check --language ", "de en ja");
+    row("report ", "a.ini b.CFG folder");
+    row("report --", "--help --json --language");
     row("check a.ini b", "b.CFG");
     row("check a.ini -o ", "a.ini b.CFG folder");
     row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
