@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <span>
 #include <string_view>
 #include <type_traits>
@@ -61,8 +62,8 @@ constexpr bool subjectTakes(const Subject& subject)
 {
     constexpr bool isText[] = {false, std::is_same_v<Args, const char*>...};
     const auto takes = [&](int argument, bool text) {
-        return argument == 0 || (argument > 0 && argument <= static_cast<int>(sizeof...(Args)) &&
-                                 isText[argument] == text);
+        const auto at = static_cast<std::size_t>(argument);
+        return argument == 0 || (at < std::size(isText) && isText[at] == text);
     };
     const bool known = !subject.setting || std::ranges::find(settingNames, subject.setting) !=
                                                std::ranges::end(settingNames);

@@ -160,9 +160,9 @@ struct Format {
     int height;
     double frameRate;
     bool interlaced;
+    bool ofTwoViews; ///< known of 3D discs
     int interval;
     SampleAspect aspects[2];
-    bool ofTwoViews = false; ///< known of 3D discs
 };
 
 constexpr double film = 24000.0 / 1001;
@@ -170,20 +170,20 @@ constexpr double ntsc = 30000.0 / 1001;
 constexpr double ntscDouble = 60000.0 / 1001;
 
 constexpr Format formats[] = {
-    {1920, 1080, film, false, 24, {{1, 1}, {1, 1}}, true},
-    {1920, 1080, 24, false, 24, {{1, 1}, {1, 1}}},
-    {1920, 1080, 25, true, 25, {{1, 1}, {1, 1}}},
-    {1920, 1080, ntsc, true, 30, {{1, 1}, {1, 1}}},
-    {1440, 1080, film, false, 24, {{4, 3}, {4, 3}}},
-    {1440, 1080, 24, false, 24, {{4, 3}, {4, 3}}},
-    {1440, 1080, 25, true, 25, {{4, 3}, {4, 3}}},
-    {1440, 1080, ntsc, true, 30, {{4, 3}, {4, 3}}},
-    {1280, 720, film, false, 24, {{1, 1}, {1, 1}}},
-    {1280, 720, 24, false, 24, {{1, 1}, {1, 1}}},
-    {1280, 720, 50, false, 50, {{1, 1}, {1, 1}}, true},
-    {1280, 720, ntscDouble, false, 60, {{1, 1}, {1, 1}}, true},
-    {720, 576, 25, true, 25, {{12, 11}, {16, 11}}},
-    {720, 480, ntsc, true, 30, {{10, 11}, {40, 33}}},
+    {1920, 1080, film, false, true, 24, {{1, 1}, {1, 1}}},
+    {1920, 1080, 24, false, false, 24, {{1, 1}, {1, 1}}},
+    {1920, 1080, 25, true, false, 25, {{1, 1}, {1, 1}}},
+    {1920, 1080, ntsc, true, false, 30, {{1, 1}, {1, 1}}},
+    {1440, 1080, film, false, false, 24, {{4, 3}, {4, 3}}},
+    {1440, 1080, 24, false, false, 24, {{4, 3}, {4, 3}}},
+    {1440, 1080, 25, true, false, 25, {{4, 3}, {4, 3}}},
+    {1440, 1080, ntsc, true, false, 30, {{4, 3}, {4, 3}}},
+    {1280, 720, film, false, false, 24, {{1, 1}, {1, 1}}},
+    {1280, 720, 24, false, false, 24, {{1, 1}, {1, 1}}},
+    {1280, 720, 50, false, true, 50, {{1, 1}, {1, 1}}},
+    {1280, 720, ntscDouble, false, true, 60, {{1, 1}, {1, 1}}},
+    {720, 576, 25, true, false, 25, {{12, 11}, {16, 11}}},
+    {720, 480, ntsc, true, false, 30, {{10, 11}, {40, 33}}},
 };
 
 const Format* findFormat(const Stream& stream)

@@ -236,7 +236,7 @@ Sum buffersOf(const Stream& stream)
 SumLimits limitsOf(const Stream& stream, std::int64_t units)
 {
     const Profile& all = *stream.streamProfile();
-    const Profile& base = stream.profile ? *stream.profile : all;
+    const Profile& base = stream.multiview && stream.profile ? *stream.profile : all;
     return {{units * base.nalFactor, units * all.nalFactor},
             {units * base.vclFactor, units * all.vclFactor}};
 }
@@ -284,7 +284,7 @@ void Judge::judgeBuffer() const
 
 void Judge::judgeInterlace() const
 {
-    if (stream.mayInterlace() && stream.interlaced && level.framesOnly) {
+    if (stream.mayInterlace && stream.interlaced && level.framesOnly) {
         say(interlace, level.name);
     }
 }

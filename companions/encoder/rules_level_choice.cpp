@@ -63,7 +63,7 @@ struct Search {
 
 Search searchLevels(const Stream& stream, bool isAuto)
 {
-    Search found = {nullptr, nullptr};
+    Search found = {nullptr, &levels().front()};
     int fewest = std::numeric_limits<int>::max();
     for (const Level& level : levels()) {
         if (level.code == 0 && !isAuto) {

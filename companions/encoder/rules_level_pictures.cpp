@@ -289,7 +289,7 @@ constexpr auto rules = joinRules(singles, rulesOf(pictureBytes), togetherRules);
 
 int leastSlices(const Stream& stream, const Level& level)
 {
-    const bool refused = stream.interlaced && !stream.mayInterlace();
+    const bool refused = stream.interlaced && !stream.mayInterlace;
     if (!stream.streamProfile()->limitsSliceSize || stream.pictureMbs <= freeSliceMbs || refused) {
         return 1;
     }

@@ -62,13 +62,14 @@ struct Message {
     Text id;
     Text sentence;
 };
-constexpr auto messages = [] {
-    return []<std::size_t... at>(std::index_sequence<at...>) {
-        return std::array{Message{idOfMember(rows[at]->member),
-                                  {"View 1 now has the base view's value, which all views share: ",
-                                   rows[at]->name, "."}}...};
-    }(std::make_index_sequence<rows.size()>());
-}();
+template <std::size_t... at>
+constexpr auto messagesOf(std::index_sequence<at...>)
+{
+    return std::array{Message{
+        idOfMember(rows[at]->member),
+        {"View 1 now has the base view's value, which all views share: ", rows[at]->name, "."}}...};
+}
+constexpr auto messages = messagesOf(std::make_index_sequence<rows.size()>());
 
 constexpr const char* basisOf(Sharing shared)
 {
@@ -82,16 +83,20 @@ struct Shared {
     const Row* row;
     ViewRule<> rule;
 };
-constexpr auto table = [] {
-    return []<std::size_t... at>(std::index_sequence<at...>) {
-        return std::array{Shared{rows[at],
-                                 {messages[at].id.at,
-                                  Severity::Warning,
-                                  {messages[at].sentence.at, nullptr},
-                                  basisOf(rows[at]->shared),
-                                  {.setting = rows[at]->member, .view = 1}}}...};
-    }(std::make_index_sequence<rows.size()>());
-}();
+constexpr ViewRule<> ruleAt(std::size_t at)
+{
+    return {messages[at].id.at,
+            Severity::Warning,
+            {messages[at].sentence.at, nullptr, false},
+            basisOf(rows[at]->shared),
+            {.setting = rows[at]->member, .view = 1}};
+}
+template <std::size_t... at>
+constexpr auto tableOf(std::index_sequence<at...>)
+{
+    return std::array{Shared{rows[at], ruleAt(at)}...};
+}
+constexpr auto table = tableOf(std::make_index_sequence<rows.size()>());
 
 // The frame rate of the picture is the one field that is no whole number.
 static_assert(std::ranges::count_if(viewFields, [](const Row& row) { return !row.field; }) == 1);

@@ -157,6 +157,7 @@ Stream::Stream(const KvMvcSettings& settings)
       frameMbs(widthMbs * heightMbs),
       pictureMbs(base.interlace_mode == KV_MVC_INTERLACED ? frameMbs / 2 : frameMbs),
       interlaced(base.interlace_mode != KV_MVC_PROGRESSIVE),
+      mayInterlace((!profile || profile->interlace) && (!multiview || multiview->interlace)),
       frameRate(base.frame_rate),
       outputRate(frameRate * outputFactor(base.pulldown)),
       predicts(base.i_interval != 1),

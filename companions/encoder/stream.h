@@ -64,6 +64,7 @@ struct Stream {
     std::int64_t frameMbs;
     std::int64_t pictureMbs; ///< macroblocks of a coded picture: half a frame for field pictures
     bool interlaced;         ///< field pictures or MBAFF
+    bool mayInterlace;       ///< the profiles allow that; others refuse it at every level
     double frameRate;        ///< coded frames per second; 0: not set
     double outputRate;       ///< frames per second at the shortest distance between output times
     bool predicts;           ///< there are other pictures than I pictures
@@ -73,11 +74,6 @@ struct Stream {
 
     /// The profile that limits rates and slices: the multiview profile, else the base view's.
     const Profile* streamProfile() const { return multiview ? multiview : profile; }
-    /// Whether the profiles allow interlaced pictures; others are refused at every level.
-    bool mayInterlace() const
-    {
-        return (!profile || profile->interlace) && (!multiview || multiview->interlace);
-    }
     /// Coded views that a sub-record stands for.
     int viewsLike(int subRecord) const { return subRecord == 0 ? 1 : views - 1; }
     /// Sums over all views.
