@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "Failure.h"
+#include "NearestName.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -42,20 +43,32 @@ QString programHelp(std::span<const Command> commands)
     return text;
 }
 
+QString examples(const Command& command)
+{
+    QString text = QStringLiteral("\nExamples:\n");
+    for (const QString& example : latin1(command.examples).split(QLatin1Char('\n'))) {
+        text +=
+            QStringLiteral("  %1 %2 %3\n").arg(latin1(programName), latin1(command.name), example);
+    }
+    return text;
+}
+
 QString commandHelp(const Command& command, const QCommandLineParser& parser)
 {
     // The parser's own page begins with a usage line that knows no commands.
     const QString page = parser.helpText();
     return usage(command) + QLatin1Char('\n') + latin1(command.description) +
-           page.mid(page.indexOf(QLatin1Char('\n')) + 1);
+           page.mid(page.indexOf(QLatin1Char('\n')) + 1) + examples(command);
 }
 
-[[noreturn]] void refuse(const Command* command, const QString& reason)
+/// @param hint As of didYouMean(); without one the help page is named.
+[[noreturn]] void refuse(const Command* command, const QString& reason, const QString& hint = {})
 {
     const QString page = command == nullptr
                              ? latin1(programName)
                              : latin1(programName) + QLatin1Char(' ') + latin1(command->name);
-    throw Failure(QStringLiteral("%1; see '%2 --help'").arg(reason, page));
+    throw Failure(hint.isEmpty() ? QStringLiteral("%1; see '%2 --help'").arg(reason, page)
+                                 : reason + hint);
 }
 
 /// "Unknown option 'x'." in the middle of a line.
@@ -71,11 +84,46 @@ const Command& findCommand(std::span<const Command> commands, const QString& nam
         return name == QLatin1String(command.name);
     });
     if (found == commands.end()) {
-        refuse(nullptr, name.startsWith(QLatin1Char('-'))
-                            ? QStringLiteral("unknown option '%1'").arg(name)
-                            : QStringLiteral("unknown command '%1'").arg(name));
+        QStringList names = {QStringLiteral("--help"), QStringLiteral("--version")};
+        for (const Command& command : commands) {
+            names << latin1(command.name);
+        }
+        refuse(nullptr,
+               name.startsWith(QLatin1Char('-')) ? QStringLiteral("unknown option '%1'").arg(name)
+                                                 : QStringLiteral("unknown command '%1'").arg(name),
+               didYouMean(name, names));
     }
     return *found;
+}
+
+/// The option as it was typed, of which the parser knows the bare name.
+QString asTyped(const QString& name, const QStringList& arguments)
+{
+    for (const QString& argument : arguments) {
+        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        const bool isLong = option.startsWith(QStringLiteral("--"));
+        if (option == QStringLiteral("--") + name ||
+            (!isLong && option.startsWith(QLatin1Char('-')) && option.contains(name))) {
+            return option;
+        }
+    }
+    return name;
+}
+
+/// What the parser did not understand.
+[[noreturn]] void refuseOptions(const Command& command, const QCommandLineParser& parser,
+                                const QStringList& arguments)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    if (unknown.isEmpty()) {
+        refuse(&command, asReason(parser.errorText()));
+    }
+    QStringList names = {QStringLiteral("--help")};
+    for (const QCommandLineOption& option : command.options()) {
+        names << QStringLiteral("--") + option.names().constLast();
+    }
+    const QString typed = asTyped(unknown.first(), arguments);
+    refuse(&command, QStringLiteral("unknown option '%1'").arg(typed), didYouMean(typed, names));
 }
 
 } // namespace
@@ -123,7 +171,7 @@ Invocation parseCommandLine(std::span<const Command> commands, const QStringList
         return call;
     }
     if (!understood) {
-        refuse(&command, asReason(parser.errorText()));
+        refuseOptions(command, parser, arguments.mid(2));
     }
     call.files = parser.positionalArguments();
     if (call.files.size() < command.minArguments) {

@@ -56,6 +56,8 @@ struct Command {
     bool opensDialog;
     /// "-" among its arguments is standard input.
     bool takesStandardInput;
+    /// The end of the help page, a line each: what may follow the command's name.
+    const char* examples;
 };
 
 /// The program's name, as it is printed before every message.

@@ -1,6 +1,7 @@
 #include "SettingsTable.h"
 
 #include "Failure.h"
+#include "NearestName.h"
 
 #include <QJsonValue>
 #include <QLocale>
@@ -293,7 +294,10 @@ qint32 requirePreset(const QString& text)
         return name.toLower().replace(QLatin1Char('-'), QLatin1Char(' '));
     };
     QStringList known;
+    QStringList typed; // as they are typed without quotes
     for (const ValueName& preset : namesOfVideoType) {
+        const QString name = preset.value == alias.value ? alias.text : preset.text;
+        typed << name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
         const QString number = QString::number(preset.value);
         if (text == number || folded(text) == folded(preset.text)) {
             return preset.value;
@@ -303,6 +307,9 @@ qint32 requirePreset(const QString& text)
     if (folded(text) == folded(alias.text)) {
         return alias.value;
     }
-    throw Failure(QStringLiteral("there is no preset '%1'; there are %2")
-                      .arg(text, known.join(QStringLiteral(", "))));
+    const QString hint = didYouMean(text, typed);
+    throw Failure(QStringLiteral("there is no preset '%1'").arg(text) +
+                  (hint.isEmpty()
+                       ? QStringLiteral("; there are ") + known.join(QStringLiteral(", "))
+                       : hint));
 }
