@@ -27,6 +27,17 @@ _kv_mvc_settings_list() {
     mapfile -t COMPREPLY < <(compgen -P "$before" -W "$*" -- "$word")
 }
 
+# _kv_mvc_settings_keys PROGRAM WORD: what assignments begin with; the program has all keys in a settings file.
+_kv_mvc_settings_keys() {
+    local view=
+    [[ $2 == *=* || $2 == = ]] && return
+    [[ $2 == view[01].* ]] && view=${2%%.*}.
+    compopt -o nospace 2>/dev/null
+    # shellcheck disable=SC2046 # one word a key
+    _kv_mvc_settings_words "$2" \
+        $("$1" defaults 0 2>/dev/null | sed -n "s/^\([a-z_0-9]*\) = .*/$view\1=/p" | sort -u)
+}
+
 # _kv_mvc_settings_options PROGRAM [COMMAND]: the options that the help page lists.
 _kv_mvc_settings_options() {
     "$@" --help 2>/dev/null | sed -n 's/^  \(-[a-z], \)\{0,1\}\(--[a-z-]*\).*/\2/p'
@@ -59,7 +70,8 @@ _kv_mvc_settings() {
         --language) _kv_mvc_settings_words "$word" en de ja ;;
         --to) _kv_mvc_settings_words "$word" x264 ffmpeg ;;
         --input | --stream) _kv_mvc_settings_files "$word" '' ;;
-        --title | --parent | --set | --view) ;;
+        --set) _kv_mvc_settings_keys "$program" "$word" ;;
+        --title | --parent | --view) ;;
         *)
             if [[ $word == -* ]]; then
                 # shellcheck disable=SC2046 # one word an option
@@ -69,10 +81,14 @@ _kv_mvc_settings() {
             fi
             case ${COMP_WORDS[1]} in
                 set)
-                    # Behind the file come assignments.
-                    [[ $COMP_CWORD -eq 2 || $previous == -* ]] && _kv_mvc_settings_files "$word" "$settings"
+                    # Behind the file come assignments; "=" is a word of its own.
+                    if [[ $COMP_CWORD -eq 2 || $previous == -* ]]; then
+                        _kv_mvc_settings_files "$word" "$settings|json"
+                    elif [[ $previous != = ]]; then
+                        _kv_mvc_settings_keys "$program" "$word"
+                    fi
                     ;;
-                edit | show | check | report | diff | export) _kv_mvc_settings_files "$word" "$settings" ;;
+                edit | show | check | report | diff | export) _kv_mvc_settings_files "$word" "$settings|json" ;;
                 import) _kv_mvc_settings_files "$word" "$media" ;;
                 defaults) _kv_mvc_settings_words "$word" "${presets[@]}" ;;
             esac

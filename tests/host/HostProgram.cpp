@@ -82,6 +82,18 @@ void HostProgram::addTexts()
     }
 }
 
+bool HostProgram::addMediaProbe()
+{
+    const QString library = QStringLiteral("kv_media_probe");
+    const QString worker = QStringLiteral("kv_media_probe_worker");
+    if (!QFile::exists(builtFile(library + librarySuffix))) {
+        return false;
+    }
+    addBuiltLibrary(library);
+    copy(builtFile(worker), m_directory.filePath(QStringLiteral("bin/") + worker));
+    return true;
+}
+
 void HostProgram::addStub(const QString& stub, const QString& baseName)
 {
     addLibrary(stubPath(stub), baseName);

@@ -26,6 +26,8 @@ public:
     void addLibrary(const QString& path, const QString& baseName);
     /// Also what the project builds beside the program, and the stubs of these tests.
     void addBuiltLibrary(const QString& baseName);
+    /// The real media library, with its worker. @return Whether it was built.
+    [[nodiscard]] bool addMediaProbe();
     /// The dialog's translations, and the library of the encoder's messages.
     void addTexts();
     void addStub(const QString& stub, const QString& baseName);

@@ -55,7 +55,23 @@ void TestHostCommands::wrongArgumentsGetOneLine_data()
     row("show nothing", text("show"), "too few arguments; see 'kv-mvc-settings show --help'");
     row("show two", text("show a b"), "too many arguments; see 'kv-mvc-settings show --help'");
     row("show with an option of others", text("show a -o b"),
-        "unknown option 'o'; see 'kv-mvc-settings show --help'");
+        "unknown option '-o'; see 'kv-mvc-settings show --help'");
+    row("command with a slip", text("chekc a"), "unknown command 'chekc'; did you mean 'check'?");
+    row("command unfinished", text("def 2"), "unknown command 'def'; did you mean 'defaults'?");
+    row("option with a slip", text("show --jsno a"),
+        "unknown option '--jsno'; did you mean '--json'?");
+    row("option with a value", text("edit --hostin=own"),
+        "unknown option '--hostin'; did you mean '--hosting'?");
+    row("option with one hyphen", text("check -strict a"),
+        "unknown option '-strict'; did you mean '--strict'?");
+    row("option of the program", text("--versoin"),
+        "unknown option '--versoin'; did you mean '--version'?");
+    row("option like no other", text("show --bogus a"),
+        "unknown option '--bogus'; see 'kv-mvc-settings show --help'");
+    row("preset with a slip", text("defaults sterio-high"),
+        "there is no preset 'sterio-high'; did you mean 'stereo-high'?");
+    row("preset of two words", text("defaults multivew-hihg"),
+        "there is no preset 'multivew-hihg'; did you mean 'multiview-high'?");
     row("check nothing", text("check"), "too few arguments; see 'kv-mvc-settings check --help'");
     row("diff one", text("diff a"), "too few arguments; see 'kv-mvc-settings diff --help'");
     row("diff three", text("diff a b c"), "too many arguments; see 'kv-mvc-settings diff --help'");
@@ -68,9 +84,9 @@ void TestHostCommands::wrongArgumentsGetOneLine_data()
     row("preset number", text("defaults 4"),
         "there is no preset '4'; there are 0 None, 1 Multivew High, 2 Stereo High, 3 Blu-ray 3D");
     row("preset name", text("edit --preset stereo"),
-        "there is no preset 'stereo'; there are 0 "
-        "None, 1 Multivew High, 2 Stereo High, 3 "
-        "Blu-ray 3D");
+        "there is no preset 'stereo'; did you mean 'stereo-high'?");
+    row("preset like no other", text("defaults vhs"),
+        "there is no preset 'vhs'; there are 0 None, 1 Multivew High, 2 Stereo High, 3 Blu-ray 3D");
     row("lock", text("edit --lock size,colour"),
         "--lock does not know 'colour': video-type, size, frame-rate, pixel-ratio, profile, level, "
         "views");

@@ -118,6 +118,13 @@ void TestHostDocuments::suffixesAreTheSameEverywhere_data()
     const char* const completion = "host/completion/kv-mvc-settings.bash";
     row("completion, settings", completion, "settings='[^']*'", "['|](\\w+)", settings);
     row("completion, media", completion, "media='[^']*'", "['|](\\w+)", media);
+    for (const char* file :
+         {"host/completion/_kv-mvc-settings", "host/completion/kv-mvc-settings.fish"}) {
+        row((std::string(file) + ", settings").c_str(), file, "\\bsettings[= ]'[^']*'",
+            "['|](\\w+)", settings);
+        row((std::string(file) + ", media").c_str(), file, "\\bmedia[= ]'[^']*'", "['|](\\w+)",
+            media);
+    }
     const char* const manual = "docs/kv-mvc-settings.1";
     row("manual, settings", manual, "their names end in.*?upper or lower", "^\\.IR? \\.(\\w+)",
         settings);
