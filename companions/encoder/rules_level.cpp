@@ -1,5 +1,6 @@
 // The limits of a level, and which other level would do.
 
+#include "level_rule.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -7,21 +8,6 @@ namespace kv::encoder
 
 namespace
 {
-
-/// A limit that another level may not have: the message names that level, if there is one that the
-/// stream may have.
-template <class... Args>
-struct LevelRule {
-    Rule<Args..., const char*> other;
-    Rule<Args...> none;
-};
-
-/// The subject of a rule's other words, which no other level is named in.
-constexpr Subject inOtherWords(const char* rule, Subject subject)
-{
-    subject.rule = rule;
-    return subject;
-}
 
 constexpr Subject ofLevel = {.setting = "level", .value = 3, .limit = 2, .level = 1};
 constexpr const char* sizeClause =
@@ -154,11 +140,7 @@ struct Judge {
     template <class... Args>
     void say(const LevelRule<Args...>& rule, std::type_identity_t<Args>... args) const
     {
-        if (other) {
-            report.say(rule.other, args..., other->name);
-        } else {
-            report.say(rule.none, args...);
-        }
+        sayLevel(report, rule, other, args...);
     }
     template <class... Args>
     void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args) const
@@ -289,12 +271,6 @@ void Judge::judgeInterlace() const
     }
 }
 
-template <class... Limits>
-constexpr auto bothRules(const Limits&... limits)
-{
-    return joinRules(std::array<const RuleInfo*, 2>{&limits.other, &limits.none}...);
-}
-
 constexpr auto rules =
     joinRules(bothRules(pictureSize, pictureSide, mbRate, mbRateViews, mbRatePulldown, interlace,
                         bitrate, bitrateViews, bitrateVcl),
@@ -314,7 +290,7 @@ void judgeLimits(const Stream& stream, const Level& level, const Level* other, R
     judge.judgeInterlace();
     if (fits) { // the rest would say the same in other numbers
         judge.judgeMbRate();
-        judgeLevelPictures(stream, level, report);
+        judgeLevelPictures(stream, level, other, report);
     }
 }
 

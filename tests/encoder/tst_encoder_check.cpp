@@ -110,7 +110,7 @@ constexpr Slip slips[] = {
     {"3 slices on a disc", 3, [](Record& r) { setBoth(r, &V::num_slices, 3); },
      "Level 4.1 needs at least 4 slices per picture at this size (now 3): use more."},
     {"5 references on a disc", 3, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); },
-     "Level 4.1 has room for 3 reference frames of this size in each of 2 views (now 5): use fewer."},
+     "Level 4.1 has room for 3 reference frames in each of 2 views (now 5): use fewer."},
     {"80 Mbit/s on a disc", 3, [](Record& r) { setBoth(r, &V::max_bitrate, 40000000); },
      "Blu-ray 3D allows both views together at most 60.00 Mbit/s (now 80.00): lower a bitrate."},
     {"100 Mbit/s in the base view of a disc", 3, [](Record& r) { r.views[0].max_bitrate = 100000000; },

@@ -306,22 +306,34 @@ void TestEncoderViews::referencesAreToldForEachView_data()
     QTest::newRow("3 each") << 3 << 3 << 3 << QByteArrayList()
                             << QByteArrayList{"Reference frames: 3 of the 3 per view that level "
                                               "4.1 has room for."};
-    QTest::newRow("4 each") << 4 << 4 << 3
-                            << QByteArrayList{"With B-frames, level 4.1 has room for 3 reference "
-                                              "frames in each of 2 views (now 4): use fewer."}
-                            << QByteArrayList();
+    QTest::newRow("4 each")
+        << 4 << 4 << 3
+        << QByteArrayList{"With B-frames, level 4.1 has room for 3 reference frames in each of 2 "
+                          "views (now 4): use fewer, or level 5.0."}
+        << QByteArrayList();
     QTest::newRow("4 each, no B-frames")
         << 4 << 4 << 1 << QByteArrayList()
         << QByteArrayList{"Reference frames: 4 of the 4 per view that level 4.1 has room for."};
     QTest::newRow("5 each, no B-frames")
         << 5 << 5 << 1
-        << QByteArrayList{"Level 4.1 has room for 4 reference frames of this size in each of 2 "
-                          "views (now 5): use fewer."}
+        << QByteArrayList{"Level 4.1 has room for 4 reference frames in each of 2 views (now 5): "
+                          "use fewer, or choose level 5.0."}
         << QByteArrayList();
-    QTest::newRow("5 each") << 5 << 5 << 3
-                            << QByteArrayList{"Level 4.1 has room for 3 reference frames of this "
-                                              "size in each of 2 views (now 5): use fewer."}
-                            << QByteArrayList();
+    QTest::newRow("5 each")
+        << 5 << 5 << 3
+        << QByteArrayList{"Level 4.1 has room for 3 reference frames in each of 2 views (now 5): "
+                          "use fewer, or choose level 5.0."}
+        << QByteArrayList();
+    QTest::newRow("9 each, which no level has room for")
+        << 9 << 9 << 3
+        << QByteArrayList{"Level 4.1 has room for 3 reference frames in each of 2 views (now 9): "
+                          "use fewer."}
+        << QByteArrayList();
+    QTest::newRow("8 each, which no level has room for with B-frames")
+        << 8 << 8 << 3
+        << QByteArrayList{"Level 4.1 has room for 3 reference frames in each of 2 views (now 8): "
+                          "use fewer."}
+        << QByteArrayList();
     QTest::newRow("uneven") << 3 << 2 << 3 << QByteArrayList()
                             << QByteArrayList{
                                    "Reference frames: 3 of the 4 per view that level 4.1 has room "
