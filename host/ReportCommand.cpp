@@ -20,7 +20,7 @@ namespace
 struct LevelReport {
     QString level;
     bool fits;
-    std::vector<CheckMessage> errors; ///< of the level's limits
+    std::vector<CheckMessage> objections; ///< errors and risks of the level's limits
     std::vector<LimitUse> exceeded;
 };
 
@@ -41,11 +41,12 @@ LevelReport reportOf(const QString& level, const CheckResult& result, bool told)
 {
     LevelReport report = {level, told || result.accepted, {}, {}};
     for (const CheckMessage& message : result.messages) {
-        if (message.kind == CheckMessage::Error && message.level == level) {
-            report.errors.push_back(message);
+        const bool refuses = message.kind == CheckMessage::Error;
+        if (message.level == level && (refuses || message.kind == CheckMessage::Risk)) {
+            report.fits = report.fits && !refuses;
+            report.objections.push_back(message);
         }
     }
-    report.fits = report.fits && report.errors.empty();
     std::copy_if(result.uses.begin(), result.uses.end(), std::back_inserter(report.exceeded),
                  [&](const LimitUse& use) { return use.level == level && isExceeded(use); });
     return report;
@@ -103,23 +104,31 @@ QString bar(const LimitUse& use)
            QStringLiteral(" %");
 }
 
+/// Whether it goes without saying that a limit is exceeded when the other one is: of one view, of
+/// all views; of a part ("Bitrate of pictures"), of the whole ("Bitrate").
+bool follows(const LimitUse& use, const LimitUse& other)
+{
+    const bool isPart = use.name.startsWith(other.name + QLatin1Char(' '));
+    return isPart || (use.name == other.name && use.view >= 0 && other.view < 0);
+}
+
 /// What keeps the settings from a level: the limits that they exceed, and the messages about what
 /// is no limit of an amount.
 QString reasonsText(const LevelReport& level)
 {
     QStringList reasons;
     for (const LimitUse& use : level.exceeded) {
-        const QString reason = nameOf(use);
-        if (!reasons.contains(reason)) {
-            reasons << reason;
+        if (std::none_of(level.exceeded.begin(), level.exceeded.end(),
+                         [&](const LimitUse& other) { return follows(use, other); })) {
+            reasons << nameOf(use);
         }
     }
-    for (const CheckMessage& error : level.errors) {
+    for (const CheckMessage& objection : level.objections) {
         const bool counted =
             std::any_of(level.exceeded.begin(), level.exceeded.end(),
-                        [&](const LimitUse& use) { return use.rule == error.rule; });
+                        [&](const LimitUse& use) { return use.rule == objection.rule; });
         if (!counted) {
-            reasons << error.text;
+            reasons << objection.text;
         }
     }
     return reasons.join(QStringLiteral("; "));
@@ -136,8 +145,12 @@ QString levelsText(const Report& report)
         } else if (report.isAuto && level.level == report.asSet.level()) {
             text += QStringLiteral(", taken");
         }
-        const QString reasons = level.fits ? QString() : reasonsText(level);
-        text += reasons.isEmpty() ? QStringLiteral("\n") : QStringLiteral(": %1\n").arg(reasons);
+        const QString reasons = reasonsText(level);
+        if (!reasons.isEmpty()) {
+            text +=
+                (level.fits ? QStringLiteral(", with a risk: ") : QStringLiteral(": ")) + reasons;
+        }
+        text += QLatin1Char('\n');
     }
     return text;
 }
@@ -183,13 +196,13 @@ QByteArray reportJson(const Report& report)
 {
     QJsonArray levels;
     for (const LevelReport& level : report.levels) {
-        QJsonArray errors;
-        for (const CheckMessage& error : level.errors) {
-            errors.append(messageJson(error));
+        QJsonArray objections;
+        for (const CheckMessage& objection : level.objections) {
+            objections.append(messageJson(objection));
         }
         levels.append(QJsonObject{{QStringLiteral("level"), level.level},
                                   {QStringLiteral("fits"), level.fits},
-                                  {QStringLiteral("messages"), errors},
+                                  {QStringLiteral("messages"), objections},
                                   {QStringLiteral("exceeded"), limitsJson(level.exceeded)}});
     }
     return jsonText({{QStringLiteral("accepted"), report.asSet.accepted},

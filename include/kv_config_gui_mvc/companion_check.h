@@ -425,9 +425,11 @@ static inline int kvMvcKeepLimitUse(void* context, const KvMvcLimitUse* use)
 {
     KvMvcLimitList* const list = (KvMvcLimitList*)context;
     KvMvcLimitUse* const copy = kvMvcCopyLimitUse(use);
+    /* An array of pointers. NOLINTBEGIN(bugprone-sizeof-expression) */
     KvMvcLimitUse** const longer =
         copy == NULL ? NULL
                      : (KvMvcLimitUse**)realloc(list->uses, (list->count + 1) * sizeof *longer);
+    /* NOLINTEND(bugprone-sizeof-expression) */
     if (longer == NULL) {
         free(copy);
         return 0;

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void levelsThatFit();
     void json();
     void autoTakesALevel();
+    void risksAreReported();
     void refusedSettingsAreReported();
     void encoderThatTellsNothing();
 };
@@ -84,9 +85,11 @@ void TestHostReport::levelsAndHeadroom()
     QCOMPARE(levels.size(), 18);
     QVERIFY2(levels.contains(QStringLiteral("  4.1   fits, set")), qPrintable(parts[0]));
     QVERIFY2(levels.contains(QStringLiteral("  5.2   fits")), qPrintable(parts[0]));
-    const QString four = levels.filter(QStringLiteral("  4.0   no: ")).value(0);
-    QVERIFY2(four.contains(QStringLiteral("Bitrate")) && !four.contains(QStringLiteral("rate,")),
-             qPrintable(parts[0]));
+    QVERIFY2(levels.contains(QStringLiteral("  4.0   no: Bitrate; Buffer")), qPrintable(parts[0]));
+    QVERIFY2(
+        levels.contains(QStringLiteral("  3.0   no: Picture size; Picture width; Macroblock rate; "
+                                       "Decoded pictures; Bitrate; Buffer")),
+        qPrintable(parts[0]));
     QCOMPARE(parts[1], QStringLiteral(
                            R"(Level 4.1
   Picture size                    ###################.   99 %  8160 of 8192 macroblocks
@@ -191,6 +194,33 @@ void TestHostReport::autoTakesALevel()
     QVERIFY2(text.contains(QStringLiteral("\n\nLevel 4.1, which Auto comes to\n")),
              qPrintable(text));
     QCOMPARE(jsonReport(program)[QStringLiteral("auto")], QJsonValue(true));
+}
+
+void TestHostReport::risksAreReported()
+{
+    // 27 Mbit/s at level 4: 25 for picture data, 30 in all (Table A-1, MaxBR 20000 times 1250,
+    // 1500).
+    HostProgram program;
+    prepare(program, QStringLiteral("0"),
+            {QStringLiteral("max_bitrate=27M"), QStringLiteral("level=4.0")});
+    const QString text = program.run({QStringLiteral("report"), a}).output;
+    QVERIFY2(
+        text.contains(QStringLiteral("\n  4.0   fits, set, with a risk: Bitrate of pictures\n")),
+        qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("####################  108 %  27 of 25 Mbit/s\n")),
+             qPrintable(text));
+    for (const QJsonValue& level : jsonReport(program)[QStringLiteral("levels")].toArray()) {
+        if (level[QStringLiteral("level")].toString() == QStringLiteral("4.0")) {
+            QCOMPARE(level[QStringLiteral("fits")], QJsonValue(true));
+            const QJsonValue risk = level[QStringLiteral("messages")].toArray().first();
+            QCOMPARE(risk[QStringLiteral("kind")], QJsonValue(QStringLiteral("risk")));
+            QCOMPARE(risk[QStringLiteral("rule")], QJsonValue(QStringLiteral("level.bitrate-vcl")));
+            QCOMPARE(risk[QStringLiteral("value")], QJsonValue(27000000));
+            QCOMPARE(risk[QStringLiteral("limit")], QJsonValue(25000000));
+            return;
+        }
+    }
+    QFAIL("no level 4.0");
 }
 
 void TestHostReport::refusedSettingsAreReported()
