@@ -136,9 +136,9 @@ bool tellsFurtherReferences(const KvMediaInfo& info)
 constexpr Remedy remedies[] = {
     {lowerMaximum, nullptr},
     {raiseSlices, "more slices are taken than it has", showsCoding},
-    {lowerBFrames, "fewer B-frames, and no references to them, are taken than it has", showsCoding},
     {lowerUntoldReferences, "fewer reference frames are taken in further views than it has",
      tellsFurtherReferences},
+    {lowerBFrames, "fewer B-frames, and no references to them, are taken than it has", showsCoding},
     {leaveLevelOpen, "its level is not kept, Auto is taken"},
     {cutPicture, "its picture is cut to a size that can be coded"},
     {roundAspect, "its pixel aspect ratio is rounded"},
