@@ -239,10 +239,13 @@ void Judge::judgeBitrate() const
         say(bitrate, level.name, millions(nal.base), millions(rates.base));
     } else if (rates.all > nal.all) {
         say(bitrateViews, level.name, millions(nal.all), stream.views, millions(rates.all));
-    } else if (rates.base > vcl.base) {
-        say(bitrateVcl, millions(rates.base), level.name, millions(vcl.base));
-    } else if (rates.all > vcl.all) {
-        say(bitrateVcl, millions(rates.all), level.name, millions(vcl.all));
+    } else if (exceeds(rates, vcl)) {
+        const bool ofBase = rates.base > vcl.base;
+        // No level may have room for it: the other one then only has it with headers, too.
+        const bool helps = other && !exceedsPictureData(stream, *other);
+        sayLevel(report, bitrateVcl, helps ? other : nullptr,
+                 millions(ofBase ? rates.base : rates.all), level.name,
+                 millions(ofBase ? vcl.base : vcl.all));
     }
 }
 

@@ -153,6 +153,8 @@ constexpr Advice advice[] = {
      "Of 55.00 Mbit/s, level 4.1 allows at most 50.00 for picture data: lower a bitrate, or choose level 5.0."},
     {"a rate between the highest level's limits", 0, [](Record& r) { setBoth(r, &V::level, 51); setBoth(r, &V::max_bitrate, 350000000); },
      "Of 350.00 Mbit/s, level 5.1 allows at most 300.00 for picture data: lower a bitrate."},
+    {"a rate between the limits of both highest levels", 0, [](Record& r) { setBoth(r, &V::level, 52); setBoth(r, &V::max_bitrate, 350000000); },
+     "Of 350.00 Mbit/s, level 5.2 allows at most 300.00 for picture data: lower a bitrate."},
     {"a buffer between the limits", 0, [](Record& r) { setBoth(r, &V::level, 40); setBoth(r, &V::max_bitrate, 25000000); setBoth(r, &V::bitrate_buffer, 4000000); },
      "Of 32.00 Mbit in bitrate buffers, level 4.0 allows at most 31.25 for picture data: make one smaller."},
 };
