@@ -12,6 +12,8 @@
 #include "pages/AdvancedPage.h"
 #include "pages/BasicPage.h"
 #include "pages/ControlLabel.h"
+#include "pages/TextFit.h"
+#include "pages/ToolBox.h"
 #include "pages/ViewsPage.h"
 #include "pages/WheelGuard.h"
 
@@ -23,6 +25,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QShowEvent>
+#include <QTabBar>
 
 #include <initializer_list>
 
@@ -125,6 +128,8 @@ void AVCVideoEncoderDlg::buildPresetRow()
     ui.presetList->addItems(m_vocabulary.videoTypes().keys());
     // A turn of the wheel in passing would replace every setting.
     WheelGuard::protect(ui.presetList);
+    text_fit::shrink(ui.presetList);
+    text_fit::shrink(ui.presetLabel);
     ControlLabel::attachBuddies(ui.presetList);
 }
 
@@ -148,6 +153,8 @@ void AVCVideoEncoderDlg::buildPages()
     }
     m_viewsPage = new ViewsPage(this);
     addPage(m_viewsPage, tr("Views"));
+
+    text_fit::shrink(ui.tabWidget->tabBar());
 
     // The pages came last, but stand before the buttons. Labels are in the chain, too.
     QWidget* last = previousInFocusChain();
@@ -367,6 +374,11 @@ void AVCVideoEncoderDlg::showEvent(QShowEvent* event)
         // Also where the host has made it the active window before it was shown, when the toolkit
         // found another place for the focus: the tab bar has no setting that a key could change.
         ui.tabWidget->setFocus();
+        // Room for the whole of the tab in front, as far as the screen has it.
+        layout()->activate();
+        if (const auto* const box = ui.tabWidget->currentWidget()->findChild<ToolBox*>()) {
+            resize(width(), height() + box->missingHeight());
+        }
     }
     QDialog::showEvent(event);
 }

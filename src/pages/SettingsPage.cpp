@@ -1,6 +1,7 @@
 #include "SettingsPage.h"
 
 #include "ControlLabel.h"
+#include "TextFit.h"
 #include "TypingGuard.h"
 #include "WheelGuard.h"
 
@@ -74,6 +75,9 @@ void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter se
     m_setters.append(std::move(setFromState));
     if (auto* field = qobject_cast<QSpinBox*>(control)) {
         TypingGuard::protect(field);
+        text_fit::shrink(field);
+    } else if (auto* list = qobject_cast<QComboBox*>(control)) {
+        text_fit::shrink(list);
     }
     if (auto* widget = qobject_cast<QWidget*>(control)) {
         WheelGuard::protect(widget);

@@ -1,11 +1,14 @@
 #include "ToolBox.h"
 
+#include "TextFit.h"
 #include "WheelGuard.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
@@ -116,6 +119,13 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     label->setFont(bold);
     label->setBuddy(button);
 
+    const auto buttons = page->findChildren<QAbstractButton*>();
+    for (QAbstractButton* inside : buttons) {
+        if (qobject_cast<QRadioButton*>(inside) || qobject_cast<QCheckBox*>(inside)) {
+            text_fit::wrap(inside);
+        }
+    }
+
     m_grid->addWidget(button, row, 0);
     m_grid->addWidget(label, row, 1);
     m_grid->addWidget(page, row + 1, 0, 1, 2);
@@ -160,4 +170,12 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
 int ToolBox::placeOf(const QWidget* widget) const
 {
     return widget->mapTo(m_scrollArea->viewport(), QPoint()).y();
+}
+
+int ToolBox::missingHeight() const
+{
+    const int width = m_scrollArea->viewport()->width();
+    const int needed =
+        m_grid->hasHeightForWidth() ? m_grid->heightForWidth(width) : m_grid->sizeHint().height();
+    return qMax(0, needed - m_scrollArea->viewport()->height());
 }

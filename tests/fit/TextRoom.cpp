@@ -86,7 +86,8 @@ void measureButton(const Button* button, QStyle::SubElement contents, Measure& m
     option.initFrom(button);
     option.text = button->text();
     const QRect room = button->style()->subElementRect(contents, &option, button);
-    measure.need(button, button->text(), room.intersected(button->rect()).size());
+    // On several lines where one is too narrow.
+    measure.needWrapped(button, button->text(), room.intersected(button->rect()).size());
 }
 
 void measureGroup(const QGroupBox* group, Measure& measure)

@@ -1,0 +1,96 @@
+// The dialog in the fonts of other desktops: nothing scrolls sideways or is cut, numbers are whole,
+// all tabs show.
+
+#include "DialogTest.h"
+#include "Language.h"
+#include "TextRoom.h"
+#include "ToolkitWarnings.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QScopeGuard>
+#include <QTest>
+
+class TestFitFonts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { failOnToolkitWarnings(); }
+
+    void textsFit_data();
+    void textsFit();
+    void tabInFrontIsWholeWhereTheScreenHasRoom();
+};
+
+void TestFitFonts::textsFit_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("skinKey");
+    for (const char* family : {"DejaVu Sans", "DejaVu Serif", "Noto Sans", "Noto Serif",
+                               "Cantarell", "Liberation Sans"}) {
+        for (int points = 8; points <= 12; ++points) {
+            // The languages whose letters these fonts have.
+            for (const char* language : {"en", "de"}) {
+                const Qt::Key skin = points % 2 == 0 ? Qt::Key_F5 : Qt::Key_F6;
+                QTest::addRow("%s %d, %s", family, points, language)
+                    << QString::fromLatin1(family) << points << QString::fromLatin1(language)
+                    << int(skin);
+            }
+        }
+    }
+}
+
+void TestFitFonts::textsFit()
+{
+    QFETCH(QString, family);
+    QFETCH(int, points);
+    QFETCH(QString, language);
+    QFETCH(int, skinKey);
+    const QFont former = QApplication::font();
+    const auto restore = qScopeGuard([&former] { QApplication::setFont(former); });
+    const QFont font(family, points);
+    QCOMPARE(QFontInfo(font).family(), family);
+    QApplication::setFont(font);
+    const Language installed(language);
+    QVERIFY(installed.isReady());
+
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key(skinKey));
+    QStringList faults;
+    for (int mode : {int(KV_MVC_VARIABLE_BITRATE), int(KV_MVC_CONSTANT_QUANTIZER)}) {
+        for (KvMvcViewSettings& view : dialog.probe().record().settings.views) {
+            view.bitrate_mode = mode;
+            view.hrd_mode = 1;
+            view.bitrate = view.max_bitrate = 220000000;
+            view.width = 1920;
+            view.height = 1080;
+        }
+        dialog.probe().settingsToState();
+        for (int tab = 0; tab < dialog.tabs()->count(); ++tab) {
+            dialog.tabs()->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            QCOMPARE(dialog->width(), 400);
+            faults += cutTexts(dialog.get()) + collisions(dialog.get());
+        }
+    }
+    faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestFitFonts::tabInFrontIsWholeWhereTheScreenHasRoom()
+{
+    // On the 800 pixels that there are here.
+    const QFont former = QApplication::font();
+    const auto restore = qScopeGuard([&former] { QApplication::setFont(former); });
+    QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), 11));
+    OpenDialog dialog;
+    for (const QScrollArea* area : dialog.tabs()->currentWidget()->findChildren<QScrollArea*>()) {
+        QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+    }
+}
+
+QTEST_MAIN(TestFitFonts)
+#include "tst_fit_fonts.moc"
