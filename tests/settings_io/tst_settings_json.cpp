@@ -205,6 +205,8 @@ void TestSettingsJson::problemsNameTheirLine_data()
     row("unknown key of the record", R"({"nam_views": 2, "views": [{}]})",
         "1: unknown key 'nam_views' in section 'record'; did you mean 'num_views'?");
     view(R"("widht": 3)", "2: unknown key 'widht' in section 'view 0'; did you mean 'width'?");
+    view(R"("\u00e4\ud83d\ude00": 3)",
+         "2: unknown key '\xC3\xA4\xF0\x9F\x98\x80' in section 'view 0'");
     view(R"("\u001b[2J": 3)", "2: unknown key '?[2J' in section 'view 0'");
     view(R"("num_views": 3)",
          "2: unknown key 'num_views' in section 'view 0'; it belongs in section 'record'");
