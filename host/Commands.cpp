@@ -82,10 +82,14 @@ Exit code: 0, or 2 on trouble.
 )";
 
 constexpr char exportHelp[] = R"(
-Prints what another encoder has to be told so that it codes the settings in
-FILE: a command line for a shell, that is for x264 or for ffmpeg with libx264.
-FILE may be -, which is standard input. What the encoder cannot do is told in
-notes on standard error; a name stands for each file that is not given.
+Writes what another encoder has to be told so that it codes the settings in
+FILE: for x264 and ffmpeg (libx264) a command line for a shell, and for jm, the
+standard's reference encoder, a configuration. What the encoder cannot do is
+told in notes on standard error; a name stands for each file that is not given.
+FILE may be -, which is standard input.
+
+x264 and ffmpeg code one view. jm codes two; the second then has a file of its
+own beside the one that -o names.
 
 Exit code: 0, or 2 on trouble.
 )";
@@ -128,7 +132,7 @@ constexpr Command commands[] = {
     {"export", "FILE", 1, 1, "Writes settings for another encoder.", exportHelp, exportOptions,
      runExport, false, true,
      "--to x264 --input left.y4m --stream left.264 film.cfg\n"
-     "--to ffmpeg --view 1 film.cfg -o encode.sh"},
+     "--to jm --input l.yuv --input r.yuv film.cfg -o jm.cfg"},
 };
 
 } // namespace

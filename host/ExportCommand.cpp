@@ -110,6 +110,15 @@ void requireExportName(const QString& path, const ExportTarget& target)
     }
 }
 
+/// Refuses to write over the settings, whose file may have a suffix that exports have, too.
+void requireOther(const QString& path, const QString& settings)
+{
+    const QString place = QFileInfo(path).canonicalFilePath();
+    if (!place.isEmpty() && place == QFileInfo(settings).canonicalFilePath()) {
+        throw Failure(QStringLiteral("cannot write '%1': the settings are in it").arg(path));
+    }
+}
+
 void writeFile(const QString& path, const QByteArray& text)
 {
     QSaveFile file(path);
@@ -166,8 +175,11 @@ Outcome runExport(const Invocation& call)
     if (!toFile) {
         return {ExitYes, text.text, noteLines(text.notes)};
     }
+    requireOther(output, call.files.first());
     if (!text.secondName.isEmpty()) {
-        writeFile(QFileInfo(output).dir().filePath(text.secondName), text.secondText);
+        const QString second = QFileInfo(output).dir().filePath(text.secondName);
+        requireOther(second, call.files.first());
+        writeFile(second, text.secondText);
     }
     writeFile(output, text.text);
     return {ExitYes, {}, noteLines(text.notes)};

@@ -11,6 +11,8 @@
 struct ExportJob {
     const KvMvcSettings& record;
     const KvMvcViewSettings& view;
+    /// How many views are coded together with it, itself among them.
+    int codedViews;
     /// The input has no header that describes its pictures.
     bool isRawInput;
 };

@@ -19,6 +19,14 @@ constexpr char ffmpegDescription[] =
     "x264, and of the streams in one the first with video is taken. What is written is the video\n"
     "alone, in the container that its name asks for; a file of that name is replaced.";
 
+constexpr char jmDescription[] = "The configuration of `lencod`, the encoder of the standard's "
+                                 "reference software, for `lencod -d\n"
+                                 "film.cfg` in the folder of that file. It codes two views, with "
+                                 "prediction between them, or with\n"
+                                 "`--view` one. The second view has a file of its own beside it, "
+                                 "`film_view1.cfg`. Inputs are raw\n"
+                                 "planar pictures. Names of files are told from that folder.";
+
 } // namespace
 
 const std::vector<ExportTarget>& exportTargets()
@@ -27,6 +35,7 @@ const std::vector<ExportTarget>& exportTargets()
     static const std::vector<ExportTarget> targets = {
         {"x264", "x264", x264Description, x264Table, writeX264, scripts, 1},
         {"ffmpeg", "ffmpeg", ffmpegDescription, ffmpegTable, writeFfmpeg, scripts, 1},
+        {"jm", "jm", jmDescription, jmTable, writeJm, {QStringLiteral("cfg")}, 2},
     };
     return targets;
 }
@@ -36,7 +45,8 @@ ExportJob jobOf(const ExportTask& task, int view)
     // Views beyond the record's are like the last of them.
     const int held =
         std::min<int>(task.views.at(static_cast<std::size_t>(view)), KV_MVC_RECORD_VIEWS - 1);
-    return {task.settings, task.settings.views[held], isRawPictures(task.inputs.at(view))};
+    return {task.settings, task.settings.views[held], static_cast<int>(task.views.size()),
+            isRawPictures(task.inputs.at(view))};
 }
 
 bool isRawPictures(const QString& input)

@@ -55,3 +55,5 @@ const ExportTable& x264Table();
 ExportText writeX264(const ExportTask& task);
 const ExportTable& ffmpegTable();
 ExportText writeFfmpeg(const ExportTask& task);
+const ExportTable& jmTable();
+ExportText writeJm(const ExportTask& task);

@@ -57,7 +57,7 @@ _kv_mvc_settings() {
         return
     fi
     case ${COMP_WORDS[1]}:$previous in
-        export:-o | export:--output) _kv_mvc_settings_files "$word" 'sh|txt'; return ;;
+        export:-o | export:--output) _kv_mvc_settings_files "$word" 'sh|txt|cfg'; return ;;
     esac
     case $previous in
         -o | --output) _kv_mvc_settings_files "$word" "$settings" ;;
@@ -68,7 +68,7 @@ _kv_mvc_settings() {
             ;;
         --banner) _kv_mvc_settings_files "$word" '' ;;
         --language) _kv_mvc_settings_words "$word" en de ja ;;
-        --to) _kv_mvc_settings_words "$word" x264 ffmpeg ;;
+        --to) _kv_mvc_settings_words "$word" x264 ffmpeg jm ;;
         --input | --stream) _kv_mvc_settings_files "$word" '' ;;
         --set) _kv_mvc_settings_keys "$program" "$word" ;;
         --title | --parent | --view) ;;

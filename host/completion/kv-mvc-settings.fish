@@ -59,7 +59,7 @@ complete -c kv-mvc-settings -n '__kv_mvc_settings_in check report' -l language -
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in check' -l notes -d "Print the encoder's notes in any case"
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in check' -l strict -d 'Refuse settings with risks, too'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in defaults' -l set -x -a '(__kv_mvc_settings_keys)' -d 'Set a setting'
-complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -l to -x -a 'x264 ffmpeg' -d 'The encoder'
+complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -l to -x -a 'x264 ffmpeg jm' -d 'The encoder'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -l input -r -F -d 'The pictures of a view'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -l stream -r -F -d 'The stream that is encoded'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -l view -x -a '0 1' -d 'The view that is coded'

@@ -68,6 +68,36 @@ inline void addRows(std::span<const ExportCase> cases)
     }
 }
 
+/// Moving pictures in the format of the settings, but always at 25 a second.
+/// @param file Its suffix is "yuv" or "y4m".
+/// @param shift How far to the right the view looks, up to 8 samples.
+/// @return What failed.
+inline QString makePictures(const KvMvcViewSettings& view, const QString& file,
+                            const ExportCase& row, int shift = 0)
+{
+    const QString chroma = QLatin1String(view.chroma_format == KV_MVC_CHROMA_400   ? "gray"
+                                         : view.chroma_format == KV_MVC_CHROMA_422 ? "yuv422p"
+                                                                                   : "yuv420p");
+    const QString depth = QLatin1String(view.bit_depth_luma > 8 ? "10le" : "");
+    const QString change = row.sceneChange > 0
+                               ? QStringLiteral(",negate=enable=gte(n\\,%1)").arg(row.sceneChange)
+                               : QString();
+    // YUV4MPEG2 of deep samples is no standard.
+    const QString arguments =
+        QStringLiteral("-f lavfi -i testsrc=size=%1x%2:rate=25,crop=%3:%2:%4:0%5 -frames:v %6 "
+                       "-pix_fmt %7 -strict -1 ")
+            .arg(view.width + 8)
+            .arg(view.height)
+            .arg(view.width)
+            .arg(shift)
+            .arg(change)
+            .arg(row.frames)
+            .arg(chroma + depth);
+    const bool isRaw = file.endsWith(QLatin1String(".yuv"));
+    return QString::fromUtf8(
+        makeMedia(arguments + QLatin1String(isRaw ? "-f rawvideo" : ""), file));
+}
+
 class RealEncode
 {
 public:
@@ -84,7 +114,7 @@ public:
         m_program.writeSettings(QStringLiteral("settings.cfg"), settings);
         const QString input = QStringLiteral("input.") + QLatin1String(suffix);
         QFile::remove(m_program.path(stream));
-        QString failure = makeInput(settings.views[0], input, row);
+        QString failure = makePictures(settings.views[0], m_program.path(input), row);
         if (failure.isEmpty()) {
             failure = encode(target, input, view);
         }
@@ -130,30 +160,6 @@ private:
         probe.waitForFinished();
         return QString::fromUtf8(probe.readAllStandardError() + probe.readAllStandardOutput())
             .trimmed();
-    }
-
-    /// Moving pictures in the format of the settings, but always at 25 a second.
-    QString makeInput(const KvMvcViewSettings& view, const QString& name,
-                      const ExportCase& row) const
-    {
-        const QString chroma = QLatin1String(view.chroma_format == KV_MVC_CHROMA_400   ? "gray"
-                                             : view.chroma_format == KV_MVC_CHROMA_422 ? "yuv422p"
-                                                                                       : "yuv420p");
-        const QString depth = QLatin1String(view.bit_depth_luma > 8 ? "10le" : "");
-        // YUV4MPEG2 of deep samples is no standard.
-        const QString arguments =
-            QStringLiteral("-f lavfi -i testsrc=size=%1x%2:rate=25%5 -frames:v %3 -pix_fmt "
-                           "%4 -strict -1")
-                .arg(view.width)
-                .arg(view.height)
-                .arg(row.frames)
-                .arg(chroma + depth,
-                     row.sceneChange > 0
-                         ? QStringLiteral(",negate=enable=gte(n\\,%1)").arg(row.sceneChange)
-                         : QString());
-        const bool isRaw = name.endsWith(QLatin1String(".yuv"));
-        return QString::fromUtf8(makeMedia(arguments + QLatin1String(isRaw ? " -f rawvideo" : ""),
-                                           m_program.path(name)));
     }
 
     QString encode(const char* target, const QString& input, int view) const

@@ -259,7 +259,7 @@ void TestHostCompletion::fishOffers_data()
     row("check --language ", "de en ja");
     row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
     row("import ", "folder/ movie.MP4 stream.ts");
-    row("export --to ", "ffmpeg x264");
+    row("export --to ", "ffmpeg jm x264");
     row("edit --hosting ", "host native own");
     row("edit --lock size,v", "size,video-type size,views");
     row("edit --preset s", "stereo-high");

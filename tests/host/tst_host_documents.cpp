@@ -190,7 +190,7 @@ void TestHostDocuments::completionOffers_data()
     row("import ", "folder movie.MP4 stream.ts");
     row("import movie.MP4 -o a", "a.ini");
     row("export ", "a.ini b.CFG folder");
-    row("export --to ", "ffmpeg x264");
+    row("export --to ", "ffmpeg jm x264");
     row("export --to x264 --input s", "stream.ts");
     row("export --to x264 -o n", "notes.txt");
     row("export --view ", "");

@@ -27,8 +27,11 @@ private Q_SLOTS:
     void namesAreNoAddressesOfFfmpeg();
     void standardStreamsAreTold_data();
     void standardStreamsAreTold();
-    void whatIsLostIsTold_data();
-    void whatIsLostIsTold();
+    void configurationHasTwoFiles();
+    void configurationOfOneViewHasOne();
+    void configurationNamesFilesFromItsFolder();
+    void settingsAreNotWrittenOver_data();
+    void settingsAreNotWrittenOver();
     void outputReplacesAFile();
     void settingsComeOnStandardInput();
     void documentHasEverySettingOnce_data();
@@ -142,8 +145,8 @@ void TestHostExport::linesAreRefused_data()
     const auto row = [](const char* arguments, const char* line) {
         QTest::newRow(arguments) << words(arguments) << QString::fromUtf8(line);
     };
-    row("", "--to is missing: x264 or ffmpeg");
-    row("--to h265", "there is no export to 'h265'; there are x264 and ffmpeg");
+    row("", "--to is missing: x264, ffmpeg or jm");
+    row("--to h265", "there is no export to 'h265'; there are x264, ffmpeg and jm");
     row("--to x264 --view 2", "there is no view '2'; the settings have views 0 to 1");
     row("--to x264 --view left", "there is no view 'left'; the settings have views 0 to 1");
     row("--to x264 --view -1", "there is no view '-1'; the settings have views 0 to 1");
@@ -158,6 +161,19 @@ void TestHostExport::linesAreRefused_data()
     }
     row("--to ffmpeg -o out.mp4", "cannot write 'out.mp4': the name of an export to ffmpeg ends in "
                                   ".sh (--stream names what is encoded)");
+    row("--to jm", "two views have two files: -o names the first");
+    row("--to jm -o -", "two views have two files: -o names the first");
+    row("--to jm -o film.sh", "cannot write 'film.sh': the name of an export to jm ends in .cfg "
+                              "(--stream names what is encoded)");
+    row("--to jm -o film.cfg --input a.yuv", "there is no input for view 1");
+    row("--to jm -o film.cfg --input a.yuv --input b.y4m",
+        "JM reads planar pictures without a header, not 'b.y4m'");
+    row("--to jm --view 1 --input -", "JM reads planar pictures without a header, not '-'");
+    for (const char* name : {"a#b.264", "a\"b.264", "a%3d.264"}) {
+        QTest::newRow(name) << (words("--to jm -o film.cfg --stream") << QString::fromUtf8(name))
+                            << QStringLiteral("JM's configuration has no way to name the file '%1'")
+                                   .arg(QLatin1String(name));
+    }
     row("--to x264 -o folder.sh", "cannot write 'folder.sh': it is no file");
 }
 
@@ -174,6 +190,8 @@ void TestHostExport::linesAreRefused()
     QCOMPARE(result.output, QString());
     QCOMPARE(result.exitCode, 2);
     QCOMPARE(m_program.content(QStringLiteral("out.264")), QByteArray("a stream"));
+    QVERIFY(!m_program.fileNames().contains(QStringLiteral("film.cfg")));
+    QVERIFY(!m_program.fileNames().contains(QStringLiteral("film_view1.cfg")));
 }
 
 void TestHostExport::eachViewHasItsInput_data()
@@ -292,116 +310,88 @@ void TestHostExport::standardStreamsAreTold()
     QVERIFY2(result.output.endsWith(end), qPrintable(result.output));
 }
 
-void TestHostExport::whatIsLostIsTold_data()
+void TestHostExport::configurationHasTwoFiles()
 {
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<QString>("set");
-    QTest::addColumn<QString>("error");
-    const auto row = [](const char* target, const char* set, const char* error) {
-        QTest::addRow("%s, %s", target, set)
-            << QString::fromUtf8(target) << QString::fromUtf8(set)
-            << (*error == '\0' ? QString()
-                               : QStringLiteral("note: %1\n").arg(QLatin1String(error)));
-    };
-    row("x264", "", "");
-    row("x264", "level=16", "Level: it is no level of H.264, x264 chooses one");
-    row("x264", "level=100", "");
-    row("x264", "profile=1 entropy_mode=0 ref_distance=1",
-        "Profile: x264 writes the lowest profile that has what is used");
-    row("x264", "profile=1 entropy_mode=0", "");
-    row("x264", "profile=4", "Profile: x264 writes the lowest profile that has what is used");
-    row("x264", "profile=4 bit_depth_luma=10 bit_depth_chroma=10", "");
-    row("x264", "profile=7", "Profile: its value is none that is known");
-    row("x264", "frame_rate=0", "Frame rate: it is not set, the input's or 25 is taken");
-    row("x264", "interlace_mode=1", "Picture structure: x264 codes MBAFF frames, not fields");
-    row("x264", "interlace_mode=2", "");
-    row("x264", "pulldown=1", "Pulldown: x264 starts with the frame of three fields");
-    row("x264", "pulldown=2", "");
-    row("x264", "pulldown=2 field_order=1",
-        "Field order: in progressive pictures x264 starts with the top field");
-    row("x264", "pulldown=4 field_order=1", "");
-    row("x264", "pulldown=5", "Pulldown: x264 starts with the frame that is shown twice");
-    row("x264", "pulldown=6", "Pulldown: x264 chooses none by itself");
-    row("x264", "chroma_format=4", "Chroma format: x264 has no such format");
-    row("x264", "bit_depth_chroma=10",
-        "Bit-depth chroma: x264 codes chroma in as many bits as luma");
-    row("x264", "bit_depth_chroma=10 chroma_format=1", "");
-    row("x264", "bitrate=20000500 max_bitrate=30000500",
-        "Target bitrate (bps), Max bitrate (bps): rates and buffers are rounded to thousands of "
-        "bits");
-    row("x264", "bitrate_buffer=1000001",
-        "Bitrate buffer: rates and buffers are rounded to thousands of bits");
-    row("x264", "vbv_target=80",
-        "VBV buffer target: x264 keeps the buffer as full as it finds best");
-    row("x264", "vbv_target=80 hrd_mode=0", "");
-    row("x264", "bitrate_mode=1", "HRD conformance: no buffer is kept without a bit rate");
-    row("x264", "bitrate_mode=1 hrd_mode=0", "");
-    row("x264", "frame_size_i=200000 frame_size_bref=1",
-        "Maximum I-frame size, Maximum Br-frame size: x264 limits no picture's size");
-    row("x264", "bitrate_mode=3 hrd_mode=0 quant_i=2",
-        "Quantizer I-frames: x264 keeps it within 19 of that of P-frames");
-    row("x264", "quant_i=2", "");
-    row("x264", "bitrate_mode=1 hrd_mode=0 quant_i=0 quant_p=0 quant_b=0",
-        "Quantizer P-frames: the lowest is lossless coding, the next is taken");
-    row("x264", "force_i=5",
-        "Min. I-frame distance: at a nearer scene change x264 codes an I-frame that is no IDR "
-        "picture");
-    row("x264", "force_i=5 scene_detection=0", "");
-    row("x264", "fixed_i_position=1",
-        "Fixed I-frames distance: x264 counts the interval from a scene change on");
-    row("x264", "fixed_i_position=1 scene_detection=0", "");
-    row("x264", "idr_marker=2",
-        "Mark every so many I-frames as IDR: x264 makes all I-frames of the interval IDR "
-        "pictures, or the first alone; it is all");
-    row("x264", "idr_marker=0", "");
-    row("x264", "idr_marker=0 ref_distance=1",
-        "Mark every so many I-frames as IDR: without B-frames all I-frames of the interval are "
-        "IDR pictures");
-    row("x264", "reference_b=1", "B-frames as reference frames: x264 has them only in a pyramid");
-    row("x264", "reference_b=1 ref_distance=2",
-        "B-frames as reference frames: x264 has them only where two B-frames or more are in a "
-        "row");
-    row("x264", "reference_b=1 pyramid_b=1 num_ref_frames=4", "");
-    row("x264", "pyramid_b=1",
-        "Pyramidal structure for B-frames: there is none without B-frames as reference frames");
-    row("x264", "num_ref_frames=1", "Reference frames: x264 keeps more of them, for its B-frames");
-    row("x264", "num_ref_frames=1 ref_distance=1", "");
-    row("x264", "motion_search=3", "Motion vector search range: x264 searches 4 samples at least");
-    row("x264", "subpixel_mode=1", "Subpixel search depth: x264 goes on to quarter samples");
-    row("x264", "weighted_p=1 interlace_mode=2",
-        "Weighted prediction for P-frames: x264 has it only in progressive pictures");
-    row("x264", "fast_subblock=0",
-        "Fast sub-block search: x264 always ends the search of sub-blocks early");
-    row("x264", "fast_intra=1",
-        "Fast intra decisions: x264 has no faster intra decisions by themselves");
-    row("x264", "brightness=20 contrast=-20",
-        "Adaptive quantization, brightness based, Adaptive quantization, contrast based: x264 "
-        "adapts quantizers only to complexity");
-    row("x264", "complexity=-1",
-        "Adaptive quantization, complexity based: x264 has no negative strength");
-    row("x264", "complexity=100", "");
-
-    // What x264 lacks it lacks there, too.
-    row("ffmpeg", "", "");
-    row("ffmpeg", "interlace_mode=1", "Picture structure: x264 codes MBAFF frames, not fields");
-    row("ffmpeg", "level=16", "Level: it is no level of H.264, x264 chooses one");
-    row("ffmpeg", "bitrate=20000500",
-        "Target bitrate (bps): rates and buffers are rounded to thousands of bits");
-    row("ffmpeg", "pulldown=2", "Pulldown: ffmpeg does not tell x264 of it");
-    row("ffmpeg", "pulldown=2 field_order=1", "Pulldown: ffmpeg does not tell x264 of it");
-    row("ffmpeg", "fixed_i_position=1", "");
+    HostProgram program;
+    program.writeSettings(settingsFile, kvtest::EncoderLibrary().defaults(KV_MVC_STEREO_HIGH));
+    const HostProgram::Result result = program.run(
+        words("export movie.ini --to jm --input left.yuv --input right.yuv --stream out.264 -o "
+              "film.cfg"));
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QString());
+    QCOMPARE(result.error,
+             QStringLiteral("note: VBV buffer initial, VBV buffer target: JM writes rate and size "
+                            "of the buffer into the stream, but keeps none\n"
+                            "note: Enable scene detection: JM looks for no scene changes\n"
+                            "note: Target bitrate (bps), Max bitrate (bps), Bitrate buffer: JM "
+                            "codes the second view as the base view\n"));
+    for (const char* name : {"film.cfg", "film_view1.cfg"}) {
+        QFile golden(QStringLiteral(KV_GOLDEN_DIR "/") + QLatin1String(name));
+        QVERIFY(golden.open(QIODevice::ReadOnly | QIODevice::Text));
+        QByteArray written = program.content(QString::fromUtf8(name));
+        written.replace("\"NUL\"", "\"/dev/null\""); // of Windows
+        QCOMPARE(QString::fromUtf8(written), QString::fromUtf8(golden.readAll()));
+    }
 }
 
-void TestHostExport::whatIsLostIsTold()
+void TestHostExport::configurationOfOneViewHasOne()
 {
-    QFETCH(QString, target);
-    QFETCH(QString, set);
-    QFETCH(QString, error);
-    write(KV_MVC_VIDEO_TYPE_NONE, set);
+    write(KV_MVC_STEREO_HIGH);
     const HostProgram::Result result =
-        m_program.run({QStringLiteral("export"), QStringLiteral("--to"), target, settingsFile});
-    QCOMPARE(result.error, error);
+        m_program.run(words("export movie.ini --to jm --view 1 --input right.yuv"));
     QCOMPARE(result.exitCode, 0);
+    for (const char* line : {"\nInputFile                            = \"right.yuv\"\n",
+                             "\nOutputFile                           = \"OUTPUT.264\"\n",
+                             "\nNumberOfViews                        = 1\n",
+                             "\nProfileIDC                           = 100\n",
+                             "\nBitrate                              = 10000000\n"}) {
+        QVERIFY2(result.output.contains(QLatin1String(line)), line);
+    }
+    QVERIFY(!result.output.contains(QLatin1String("View1ConfigFile")));
+}
+
+void TestHostExport::configurationNamesFilesFromItsFolder()
+{
+    write(KV_MVC_STEREO_HIGH);
+    QVERIFY(QDir(m_program.path(QString())).mkpath(QStringLiteral("deep/er")));
+    const QString absolute = m_program.path(QStringLiteral("left.yuv"));
+    const HostProgram::Result result = m_program.run(
+        words("export movie.ini --to jm --stream deep/out.264 -o deep/er/film.cfg --input") +
+        QStringList{absolute, QStringLiteral("--input"), QStringLiteral("deep/er/right.yuv")});
+    QCOMPARE(result.exitCode, 0);
+    const QByteArray film = m_program.content(QStringLiteral("deep/er/film.cfg"));
+    QVERIFY2(film.contains(" = \"" + absolute.toUtf8() + "\"\n"), film.constData());
+    QVERIFY2(film.contains("\nOutputFile                           = \"../out.264\"\n"),
+             film.constData());
+    QVERIFY2(film.contains("\nView1ConfigFile                      = \"film_view1.cfg\"\n"),
+             film.constData());
+    QVERIFY(m_program.content(QStringLiteral("deep/er/film_view1.cfg"))
+                .contains("\nInputFile                            = \"right.yuv\"\n"));
+}
+
+void TestHostExport::settingsAreNotWrittenOver_data()
+{
+    QTest::addColumn<QString>("settings");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("first file") << QStringLiteral("film.cfg") << QStringLiteral("film.cfg");
+    QTest::newRow("other name") << QStringLiteral("film.cfg") << QStringLiteral("./film.cfg");
+    QTest::newRow("second file") << QStringLiteral("film_view1.cfg") << QStringLiteral("film.cfg");
+}
+
+void TestHostExport::settingsAreNotWrittenOver()
+{
+    QFETCH(QString, settings);
+    QFETCH(QString, named);
+    HostProgram program;
+    program.writeSettings(settings, kvtest::EncoderLibrary().defaults(KV_MVC_STEREO_HIGH));
+    const QByteArray content = program.content(settings);
+    const HostProgram::Result result =
+        program.run(words("export --to jm -o") + QStringList{named, settings});
+    QVERIFY2(result.error.endsWith(QLatin1String("': the settings are in it\n")),
+             qPrintable(result.error));
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(program.fileNames(), QStringList{settings});
+    QCOMPARE(program.content(settings), content);
 }
 
 void TestHostExport::outputReplacesAFile()
@@ -432,7 +422,7 @@ void TestHostExport::settingsComeOnStandardInput()
 void TestHostExport::documentHasEverySettingOnce_data()
 {
     QTest::addColumn<QString>("title");
-    for (const char* title : {"x264", "ffmpeg"}) {
+    for (const char* title : {"x264", "ffmpeg", "jm"}) {
         QTest::newRow(title) << QString::fromUtf8(title);
     }
 }
