@@ -33,9 +33,9 @@ bool checkSettings(KvMvcSettings& record, Report& report)
 std::span<const RuleGroup> ruleGroups()
 {
     static const RuleGroup groups[] = {
-        fieldRules(),   rateFieldRules(),   sharedRules(),  viewRules(),         pictureRules(),
-        profileRules(), levelChoiceRules(), levelRules(),   levelPictureRules(), gopRules(),
-        rateRules(),    discRules(),        summaryRules(),
+        fieldRules(),   rateFieldRules(),   sharedRules(), viewRules(),         pictureRules(),
+        profileRules(), levelChoiceRules(), levelRules(),  levelPictureRules(), gopRules(),
+        rateRules(),    discFormatRules(),  discRules(),   summaryRules(),
     };
     return groups;
 }

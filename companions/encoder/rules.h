@@ -53,6 +53,8 @@ int leastSlices(const Stream& stream, const Level& level);
 double mostBytes(const Stream& stream, const Level& level);
 /// Whether a disc may have the picture format.
 bool isDiscFormat(const Stream& stream);
+/// The part of a disc's limits for a picture that has a size.
+void judgeDiscFormat(const Stream& stream, Report& report);
 void judgeDisc(const Stream& stream, Report& report);
 void tellSummary(const Stream& stream, const Level* level, Report& report);
 
@@ -67,6 +69,7 @@ RuleGroup levelRules();
 RuleGroup levelPictureRules();
 RuleGroup gopRules();
 RuleGroup rateRules();
+RuleGroup discFormatRules();
 RuleGroup discRules();
 RuleGroup summaryRules();
 

@@ -594,16 +594,7 @@ inline constexpr Text german[] = {
         "The quantizer of B-frames has to lie between the minimum %d and the maximum %d (now %d).",
         "Der Quantisierer der B-Bilder muss zwischen dem kleinsten, %d, und dem größten, %d, liegen (jetzt %d)."),
 
-    // Blu-ray 3D
-    {"disc.views",
-        "Blu-ray 3D has two views (now 1): set 1 additional view.",
-        "Blu-ray 3D hat zwei Ansichten (jetzt 1): 1 weitere Ansicht einstellen."},
-    {"disc.profile",
-        "Blu-ray 3D requires profile High (now %s): choose High.",
-        "Blu-ray 3D verlangt das Profil High (jetzt %s): High wählen."},
-    {"disc.level",
-        "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
-        "Blu-ray 3D muss als Level 4.1 gekennzeichnet sein (jetzt %s): 4.1 wählen."},
+    // Picture format of Blu-ray 3D
     {"disc.format",
         "Blu-ray has no %d x %d at %d.%0*d frames/s in this structure; the nearest is %d x %d at %d.%0*d, progressive.",
         "Blu-ray kennt %d x %d mit %d,%0*d Bildern/s in dieser Bildstruktur nicht; am nächsten ist %d x %d mit %d,%0*d, progressiv."},
@@ -622,6 +613,17 @@ inline constexpr Text german[] = {
     {"disc.gop",
         "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
         "Blu-ray verlangt bei dieser Bildrate einen I-Bild-Abstand von 1 bis %d (jetzt %d)."},
+
+    // Blu-ray 3D
+    {"disc.views",
+        "Blu-ray 3D has two views (now 1): set 1 additional view.",
+        "Blu-ray 3D hat zwei Ansichten (jetzt 1): 1 weitere Ansicht einstellen."},
+    {"disc.profile",
+        "Blu-ray 3D requires profile High (now %s): choose High.",
+        "Blu-ray 3D verlangt das Profil High (jetzt %s): High wählen."},
+    {"disc.level",
+        "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
+        "Blu-ray 3D muss als Level 4.1 gekennzeichnet sein (jetzt %s): 4.1 wählen."},
     {"disc.idr",
         "Only the first I-frame is an IDR frame, so some Blu-ray players may fail to start elsewhere.",
         "Nur das erste I-Bild ist ein IDR-Bild; manche Blu-ray-Player können anderswo nicht einsteigen."},

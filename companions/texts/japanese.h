@@ -594,16 +594,7 @@ inline constexpr Text japanese[] = {
         "The quantizer of B-frames has to lie between the minimum %d and the maximum %d (now %d).",
         "B フレーム量子化値は、最小 %d ～ 最大 %d の範囲にしてください (現在 %d)。"),
 
-    // Blu-ray 3D
-    {"disc.views",
-        "Blu-ray 3D has two views (now 1): set 1 additional view.",
-        "Blu-ray 3D のビューは 2 つですが、1 つしか設定されていません。追加ビュー数を 1 にしてください。"},
-    {"disc.profile",
-        "Blu-ray 3D requires profile High (now %s): choose High.",
-        "Blu-ray 3D にはプロファイル High が必要ですが、現在は %s です。High を選んでください。"},
-    {"disc.level",
-        "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
-        "Blu-ray 3D にはレベル 4.1 が必要ですが、現在は %s です。4.1 を選んでください。"},
+    // Picture format of Blu-ray 3D
     {"disc.format",
         "Blu-ray has no %d x %d at %d.%0*d frames/s in this structure; the nearest is %d x %d at %d.%0*d, progressive.",
         "Blu-ray では、このピクチャ構造で %d x %d、%d.%0*d フレーム/秒は使えません。最も近いのは %d x %d、%d.%0*d、プログレッシブです。"},
@@ -622,6 +613,17 @@ inline constexpr Text japanese[] = {
     {"disc.gop",
         "Blu-ray requires an I-frame interval from 1 to %d at this frame rate (now %d).",
         "Blu-ray では、このフレームレートの I フレーム間隔を 1 ～ %d にする必要があります (現在 %d)。"},
+
+    // Blu-ray 3D
+    {"disc.views",
+        "Blu-ray 3D has two views (now 1): set 1 additional view.",
+        "Blu-ray 3D のビューは 2 つですが、1 つしか設定されていません。追加ビュー数を 1 にしてください。"},
+    {"disc.profile",
+        "Blu-ray 3D requires profile High (now %s): choose High.",
+        "Blu-ray 3D にはプロファイル High が必要ですが、現在は %s です。High を選んでください。"},
+    {"disc.level",
+        "Blu-ray 3D requires level 4.1 (now %s): choose 4.1.",
+        "Blu-ray 3D にはレベル 4.1 が必要ですが、現在は %s です。4.1 を選んでください。"},
     {"disc.idr",
         "Only the first I-frame is an IDR frame, so some Blu-ray players may fail to start elsewhere.",
         "IDR フレームが最初の I フレームだけなので、一部の Blu-ray プレーヤーでは途中から再生できないおそれがあります。"},
