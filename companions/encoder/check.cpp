@@ -33,9 +33,10 @@ bool checkSettings(KvMvcSettings& record, Report& report)
 std::span<const RuleGroup> ruleGroups()
 {
     static const RuleGroup groups[] = {
-        fieldRules(),   rateFieldRules(),   sharedRules(), viewRules(),         pictureRules(),
-        profileRules(), levelChoiceRules(), levelRules(),  levelPictureRules(), gopRules(),
-        rateRules(),    discFormatRules(),  discRules(),   summaryRules(),
+        fieldRules(),          rateFieldRules(),    sharedRules(),      viewRules(),
+        pictureRules(),        profileRules(),      levelChoiceRules(), levelRules(),
+        levelReferenceRules(), levelPictureRules(), gopRules(),         rateRules(),
+        discFormatRules(),     discRules(),         summaryRules(),
     };
     return groups;
 }

@@ -38,9 +38,10 @@ void judgeRates(const Stream& stream, Report& report);
 const Level* judgeLevel(const Stream& stream, Report& report);
 /// What a level does not allow. @param other The level that would do; null when none would.
 void judgeLimits(const Stream& stream, const Level& level, const Level* other, Report& report);
-/// The part of it for a picture whose size the level takes.
-void judgeLevelPictures(const Stream& stream, const Level& level, const Level* other,
-                        Report& report);
+/// The parts of it for a picture whose size the level takes.
+void judgeLevelReferences(const Stream& stream, const Level& level, const Level* other,
+                          Report& report);
+void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
 /// Tells how much of the level's limits is used, where anybody wants to know.
 void tellLimits(const Stream& stream, const Level* level, const Report& report);
 void tellDiscLimits(const Stream& stream, const Report& report);
@@ -66,6 +67,7 @@ RuleGroup pictureRules();
 RuleGroup profileRules();
 RuleGroup levelChoiceRules();
 RuleGroup levelRules();
+RuleGroup levelReferenceRules();
 RuleGroup levelPictureRules();
 RuleGroup gopRules();
 RuleGroup rateRules();

@@ -293,7 +293,8 @@ void judgeLimits(const Stream& stream, const Level& level, const Level* other, R
     judge.judgeInterlace();
     if (fits) { // the rest would say the same in other numbers
         judge.judgeMbRate();
-        judgeLevelPictures(stream, level, other, report);
+        judgeLevelReferences(stream, level, other, report);
+        judgeLevelPictures(stream, level, report);
     }
 }
 

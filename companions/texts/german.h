@@ -432,7 +432,7 @@ inline constexpr Text german[] = {
         "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make one smaller.",
         "Von %d,%0*d Mbit in Puffern erlaubt Level %s höchstens %d,%0*d für Bilddaten: einen Puffer verkleinern."},
 
-    // Pictures of a level
+    // Reference frames of a level
     {"level.dpb",
         "Level %s can store %d frames of this size (now %d): use fewer reference frames, or choose level %s.",
         "Level %s kann %d Bilder dieser Größe speichern (jetzt %d): weniger Referenzbilder verwenden oder Level %s wählen."},
@@ -454,6 +454,8 @@ inline constexpr Text german[] = {
     KV_TEXT_OF_ALL_VIEWS("level.dpb-half",
         "Level %s allows a view %d reference frames of this size (now %d): use fewer.",
         "Level %s erlaubt einer Ansicht %d Referenzbilder dieser Größe (jetzt %d): weniger verwenden."),
+
+    // Pictures of a level
     KV_TEXT_OF_ALL_VIEWS("level.slices-most",
         "Level %s allows at most %d slices per picture at this size and rate (now %d): use fewer.",
         "Level %s erlaubt bei dieser Größe und Bildrate höchstens %d Slices je Bild (jetzt %d): weniger verwenden."),

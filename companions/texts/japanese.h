@@ -432,7 +432,7 @@ inline constexpr Text japanese[] = {
         "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make one smaller.",
         "ビットレートバッファ %d.%0*d Mbit のうち、レベル %s で映像データに使えるのは最大 %d.%0*d です。小さくしてください。"},
 
-    // Pictures of a level
+    // Reference frames of a level
     {"level.dpb",
         "Level %s can store %d frames of this size (now %d): use fewer reference frames, or choose level %s.",
         "レベル %s で保持できるこのサイズのフレームは %d 枚ですが、現在は %d 枚です。参照フレーム数を減らすか、レベル %s を選んでください。"},
@@ -454,6 +454,8 @@ inline constexpr Text japanese[] = {
     KV_TEXT_OF_ALL_VIEWS("level.dpb-half",
         "Level %s allows a view %d reference frames of this size (now %d): use fewer.",
         "レベル %s では、このサイズの参照フレームは 1 ビューあたり %d 枚までですが、現在は %d 枚です。減らしてください。"),
+
+    // Pictures of a level
     KV_TEXT_OF_ALL_VIEWS("level.slices-most",
         "Level %s allows at most %d slices per picture at this size and rate (now %d): use fewer.",
         "レベル %s のスライスは、このサイズとフレームレートではピクチャあたり最大 %d ですが、現在は %d です。減らしてください。"),
