@@ -104,6 +104,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     m_lastLoadDirectory = QStringLiteral("./");
     m_lastSaveDirectory = QStringLiteral("./");
     ui.tabWidget->setAcceptDrops(true);
+    setAcceptDrops(true);
     ui.tabWidget->installEventFilter(this);
     installEventFilter(this);
     m_isUnderConstruction = false;

@@ -57,6 +57,9 @@ public Q_SLOTS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    /// What no widget inside takes; files dropped on the tabs the event filter sees to.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void buildPresetRow();
@@ -96,8 +99,8 @@ private:
 
     void loadFromFile(const QString& path);
     void saveToFile(const QString& path);
-    void dragEntersTabs(QDragEnterEvent* event);
-    void dropOnTabs(QDropEvent* event);
+    void takeDrag(QDragEnterEvent* event);
+    void takeDrop(QDropEvent* event);
     void reportPreset(const QString& text);
 
     KvMvcSettings* m_caller = nullptr;

@@ -136,27 +136,37 @@ bool AVCVideoEncoderDlg::eventFilter(QObject* watched, QEvent* event)
             applySkin(QStringLiteral("metal"));
         }
     } else if (watched == ui.tabWidget && event->type() == QEvent::DragEnter) {
-        dragEntersTabs(static_cast<QDragEnterEvent*>(event));
+        takeDrag(static_cast<QDragEnterEvent*>(event));
     } else if (watched == ui.tabWidget && event->type() == QEvent::Drop) {
-        dropOnTabs(static_cast<QDropEvent*>(event));
+        takeDrop(static_cast<QDropEvent*>(event));
     }
     // What was dropped was checked; the host may have deleted this dialog while it showed a
     // message.
     return !self || QDialog::eventFilter(watched, event);
 }
 
-void AVCVideoEncoderDlg::dragEntersTabs(QDragEnterEvent* event)
+void AVCVideoEncoderDlg::takeDrag(QDragEnterEvent* event)
 {
     if (settings_files::isDroppable(firstLocalFile(event->mimeData()))) {
         event->acceptProposedAction();
     }
 }
 
-void AVCVideoEncoderDlg::dropOnTabs(QDropEvent* event)
+void AVCVideoEncoderDlg::takeDrop(QDropEvent* event)
 {
     if (!event->mimeData()->hasUrls()) {
         return;
     }
     loadFromFile(firstLocalFile(event->mimeData()));
     event->acceptProposedAction();
+}
+
+void AVCVideoEncoderDlg::dragEnterEvent(QDragEnterEvent* event)
+{
+    takeDrag(event);
+}
+
+void AVCVideoEncoderDlg::dropEvent(QDropEvent* event)
+{
+    takeDrop(event);
 }

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -76,6 +77,8 @@ void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter se
     if (auto* field = qobject_cast<QSpinBox*>(control)) {
         TypingGuard::protect(field);
         text_fit::shrink(field);
+        // A file that is dropped on it is for the dialog, though it comes with its name as text.
+        field->findChild<QLineEdit*>()->setAcceptDrops(false);
     } else if (auto* list = qobject_cast<QComboBox*>(control)) {
         text_fit::shrink(list);
     }

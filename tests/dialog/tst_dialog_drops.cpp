@@ -50,6 +50,8 @@ private Q_SLOTS:
     void dragIsTakenBySuffix_data();
     void dragIsTakenBySuffix();
     void firstFileDecides();
+    void filesMayBeDroppedAnywhere_data();
+    void filesMayBeDroppedAnywhere();
     void dragWithoutFiles();
     void dropLoadsTheFirstFileOnly();
     void firstUrlThatIsNoFileHasNoName();
@@ -91,6 +93,45 @@ void TestDialogDrops::firstFileDecides()
     OpenDialog dialog;
     QVERIFY(dragAccepted(dialog, *files({QStringLiteral("/a.cfg"), QStringLiteral("/b.txt")})));
     QVERIFY(!dragAccepted(dialog, *files({QStringLiteral("/b.txt"), QStringLiteral("/a.cfg")})));
+}
+
+void TestDialogDrops::filesMayBeDroppedAnywhere_data()
+{
+    QTest::addColumn<QString>("widget");
+    for (const char* name : {"bannerFrame", "presetFrame", "presetList", "errorLog", "buttonOk",
+                             "tabWidget", "widthSpin", "framerateList"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestDialogDrops::filesMayBeDroppedAnywhere()
+{
+    QFETCH(QString, widget);
+    OpenDialog dialog;
+    dialog.companions.onRead = [](KvMvcSettings& settings) {
+        settings = exampleSettings();
+        return 0;
+    };
+    // As file managers hand them over: with their names as text.
+    const auto data = files({QStringLiteral("/one.cfg")});
+    data->setText(QStringLiteral("/one.cfg"));
+    // The toolkit begins with the innermost widget under the pointer.
+    auto* target = dialog->findChild<QWidget*>(widget);
+    while (QWidget* const inside = target->childAt(target->rect().center())) {
+        target = inside;
+    }
+    const QPoint place = target->rect().center();
+    QDragEnterEvent drag(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    drag.ignore();
+    QCoreApplication::sendEvent(target, &drag);
+    QVERIFY(drag.isAccepted());
+    QDropEvent drop(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    QCoreApplication::sendEvent(target, &drop);
+    QVERIFY(drop.isAccepted());
+    QCOMPARE(dialog.companions.calls,
+             QStringList({QStringLiteral("api 8193"), QStringLiteral("read /one.cfg"),
+                          QStringLiteral("check 3 0")}));
 }
 
 void TestDialogDrops::dragWithoutFiles()
