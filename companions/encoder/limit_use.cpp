@@ -61,47 +61,40 @@ void tellPictures(const Stream& stream, const Level& level, const Teller& tell)
 }
 
 /// A rate or a buffer, which two limits hold: of all data (NAL), and of the pictures' alone (VCL).
-struct Sum {
+struct Names {
     const char* name;
     const char* vclName;
     const char* unit;
     const char* baseRule;
     const char* viewsRule;
     const char* vclRule;
-    std::int64_t levelUnits;
-    std::int64_t base;
-    std::int64_t all;
 };
 
-void tellSum(const Stream& stream, const Sum& sum, const Teller& tell)
+void tellSum(const Stream& stream, const Names& names, const Sum& used, const SumLimits& limits,
+             const Teller& tell)
 {
-    const Profile& profile = *stream.streamProfile();
-    const Profile& base = stream.profile ? *stream.profile : profile;
     // The base view has to conform by itself, too.
-    if (sum.base > 0) {
+    if (used.base > 0) {
         const int view = stream.multiview ? 0 : KV_MVC_ALL_VIEWS;
-        tell(sum.name, sum.unit, sum.baseRule, view, sum.base, sum.levelUnits * base.nalFactor);
-        tell(sum.vclName, sum.unit, sum.vclRule, view, sum.base, sum.levelUnits * base.vclFactor);
+        tell(names.name, names.unit, names.baseRule, view, used.base, limits.nal.base);
+        tell(names.vclName, names.unit, names.vclRule, view, used.base, limits.vcl.base);
     }
-    if (stream.multiview && sum.all > 0) {
-        tell(sum.name, sum.unit, sum.viewsRule, KV_MVC_ALL_VIEWS, sum.all,
-             sum.levelUnits * profile.nalFactor);
-        tell(sum.vclName, sum.unit, sum.vclRule, KV_MVC_ALL_VIEWS, sum.all,
-             sum.levelUnits * profile.vclFactor);
+    if (stream.multiview && used.all > 0) {
+        tell(names.name, names.unit, names.viewsRule, KV_MVC_ALL_VIEWS, used.all, limits.nal.all);
+        tell(names.vclName, names.unit, names.vclRule, KV_MVC_ALL_VIEWS, used.all, limits.vcl.all);
     }
 }
 
 void tellSums(const Stream& stream, const Level& level, const Teller& tell)
 {
-    const std::int64_t baseBuffer = keepsBuffer(stream.base) ? bufferBits(stream.base) : 0;
     tellSum(stream,
             {"Bitrate", "Bitrate of pictures", bitRate, "level.bitrate", "level.bitrate-views",
-             "level.bitrate-vcl", level.bitrate, limitRate(stream.base), stream.totalRate()},
-            tell);
+             "level.bitrate-vcl"},
+            ratesOf(stream), limitsOf(stream, level.bitrate), tell);
     tellSum(stream,
             {"Buffer", "Buffer of pictures", bits, "level.buffer", "level.buffer-views",
-             "level.buffer-vcl", level.buffer, baseBuffer, stream.totalBuffer()},
-            tell);
+             "level.buffer-vcl"},
+            buffersOf(stream), limitsOf(stream, level.buffer), tell);
 }
 
 } // namespace

@@ -193,36 +193,6 @@ void Judge::judgeMbRate() const
     }
 }
 
-/// What is held against a level's limits of rates, or of buffers: the base view and all views.
-struct Sum {
-    std::int64_t base;
-    std::int64_t all;
-};
-
-/// The limits, in the same unit.
-struct SumLimits {
-    Sum nal;
-    Sum vcl;
-};
-
-Sum ratesOf(const Stream& stream)
-{
-    return {limitRate(stream.base), stream.totalRate()};
-}
-
-Sum buffersOf(const Stream& stream)
-{
-    return {keepsBuffer(stream.base) ? bufferBits(stream.base) : 0, stream.totalBuffer()};
-}
-
-SumLimits limitsOf(const Stream& stream, std::int64_t units)
-{
-    const Profile& all = *stream.streamProfile();
-    const Profile& base = stream.multiview && stream.profile ? *stream.profile : all;
-    return {{units * base.nalFactor, units * all.nalFactor},
-            {units * base.vclFactor, units * all.vclFactor}};
-}
-
 bool exceeds(const Sum& sum, const Sum& limit)
 {
     return sum.base > limit.base || sum.all > limit.all;

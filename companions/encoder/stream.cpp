@@ -205,6 +205,24 @@ int Stream::mostReferences() const
     return most;
 }
 
+Sum ratesOf(const Stream& stream)
+{
+    return {limitRate(stream.base), stream.totalRate()};
+}
+
+Sum buffersOf(const Stream& stream)
+{
+    return {keepsBuffer(stream.base) ? bufferBits(stream.base) : 0, stream.totalBuffer()};
+}
+
+SumLimits limitsOf(const Stream& stream, std::int64_t units)
+{
+    const Profile& all = *stream.streamProfile();
+    const Profile& base = stream.multiview && stream.profile ? *stream.profile : all;
+    return {{units * base.nalFactor, units * all.nalFactor},
+            {units * base.vclFactor, units * all.vclFactor}};
+}
+
 double macroblockRate(const Stream& stream)
 {
     return static_cast<double>(stream.views * stream.frameMbs) * stream.outputRate;

@@ -89,6 +89,22 @@ struct Stream {
 double macroblockRate(const Stream& stream);
 std::int64_t macroblockRateLimit(const Stream& stream, const Level& level);
 
+/// Rates, or buffers, that a level limits: the base view's by itself, and those of all views.
+struct Sum {
+    std::int64_t base;
+    std::int64_t all;
+};
+Sum ratesOf(const Stream& stream);
+Sum buffersOf(const Stream& stream);
+
+/// The limits, in the same unit.
+struct SumLimits {
+    Sum nal; ///< of all data (A.3.1 j, A.3.3 h, H.10.2.1 r)
+    Sum vcl; ///< of picture data (A.3.1 i, A.3.3 g, H.10.2.1 q)
+};
+/// @param units Of a level: MaxBR or MaxCPB.
+SumLimits limitsOf(const Stream& stream, std::int64_t units);
+
 /// Frames that the decoded picture buffer holds at a level (A.3.1 h; H.10.2.1 f).
 std::int64_t dpbFrames(const Stream& stream, const Level& level);
 

@@ -9,11 +9,9 @@
 #include <random>
 #include <set>
 #include <string>
-#include <string_view>
 
 #include "Encoder.h"
 #include "SettingsLedger.h"
-#include "rules.h"
 
 namespace
 {
@@ -28,28 +26,35 @@ const QVector<ledger::Setting>& numbers()
 enum Heard { Errors, Corrections, Notes, Risks };
 std::string texts[4];
 
-bool isRisk(const char* format)
+/// What the next message is about, of this check.
+int kindToCome = -1;
+std::string ruleToCome;
+
+std::set<std::string> refusing;
+/// Limits that are used beyond their end, and the others, by the rule that speaks of them.
+std::set<std::string> exceeded;
+std::set<std::string> held;
+
+void hearAbout(const KvMvcMessageAbout* about)
 {
-    static const std::set<std::string_view> formats = [] {
-        std::set<std::string_view> found;
-        for (const kv::encoder::RuleGroup& group : kv::encoder::ruleGroups()) {
-            for (const kv::encoder::RuleInfo* rule : group.rules) {
-                for (const char* const text : {rule->format, rule->viewFormat}) {
-                    if (text && rule->severity == kv::encoder::Severity::Risk) {
-                        found.insert(text);
-                    }
-                }
-            }
-        }
-        return found;
-    }();
-    return formats.contains(format);
+    kindToCome = about->kind;
+    ruleToCome = about->rule;
+}
+
+void hearUse(const KvMvcLimitUse* use)
+{
+    // A rate such as 24000/1001 is rounded.
+    (use->used > use->limit * (1 + 1e-9) ? exceeded : held).insert(use->rule);
 }
 
 template <Heard heard>
 int sink(const char* format, ...)
 {
-    const Heard kind = heard == Corrections && isRisk(format) ? Risks : heard;
+    const bool isRisk = heard == Corrections && kindToCome == KV_MVC_MESSAGE_RISK;
+    const Heard kind = isRisk ? Risks : heard;
+    if (kind == Errors) {
+        refusing.insert(ruleToCome);
+    }
     char text[512];
     va_list arguments;
     va_start(arguments, format);
@@ -61,11 +66,20 @@ int sink(const char* format, ...)
 
 KvMvcFunction lookUp(const char* name)
 {
-    return std::strcmp(name, "err_printf") == 0 ? reinterpret_cast<KvMvcFunction>(sink<Errors>)
-           : std::strcmp(name, "wrn_printf") == 0
-               ? reinterpret_cast<KvMvcFunction>(sink<Corrections>)
-           : std::strcmp(name, "inf_printf") == 0 ? reinterpret_cast<KvMvcFunction>(sink<Notes>)
-                                                  : nullptr;
+    const struct {
+        const char* name;
+        KvMvcFunction function;
+    } known[] = {{"err_printf", reinterpret_cast<KvMvcFunction>(sink<Errors>)},
+                 {"wrn_printf", reinterpret_cast<KvMvcFunction>(sink<Corrections>)},
+                 {"inf_printf", reinterpret_cast<KvMvcFunction>(sink<Notes>)},
+                 {"msg_about", reinterpret_cast<KvMvcFunction>(hearAbout)},
+                 {"lim_usage", reinterpret_cast<KvMvcFunction>(hearUse)}};
+    for (const auto& row : known) {
+        if (std::strcmp(row.name, name) == 0) {
+            return row.function;
+        }
+    }
+    return nullptr;
 }
 
 struct Verdict {
@@ -79,6 +93,9 @@ Verdict check(KvMvcSettings& record)
 {
     for (std::string& text : texts) {
         text.clear();
+    }
+    for (std::set<std::string>* rules : {&refusing, &exceeded, &held}) {
+        rules->clear();
     }
     const qint32 result = encoder::checkFunction()(lookUp, &record, 3, 0);
     return {result, texts[Errors], texts[Corrections], texts[Notes], texts[Risks]};
@@ -264,6 +281,14 @@ void TestEncoderProperty::holdsForEveryRecord()
         QVERIFY2(touchesOnlyFields(original, record, original.num_views > 1 ? 2 : 1),
                  context().c_str());
         QVERIFY2(same(original, record) == first.corrections.empty(), context().c_str());
+
+        // What is told of the limits is what refuses the settings.
+        for (const std::string& rule : refusing) {
+            QVERIFY2(exceeded.contains(rule) || !held.contains(rule),
+                     (context() + "in the limit of " + rule).c_str());
+        }
+        QVERIFY2(exceeded.empty() || !first.errors.empty() || !first.risks.empty(),
+                 (context() + "beyond a limit").c_str());
 
         KvMvcSettings again = record;
         const Verdict second = check(again);
