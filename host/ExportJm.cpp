@@ -159,8 +159,12 @@ const ExportTable& jmTable()
                   return job.view.pyramid_b != 0 && hasBFrames(job.view) && job.view.reference_b == 0;
               }}}),
 
-        .num_ref_frames = parameters({"NumberReferenceFrames"}, jm::references),
-        .motion_search = parameters({"SearchRange"}, jm::searchRange),
+        .num_ref_frames = parameters({"NumberReferenceFrames"}, jm::references,
+            {{"JM keeps one at least",
+              [](const Job& job) { return job.view.num_ref_frames < 1 && predicts(job.view); }}}),
+        .motion_search = parameters({"SearchRange"}, jm::searchRange,
+            {{"JM searches one sample at least",
+              [](const Job& job) { return job.view.motion_search < 1; }}}),
         .min_partition = ExportRow(
             {main("PSliceSearch16x8", jm::halfBlocks), main("PSliceSearch8x16", jm::halfBlocks),
              main("PSliceSearch8x8", jm::halfBlocks), main("BSliceSearch16x8", jm::halfBlocks),

@@ -79,6 +79,11 @@ inline constexpr ExportCase exportCases[] = {
     {"one slice",             0, "num_slices=1 multi_slice=0", ""},
     {"nine slices",           0, "num_slices=9", ""},
 
+    {"quick tools",           0, "simple_rd=1 fast_inter=1 min_partition=0 motion_search=8 complexity=50 num_threads=2", ""},
+    {"slow tools",            0, "fast_reference=0 fast_subblock=0 motion_search=99 quant_min=10 quant_max=40", ""},
+    {"coarse tools",          0, "subpixel_mode=0 hadamard=0", ""},
+    {"plain differences",     0, "hadamard=0", ""},
+
     {"Baseline",              0, "profile=0 entropy_mode=0 ref_distance=1 num_slices=1 multi_slice=0", ""},
     {"Main",                  0, "profile=1", ""},
     {"Main without its tools", 0, "profile=1 entropy_mode=0 ref_distance=1", "profile=0"},

@@ -56,7 +56,7 @@ constexpr ExportCase cases[] = {
     {"no HRD",               2, "hrd_mode=0 bitrate=500000", KV_NO_HRD, 7},
     {"constant quantizers",  2, "bitrate_mode=1 quant_i=24 quant_p=27 quant_b=30", KV_NO_HRD KV_BASE_QUANTIZERS, 7},
     {"the full decision",    2, "simple_rd=0 i_interval=2 ref_distance=1", "", 3},
-    {"coarse search",        2, "subpixel_mode=0 min_partition=0 hadamard=0 fast_reference=0", "", 7},
+    {"coarse search",        2, "subpixel_mode=0 min_partition=0 hadamard=0 fast_reference=0 fast_intra=1", "", 7},
 
     {"one view",             0, "", "-video_type", 7},
     {"Main",                 0, "profile=1", "-video_type", 7},

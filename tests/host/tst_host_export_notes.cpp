@@ -141,6 +141,9 @@ void TestHostExportNotes::whatIsLostIsTold_data()
     jm("adaptive_b=1", "Adaptive B-frame placement: JM places B-frames at regular distances");
     jm("pyramid_b=1", "Pyramidal structure for B-frames: there is none without B-frames as "
                       "reference frames");
+    jm("num_ref_frames=0", "Reference frames: JM keeps one at least");
+    jm("num_ref_frames=0 i_interval=1", "");
+    jm("motion_search=0", "Motion vector search range: JM searches one sample at least");
     jm("subpixel_mode=1", "Subpixel search depth: JM goes on to quarter samples");
     jm("fast_reference=0", "Fast sub-block search: JM has it only with that of reference frames");
     jm("fast_reference=0 fast_subblock=0", "");
