@@ -92,7 +92,7 @@ const Level* judgeAnyLevel(const Stream& stream, const Level* chosen, bool isAut
     const Search found = searchLevels(stream, isAuto);
     const Level* const level = isAuto ? found.lowest : chosen;
     if (level) {
-        judgeLimits(stream, *level, found.lowest == level ? nullptr : found.lowest, report);
+        judgeLimits(stream, *level, found.lowest, report); // which breaks none itself
     } else if (!found.lowest) {
         judgeLimits(stream, *found.nearest, nullptr, report);
     }
