@@ -41,6 +41,7 @@ inline constexpr ExportCase exportCases[] = {
     {"American television",   0, "width=720 height=480 frame_rate=30000/1001 level=30 display_aspect_x=-1 display_aspect_y=-1 "
                                  "pixel_aspect_x=10 pixel_aspect_y=11 bitrate=4000000 max_bitrate=8000000 bitrate_buffer=1000000",
                                  "pixel_aspect_x=10 pixel_aspect_y=11"},
+    {"both aspect ratios",    0, "pixel_aspect_x=10 pixel_aspect_y=11", ""},
     {"no aspect ratio",       0, "display_aspect_x=-1 display_aspect_y=-1", "pixel_aspect_x=1 pixel_aspect_y=1"},
 
     {"24 frames",             0, "frame_rate=24", ""},

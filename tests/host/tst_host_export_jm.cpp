@@ -65,6 +65,7 @@ constexpr ExportCase cases[] = {
     {"High 4:2:2",           0, "profile=5 chroma_format=3", "-video_type", 7},
     {"without chroma",       0, "chroma_format=1", "-video_type", 7},
     {"fields of one view",   0, "interlace_mode=1 frame_rate=25", "-video_type", 7},
+    {"slices of fields",     0, "interlace_mode=1 frame_rate=25 num_slices=3 multi_slice=1", "-video_type", 7},
 };
 // clang-format on
 
