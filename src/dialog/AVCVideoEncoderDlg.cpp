@@ -95,12 +95,13 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     }
     limitHeight();
     settingsToState();
+    showTabInFrontWhole();
 
     shortcuts::add(this, ui.tabWidget, ui.errorLog);
     shortcuts::addHistory(
         this, [this] { turnHistory(&EditHistory::undo, tr("Undo: %1")); },
         [this] { turnHistory(&EditHistory::redo, tr("Redo: %1")); });
-    connect(qApp, &QApplication::focusChanged, this, [this] { m_history.interrupt(); });
+    connect(qApp, &QApplication::focusChanged, m_focusWatch, [this] { m_history.interrupt(); });
     m_lastLoadDirectory = QStringLiteral("./");
     m_lastSaveDirectory = QStringLiteral("./");
     ui.tabWidget->setAcceptDrops(true);
@@ -112,7 +113,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
 
 AVCVideoEncoderDlg::~AVCVideoEncoderDlg()
 {
-    qApp->disconnect(this);
+    delete m_focusWatch;
     // A field that loses the focus while the dialog is deleted still reports what was typed.
     for (SettingsPage* page :
          std::initializer_list<SettingsPage*>{m_basicPage, m_advancedPage, m_viewsPage}) {
@@ -184,6 +185,18 @@ void AVCVideoEncoderDlg::limitHeight()
     setMaximumHeight(limit);
 }
 
+void AVCVideoEncoderDlg::showTabInFrontWhole()
+{
+    // Of the tab that fits a usual screen, the only one for which more height is worth its place.
+    if (!m_basicPage) {
+        return;
+    }
+    // What stands beside the sections.
+    constexpr int beside = 34;
+    const int missing = m_basicPage->findChild<ToolBox*>()->missingHeight(width() - beside);
+    resize(width(), qMax(height(), sizeHint().height() + missing));
+}
+
 void AVCVideoEncoderDlg::applySkin(const QString& name)
 {
     QFile sheet(QLatin1String(":/") + QLatin1String("res_mvc") + QLatin1String("/skins/") + name +
@@ -247,11 +260,16 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
 {
     const auto preset = requestedPreset(m_vocabulary, state);
     if (preset && companionFunctions().defaults) {
-        const KvMvcSettings former = m_record.settings;
-        if (thrownBy([&] { companionFunctions().defaults(&m_record.settings, 0, *preset, 0); })) {
-            m_record.settings = former;
-        } else {
-            resetFurtherViews(m_record);
+        // On a copy, as the check.
+        const QPointer<AVCVideoEncoderDlg> self(this);
+        alignas(8) KvMvcSettings settings = m_record.settings;
+        const bool thrown =
+            thrownBy([&] { companionFunctions().defaults(&settings, 0, *preset, 0); }).has_value();
+        if (!self) {
+            return;
+        }
+        if (!thrown) {
+            takeSettings(settings);
         }
     }
 
@@ -271,11 +289,20 @@ void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
     if (!m_caller) {
         return;
     }
-    takeStep(describeEdit(state), keysOfNumber(state), [&] {
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    const auto apply = [&] {
         stateToSettings(state);
-        settingsToState();
-        check();
-    });
+        if (self) {
+            settingsToState();
+            check();
+        }
+    };
+    // What a page clamps while it is told is no step of the user's.
+    if (m_updating) {
+        apply();
+    } else {
+        takeStep(describeEdit(state), keysOfNumber(state), apply);
+    }
 }
 
 void AVCVideoEncoderDlg::takeSettings(const KvMvcSettings& settings)
@@ -363,8 +390,13 @@ void AVCVideoEncoderDlg::done(int result)
     if (m_isClosed) {
         return;
     }
+    const QPointer<AVCVideoEncoderDlg> self(this);
     m_isClosed = true;
     QDialog::done(result);
+    // A host may have refused it.
+    if (self && isVisible()) {
+        m_isClosed = false;
+    }
 }
 
 void AVCVideoEncoderDlg::showEvent(QShowEvent* event)
@@ -375,11 +407,6 @@ void AVCVideoEncoderDlg::showEvent(QShowEvent* event)
         // Also where the host has made it the active window before it was shown, when the toolkit
         // found another place for the focus: the tab bar has no setting that a key could change.
         ui.tabWidget->setFocus();
-        // Room for the whole of the tab in front, as far as the screen has it.
-        layout()->activate();
-        if (const auto* const box = ui.tabWidget->currentWidget()->findChild<ToolBox*>()) {
-            resize(width(), height() + box->missingHeight());
-        }
     }
     QDialog::showEvent(event);
 }

@@ -66,6 +66,7 @@ private:
     void buildPages();
     void addPage(SettingsPage* page, const QString& title);
     void limitHeight();
+    void showTabInFrontWhole();
     void applySkin(const QString& name);
 
     /// Describes the working copy to the pages; nothing that they report meanwhile is checked.
@@ -111,6 +112,8 @@ private:
     bool m_suppressNextAccept = false;
     bool m_updating = false;
     EditHistory m_history;
+    /// What hears of another focus, until the history goes.
+    QObject* m_focusWatch = new QObject(this);
     bool m_isTakingStep = false;
     bool m_isUnderConstruction = true;
     bool m_isClosed = false;

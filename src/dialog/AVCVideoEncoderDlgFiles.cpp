@@ -60,7 +60,7 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
 {
     const QPointer<AVCVideoEncoderDlg> self(this);
     const auto settings = m_caller ? settings_files::read(path) : std::nullopt;
-    if (!settings) {
+    if (!settings || !self) {
         return;
     }
     takeStep(tr("File %1").arg(QFileInfo(path).fileName()), {}, [&] {

@@ -8,6 +8,7 @@
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QPointer>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -47,9 +48,15 @@ void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHisto
     m_currentView = reached->state.currentView;
     settingsToState();
     check();
-    if (self) {
-        m_isTakingStep = false;
-        QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()), message.arg(reached->text));
+    if (!self) {
+        return;
+    }
+    m_isTakingStep = false;
+    if (isVisible()) {
+        const QString text = message.arg(reached->text);
+        // A file's name is no markup, whatever it looks like.
+        QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()),
+                           Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
     }
 }
 

@@ -68,7 +68,12 @@ void EditHistory::add(const EditedState& before, const EditedState& after, const
     }
     const bool same = !goesOn.isEmpty() && goesOn == m_goesOn;
     m_goesOn = goesOn;
+    const int count = m_steps.count();
     m_steps.push(new Step(m_reached, before, after, text, same));
+    // Back where it began, the step is gone, and the one before it is another.
+    if (same && m_steps.count() < count) {
+        interrupt();
+    }
 }
 
 std::optional<EditHistory::Turn> EditHistory::undo()

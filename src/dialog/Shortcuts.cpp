@@ -8,15 +8,16 @@
 #include <QWhatsThis>
 
 #include <initializer_list>
+#include <iterator>
 
 namespace
 {
 
 template <class Act>
-void bind(QDialog* dialog, std::initializer_list<QKeySequence> keys, Act act)
+void bind(QDialog* dialog, std::initializer_list<const char*> keys, Act act)
 {
-    for (const QKeySequence& key : keys) {
-        auto* const shortcut = new QShortcut(key, dialog);
+    for (const char* key : keys) {
+        auto* const shortcut = new QShortcut(QKeySequence(QLatin1String(key)), dialog);
         QObject::connect(shortcut, &QShortcut::activated, dialog, act);
     }
 }
@@ -42,15 +43,14 @@ void explain(const QWidget* widget)
 
 void shortcuts::add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log)
 {
-    bind(dialog, {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, [tabs] { turn(tabs, 1); });
-    bind(dialog, {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp},
-         [tabs] { turn(tabs, -1); });
-    for (int tab = 0; tab < 3; ++tab) {
-        bind(dialog, {QKeySequence(QStringLiteral("Ctrl+%1").arg(tab + 1))},
-             [tabs, tab] { tabs->setCurrentIndex(tab); });
+    bind(dialog, {"Ctrl+Tab", "Ctrl+PgDown"}, [tabs] { turn(tabs, 1); });
+    bind(dialog, {"Ctrl+Shift+Tab", "Ctrl+PgUp"}, [tabs] { turn(tabs, -1); });
+    constexpr const char* chosen[] = {"Ctrl+1", "Ctrl+2", "Ctrl+3"};
+    for (int tab = 0; tab < int(std::size(chosen)); ++tab) {
+        bind(dialog, {chosen[tab]}, [tabs, tab] { tabs->setCurrentIndex(tab); });
     }
-    bind(dialog, {Qt::Key_F8}, [log] { log->setFocus(Qt::ShortcutFocusReason); });
-    bind(dialog, {Qt::Key_F1}, [dialog] { explain(dialog->focusWidget()); });
+    bind(dialog, {"F8"}, [log] { log->setFocus(Qt::ShortcutFocusReason); });
+    bind(dialog, {"F1"}, [dialog] { explain(dialog->focusWidget()); });
 
     const auto widgets = dialog->findChildren<QWidget*>();
     for (QWidget* widget : widgets) {
@@ -63,6 +63,6 @@ void shortcuts::add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log)
 void shortcuts::addHistory(QDialog* dialog, const std::function<void()>& undo,
                            const std::function<void()>& redo)
 {
-    bind(dialog, {Qt::CTRL | Qt::Key_Z}, undo);
-    bind(dialog, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, redo);
+    bind(dialog, {"Ctrl+Z"}, undo);
+    bind(dialog, {"Ctrl+Shift+Z", "Ctrl+Y"}, redo);
 }

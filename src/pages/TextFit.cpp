@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
+#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -76,10 +77,13 @@ public:
     {
         switch (event->type()) {
         case QEvent::Resize:
+            breakLines();
+            break;
         case QEvent::FontChange:
         case QEvent::StyleChange:
-        case QEvent::LanguageChange:
-            breakLines();
+            // When the button itself has taken note of it.
+            QMetaObject::invokeMethod(
+                this, [this] { breakLines(); }, Qt::QueuedConnection);
             break;
         case QEvent::Paint:
             if (m_lines.size() > 1) {
@@ -157,14 +161,17 @@ private:
         }
         const QScopedValueRollback<bool> fitting(m_isFitting, true);
         QFont font = m_widget->font();
-        const double usual = m_widget->parentWidget()->font().pointSizeF();
+        // A font may be given in pixels.
+        const double usual = QFontInfo(m_widget->parentWidget()->font()).pointSizeF();
         font.setPointSizeF(usual);
         while (font.pointSizeF() > smallestFont && !hasRoomIn(font)) {
             font.setPointSizeF(font.pointSizeF() - fontStep);
         }
-        if (font.pointSizeF() == m_widget->font().pointSizeF()) {
+        // Once for each size: a host's style sheet may have the last word.
+        if (font.pointSizeF() == m_asked || (m_asked == 0 && font.pointSizeF() == usual)) {
             return;
         }
+        m_asked = font.pointSizeF();
         // Smaller letters shall not take room away, too; a bar of tabs takes what it needs.
         if (!qobject_cast<QTabBar*>(m_widget)) {
             m_widget->setMinimumWidth(std::max(m_widget->minimumWidth(), m_widget->width()));
@@ -177,6 +184,9 @@ private:
     }
 
     bool m_isFitting = false;
+    bool m_isQueued = false;
+    /// The size that the widget was given, in points; 0 while it has the usual one.
+    double m_asked = 0;
 };
 
 class ShrinkingField : public Shrinking

@@ -83,10 +83,11 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->viewport()->setAutoFillBackground(false);
     m_content->setAutoFillBackground(false);
     WheelGuard::watch(m_scrollArea->viewport());
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) {
-        // The scroll area sees to it for its own Tab key only. What the mouse presses stays where
-        // it is, or it would be released elsewhere.
-        if (focus && m_content->isAncestorOf(focus) &&
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* former, QWidget* focus) {
+        // The scroll area sees to it for its own Tab key only. A window that becomes the active one
+        // again stays as it was scrolled; and what the mouse presses stays where it is, or it would
+        // be released elsewhere.
+        if (former && focus && m_content->isAncestorOf(focus) &&
             QGuiApplication::mouseButtons() == Qt::NoButton) {
             m_scrollArea->ensureWidgetVisible(focus);
         }
@@ -172,10 +173,9 @@ int ToolBox::placeOf(const QWidget* widget) const
     return widget->mapTo(m_scrollArea->viewport(), QPoint()).y();
 }
 
-int ToolBox::missingHeight() const
+int ToolBox::missingHeight(int width) const
 {
-    const int width = m_scrollArea->viewport()->width();
     const int needed =
         m_grid->hasHeightForWidth() ? m_grid->heightForWidth(width) : m_grid->sizeHint().height();
-    return qMax(0, needed - m_scrollArea->viewport()->height());
+    return qMax(0, needed - m_scrollArea->sizeHint().height());
 }

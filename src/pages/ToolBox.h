@@ -29,8 +29,9 @@ public:
     /// the control with the focus does not move under the user's eyes.
     void keepFocusInPlace(const std::function<void()>& change);
 
-    /// How much higher it would have to be to show all sections without scrolling, in pixels.
-    int missingHeight() const;
+    /// How much more than its size hint it would take to show all sections without scrolling, in
+    /// pixels; `width` is what they have.
+    int missingHeight(int width) const;
 
 private:
     /// Where the widget stands in the part of the column that shows.

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSpinBox>
 
 #include <utility>
@@ -57,7 +58,12 @@ void TypingGuard::takeBack()
 {
     const int before = *std::exchange(m_before, std::nullopt);
     // Also where the number is still this one it replaces the text.
+    const QPointer<TypingGuard> self(this);
     m_field->setValue(before);
+    // That may have been checked, and the dialog deleted meanwhile.
+    if (!self) {
+        return;
+    }
     m_text->setModified(false);
     m_field->selectAll();
 }

@@ -38,6 +38,8 @@ void WheelGuard::protect(QWidget* control)
 void WheelGuard::watch(QWidget* scrolled)
 {
     new WheelGuard(scrolled, Role::Scrolled);
+    // The events' clock is another one in another application object.
+    lastScrolled = 0;
 }
 
 bool WheelGuard::eventFilter(QObject* watched, QEvent* event)

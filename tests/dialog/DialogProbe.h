@@ -13,6 +13,7 @@ public:
     bool& suppressNextAccept() const { return m_dialog.m_suppressNextAccept; }
     bool& updating() const { return m_dialog.m_updating; }
     bool check() const { return m_dialog.check(); }
+    void load(const QString& path) const { m_dialog.loadFromFile(path); }
     void save(const QString& path) const { m_dialog.saveToFile(path); }
     void settingsToState() const { m_dialog.settingsToState(); }
     QString lastLoadDirectory() const { return m_dialog.m_lastLoadDirectory; }

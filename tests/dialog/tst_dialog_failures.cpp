@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -91,6 +92,8 @@ private Q_SLOTS:
     void okInsideACheckIsTheResult();
     void closingInsideTheCheckOfOkIsTheResult_data();
     void closingInsideTheCheckOfOkIsTheResult();
+    void hostDeletesTheDialogInACompanion_data();
+    void hostDeletesTheDialogInACompanion();
     void editInsideACheckIsKept();
     void editInsideTheCheckOfOkIsNotAccepted();
 };
@@ -275,6 +278,46 @@ void TestDialogFailures::closingInsideTheCheckOfOkIsTheResult()
     QCOMPARE(finished.count(), 1);
     QCOMPARE(dialog->result(), 0);
     QVERIFY(bytesOf(dialog.caller) == dialog.given);
+}
+
+void TestDialogFailures::hostDeletesTheDialogInACompanion_data()
+{
+    QTest::addColumn<QString>("companion");
+    for (const char* name : {"check", "defaults", "reader"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestDialogFailures::hostDeletesTheDialogInACompanion()
+{
+    QFETCH(QString, companion);
+    RecordingCompanions companions;
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {usualFlags, nullptr, nullptr, nullptr};
+    const QPointer<AVCVideoEncoderDlg> dialog =
+        new AVCVideoEncoderDlg(&settings, &hosting, nullptr);
+    dialog->show();
+    const auto goAway = [dialog] { delete dialog; };
+    if (companion == QLatin1String("check")) {
+        companions.onCheck = [goAway](KvMvcLookup, KvMvcSettings&) {
+            goAway();
+            return 0;
+        };
+        dialog->slotAccept();
+    } else if (companion == QLatin1String("defaults")) {
+        companions.onDefaults = [goAway](KvMvcSettings& filled, int) {
+            goAway();
+            filled.views[0].width = 4711;
+        };
+        dialog->findChild<QAbstractButton*>(QStringLiteral("presetButton"))->click();
+    } else {
+        companions.onRead = [goAway](KvMvcSettings&) {
+            goAway();
+            return 0;
+        };
+        DialogProbe(*dialog).load(QStringLiteral("/settings.cfg"));
+    }
+    QVERIFY(!dialog);
 }
 
 void TestDialogFailures::editInsideACheckIsKept()

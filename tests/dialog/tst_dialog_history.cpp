@@ -94,6 +94,9 @@ private Q_SLOTS:
     void stepsGoInOrder();
     void anotherEditEndsWhatWasTakenBack();
     void numbersInARowAreOneStep();
+    void numberThatIsBackWhereItWasIsNoStep();
+    void clampOfAPageIsNoStep();
+    void nameOfAFileIsNoMarkup();
     void choicesInARowAreStepsOfTheirOwn();
     void editThatChangesNothingIsNoStep();
     void textOfAFieldComesFirst();
@@ -289,6 +292,54 @@ void TestDialogHistory::numbersInARowAreOneStep()
     QCOMPARE(slices->value(), before + 5);
     pressUndo(dialog);
     QCOMPARE(slices->value(), before);
+}
+
+void TestDialogHistory::numberThatIsBackWhereItWasIsNoStep()
+{
+    OpenDialog dialog;
+    user::type(widthOf(dialog), QStringLiteral("640"));
+    auto* const slices = on<QSpinBox>(dialog, "MiscPage", "slicesSpin");
+    user::reveal(slices);
+    slices->setFocus();
+    const int before = slices->value();
+    for (Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Up}) {
+        QTest::keyClick(slices, key);
+    }
+    pressUndo(dialog);
+    QCOMPARE(slices->value(), before);
+    QCOMPARE(widthOf(dialog)->value(), 640);
+    pressUndo(dialog);
+    QCOMPARE(widthOf(dialog)->value(), 720);
+}
+
+void TestDialogHistory::clampOfAPageIsNoStep()
+{
+    KvMvcSettings settings = exampleSettings();
+    for (KvMvcViewSettings& view : settings.views) {
+        view.bitrate_mode = KV_MVC_VARIABLE_BITRATE;
+        view.hrd_mode = 1;
+        view.bitrate_units = KV_MVC_UNITS_BYTES_PERCENT;
+        view.vbv_initial = 150;
+    }
+    OpenDialog dialog(usualFlags, settings);
+    QCOMPARE(dialog.probe().record().settings.views[0].vbv_initial, 100);
+    dialog.companions.calls.clear();
+    pressUndo(dialog);
+    QCOMPARE(dialog.companions.calls, QStringList());
+}
+
+void TestDialogHistory::nameOfAFileIsNoMarkup()
+{
+    OpenDialog dialog;
+    dialog.companions.onRead = [](KvMvcSettings& settings) {
+        settings = fileSettings();
+        return 0;
+    };
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/<b>bold<b>.cfg"))});
+    dialog.drop(data);
+    pressUndo(dialog);
+    QVERIFY(QToolTip::text().contains(QLatin1String("&lt;b&gt;bold")));
 }
 
 void TestDialogHistory::choicesInARowAreStepsOfTheirOwn()
