@@ -65,8 +65,11 @@ void takeText(QString& buffer, QMessageBox::Icon icon, const QString& text)
 
 void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list arguments)
 {
-    // The encoder is between here and whoever could catch it: a message is lost rather.
-    thrownBy([&] { takeText(buffer, icon, foreignText(formatted(localized(format), arguments))); });
+    try {
+        takeText(buffer, icon, foreignText(formatted(localized(format), arguments)));
+    } catch (...) {
+        // The encoder is between here and whoever could take it: rather is a message lost.
+    }
 }
 
 int printError(const char* format, ...)
