@@ -476,6 +476,8 @@ void TestSettingsText::problemsNameTheirLine_data()
         "3: unknown key 'frame-rate' in section 'view 0'; did you mean 'frame_rate'?");
     row("letter missing", "bitrte = 2",
         "3: unknown key 'bitrte' in section 'view 0'; did you mean 'bitrate'?");
+    row("letters swapped, and another key in it", "mxa_bitrate = 2",
+        "3: unknown key 'mxa_bitrate' in section 'view 0'; did you mean 'max_bitrate'?");
     row("part of a key", "entropy = cabac",
         "3: unknown key 'entropy' in section 'view 0'; did you mean 'entropy_mode'?");
     row("key like no other", "copyright = x", "3: unknown key 'copyright' in section 'view 0'");
