@@ -183,14 +183,20 @@ const ExportTable& x264Table()
         .reference_b = saidWith({"pyramid_b"},
             {{"x264 has them only where two B-frames or more are in a row",
               [](const Job& job) {
-                  return job.view.reference_b != 0 && hasBFrames(job.view) && !x264::isPyramid(job);
+                  return job.view.reference_b != 0 && hasBFrames(job.view) && !x264::hasReferenceB(job);
               }},
-             {"x264 has them only in a pyramid",
-              [](const Job& job) { return x264::isPyramid(job) && job.view.pyramid_b == 0; }}}),
+             {"x264 has them only in a pyramid, of three B-frames or more",
+              [](const Job& job) {
+                  return x264::hasReferenceB(job) && job.view.ref_distance > 3 && job.view.pyramid_b == 0;
+              }}}),
         .pyramid_b = ExportRow({option("--b-pyramid", x264::bPyramid)},
             {{"there is none without B-frames as reference frames",
               [](const Job& job) {
                   return job.view.pyramid_b != 0 && hasBFrames(job.view) && job.view.reference_b == 0;
+              }},
+             {"x264 has one only of three B-frames or more",
+              [](const Job& job) {
+                  return job.view.pyramid_b != 0 && x264::hasReferenceB(job) && job.view.ref_distance <= 3;
               }}}),
 
         .num_ref_frames = ExportRow({option("--ref", x264::ref)},

@@ -89,7 +89,7 @@ bool isLowerProfileWritten(const Job& job)
     }
 }
 
-bool isPyramid(const Job& job)
+bool hasReferenceB(const Job& job)
 {
     return job.view.reference_b != 0 && predicts(job.view) && job.view.ref_distance > 2;
 }
@@ -97,7 +97,7 @@ bool isPyramid(const Job& job)
 bool needsMoreReferences(const Job& job)
 {
     const int least = bPyramid(job) == QLatin1String("normal") ? 4
-                      : isPyramid(job)                         ? 3
+                      : hasReferenceB(job)                     ? 3
                       : hasBFrames(job.view)                   ? 2
                                                                : 1;
     return predicts(job.view) && job.view.num_ref_frames < least;
@@ -279,14 +279,18 @@ QString bPyramid(const Job& job)
         return {};
     }
     const bool isStrict = job.view.pyramid_b == 0 || job.view.video_type == KV_MVC_BLURAY_3D;
-    return !isPyramid(job) ? QStringLiteral("none")
-           : isStrict      ? QStringLiteral("strict")
-                           : QStringLiteral("normal");
+    return !hasReferenceB(job) ? QStringLiteral("none")
+           : isStrict          ? QStringLiteral("strict")
+                               : QStringLiteral("normal");
 }
 
 QString ref(const Job& job)
 {
-    return QString::number(std::max(job.view.num_ref_frames, 1));
+    constexpr int leastOfPyramids = 4;
+    const int wanted = std::max(job.view.num_ref_frames, 1);
+    // From as many on, max_num_ref_frames is one less beside a strict pyramid.
+    const bool isReduced = bPyramid(job) == QLatin1String("strict") && wanted >= leastOfPyramids;
+    return QString::number(isReduced ? wanted + 1 : wanted);
 }
 
 QString merange(const Job& job)

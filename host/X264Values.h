@@ -61,7 +61,8 @@ bool isQuantizerMode(const ExportJob& job);
 bool isLosslessQuantizer(const ExportJob& job);
 /// x264 writes the lowest profile that has the tools in use.
 bool isLowerProfileWritten(const ExportJob& job);
-bool isPyramid(const ExportJob& job);
+/// Whether there are B-frames as reference frames; of three and more in a row they are a pyramid.
+bool hasReferenceB(const ExportJob& job);
 /// Whether max_num_ref_frames will be more than was set.
 bool needsMoreReferences(const ExportJob& job);
 

@@ -68,6 +68,9 @@ inline constexpr ExportCase exportCases[] = {
     {"a pyramid",             0, "ref_distance=4 reference_b=1 pyramid_b=1 num_ref_frames=4 i_interval=16", ""},
     {"a pyramid of three",    0, "ref_distance=4 reference_b=1 pyramid_b=1 num_ref_frames=3 i_interval=16", "num_ref_frames=4"},
     {"referenced B-frames",   0, "ref_distance=4 reference_b=1 i_interval=16 num_ref_frames=3", "pyramid_b=1"},
+    {"two referenced",        0, "ref_distance=3 reference_b=1 i_interval=15", ""},
+    {"a pyramid of two",      0, "ref_distance=3 reference_b=1 pyramid_b=1 num_ref_frames=4 i_interval=15", "pyramid_b=0"},
+    {"referenced, of six",    0, "ref_distance=3 reference_b=1 i_interval=15 num_ref_frames=6", ""},
     {"a pyramid unreferenced", 0, "ref_distance=4 pyramid_b=1 i_interval=16", "pyramid_b=0"},
 
     {"one reference",         0, "num_ref_frames=1 ref_distance=1", ""},

@@ -81,11 +81,15 @@ void TestHostExportNotes::whatIsLostIsTold_data()
     row("x264", "idr_marker=0 ref_distance=1",
         "Mark every so many I-frames as IDR: without B-frames all I-frames of the interval are "
         "IDR pictures");
-    row("x264", "reference_b=1", "B-frames as reference frames: x264 has them only in a pyramid");
+    row("x264", "reference_b=1", "");
+    row("x264", "reference_b=1 ref_distance=4",
+        "B-frames as reference frames: x264 has them only in a pyramid, of three B-frames or more");
     row("x264", "reference_b=1 ref_distance=2",
         "B-frames as reference frames: x264 has them only where two B-frames or more are in a "
         "row");
-    row("x264", "reference_b=1 pyramid_b=1 num_ref_frames=4", "");
+    row("x264", "reference_b=1 pyramid_b=1 ref_distance=4 num_ref_frames=4", "");
+    row("x264", "reference_b=1 pyramid_b=1 num_ref_frames=4",
+        "Pyramidal structure for B-frames: x264 has one only of three B-frames or more");
     row("x264", "pyramid_b=1",
         "Pyramidal structure for B-frames: there is none without B-frames as reference frames");
     row("x264", "num_ref_frames=1", "Reference frames: x264 keeps more of them, for its B-frames");
