@@ -75,6 +75,13 @@ constexpr RuleCase rows[] = {
     {"disc.format", "1918 x 1080", 3, [](Record& r) { setBoth(r, &V::width, 1918); }, true},
     {"disc.format-3d", "23.976", 3, [](Record&) {}, false},
     {"disc.format-3d", "24", 3, [](Record& r) { setFrameRate(r, 24); }, true},
+    {"disc.format-3d", "1280 x 720 at 50", 3,
+     [](Record& r) {
+         setBoth(r, &V::width, 1280);
+         setBoth(r, &V::height, 720);
+         setFrameRate(r, 50);
+     },
+     false},
     {"disc.format-3d", "1280 x 720 at 59.94", 3,
      [](Record& r) {
          setBoth(r, &V::width, 1280);

@@ -43,7 +43,7 @@ constexpr RuleCase rows[] = {
     {"level.interlace", "fields of Multiview High, which has none", 1, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::level, 42); }, false},
     {"level.interlace-none", "1920 x 1080, which 4.1 takes", 0, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::level, 42); }, false},
     {"level.interlace-none", "2560 x 1440", 0, [](Record& r) { setBoth(r, &V::interlace_mode, 1); setBoth(r, &V::level, 50); setBoth(r, &V::width, 2560); setBoth(r, &V::height, 1440); }, true},
-    {"level.dpb", "4 of 4", 0, [](Record&) {}, false},
+    {"level.dpb", "4 of 4", 0, [](Record& r) { setBoth(r, &V::num_ref_frames, 4); }, false},
     {"level.dpb", "5 of 4", 0, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }, true},
     {"level.slices-most", "59 of a thin picture", 0, [](Record& r) { setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 59); }, false},
     {"level.slices-most", "60 of a thin picture", 0, [](Record& r) { setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 60); }, true},
