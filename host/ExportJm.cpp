@@ -157,6 +157,11 @@ const ExportTable& jmTable()
             {{"there is none without B-frames as reference frames",
               [](const Job& job) {
                   return job.view.pyramid_b != 0 && hasBFrames(job.view) && job.view.reference_b == 0;
+              }},
+             {"JM has one only of three B-frames",
+              [](const Job& job) {
+                  return job.view.pyramid_b != 0 && hasBFrames(job.view) &&
+                         job.view.reference_b != 0 && jm::isPyramidTooSmall(job);
               }}}),
 
         .num_ref_frames = parameters({"NumberReferenceFrames"}, jm::references,
@@ -174,7 +179,9 @@ const ExportTable& jmTable()
         .subpixel_mode = parameters({"DisableSubpelME"}, jm::disableSubpelMe,
             {{"JM goes on to quarter samples",
               [](const Job& job) { return job.view.subpixel_mode == KV_MVC_SUBPIXEL_HALF; }}}),
-        .weighted_p = parameters({"WeightedPrediction"}, switchOf<&View::weighted_p>),
+        .weighted_p = parameters({"WeightedPrediction"}, jm::weightedPrediction,
+            {{"JM has it only in progressive pictures",
+              [](const Job& job) { return job.view.weighted_p != 0 && isInterlaced(job.view); }}}),
         .fast_reference = parameters({"RestrictSearchRange"}, jm::restrictSearchRange),
         .fast_subblock = saidWith({"fast_reference"},
             {{"JM has it only with that of reference frames",
@@ -187,7 +194,10 @@ const ExportTable& jmTable()
               [](const Job& job) {
                   return job.view.simple_rd != 0 && job.view.interlace_mode == KV_MVC_MBAFF;
               }}}),
-        .hadamard = parameters({"MEDistortionHPel", "MEDistortionQPel", "MDDistortion"}, jm::costMeasure),
+        .hadamard = ExportRow({main("MEDistortionFPel", jm::fullSampleMeasure),
+                               main("MEDistortionHPel", jm::costMeasure),
+                               main("MEDistortionQPel", jm::costMeasure),
+                               main("MDDistortion", jm::costMeasure)}),
         .brightness = unsaid(noAdaptation, isOn<&View::brightness>),
         .contrast = unsaid(noAdaptation, isOn<&View::contrast>),
         .complexity = unsaid(noAdaptation, isOn<&View::complexity>),

@@ -50,7 +50,15 @@ qint64 sliceMacroblocks(const Job& job)
 
 bool isPyramid(const Job& job)
 {
-    return hasBFrames(job.view) && job.view.reference_b != 0 && job.view.pyramid_b != 0;
+    return hasBFrames(job.view) && job.view.reference_b != 0 && job.view.pyramid_b != 0 &&
+           !isPyramidTooSmall(job);
+}
+
+QString distortion(bool isHadamard)
+{
+    constexpr int absoluteDifferences = 0;
+    constexpr int hadamard = 2;
+    return number(isHadamard ? hadamard : absoluteDifferences);
 }
 
 } // namespace
@@ -70,6 +78,12 @@ bool lacksIdrPictures(const Job& job)
 {
     return job.codedViews > 1 && job.view.interlace_mode == KV_MVC_INTERLACED &&
            job.view.i_interval > 0 && job.view.idr_marker > 0;
+}
+
+bool isPyramidTooSmall(const Job& job)
+{
+    constexpr int leastDistance = 4;
+    return job.view.ref_distance < leastDistance;
 }
 
 bool isRateRounded(const Job& job)
@@ -338,9 +352,18 @@ QString rdOptimization(const Job& job)
 
 QString costMeasure(const Job& job)
 {
-    constexpr int absoluteDifferences = 0;
-    constexpr int hadamard = 2;
-    return number(job.view.hadamard != 0 ? hadamard : absoluteDifferences);
+    return distortion(job.view.hadamard != 0);
+}
+
+QString fullSampleMeasure(const Job& job)
+{
+    // The last step of the search and the decisions go by the same measure.
+    return distortion(job.view.hadamard != 0 && job.view.subpixel_mode == KV_MVC_SUBPIXEL_FULL);
+}
+
+QString weightedPrediction(const Job& job)
+{
+    return number(job.view.weighted_p != 0 && !isInterlaced(job.view) ? 1 : 0);
 }
 
 QString sliceMode(const Job& job)

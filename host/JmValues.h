@@ -54,6 +54,8 @@ QString halfBlocks(const ExportJob& job);
 QString disableSubpelMe(const ExportJob& job);
 QString rdOptimization(const ExportJob& job);
 QString costMeasure(const ExportJob& job);
+QString fullSampleMeasure(const ExportJob& job);
+QString weightedPrediction(const ExportJob& job);
 QString sliceMode(const ExportJob& job);
 QString sliceArgument(const ExportJob& job);
 QString isDeblockingSaid(const ExportJob& job);
@@ -63,6 +65,8 @@ QString disableDeblocking(const ExportJob& job);
 bool isLevelChosen(const ExportJob& job);
 /// Whether pictures cannot be cut into that many slices of equal macroblock counts.
 bool isSliceCountMissed(const ExportJob& job);
+/// Whether there are too few B-frames in a row for a pyramid.
+bool isPyramidTooSmall(const ExportJob& job);
 /// Whether IDR pictures but the first would not be decodable.
 bool lacksIdrPictures(const ExportJob& job);
 /// Whether a rate or a buffer is told in units that it is no multiple of.

@@ -145,6 +145,12 @@ void TestHostExportNotes::whatIsLostIsTold_data()
     jm("adaptive_b=1", "Adaptive B-frame placement: JM places B-frames at regular distances");
     jm("pyramid_b=1", "Pyramidal structure for B-frames: there is none without B-frames as "
                       "reference frames");
+    jm("pyramid_b=1 reference_b=1",
+       "Pyramidal structure for B-frames: JM has one only of three B-frames");
+    jm("pyramid_b=1 reference_b=1 ref_distance=4", "");
+    jm("weighted_p=1 interlace_mode=1",
+       "Weighted prediction for P-frames: JM has it only in progressive pictures");
+    jm("weighted_p=1", "");
     jm("num_ref_frames=0", "Reference frames: JM keeps one at least");
     jm("num_ref_frames=0 i_interval=1", "");
     jm("motion_search=0", "Motion vector search range: JM searches one sample at least");
