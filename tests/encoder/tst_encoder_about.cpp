@@ -274,6 +274,7 @@ void TestEncoderAbout::whatIsBeyondALimitIsRefused_data()
     QTest::newRow("macroblocks/s") << row++ << QByteArray("level.rate");
     QTest::newRow("macroblocks/s of two views") << row++ << QByteArray("level.rate-views");
     QTest::newRow("macroblocks/s of pulldown") << row++ << QByteArray("level.rate-pulldown");
+    QTest::newRow("macroblocks/s without pulldown, too") << row++ << QByteArray("level.rate");
     QTest::newRow("references") << row++ << QByteArray("level.dpb");
     QTest::newRow("references of two views") << row++ << QByteArray("level.dpb-views");
     QTest::newRow("references and a B picture") << row++ << QByteArray("level.dpb-views-b");
@@ -297,6 +298,11 @@ void TestEncoderAbout::whatIsBeyondALimitIsRefused()
         {0,
          [](Record& r) {
              setFrameRate(r, 25);
+             setBoth(r, &V::pulldown, 1);
+         }},
+        {0,
+         [](Record& r) {
+             setFrameRate(r, 31);
              setBoth(r, &V::pulldown, 1);
          }},
         {0, [](Record& r) { setBoth(r, &V::num_ref_frames, 5); }},

@@ -62,14 +62,22 @@ void TestHostExportNotes::whatIsLostIsTold_data()
     row("x264", "bitrate_mode=1 hrd_mode=0", "");
     row("x264", "frame_size_i=200000 frame_size_bref=1",
         "Maximum I-frame size, Maximum Br-frame size: x264 limits no picture's size");
-    row("x264", "bitrate_mode=3 hrd_mode=0 quant_i=2",
+    row("x264", "bitrate_mode=3 hrd_mode=0 quant_i=4",
         "Quantizer I-frames: x264 keeps it within 19 of that of P-frames");
+    row("x264", "bitrate_mode=3 hrd_mode=0 quant_i=5", "");
     row("x264", "quant_i=2", "");
     row("x264", "bitrate_mode=1 hrd_mode=0 quant_i=0 quant_p=0 quant_b=0",
         "Quantizer P-frames: the lowest is lossless coding, the next is taken");
     row("x264", "force_i=5",
         "Min. I-frame distance: at a nearer scene change x264 codes an I-frame that is no IDR "
         "picture");
+    row("x264", "force_i=13",
+        "Min. I-frame distance: at a nearer scene change x264 codes an I-frame that is no IDR "
+        "picture");
+    row("x264", "force_i=14",
+        "Min. I-frame distance: at a nearer scene change x264 codes an I-frame that is no IDR "
+        "picture\n"
+        "note: Min. I-frame distance: x264 takes half the interval at most");
     row("x264", "force_i=5 scene_detection=0", "");
     row("x264", "fixed_i_position=1",
         "Fixed I-frames distance: x264 counts the interval from a scene change on");
