@@ -55,7 +55,7 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoDefaults(KvMvcSettings* setti
 
 /// Widths: 1 is refused; 2 is corrected; 3 says a long message; 4 asks for what is not there; 5 is
 /// refused without an error; 6 has letters beyond ASCII; 7 is a risk, and tells what it is about
-/// and how much of a limit is used.
+/// and how much of a limit is used; 8 is corrected to that.
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
                                                                KvMvcSettings* settings,
                                                                int32_t stage, int32_t reserved)
@@ -92,6 +92,10 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
     case 6:
         sinkOf(lookUp, "wrn_printf")("%s", "\xC3\x9C\xC5\x82 \xD0\x96 \xE2\x82\xAC");
         return 0;
+    case 8:
+        settings->views[0].width = 7;
+        sinkOf(lookUp, "wrn_printf")("width %d corrected to %d", 8, 7);
+        [[fallthrough]];
     case 7:
         tellLimit(lookUp);
         tellAbout(lookUp);

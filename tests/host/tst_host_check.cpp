@@ -91,6 +91,8 @@ void TestHostCheck::messagesAndVerdict_data()
     const QStringList strict = {QStringLiteral("--strict")};
     const QString risk = QStringLiteral("risk: width 7 of 16\n");
     QTest::newRow("accepted with a risk") << 7 << none << risk << 0;
+    QTest::newRow("a risk after a correction")
+        << 8 << none << risk + QStringLiteral("warning: width 8 corrected to 7\n") << 0;
     QTest::newRow("a risk, strictly") << 7 << strict << risk << 1;
     QTest::newRow("a correction, strictly") << 2 << strict << correction << 0;
 }
