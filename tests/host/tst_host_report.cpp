@@ -19,6 +19,7 @@ private Q_SLOTS:
     void levelsThatFit();
     void json();
     void autoTakesALevel();
+    void onlyAutoTakesALevel();
     void risksAreReported();
     void refusedSettingsAreReported();
     void encoderThatTellsNothing();
@@ -194,6 +195,17 @@ void TestHostReport::autoTakesALevel()
     QVERIFY2(text.contains(QStringLiteral("\n\nLevel 4.1, which Auto comes to\n")),
              qPrintable(text));
     QCOMPARE(jsonReport(program)[QStringLiteral("auto")], QJsonValue(true));
+}
+
+/// A disc has its level, whatever is set.
+void TestHostReport::onlyAutoTakesALevel()
+{
+    HostProgram program;
+    prepare(program, QStringLiteral("3"), {QStringLiteral("level=3.2")});
+    const QString text = program.run({QStringLiteral("report"), a}).output;
+    QVERIFY2(text.contains(QStringLiteral("\n  3.2   no, set: ")), qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("\n  4.1   fits\n")), qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("\n\nLevel 4.1\n")), qPrintable(text));
 }
 
 void TestHostReport::risksAreReported()
