@@ -11,6 +11,7 @@ private Q_SLOTS:
     void whatIsLostIsTold();
     void whatTwoViewsLoseIsTold_data();
     void whatTwoViewsLoseIsTold();
+    void secondViewHasItsDeblocking();
 
 private:
     HostProgram m_program;
@@ -227,6 +228,21 @@ void TestHostExportNotes::whatTwoViewsLoseIsTold()
     const QString after = m_program.run(command).error;
     QVERIFY2(!before.contains(line), qPrintable(before));
     QVERIFY2(after.contains(line), qPrintable(after));
+}
+
+/// Unlike its rates, which have no place in its configuration.
+void TestHostExportNotes::secondViewHasItsDeblocking()
+{
+    KvMvcSettings settings = kvtest::EncoderLibrary().defaults(KV_MVC_STEREO_HIGH);
+    settings.views[1].deblocking = 0;
+    m_program.writeSettings(QStringLiteral("movie.ini"), settings);
+    const HostProgram::Result result = m_program.run(
+        {QStringLiteral("export"), QStringLiteral("--to"), QStringLiteral("jm"),
+         QStringLiteral("-o"), QStringLiteral("film.cfg"), QStringLiteral("movie.ini")});
+    QVERIFY2(result.error.endsWith(
+                 QStringLiteral("\nnote: Target bitrate (bps), Max bitrate (bps), Bitrate buffer: "
+                                "JM codes the second view as the base view\n")),
+             qPrintable(result.error));
 }
 
 QTEST_GUILESS_MAIN(TestHostExportNotes)
