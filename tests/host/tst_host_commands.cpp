@@ -58,6 +58,8 @@ void TestHostCommands::wrongArgumentsGetOneLine_data()
         "unknown option '-o'; see 'kv-mvc-settings show --help'");
     row("command with a slip", text("chekc a"), "unknown command 'chekc'; did you mean 'check'?");
     row("command unfinished", text("def 2"), "unknown command 'def'; did you mean 'defaults'?");
+    row("command of two letters", text("ex a"),
+        "unknown command 'ex'; see 'kv-mvc-settings --help'");
     row("option with a slip", text("show --jsno a"),
         "unknown option '--jsno'; did you mean '--json'?");
     row("option with a value", text("edit --hostin=own"),

@@ -147,6 +147,7 @@ void TestHostExport::linesAreRefused_data()
     };
     row("", "--to is missing: x264, ffmpeg or jm");
     row("--to h265", "there is no export to 'h265'; there are x264, ffmpeg and jm");
+    row("--to x264 --to h265", "there is no export to 'h265'; there are x264, ffmpeg and jm");
     row("--to x264 --view 2", "there is no view '2'; the settings have views 0 to 1");
     row("--to x264 --view left", "there is no view 'left'; the settings have views 0 to 1");
     row("--to x264 --view -1", "there is no view '-1'; the settings have views 0 to 1");

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void levelsThatFit_data();
     void levelsThatFit();
     void json();
+    void limitsNameTheirView();
     void autoTakesALevel();
     void onlyAutoTakesALevel();
     void risksAreReported();
@@ -184,6 +185,17 @@ void TestHostReport::json()
         return;
     }
     QFAIL("no level 3.2");
+}
+
+void TestHostReport::limitsNameTheirView()
+{
+    HostProgram program;
+    prepare(program, QStringLiteral("2"));
+    const QJsonArray limits = jsonReport(program)[QStringLiteral("limits")].toArray();
+    QCOMPARE(limits[5][QStringLiteral("name")], QJsonValue(QStringLiteral("Bitrate")));
+    QCOMPARE(limits[5][QStringLiteral("view")], QJsonValue(0));
+    QCOMPARE(limits[7][QStringLiteral("name")], QJsonValue(QStringLiteral("Bitrate")));
+    QCOMPARE(limits[7][QStringLiteral("view")], QJsonValue(QJsonValue::Null));
 }
 
 void TestHostReport::autoTakesALevel()
