@@ -95,6 +95,8 @@ private Q_SLOTS:
     void anotherEditEndsWhatWasTakenBack();
     void numbersInARowAreOneStep();
     void numberThatIsBackWhereItWasIsNoStep();
+    void editAfterAnUndoIsAStepOfItsOwn();
+    void editInsideACheckBelongsToTheStep();
     void clampOfAPageIsNoStep();
     void nameOfAFileIsNoMarkup();
     void choicesInARowAreStepsOfTheirOwn();
@@ -310,6 +312,40 @@ void TestDialogHistory::numberThatIsBackWhereItWasIsNoStep()
     QCOMPARE(widthOf(dialog)->value(), 640);
     pressUndo(dialog);
     QCOMPARE(widthOf(dialog)->value(), 720);
+}
+
+void TestDialogHistory::editAfterAnUndoIsAStepOfItsOwn()
+{
+    OpenDialog dialog;
+    auto* const slices = on<QSpinBox>(dialog, "MiscPage", "slicesSpin");
+    user::reveal(slices);
+    const int before = slices->value();
+    for (int i = 0; i < 2; ++i) {
+        dialog.button("buttonCancel")->setFocus();
+        slices->setFocus();
+        QTest::keyClick(slices, Qt::Key_Up);
+    }
+    pressUndo(dialog);
+    QCOMPARE(slices->value(), before + 1);
+    QTest::keyClick(slices, Qt::Key_Up);
+    pressUndo(dialog);
+    QCOMPARE(slices->value(), before + 1);
+}
+
+void TestDialogHistory::editInsideACheckBelongsToTheStep()
+{
+    OpenDialog dialog;
+    const QByteArray before = dialog.bytes();
+    auto* const height = on<QSpinBox>(dialog, "VideoFormatPage", "heightSpin");
+    dialog.companions.onCheck = [&](KvMvcLookup, KvMvcSettings&) {
+        dialog.companions.onCheck = nullptr;
+        height->setValue(480);
+        return 0;
+    };
+    user::type(widthOf(dialog), QStringLiteral("1280"));
+    QCOMPARE(height->value(), 480);
+    pressUndo(dialog);
+    QVERIFY(dialog.bytes() == before);
 }
 
 void TestDialogHistory::clampOfAPageIsNoStep()
