@@ -100,7 +100,7 @@ const Command& findCommand(std::span<const Command> commands, const QString& nam
 QString asTyped(const QString& name, const QStringList& arguments)
 {
     for (const QString& argument : arguments) {
-        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        QString option = argument.section(QLatin1Char('='), 0, 0);
         const bool isLong = option.startsWith(QStringLiteral("--"));
         if (option == QStringLiteral("--") + name ||
             (!isLong && option.startsWith(QLatin1Char('-')) && option.contains(name))) {
