@@ -15,6 +15,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -138,9 +139,7 @@ public:
             break;
         case QEvent::FontChange:
         case QEvent::StyleChange:
-            // When the widget itself has taken note of it.
-            QMetaObject::invokeMethod(
-                this, [this] { fit(); }, Qt::QueuedConnection);
+            fitLater();
             break;
         default:
             break;
@@ -151,9 +150,20 @@ public:
 protected:
     virtual bool hasRoomIn(const QFont& font) const = 0;
 
-    QWidget* const m_widget;
-
 private:
+    /// When the widget itself has taken note of what the event is about.
+    void fitLater()
+    {
+        if (std::exchange(m_isQueued, true)) {
+            return;
+        }
+        const auto go = [this] {
+            m_isQueued = false;
+            fit();
+        };
+        QMetaObject::invokeMethod(this, go, Qt::QueuedConnection);
+    }
+
     void fit()
     {
         if (m_isFitting || !m_widget->isVisible()) {
@@ -183,6 +193,7 @@ private:
         }
     }
 
+    QWidget* const m_widget;
     bool m_isFitting = false;
     bool m_isQueued = false;
     /// The size that the widget was given, in points; 0 while it has the usual one.

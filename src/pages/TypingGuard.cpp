@@ -56,7 +56,7 @@ bool TypingGuard::isForTheDialog(const QKeyEvent* key) const
 
 void TypingGuard::takeBack()
 {
-    const int before = *std::exchange(m_before, std::nullopt);
+    const int before = std::exchange(m_before, std::nullopt).value_or(m_field->value());
     // Also where the number is still this one it replaces the text.
     const QPointer<TypingGuard> self(this);
     m_field->setValue(before);
