@@ -102,7 +102,7 @@ void applyFrameRate(const ViewRow&, const QString& key, const Applying& in, KvMv
     }
 }
 
-void describeFieldOrder(const ViewRow& row, const QString& key, const KvMvcViewSettings& view,
+void describeFieldOrder(const ViewRow&, const QString& key, const KvMvcViewSettings& view,
                         Describing& out)
 {
     const bool interlaced =
@@ -112,7 +112,8 @@ void describeFieldOrder(const ViewRow& row, const QString& key, const KvMvcViewS
         return;
     }
     const qint32 order = topFirst ? KV_MVC_TOP_FIELD_FIRST : KV_MVC_BOTTOM_FIELD_FIRST;
-    out.state.insert(key, *out.vocabulary.list(*row.list).textOf(order), interlaced);
+    const auto text = out.vocabulary.list(ListName::FieldOrders).textOf(order);
+    out.state.insert(key, text.value_or(QString()), interlaced);
 }
 
 void applySlices(const ViewRow& row, const QString& key, const Applying& in,
@@ -128,7 +129,7 @@ void applySlices(const ViewRow& row, const QString& key, const Applying& in,
 void applyBitrateMode(const ViewRow& row, const QString& key, const Applying& in,
                       KvMvcViewSettings& view)
 {
-    const auto& modes = in.vocabulary.list(*row.list);
+    const auto& modes = in.vocabulary.list(ListName::BitrateModes);
     if (in.state.contains(key) &&
         modes.codeOf(in.state.value(key).toString()) == KV_MVC_CONSTANT_BITRATE) {
         view.hrd_mode = 1;

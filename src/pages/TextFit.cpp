@@ -294,7 +294,9 @@ class ShrinkingLabel : public Shrinking
 public:
     explicit ShrinkingLabel(QLabel* label) : Shrinking(label), m_label(label)
     {
-        label->setMinimumWidth(1);
+        // As much as is left beside a list and buttons: what expands gives way before the text.
+        constexpr int room = 110;
+        label->setMinimumWidth(std::min(label->sizeHint().width(), room));
     }
 
 protected:
