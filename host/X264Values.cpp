@@ -70,7 +70,7 @@ bool isQuantizerMode(const Job& job)
 
 bool isLosslessQuantizer(const Job& job)
 {
-    return isConstantQuantizer(job) && quantizer(job, job.view.quant_p) < leastQuantizer;
+    return isQuantizerMode(job) && quantizer(job, job.view.quant_p) < leastQuantizer;
 }
 
 bool isLowerProfileWritten(const Job& job)
@@ -223,7 +223,10 @@ QString qp(const Job& job)
 
 QString crf(const Job& job)
 {
-    return numberIf(job.view.bitrate_mode == KV_MVC_AVERAGE_QUANTIZER, job.view.quant_p);
+    // Of more than 8 bits it goes below 0, as far as quantizers do.
+    const int least = leastQuantizer - quantizer(job, 0);
+    return numberIf(job.view.bitrate_mode == KV_MVC_AVERAGE_QUANTIZER,
+                    std::max(job.view.quant_p, least));
 }
 
 QString ipratio(const Job& job)

@@ -69,6 +69,8 @@ void TestHostExportNotes::whatIsLostIsTold_data()
     row("x264", "quant_i=2", "");
     row("x264", "bitrate_mode=1 hrd_mode=0 quant_i=0 quant_p=0 quant_b=0",
         "Quantizer P-frames: the lowest is lossless coding, the next is taken");
+    row("x264", "bitrate_mode=3 hrd_mode=0 quant_i=0 quant_p=0 quant_b=0",
+        "Quantizer P-frames: the lowest is lossless coding, the next is taken");
     row("x264", "force_i=5",
         "Min. I-frame distance: at a nearer scene change x264 codes an I-frame that is no IDR "
         "picture");

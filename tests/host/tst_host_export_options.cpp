@@ -37,6 +37,11 @@ void TestHostExportOptions::settingsBecomeOptions_data()
     // Six quantizers are twice the step.
     row("x264", 0, "bitrate_mode=3 hrd_mode=0 quant_i=18 quant_p=24 quant_b=36", "--ipratio 2");
     row("x264", 0, "bitrate_mode=3 hrd_mode=0 quant_i=18 quant_p=24 quant_b=36", "--pbratio 4");
+    // The lowest quantizer is lossless coding, which High profiles do not have there.
+    row("x264", 0, "bitrate_mode=3 hrd_mode=0 quant_p=0", "--crf 1");
+    row("x264", 0,
+        "profile=110 bit_depth_luma=10 bit_depth_chroma=10 bitrate_mode=3 hrd_mode=0 quant_p=-12",
+        "--crf -11");
     row("x264", 0, "reference_b=1 pyramid_b=1", "--b-pyramid normal");
     row("x264", 3, "reference_b=1 pyramid_b=1", "--b-pyramid strict");
     row("x264", 0, "weighted_p=1", "--weightp 1");
