@@ -37,3 +37,27 @@ if(KV_SANITIZE)
 elseif(NOT WIN32)
     add_link_options(LINKER:--no-undefined)
 endif()
+
+# What makes a fault in a program that loads these libraries, or in a file that they read, hard to use.
+if(WIN32)
+    add_link_options(LINKER:--nxcompat,--dynamicbase,--high-entropy-va)
+else()
+    include(CheckPIESupported)
+    check_pie_supported()
+    add_link_options(LINKER:-z,relro,-z,now,-z,noexecstack)
+    add_compile_options(-fstack-protector-strong)
+    include(CheckCXXCompilerFlag)
+    # Those that not every compiler or processor has.
+    foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection=full -mbranch-protection=standard)
+        string(MAKE_C_IDENTIFIER "KV_HAS${flag}" has)
+        check_cxx_compiler_flag(${flag} ${has})
+        if(${has})
+            add_compile_options(${flag})
+        endif()
+    endforeach()
+    if(NOT KV_SANITIZE)
+        # The C library's checks need the optimizer, and hide calls from the sanitizers. Some compilers
+        # define it by themselves.
+        add_compile_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    endif()
+endif()
