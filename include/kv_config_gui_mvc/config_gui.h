@@ -79,8 +79,9 @@ typedef struct KvMvcHosting {
  * returns; those that a call with the result KV_MVC_GUI_ERROR may have left, by
  * the next call. They are looked for in the host program's directory, then by
  * the system loader's rules; on Linux these include the directory of this
- * module. On Windows they include the current directory, unless the host has
- * called SetDllDirectoryW(L""), as one should that works in folders of others.
+ * module. The current directory is not searched: on Windows it is taken out of
+ * the search by SetDllDirectoryW() while a library is loaded, for the whole
+ * process, unless the host has set a directory to search instead.
  *
  * @param settings The record to edit; written only when the user accepts.
  * @param flags    Combination of KvMvcGuiFlags.

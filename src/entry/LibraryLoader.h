@@ -22,7 +22,7 @@ public:
     void reset();
 
     /// Loads "base name.extension". A name without a directory is looked for in the host program's
-    /// directory, then by the system loader's own rules.
+    /// directory, then by the system loader's own rules, the current directory left out.
     /// @param extension Null: the platform's, "dll" or "so".
     bool load(const std::wstring& baseName, const wchar_t* extension = nullptr);
 

@@ -14,6 +14,11 @@ void* openLibrary(const std::filesystem::path& file, std::string& error);
 void* findFunction(void* library, const char* name);
 void closeLibrary(void* library);
 
+/// Whether the system's loader finds a library by a name without a folder, "kv_mvcenc.dll".
+bool findsLibrary(const std::string& name);
+/// Windows: SetDllDirectoryW(). Elsewhere nothing.
+void setLibraryFolder(const std::string& folder);
+
 /// The names, without folders, of the files that are mapped into this process as programs,
 /// libraries or data; each as often as the system lists it.
 std::vector<std::string> mappedFiles();

@@ -26,6 +26,14 @@ void closeLibrary(void* library)
     dlclose(library);
 }
 
+bool findsLibrary(const std::string& name)
+{
+    void* const library = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
+    return library && dlclose(library) == 0;
+}
+
+void setLibraryFolder(const std::string&) {}
+
 std::vector<std::string> mappedFiles()
 {
     std::vector<std::string> names;

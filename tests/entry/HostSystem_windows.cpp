@@ -28,6 +28,18 @@ void closeLibrary(void* library)
     FreeLibrary(static_cast<HMODULE>(library));
 }
 
+bool findsLibrary(const std::string& name)
+{
+    const HMODULE library = LoadLibraryW(std::filesystem::path(name).c_str());
+    return library && FreeLibrary(library);
+}
+
+void setLibraryFolder(const std::string& folder)
+{
+    std::filesystem::path preferred = folder;
+    SetDllDirectoryW(preferred.make_preferred().c_str());
+}
+
 std::vector<std::string> mappedFiles()
 {
     std::vector<HMODULE> modules(1024);

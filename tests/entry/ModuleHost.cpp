@@ -13,6 +13,9 @@
 // |                 | is called once more, while the dialog is open, which is then left     |
 // | call            | calls the module: "result", "changed", "record flags"                |
 // | call-null       | calls it without settings                                            |
+// | library-folder=F| Windows: has libraries searched in that folder, no longer in the       |
+// |                 | current one                                                           |
+// | find=LIBRARY    | says whether the system's loader finds a library by its name          |
 // | mapped          | names what of the module, companions and stubs is mapped, without the |
 // |                 | platform's extension                                                 |
 // | application     | makes an application object; "delete" deletes it                     |
@@ -263,6 +266,10 @@ bool Host::step(const std::string& text)
         call(&settings);
     } else if (name == "call-null") {
         call(nullptr);
+    } else if (name == "library-folder") {
+        host_system::setLibraryFolder(value);
+    } else if (name == "find") {
+        say(QStringLiteral("finds ") + yesNo(host_system::findsLibrary(value + KV_LIBRARY_SUFFIX)));
     } else if (name == "mapped") {
         mapped();
     } else if (name == "application") {

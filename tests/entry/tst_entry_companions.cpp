@@ -30,6 +30,9 @@ private Q_SLOTS:
     void companionBesideTheHostWins();
     void companionBesideTheModuleIsFound();
     void oneOfEachPlace();
+    void currentFolderIsNotSearched();
+    void searchOfTheHostStays_data();
+    void searchOfTheHostStays();
     void brokenFileCountsAsMissing();
     void brokenFileBesideTheHostHidesOneBesideTheModule();
     void failedCallsLibrariesAreReleasedByTheNextCall();
@@ -159,6 +162,57 @@ void TestEntryCompanions::oneOfEachPlace()
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QVERIFY(run.log.contains(QLatin1String("load module/kv_mvcenc_b")));
     QVERIFY(!run.log.contains(QLatin1String("load host/kv_mvcenc")));
+}
+
+void TestEntryCompanions::currentFolderIsNotSearched()
+{
+    // By their order all of these would be taken before those that lie beside the host.
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    sandbox.add("stub_entry_encoder", "kv_mvcenc_b", ".");
+    sandbox.add("stub_entry_probe", "kv_media_probe_x", ".");
+    sandbox.add("stub_entry_probe", "kv_media_probe", ".");
+    const auto run = sandbox.run({QStringLiteral("call"), QStringLiteral("call")});
+    QCOMPARE(run.values("result"), QStringList({QStringLiteral("1001"), QStringLiteral("1001")}));
+    const QStringList call = {
+        QStringLiteral("load host/kv_mvc_settings_io"), QStringLiteral("load host/kv_mvcenc"),
+        QStringLiteral("unload host/kv_mvcenc"), QStringLiteral("unload host/kv_mvc_settings_io")};
+    QCOMPARE(run.log, call + call);
+}
+
+void TestEntryCompanions::searchOfTheHostStays_data()
+{
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("encoder");
+    QTest::addColumn<bool>("currentFolder");
+    QTest::addColumn<bool>("libraryFolder");
+    QTest::newRow("untouched") << QStringList() << QStringLiteral("load host/kv_mvcenc") << true
+                               << false;
+    QTest::newRow("in a folder") << QStringList(QStringLiteral("library-folder=module"))
+                                 << QStringLiteral("load module/kv_mvcenc_b") << false << true;
+}
+
+void TestEntryCompanions::searchOfTheHostStays()
+{
+#ifndef Q_OS_WIN
+    QSKIP("a process cannot change where libraries are searched");
+#endif
+    QFETCH(QStringList, steps);
+    QFETCH(QString, encoder);
+    QFETCH(bool, currentFolder);
+    QFETCH(bool, libraryFolder);
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    sandbox.add("stub_entry_empty", "planted", ".");
+    sandbox.add("stub_entry_empty", "other", "module");
+    sandbox.add("stub_entry_encoder", "kv_mvcenc_b", "module");
+    const auto run =
+        sandbox.run(steps + QStringList({QStringLiteral("call"), QStringLiteral("find=planted"),
+                                         QStringLiteral("find=other")}));
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QVERIFY2(run.log.contains(encoder), qPrintable(run.log.join(QLatin1Char('\n'))));
+    const auto word = [](bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no"); };
+    QCOMPARE(run.values("finds"), QStringList({word(currentFolder), word(libraryFolder)}));
 }
 
 void TestEntryCompanions::brokenFileCountsAsMissing()
