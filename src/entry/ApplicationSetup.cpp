@@ -34,11 +34,12 @@ bool isUsers(const LanguageRow& row)
 #endif
 }
 
-/// One for the process, never destroyed: an application may outlive this module's own objects.
+/// One for all calls; it goes with the module. No application has it then, as each call takes it
+/// back.
 QTranslator& processTranslator()
 {
-    static auto* const translator = new QTranslator;
-    return *translator;
+    static QTranslator translator;
+    return translator;
 }
 
 } // namespace

@@ -73,6 +73,9 @@ QMap<QString, QString> Sandbox::findingBesideTheModule() const
 #ifdef Q_OS_WIN
     return {{QStringLiteral("PATH"), QDir::toNativeSeparators(path(QStringLiteral("module"))) +
                                          QDir::listSeparator() + qEnvironmentVariable("PATH")}};
+#elif defined(__SANITIZE_ADDRESS__)
+    // It calls dlopen() in the module's place, so that the run path is that of its own library.
+    return {{QStringLiteral("LD_LIBRARY_PATH"), path(QStringLiteral("module"))}};
 #else
     return {};
 #endif

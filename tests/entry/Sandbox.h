@@ -26,7 +26,8 @@ public:
     QString libraryPath(const char* name, const char* folder = "host") const;
 
     /// For run(): lets the system's loader find companions in the folder "module". The module's own
-    /// run path does that already; on Windows, which knows none, the search path does.
+    /// run path does that already; on Windows, which knows none, the search path does, and so it
+    /// does where the address sanitizer loads libraries.
     QMap<QString, QString> findingBesideTheModule() const;
 
     struct Result {
