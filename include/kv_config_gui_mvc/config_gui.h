@@ -83,6 +83,11 @@ typedef struct KvMvcHosting {
  * the search by SetDllDirectoryW() while a library is loaded, for the whole
  * process, unless the host has set a directory to search instead.
  *
+ * The dialog speaks the user's language where it is German or Japanese: with
+ * the first gui_mvc_de.qm or gui_mvc_jp.qm of the application's library paths,
+ * the last of which is the module's directory, unless the application object is
+ * the host's. mvc_gui_texts is looked for beside that file, and there only.
+ *
  * @param settings The record to edit; written only when the user accepts.
  * @param flags    Combination of KvMvcGuiFlags.
  * @param ext      With KV_MVC_GUI_HOSTING_RECORD a KvMvcHosting; otherwise the
@@ -95,7 +100,10 @@ typedef struct KvMvcHosting {
  *         no platform plug-in of Qt, or no display that it could connect to;
  *         when a dialog is open already; or when an exception kept it from opening.
  *         No message is shown for any of these, and no exception leaves the
- *         function.
+ *         function. With KV_CONFIG_GUI_TRACE=1 in the environment each search,
+ *         each function, each call of a companion and the reason for an error
+ *         go to standard error, one line each; otherwise to the logging
+ *         category "kv.config_gui_mvc" of Qt, as debug messages.
  */
 KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags,
                                                   void* ext);

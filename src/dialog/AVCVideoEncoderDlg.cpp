@@ -263,8 +263,15 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
         // On a copy, as the check.
         const QPointer<AVCVideoEncoderDlg> self(this);
         alignas(8) KvMvcSettings settings = m_record.settings;
-        const bool thrown =
-            thrownBy([&] { companionFunctions().defaults(&settings, 0, *preset, 0); }).has_value();
+        const auto call = [&] {
+            const auto result = companionFunctions().defaults(&settings, 0, *preset, 0);
+            trace::say([&] {
+                return QStringLiteral(KV_MVC_ENCODER_DEFAULTS ", preset %1: %2")
+                    .arg(*preset)
+                    .arg(result);
+            });
+        };
+        const bool thrown = thrownBy(KV_MVC_ENCODER_DEFAULTS, call).has_value();
         if (!self) {
             return;
         }
@@ -342,15 +349,19 @@ bool AVCVideoEncoderDlg::runCheck(KvMvcSettings& settings)
     const KvMvcSettings given = settings;
     bool accepted = false;
     const auto call = [&] {
-        accepted = encoderCheck &&
-                   encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0) == 0;
+        if (!encoderCheck) {
+            return;
+        }
+        const auto result = encoderCheck(&lookUpCheckFunction, &settings, KV_MVC_CHECK_STAGE, 0);
+        trace::say([&] { return QStringLiteral(KV_MVC_ENCODER_CHECK ": %1").arg(result); });
+        accepted = result == 0;
     };
     if (m_isUnderConstruction) {
         // Nothing is shown yet: who constructs it is told.
         call();
         return accepted;
     }
-    const auto thrown = thrownBy(call);
+    const auto thrown = thrownBy(KV_MVC_ENCODER_CHECK, call);
     if (thrown) {
         settings = given;
         messageLog().addError(tr("The encoder failed to check the settings.") +

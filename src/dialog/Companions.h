@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ForeignText.h"
+#include "Trace.h"
 
 #include <kv_config_gui_mvc/companions.h>
 
@@ -21,16 +22,22 @@ CompanionFunctions& companionFunctions();
 
 /// Makes a call of a companion while the dialog is open. No exception may leave one; what does
 /// ends here, as unwinding the dialog's event loop would leave a window that believes to be shown.
+/// @param name Of what is called, for the trace.
 /// @return What the exception says, empty when it says nothing; no value when there was none.
 template <class Call>
-std::optional<QString> thrownBy(Call call)
+std::optional<QString> thrownBy(const char* name, Call call)
 {
+    QString words;
     try {
         call();
         return std::nullopt;
     } catch (const std::exception& exception) {
-        return foreignText(exception.what());
+        words = foreignText(exception.what());
     } catch (...) {
-        return QString();
+        // Says nothing.
     }
+    trace::say([&] {
+        return QStringLiteral("%1 threw an exception: %2").arg(QLatin1String(name), words);
+    });
+    return words;
 }

@@ -47,7 +47,7 @@ const char* localized(const char* format)
     const auto convert = companionFunctions().localizeConvert;
     const char* converted = nullptr;
     if (convert) {
-        thrownBy([&] { converted = convert(format); });
+        thrownBy(KV_MVC_LOCALIZE_CONVERT, [&] { converted = convert(format); });
     }
     return converted ? converted : format;
 }

@@ -16,6 +16,16 @@ Function settingsIoFunction(KvMvcSettingsIoCode code)
     return getApi ? reinterpret_cast<Function>(getApi(code)) : nullptr;
 }
 
+void traceFile(const char* function, bool isThere, const QString& path, std::int32_t result)
+{
+    trace::say([&] {
+        return isThere
+                   ? QStringLiteral("%1 of '%2': %3").arg(QLatin1String(function), path).arg(result)
+                   : QStringLiteral(KV_MVC_SETTINGS_IO_GET_API " has no %1")
+                         .arg(QLatin1String(function));
+    });
+}
+
 constexpr const char* droppableSuffixes[] = {KV_MVC_SETTINGS_SUFFIXES, KV_MVC_MEDIA_SUFFIXES};
 
 } // namespace
@@ -27,9 +37,11 @@ std::optional<KvMvcSettings> read(const QString& path)
 {
     alignas(8) KvMvcSettings settings = {};
     bool done = false;
-    thrownBy([&] {
+    thrownBy("the reader", [&] {
         const auto reader = settingsIoFunction<KvMvcReadSettings>(KV_MVC_SETTINGS_IO_READER);
-        done = reader && reader(&settings, path.toUtf8().constData()) == 0;
+        const auto result = reader ? reader(&settings, path.toUtf8().constData()) : 1;
+        done = result == 0;
+        traceFile("reader", reader != nullptr, path, result);
     });
     return done ? std::optional(settings) : std::nullopt;
 }
@@ -37,11 +49,10 @@ std::optional<KvMvcSettings> read(const QString& path)
 void write(const KvMvcSettings& settings, const QString& path)
 {
     alignas(8) KvMvcSettings copy = settings;
-    thrownBy([&] {
+    thrownBy("the writer", [&] {
         const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
-        if (writer) {
-            writer(&copy, path.toUtf8().constData());
-        }
+        const auto result = writer ? writer(&copy, path.toUtf8().constData()) : 1;
+        traceFile("writer", writer != nullptr, path, result);
     });
 }
 

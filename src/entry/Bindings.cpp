@@ -2,6 +2,7 @@
 
 #include "LibraryLoader.h"
 #include "dialog/Companions.h"
+#include "dialog/Trace.h"
 
 #include <QDir>
 
@@ -39,12 +40,39 @@ Slots& processSlots()
 #endif
 }
 
+/// Loads a library by its name or path, without extension.
+bool load(LibraryLoader& loader, const std::wstring& name)
+{
+    const bool done = loader.load(name);
+    trace::say([&] {
+        return done ? QStringLiteral("%1: loaded %2")
+                          .arg(QString::fromStdWString(name),
+                               QString::fromStdWString(loader.filePath()))
+                    : QStringLiteral("%1: not loaded: %2")
+                          .arg(QString::fromStdWString(name),
+                               QString::fromLocal8Bit(loader.lastErrorText().c_str()).simplified());
+    });
+    return done;
+}
+
+template <class Function>
+Function resolve(LibraryLoader& loader, const char* name)
+{
+    const auto function = loader.resolve<Function>(name);
+    trace::say([&] {
+        return QStringLiteral("%1: %2 %3")
+            .arg(QString::fromStdWString(loader.fileName()),
+                 function ? QStringLiteral("has") : QStringLiteral("lacks"), QLatin1String(name));
+    });
+    return function;
+}
+
 /// Loads the first library of the names; later names are not tried once one has loaded.
 bool loadFirst(std::unique_ptr<LibraryLoader>& loader, std::initializer_list<const char*> names)
 {
     loader = std::make_unique<LibraryLoader>();
     for (const char* name : names) {
-        if (loader->load(wideName(name))) {
+        if (load(*loader, wideName(name))) {
             return true;
         }
     }
@@ -83,7 +111,7 @@ bool loadSettingsIo()
         return false;
     }
     auto& function = companionFunctions().settingsIoGetApi;
-    function = loader->resolve<KvMvcSettingsIoGetApi>(KV_MVC_SETTINGS_IO_GET_API);
+    function = resolve<KvMvcSettingsIoGetApi>(*loader, KV_MVC_SETTINGS_IO_GET_API);
     return function != nullptr;
 }
 
@@ -95,8 +123,8 @@ bool loadEncoder()
     auto& encoder = processSlots().encoder;
     CompanionFunctions& functions = companionFunctions();
     if (loadFirst(encoder, {KV_MVC_ENCODER_LIBRARIES})) {
-        functions.defaults = encoder->resolve<KvMvcDefaults>(KV_MVC_ENCODER_DEFAULTS);
-        functions.check = encoder->resolve<KvMvcCheck>(KV_MVC_ENCODER_CHECK);
+        functions.defaults = resolve<KvMvcDefaults>(*encoder, KV_MVC_ENCODER_DEFAULTS);
+        functions.check = resolve<KvMvcCheck>(*encoder, KV_MVC_ENCODER_CHECK);
     }
     if (!functions.defaults || !functions.check) {
         return false;
@@ -104,8 +132,8 @@ bool loadEncoder()
 
     auto& probe = processSlots().probe;
     if (loadFirst(probe, {KV_MVC_PROBE_LIBRARIES})) {
-        processSlots().probeFunctions = {probe->resolve<KvMvcFunction>(KV_MVC_PROBE_INIT),
-                                         probe->resolve<KvMvcFunction>(KV_MVC_PROBE_GET_INFO)};
+        processSlots().probeFunctions = {resolve<KvMvcFunction>(*probe, KV_MVC_PROBE_INIT),
+                                         resolve<KvMvcFunction>(*probe, KV_MVC_PROBE_GET_INFO)};
     }
     return true;
 }
@@ -118,13 +146,13 @@ void loadLocalization(const QString& directory, std::int32_t language)
     }
     loader = std::make_unique<LibraryLoader>();
     const QString file = directory + QLatin1String("/" KV_MVC_LOCALIZE_LIBRARY);
-    if (!loader->load(QDir::toNativeSeparators(file).toStdWString())) {
+    if (!load(*loader, QDir::toNativeSeparators(file).toStdWString())) {
         return;
     }
     CompanionFunctions& functions = companionFunctions();
-    functions.localizeConvert = loader->resolve<KvMvcLocalizeConvert>(KV_MVC_LOCALIZE_CONVERT);
+    functions.localizeConvert = resolve<KvMvcLocalizeConvert>(*loader, KV_MVC_LOCALIZE_CONVERT);
     processSlots().localizeSetLanguage =
-        loader->resolve<KvMvcLocalizeSetLanguage>(KV_MVC_LOCALIZE_SET_LANGUAGE);
+        resolve<KvMvcLocalizeSetLanguage>(*loader, KV_MVC_LOCALIZE_SET_LANGUAGE);
     if (processSlots().localizeSetLanguage) {
         processSlots().localizeSetLanguage(language);
     }

@@ -39,6 +39,8 @@ public:
     bool isLoaded() const { return m_loaded; }
     /// What was loaded: base name, dot, extension; 2,048 characters at most.
     const std::wstring& fileName() const { return m_fileName; }
+    /// The whole path of what was loaded, as the system has it.
+    std::wstring filePath() const;
     /// GetLastError's code; elsewhere 126 for a library and 127 for a function that was not found.
     std::uint32_t lastErrorCode() const { return m_lastErrorCode; }
     /// The system's text for it; 2,048 bytes at most.

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <dlfcn.h>
+#include <link.h>
 #include <unistd.h>
 
 #include <climits>
@@ -52,6 +53,15 @@ void* LibraryLoader::openSystemLibrary(const std::wstring& fileName)
         setLastError(libraryNotFound, dynamicLinkerError());
     }
     return handle;
+}
+
+std::wstring LibraryLoader::filePath() const
+{
+    const link_map* map = nullptr;
+    if (!m_loaded || dlinfo(m_handle, RTLD_DI_LINKMAP, &map) != 0) {
+        return {};
+    }
+    return QFile::decodeName(map->l_name).toStdWString();
 }
 
 LibraryLoader::Address LibraryLoader::findSystemFunction(const char* name)

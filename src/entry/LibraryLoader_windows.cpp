@@ -104,6 +104,15 @@ void* LibraryLoader::openSystemLibrary(const std::wstring& fileName)
     return handle;
 }
 
+std::wstring LibraryLoader::filePath() const
+{
+    constexpr DWORD room = 32 * 1024;
+    std::wstring path(room, L'\0');
+    path.resize(m_loaded ? GetModuleFileNameW(static_cast<HMODULE>(m_handle), path.data(), room)
+                         : 0);
+    return path;
+}
+
 LibraryLoader::Address LibraryLoader::findSystemFunction(const char* name)
 {
     const FARPROC address = GetProcAddress(static_cast<HMODULE>(m_handle), name);

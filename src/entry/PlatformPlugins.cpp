@@ -1,5 +1,7 @@
 #include "PlatformPlugins.h"
 
+#include "dialog/Trace.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
@@ -72,6 +74,15 @@ bool canMakeApplication()
     const QStringList installed = installedPlatforms();
     const QStringList wanted = wantedPlatforms();
     return std::any_of(wanted.begin(), wanted.end(), [&installed](const QString& platform) {
-        return installed.contains(platform) && platform_plugins::displayAnswers(platform);
+        const bool isInstalled = installed.contains(platform);
+        const bool works = isInstalled && platform_plugins::displayAnswers(platform);
+        trace::say([&] {
+            return QStringLiteral("platform plug-in %1: %2")
+                .arg(platform, works         ? QStringLiteral("works")
+                               : isInstalled ? QStringLiteral("its display does not answer")
+                                             : QStringLiteral("not in %1")
+                                                   .arg(pluginFolders().join(QLatin1String(", "))));
+        });
+        return works;
     });
 }

@@ -8,6 +8,7 @@
 #include "ProcessLocale.h"
 #include "QWinWidget.h"
 #include "dialog/AVCVideoEncoderDlg.h"
+#include "dialog/Trace.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -16,6 +17,7 @@
 #include <QScreen>
 #include <QVector>
 
+#include <kv_config_gui_mvc/companions.h>
 #include <kv_config_gui_mvc/config_gui.h>
 
 #include <memory>
@@ -121,6 +123,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     const ApplicationName name;
     QApplication application(argumentCount, arguments, versionCode);
     ProcessLocale::useCNumbers();
+    addOwnFolder(application);
     const auto restore = qScopeGuard([&application] { restoreApplication(application); });
     setUpApplication(application);
 
@@ -139,10 +142,22 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     return dialog.runModally(application);
 }
 
+/// The one word that a host hears of a failure; the trace hears the reason.
+int32_t failed(const char* reason)
+{
+    trace::say([reason] {
+        return QStringLiteral("result %1: %2").arg(KV_MVC_GUI_ERROR).arg(QLatin1String(reason));
+    });
+    return KV_MVC_GUI_ERROR;
+}
+
 int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
 {
-    if (!bindings::loadSettingsIo() || !bindings::loadEncoder()) {
-        return KV_MVC_GUI_ERROR;
+    if (!bindings::loadSettingsIo()) {
+        return failed("no " KV_MVC_SETTINGS_IO_LIBRARY " with its function");
+    }
+    if (!bindings::loadEncoder()) {
+        return failed("no encoder library with both its functions");
     }
 
     KvMvcHosting ownRecord = {};
@@ -150,27 +165,47 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
     KvMvcHosting* const hosting =
         flags & KV_MVC_GUI_HOSTING_RECORD ? static_cast<KvMvcHosting*>(ext) : &ownRecord;
     if (!hosting) {
-        return KV_MVC_GUI_ERROR;
+        return failed("KV_MVC_GUI_HOSTING_RECORD without a record");
     }
     hosting->flags = flags;
 
     bool accepted = false;
     if (flags & KV_MVC_GUI_HOST_APPLICATION) {
         auto* const application = qobject_cast<QApplication*>(QCoreApplication::instance());
-        if (!hosting->parent || !application) {
-            return KV_MVC_GUI_ERROR;
+        if (!hosting->parent) {
+            return failed("KV_MVC_GUI_HOST_APPLICATION without the application object");
+        }
+        if (!application) {
+            return failed("KV_MVC_GUI_HOST_APPLICATION, but no QApplication of this version of Qt "
+                          "is in the process");
         }
         accepted = runInHostApplication(settings, *hosting, *application);
     } else {
         // A process has one application object at most.
-        if (QCoreApplication::instance() || !canMakeApplication()) {
-            return KV_MVC_GUI_ERROR;
+        if (QCoreApplication::instance()) {
+            return failed("the process has an application object, and KV_MVC_GUI_HOST_APPLICATION "
+                          "is not given");
+        }
+        if (!canMakeApplication()) {
+            return failed("no platform plug-in with a display that answers");
         }
         accepted = runInOwnApplication(settings, *hosting);
     }
     bindings::releaseLocalization();
     bindings::releaseCompanions();
-    return accepted ? KV_MVC_GUI_ACCEPTED : KV_MVC_GUI_REJECTED;
+    const int32_t result = accepted ? KV_MVC_GUI_ACCEPTED : KV_MVC_GUI_REJECTED;
+    trace::say([result] { return QStringLiteral("result %1").arg(result); });
+    return result;
+}
+
+/// What the call is, and what it is made by.
+QString describeCall(int32_t flags, const void* ext)
+{
+    return QStringLiteral("version " KV_PROJECT_VERSION
+                          ", Qt %1 (built with %2), flags 0x%3, ext %4")
+        .arg(QLatin1String(qVersion()), QLatin1String(QT_VERSION_STR))
+        .arg(uint32_t(flags), 8, 16, QLatin1Char('0'))
+        .arg(ext ? QStringLiteral("given") : QStringLiteral("null"));
 }
 
 } // namespace
@@ -179,8 +214,12 @@ int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags, void* ext)
 {
     // The slots are the process's: a call out of an open dialog's event loop would empty them.
     static bool isOpen = false;
-    if (!settings || isOpen) {
-        return KV_MVC_GUI_ERROR;
+    trace::say([&] { return describeCall(flags, ext); });
+    if (!settings) {
+        return failed("no settings");
+    }
+    if (isOpen) {
+        return failed("a dialog is open already");
     }
     const QScopedValueRollback<bool> open(isOpen, true);
     try {
@@ -190,5 +229,5 @@ int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags, void* ext)
     }
     bindings::releaseLocalization();
     bindings::releaseCompanions();
-    return KV_MVC_GUI_ERROR;
+    return failed("an exception kept the dialog from opening");
 }

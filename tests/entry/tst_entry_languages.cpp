@@ -66,6 +66,8 @@ private Q_SLOTS:
     void withoutLocalizationLibraryTheDialogIsTranslated();
     void localizationLibraryLiesBesideTheTranslation();
     void firstPathWithATranslationIsUsed();
+    void besideTheModuleComesLast();
+    void besideTheModuleIsNotTheHostsApplications();
     void fileOfThatNameOnly_data();
     void fileOfThatNameOnly();
     void localizationLibraryWithoutFunctions_data();
@@ -208,6 +210,40 @@ void TestEntryLanguages::firstPathWithATranslationIsUsed()
     const auto run = sandbox.run(ownCall, environment(sandbox, german));
     QCOMPARE(run.value("last tab"), QStringLiteral("Erste"));
     QCOMPARE(run.log.filter(QStringLiteral("mvc_gui_texts")), QStringList());
+}
+
+void TestEntryLanguages::besideTheModuleComesLast()
+{
+    if (!canBeChosen(german)) {
+        QSKIP(notChosen);
+    }
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.addRequired();
+    translate(sandbox, "module", "gui_mvc_de", "Zweite");
+    sandbox.add("stub_entry_texts", "mvc_gui_texts", "module");
+    const auto alone = sandbox.run(ownCall, environment(sandbox, german));
+    QCOMPARE(alone.value("last tab"), QStringLiteral("Zweite"));
+    QCOMPARE(alone.value("log"), QStringLiteral("Breite 5"));
+
+    translate(sandbox, "second", "gui_mvc_de", "Erste");
+    const auto second = sandbox.run(ownCall, environment(sandbox, german));
+    QCOMPARE(second.value("last tab"), QStringLiteral("Erste"));
+    QCOMPARE(second.value("log"), QStringLiteral("width 5"));
+}
+
+void TestEntryLanguages::besideTheModuleIsNotTheHostsApplications()
+{
+    if (!canBeChosen(german)) {
+        QSKIP(notChosen);
+    }
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.addRequired();
+    translate(sandbox, "module", "gui_mvc_de", "Deutsch");
+    const auto run = sandbox.run({QStringLiteral("application"), QStringLiteral("ext=application"),
+                                  QStringLiteral("flags=0x10000010"), QStringLiteral("call"),
+                                  QStringLiteral("delete")},
+                                 environment(sandbox, german));
+    QCOMPARE(run.value("last tab"), QStringLiteral("Views"));
 }
 
 void TestEntryLanguages::fileOfThatNameOnly_data()
