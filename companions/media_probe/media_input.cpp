@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kv
@@ -56,7 +55,8 @@ int MediaInput::openAsStored(const char* name)
 
 int MediaInput::openFile(const char* name, int flags)
 {
-    if (::lseek(m_descriptor, 0, SEEK_SET) < 0) {
+    m_size = ::lseek(m_descriptor, 0, SEEK_END);
+    if (m_size < 0 || ::lseek(m_descriptor, 0, SEEK_SET) < 0) {
         return AVERROR(errno);
     }
     auto* buffer = static_cast<unsigned char*>(av_malloc(bufferSize));
@@ -99,8 +99,7 @@ int64_t MediaInput::seek(void* opaque, int64_t offset, int whence)
 {
     const auto* input = static_cast<MediaInput*>(opaque);
     if ((whence & AVSEEK_SIZE) != 0) {
-        struct stat status = {};
-        return ::fstat(input->m_descriptor, &status) == 0 ? status.st_size : AVERROR(errno);
+        return input->m_size;
     }
     const off_t position = ::lseek(input->m_descriptor, offset, whence & ~AVSEEK_FORCE);
     return position < 0 ? AVERROR(errno) : position;

@@ -41,6 +41,7 @@ private:
     static int64_t seek(void* input, int64_t offset, int whence);
 
     int m_descriptor;
+    int64_t m_size = 0;
     TimePoint m_deadline;
     int m_readError = 0;
     AVFormatContext* m_format = nullptr;

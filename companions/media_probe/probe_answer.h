@@ -9,6 +9,7 @@ namespace kv
 struct ProbeAnswer {
     int32_t result = KV_MEDIA_OK; ///< KvMediaResult
     KvMediaInfo info{};
+    int32_t unconfined = 0; ///< what enterSandbox() returned
 };
 
 /// Limits of the worker process; it keeps the first by itself and is ended at the second.

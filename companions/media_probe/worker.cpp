@@ -3,6 +3,7 @@
 // Usage: kv_media_probe_worker NAME; the file is standard input, a ProbeAnswer goes to standard
 // output. Started by the library; of no use otherwise.
 #include "stream_facts.h"
+#include "worker_sandbox.h"
 
 #include <exception>
 #include <new>
@@ -25,9 +26,11 @@ struct Limit {
 constexpr Limit limits[] = {
     {RLIMIT_CPU, kv::hardSeconds},
     {RLIMIT_CORE, 0},
-    {RLIMIT_FSIZE, 0}, // it writes to a pipe
-#if !defined(KV_MEMORY_UNLIMITED)
+    {RLIMIT_FSIZE, 0},     // it writes to a pipe
+#if !defined(KV_SANITIZED) // a sanitizer's shadow is larger than any limit, and it reads files
     {RLIMIT_DATA, kv::largestMemory},
+    {RLIMIT_NOFILE, STDERR_FILENO + 1},
+    {RLIMIT_NPROC, 0},
 #endif
 };
 
@@ -57,7 +60,9 @@ int main(int count, char** arguments)
 {
     limitProcess();
     av_log_set_level(AV_LOG_QUIET);
-    const kv::ProbeAnswer answer = probe(count > 1 ? arguments[1] : "");
+    const int unconfined = kv::enterSandbox();
+    kv::ProbeAnswer answer = probe(count > 1 ? arguments[1] : "");
+    answer.unconfined = unconfined;
     const ssize_t written = ::write(STDOUT_FILENO, &answer, sizeof answer);
     return written == static_cast<ssize_t>(sizeof answer) ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <system_error>
 #include <utility>
@@ -80,12 +81,22 @@ public:
     /// @return An error number.
     int start(const std::string& program, const char* argument, pid_t& child)
     {
-        std::string copies[] = {program, argument};
+        std::string copies[] = {program, argument, libraryPath()};
         char* arguments[] = {copies[0].data(), copies[1].data(), nullptr};
-        return posix_spawn(&child, program.c_str(), &m_actions, &m_attributes, arguments, environ);
+        char* environment[] = {copies[2].empty() ? nullptr : copies[2].data(), nullptr};
+        return posix_spawn(&child, program.c_str(), &m_actions, &m_attributes, arguments,
+                           environment);
     }
 
 private:
+    /// Of the host's environment, which may hold secrets, nothing but where libraries are found.
+    static std::string libraryPath()
+    {
+        constexpr char name[] = "LD_LIBRARY_PATH";
+        const char* const folders = std::getenv(name);
+        return folders ? std::string(name) + '=' + folders : std::string();
+    }
+
     posix_spawn_file_actions_t m_actions;
     posix_spawnattr_t m_attributes;
 };
