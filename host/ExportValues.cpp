@@ -4,16 +4,11 @@
 #include <cmath>
 #include <numeric>
 
-namespace
-{
-
 Fraction reduced(qint64 num, qint64 den)
 {
     const qint64 common = std::gcd(num, den);
     return {num / common, den / common};
 }
-
-} // namespace
 
 Fraction frameRate(const KvMvcViewSettings& view)
 {

@@ -11,6 +11,9 @@ struct Fraction {
     qint64 den;
 };
 
+/// In lowest terms.
+Fraction reduced(qint64 num, qint64 den);
+
 /// Frames a second: over 1001 where it is such a rate, to a thousandth else; 0/1: not set.
 Fraction frameRate(const KvMvcViewSettings& view);
 

@@ -50,6 +50,16 @@ bool codesWeightedP(const Job& job)
     return job.view.weighted_p != 0 && predicts(job.view) && !isInterlaced(job.view);
 }
 
+/// The same rate where x264 can make five frames of four: it takes a fourth of the numerator, and
+/// whole rates as so many thousandths.
+Fraction withFourths(Fraction rate)
+{
+    constexpr qint64 fourths = 4;
+    return rate.den == 1 || rate.num % fourths == 0
+               ? rate
+               : Fraction{rate.num * fourths, rate.den * fourths};
+}
+
 bool isShownInTwosAndThrees(const Job& job)
 {
     return job.view.pulldown == KV_MVC_PULLDOWN_2_3_PROGRESSIVE ||
@@ -134,7 +144,9 @@ QString fps(const Job& job)
     Fraction rate = frameRate(job.view);
     if (isShownInTwosAndThrees(job)) {
         // x264 then counts frames as they are shown: five for two.
-        rate.num = rate.num * 5 / 2;
+        rate = reduced(rate.num * 5, rate.den * 2);
+    } else if (pulldown(job) == QLatin1String("32")) {
+        rate = withFourths(rate);
     }
     return rate.num == 0 ? QString() : fractionText(rate);
 }

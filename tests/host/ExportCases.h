@@ -24,7 +24,7 @@ inline constexpr char toldByAll[] =
     "hrd_mode bitrate_mode max_bitrate bitrate_buffer";
 
 // What has no buffer model.
-#define KV_NO_HRD "-hrd_mode -bitrate_mode -max_bitrate -bitrate_buffer "
+#define KV_NO_HRD "hrd_mode=0 -bitrate_mode -max_bitrate -bitrate_buffer "
 // What is nothing but I-frames.
 #define KV_NO_GROUPS                                                                               \
     "-ref_distance -adaptive_b -reference_b -pyramid_b -weighted_p -num_ref_frames "
