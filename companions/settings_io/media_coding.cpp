@@ -45,20 +45,23 @@ void apply(int32_t told, int32_t& field, const char* name, Strings& untold)
 }
 
 /// Quantizers that the encoder has, and a range that holds them.
-void applyQuantizers(const KvMediaCoding& coding, KvMvcViewSettings& view)
+void applyQuantizers(const KvMediaCoding& coding, KvMvcViewSettings& view, Strings& untold)
 {
     constexpr int32_t least = -12; // of 10 bits a sample
     constexpr int32_t most = 51;
     const struct {
         int32_t told;
         int32_t KvMvcViewSettings::*field;
-    } quantizers[] = {{coding.quantizer_i, &KvMvcViewSettings::quant_i},
-                      {coding.quantizer_p, &KvMvcViewSettings::quant_p},
-                      {coding.quantizer_b, &KvMvcViewSettings::quant_b}};
+        const char* name;
+    } quantizers[] = {{coding.quantizer_i, &KvMvcViewSettings::quant_i, "quantizers of I-frames"},
+                      {coding.quantizer_p, &KvMvcViewSettings::quant_p, "quantizers of P-frames"},
+                      {coding.quantizer_b, &KvMvcViewSettings::quant_b, "quantizers of B-frames"}};
     for (const auto& quantizer : quantizers) {
         if (quantizer.told != KV_MEDIA_QUANTIZER_NOT_KNOWN) {
             view.*quantizer.field = std::clamp(quantizer.told, least, most);
             view.quant_min = std::min(view.quant_min, view.*quantizer.field);
+        } else {
+            untold.emplace_back(quantizer.name);
         }
     }
 }
@@ -66,14 +69,14 @@ void applyQuantizers(const KvMediaCoding& coding, KvMvcViewSettings& view)
 void applyTools(const KvMediaCoding& coding, KvMvcViewSettings& view, Strings& untold)
 {
     apply(coding.entropy_mode, view.entropy_mode, "entropy coding", untold);
-    if (!isIntra(coding)) {
-        apply(coding.weighted_p, view.weighted_p, "weighted prediction", untold);
-    }
+    apply(isIntra(coding) ? -1 : coding.weighted_p, view.weighted_p, "weighted prediction", untold);
     apply(coding.deblocking, view.deblocking, "deblocking", untold);
-    applyQuantizers(coding, view);
+    applyQuantizers(coding, view, untold);
     if (coding.slices > 0) {
         view.num_slices = coding.slices;
         view.multi_slice = coding.slices > 1 ? 1 : 0;
+    } else {
+        untold.emplace_back("slices");
     }
 }
 
@@ -127,7 +130,7 @@ void applyGroups(const KvMediaCoding& coding, KvMvcViewSettings& view, Strings& 
     }
     if (coding.b_frames >= 0) {
         applyBFrames(coding, view, notes);
-    } else if (!isIntra(coding)) {
+    } else {
         untold.push_back("B-frames");
     }
 }
@@ -142,15 +145,6 @@ void applyPulldown(const KvMediaInfo& info, KvMvcViewSettings& view, Strings& no
     }
 }
 
-std::string joined(const Strings& names)
-{
-    std::string text;
-    for (const std::string& name : names) {
-        text += (text.empty() ? "" : ", ") + name;
-    }
-    return text;
-}
-
 } // namespace
 
 bool showsCoding(const KvMediaInfo& info)
@@ -158,30 +152,40 @@ bool showsCoding(const KvMediaInfo& info)
     return info.codec == KV_MEDIA_CODEC_H264 && info.coding[0].frames > 0;
 }
 
-void applyCoding(const KvMediaInfo& info, KvMvcSettings& settings, std::vector<std::string>& notes)
+void applyCoding(const KvMediaInfo& info, KvMvcSettings& settings, std::vector<std::string>& notes,
+                 std::vector<std::string>& untold)
 {
     settings.split_views = info.separate_views;
     if (!showsCoding(info)) {
-        notes.push_back("its groups of pictures and coding tools are not known, the preset's are "
-                        "kept");
+        notes.push_back("its groups of pictures, pulldown and coding tools are not known, the "
+                        "preset's are kept");
         return;
     }
-    Strings untold;
-    for (int index = 0; index < KV_MVC_RECORD_VIEWS; ++index) {
-        KvMvcViewSettings& view = settings.views[index];
-        Strings own; // those of the base view are told
-        const bool hasOwn = index > 0 && info.num_views > 1 && info.coding[index].frames > 0;
-        applyTools(info.coding[hasOwn ? index : 0], view, index == 0 ? untold : own);
-        // All views have the groups of the base view (H.7.4.1.1).
-        Strings ownNotes;
-        applyGroups(info.coding[0], view, index == 0 ? notes : ownNotes, index == 0 ? untold : own);
-        applyPulldown(info, view, index == 0 ? notes : ownNotes);
+    const bool isMultiview = info.num_views > 1;
+    const bool hasOwnTools = isMultiview && info.coding[1].frames > 0;
+    KvMvcViewSettings& base = settings.views[0];
+    KvMvcViewSettings& second = settings.views[1];
+    applyTools(info.coding[0], base, untold);
+    Strings untoldOfSecond;
+    applyTools(info.coding[hasOwnTools ? 1 : 0], second, untoldOfSecond);
+    if (hasOwnTools) {
+        for (const std::string& name : untoldOfSecond) {
+            untold.push_back(name + " of further views");
+        }
+    } else if (isMultiview) {
+        notes.push_back("the coding tools of its further views are not known, those of the base "
+                        "view are taken");
     }
-    if (info.num_views > 1 && info.dependent_ref_frames > 0) {
-        settings.views[1].num_ref_frames = info.dependent_ref_frames;
-    }
-    if (!untold.empty()) {
-        notes.push_back("it does not tell " + joined(untold) + ": kept as in the preset");
+    // All views have the groups of the base view (H.7.4.1.1).
+    applyGroups(info.coding[0], base, notes, untold);
+    applyPulldown(info, base, notes);
+    Strings again;
+    applyGroups(info.coding[0], second, again, again);
+    applyPulldown(info, second, again);
+    if (isMultiview && info.dependent_ref_frames > 0) {
+        second.num_ref_frames = info.dependent_ref_frames;
+    } else if (isMultiview) {
+        untold.emplace_back("reference frames of further views");
     }
 }
 

@@ -15,7 +15,9 @@ bool showsCoding(const KvMediaInfo& info);
 
 /// Puts groups of pictures, tools, slices, pulldown and the references of further views over a
 /// preset's, in both view sub-records.
-/// @param notes Gets what the stream does not tell, and what of it there is no setting for.
-void applyCoding(const KvMediaInfo& info, KvMvcSettings& settings, std::vector<std::string>& notes);
+/// @param notes Gets what of the stream there is no setting for, and where nothing of it is known.
+/// @param untold Gets names of what the stream does not tell by itself.
+void applyCoding(const KvMediaInfo& info, KvMvcSettings& settings, std::vector<std::string>& notes,
+                 std::vector<std::string>& untold);
 
 } // namespace kv

@@ -1,7 +1,7 @@
 #include "media_fit.h"
 
 #include "media_coding.h"
-#include "media_settings.h"
+#include "media_rates.h"
 
 #include <algorithm>
 #include <cmath>

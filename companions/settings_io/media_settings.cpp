@@ -1,11 +1,11 @@
 #include "media_settings.h"
 
 #include "media_coding.h"
+#include "media_rates.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace kv
 {
@@ -52,28 +52,6 @@ const CodePair* find(const CodePair (&pairs)[count], int32_t stream)
     return pair == std::end(pairs) ? nullptr : pair;
 }
 
-int32_t toField(double value)
-{
-    constexpr double most = std::numeric_limits<int32_t>::max();
-    return static_cast<int32_t>(std::llround(std::clamp(value, 0.0, most)));
-}
-
-/// Of a rate or a buffer, which a stream cannot be without.
-int32_t toRate(double value)
-{
-    return std::max(toField(value), 1);
-}
-
-/// The same share of the buffer, be it counted in bits or in the time that it takes.
-void scaleFullness(double rateFactor, double sizeFactor, KvMvcViewSettings& view)
-{
-    const double factor = view.bitrate_units == KV_MVC_UNITS_BITS         ? sizeFactor
-                          : view.bitrate_units == KV_MVC_UNITS_BITS_90KHZ ? sizeFactor / rateFactor
-                                                                          : 1;
-    view.vbv_initial = toField(view.vbv_initial * factor);
-    view.vbv_target = toField(view.vbv_target * factor);
-}
-
 double standardRate(double rate)
 {
     const auto standard = std::ranges::find_if(standardRates, [&](double known) {
@@ -100,6 +78,9 @@ void applyPicture(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     const bool aspectKnown = info.pixel_aspect_num > 0 && info.pixel_aspect_den > 0;
     view.pixel_aspect_x = aspectKnown ? info.pixel_aspect_num : 1;
     view.pixel_aspect_y = aspectKnown ? info.pixel_aspect_den : 1;
+    if (!aspectKnown) {
+        notes.push_back("its pixel aspect ratio is not known, 1:1 is taken");
+    }
     view.display_aspect_x = view.display_aspect_y = KV_MVC_ASPECT_UNSET;
 }
 
@@ -171,6 +152,9 @@ bool isLevel1b(const KvMediaInfo& info)
 void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes)
 {
     const bool h264 = info.codec == KV_MEDIA_CODEC_H264;
+    if (!h264) {
+        notes.push_back("it is no H.264, so a fitting profile and level Auto are taken");
+    }
     const auto* profile = h264 ? find(profiles, info.profile_idc) : nullptr;
     if (profile) {
         view.profile = profile->setting;
@@ -197,80 +181,22 @@ void applyProfile(const KvMediaInfo& info, KvMvcViewSettings& view, Notes& notes
     }
 }
 
-/// The other rates and the buffer keep the proportion that they have in the defaults.
-void applyBitRate(double rate, KvMvcViewSettings& view)
+std::string untoldNote(const Notes& names)
 {
-    if (rate <= 0 || view.bitrate <= 0) {
-        return;
+    std::string text;
+    for (const std::string& name : names) {
+        text += (text.empty() ? "it does not tell " : ", ") + name;
     }
-    scaleRates(rate / view.bitrate, view);
+    return text + ": kept as in the preset";
 }
 
-/// What is signalled is exact. The measured rate is that of the beginning, which may exceed it by
-/// what the buffer holds.
-void applySignalledBuffer(const KvMediaInfo& info, KvMvcViewSettings& view)
-{
-    const bool constant = info.hrd_constant != 0;
-    const double unit = view.bitrate_units == KV_MVC_UNITS_BYTES_PERCENT ? 8 : 1;
-    const KvMvcViewSettings former = view;
-    view.hrd_mode = 1;
-    view.bitrate_mode = constant ? KV_MVC_CONSTANT_BITRATE : KV_MVC_VARIABLE_BITRATE;
-    view.max_bitrate = toRate(static_cast<double>(info.hrd_bit_rate));
-    view.bitrate = constant ? view.max_bitrate : std::min(view.bitrate, view.max_bitrate);
-    view.bitrate_buffer = toRate(static_cast<double>(info.hrd_buffer_size) / unit);
-    if (former.max_bitrate > 0 && former.bitrate_buffer > 0) {
-        scaleFullness(static_cast<double>(view.max_bitrate) / former.max_bitrate,
-                      static_cast<double>(view.bitrate_buffer) / former.bitrate_buffer, view);
-    }
-}
-
-/// Bits a second at the frame rate that is taken; what is measured without one is at another.
-double atFrameRate(int64_t bits, const KvMediaInfo& info, const KvMvcViewSettings& view)
-{
-    constexpr double assumedRate = 25; // of KvMediaInfo::bit_rate
-    const double factor = info.frame_rate_num > 0 ? 1 : view.frame_rate / assumedRate;
-    return static_cast<double>(bits) * factor;
-}
-
-void applyRates(const KvMediaInfo& info, KvMvcSettings& settings, Notes& notes)
-{
-    if (info.bit_rate <= 0) {
-        notes.push_back("its bit rate is not known or no aim, the preset's is taken");
-    }
-    const int32_t others = std::max(info.num_views - 1, 1);
-    const int64_t base = info.bit_rate - info.dependent_bit_rate;
-    const bool single = info.num_views < 2;
-    const int64_t second = single ? base : info.dependent_bit_rate / others;
-    applyBitRate(atFrameRate(base, info, settings.views[0]), settings.views[0]);
-    applyBitRate(atFrameRate(second, info, settings.views[1]), settings.views[1]);
-    if (!hasSignalledBuffer(info)) {
-        return;
-    }
-    applySignalledBuffer(info, settings.views[0]);
-    if (single) {
-        applySignalledBuffer(info, settings.views[1]);
-    }
-}
+/// What is an encoder's own affair.
+constexpr char neverTold[] =
+    "no stream tells buffer fullness, frame size limits, quantizer limits, minimum and fixed "
+    "I-frame distance, scene detection, motion search, rate distortion, threads: kept as in the "
+    "preset";
 
 } // namespace
-
-bool hasSignalledBuffer(const KvMediaInfo& info)
-{
-    return info.hrd_bit_rate > 0 && info.hrd_buffer_size > 0;
-}
-
-void scaleLimits(double factor, KvMvcViewSettings& view)
-{
-    view.max_bitrate = toRate(view.max_bitrate * factor);
-    view.bitrate_buffer = toRate(view.bitrate_buffer * factor);
-    scaleFullness(factor, factor, view);
-}
-
-void scaleRates(double factor, KvMvcViewSettings& view)
-{
-    view.bitrate = toRate(view.bitrate * factor);
-    scaleLimits(factor, view);
-}
 
 int32_t fittingPreset(const KvMediaInfo& info)
 {
@@ -292,8 +218,13 @@ std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& sett
         applySamples(info, view, notes);
         applyProfile(info, view, notes);
     }
-    applyCoding(info, settings, notes);
-    applyRates(info, settings, notes);
+    Notes untold;
+    applyCoding(info, settings, notes, untold);
+    applyRates(info, settings, notes, untold);
+    if (!untold.empty()) {
+        notes.push_back(untoldNote(untold));
+    }
+    notes.emplace_back(neverTold);
     return notes;
 }
 

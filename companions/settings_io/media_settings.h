@@ -15,16 +15,8 @@ int32_t fittingPreset(const KvMediaInfo& info);
 
 /// Puts the facts of a stream over a preset's defaults, in both view sub-records. What is not known
 /// of the stream stays as it was.
-/// @return What of the stream has no setting like it, each a sentence's part.
+/// @return What of the stream has no setting like it, and what is not known of it, each a
+///         sentence's part.
 std::vector<std::string> applyMedia(const KvMediaInfo& info, KvMvcSettings& settings);
-
-/// Whether rate and buffer of the base view are the stream's own; without, they are made up.
-bool hasSignalledBuffer(const KvMediaInfo& info);
-
-/// Multiplies maximum rate and buffer; the buffer's fullness stays the same share of it.
-void scaleLimits(double factor, KvMvcViewSettings& view);
-
-/// The same, and the average.
-void scaleRates(double factor, KvMvcViewSettings& view);
 
 } // namespace kv

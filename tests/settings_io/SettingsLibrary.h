@@ -92,6 +92,17 @@ public:
     }
 
     QByteArray messages;
+    /// The messages but for those about what a stream leaves open.
+    QByteArray messagesOfWhatIsTold() const
+    {
+        QByteArray told;
+        for (const QByteArray& line : messages.split('\n')) {
+            const bool isOpen = line.endsWith(": kept as in the preset") ||
+                                line.endsWith("they follow from the bit rate");
+            told += isOpen || line.isEmpty() ? QByteArray() : line + '\n';
+        }
+        return told;
+    }
 
 private:
     QLibrary m_library;

@@ -2,6 +2,7 @@
 // check, and checks that no good encoder has.
 #include "EncoderLibrary.h"
 #include "SettingsLibrary.h"
+#include "StreamFacts.h"
 
 #include <media_fit.h>
 #include <media_settings.h>
@@ -11,31 +12,12 @@
 #include <cstdio>
 
 using kvtest::EncoderLibrary;
+using kvtest::plainStream;
 
 namespace
 {
 
 constexpr int autoLevel = 100;
-
-/// A progressive stream of 1920 x 1080, 25 frames a second, 8 Mbit/s, High at level 4.
-KvMediaInfo plainStream()
-{
-    KvMediaInfo info{};
-    info.codec = KV_MEDIA_CODEC_H264;
-    info.width = 1920;
-    info.height = 1080;
-    info.frame_rate_num = 25;
-    info.frame_rate_den = 1;
-    info.pixel_aspect_num = info.pixel_aspect_den = 1;
-    info.chroma_format = 1;
-    info.bit_depth_luma = info.bit_depth_chroma = 8;
-    info.profile_idc = 100;
-    info.level_idc = 40;
-    info.num_ref_frames = 4;
-    info.num_views = 1;
-    info.bit_rate = 8000000;
-    return info;
-}
 
 /// What of the stream is told, joined by lines; the encoder's words are left out.
 QByteArray withoutWords(const std::vector<std::string>& notes)
