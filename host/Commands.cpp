@@ -94,6 +94,15 @@ own beside the one that -o names.
 Exit code: 0, or 2 on trouble.
 )";
 
+constexpr char doctorHelp[] = R"(
+Tells how the dialog gets on here, for a report of what is wrong: which
+libraries it finds where, or why not; their functions; the toolkit, the
+platform and its display, the language. The dialog is opened for that, unseen,
+and left at once.
+
+Exit code: 0 when the dialog opens, 1 when it does not.
+)";
+
 constexpr int anyNumber = std::numeric_limits<int>::max();
 
 constexpr Command commands[] = {
@@ -133,6 +142,10 @@ constexpr Command commands[] = {
      runExport, false, true,
      "--to x264 --input left.y4m --stream left.264 film.cfg\n"
      "--to jm --input l.yuv --input r.yuv film.cfg -o jm.cfg"},
+    {"doctor", "", 0, 0, "Tells why the dialog does not open.", doctorHelp, doctorOptions,
+     runDoctor, true, false,
+     "\n"
+     "-o report.txt"},
 };
 
 } // namespace

@@ -33,5 +33,8 @@ Outcome runImport(const Invocation& call);
 QList<QCommandLineOption> setOptions();
 Outcome runSet(const Invocation& call);
 
+QList<QCommandLineOption> doctorOptions();
+Outcome runDoctor(const Invocation& call);
+
 QList<QCommandLineOption> exportOptions();
 Outcome runExport(const Invocation& call);

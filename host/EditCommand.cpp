@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "FatalMessages.h"
 #include "FileState.h"
+#include "ModuleTrace.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
 
@@ -283,16 +284,20 @@ Outcome runEdit(const Invocation& call)
                                      : files.read(plan.source);
     KvMvcSettings after = before;
     int32_t result = 0;
+    QString reason;
     {
-        const Library module(call.directory, {KV_MVC_GUI_LIBRARY});
         const FatalMessages noDisplay;
+        const ModuleTrace trace;
+        const Library module(call.directory, {KV_MVC_GUI_LIBRARY});
         result = showDialog(module, dialog, after);
+        reason = ModuleTrace::reason();
     }
     if (result == KV_MVC_GUI_REJECTED) {
         return {ExitNo, {}};
     }
     if (result != KV_MVC_GUI_ACCEPTED) {
-        throw Failure(QStringLiteral("the dialog could not be opened (result %1)").arg(result));
+        throw Failure(QStringLiteral("the dialog could not be opened (result %1)").arg(result) +
+                      (reason.isEmpty() ? QString() : QStringLiteral(": ") + reason));
     }
     if (!plan.target.isEmpty()) {
         save(files, after, plan.target);

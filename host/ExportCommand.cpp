@@ -5,10 +5,10 @@
 #include "Failure.h"
 #include "FileState.h"
 #include "SettingsFiles.h"
+#include "TextOutput.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <numeric>
@@ -119,16 +119,6 @@ void requireOther(const QString& path, const QString& settings)
     }
 }
 
-void writeFile(const QString& path, const QByteArray& text)
-{
-    QSaveFile file(path);
-    // A pipe or a device is no file that another could replace.
-    file.setDirectWriteFallback(fileState(path).kind == FileState::Stream);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        throw Failure(QStringLiteral("cannot write '%1': %2").arg(path, file.errorString()));
-    }
-}
-
 QByteArray noteLines(const QStringList& notes)
 {
     QString text;
@@ -179,8 +169,8 @@ Outcome runExport(const Invocation& call)
     if (!text.secondName.isEmpty()) {
         const QString second = QFileInfo(output).dir().filePath(text.secondName);
         requireOther(second, call.files.first());
-        writeFile(second, text.secondText);
+        writeTextFile(second, text.secondText);
     }
-    writeFile(output, text.text);
+    writeTextFile(output, text.text);
     return {ExitYes, {}, noteLines(text.notes)};
 }

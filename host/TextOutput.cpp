@@ -1,5 +1,10 @@
 #include "TextOutput.h"
 
+#include "Failure.h"
+#include "FileState.h"
+
+#include <QSaveFile>
+
 #ifdef Q_OS_WIN
 #include <QString>
 
@@ -47,4 +52,14 @@ bool writeText(std::FILE* stream, const QByteArray& text)
 #endif
     const auto size = static_cast<std::size_t>(text.size());
     return std::fwrite(text.constData(), 1, size, stream) == size && std::fflush(stream) == 0;
+}
+
+void writeTextFile(const QString& path, const QByteArray& text)
+{
+    QSaveFile file(path);
+    // A pipe or a device is no file that another could replace.
+    file.setDirectWriteFallback(fileState(path).kind == FileState::Stream);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+        throw Failure(QStringLiteral("cannot write '%1': %2").arg(path, file.errorString()));
+    }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 #include <cstdio>
 
@@ -8,3 +9,7 @@
 /// page of its own, gets it as wide characters.
 /// @return Whether all of it arrived.
 bool writeText(std::FILE* stream, const QByteArray& text);
+
+/// Writes the text to a file, which it replaces as a whole.
+/// @throws Failure
+void writeTextFile(const QString& path, const QByteArray& text);

@@ -52,12 +52,13 @@ _kv_mvc_settings() {
 
     if [[ $COMP_CWORD -eq 1 ]]; then
         # shellcheck disable=SC2046 # one word an option
-        _kv_mvc_settings_words "$word" edit show check report set defaults diff import export \
+        _kv_mvc_settings_words "$word" edit show check report set defaults diff import export doctor \
             $(_kv_mvc_settings_options "$program")
         return
     fi
     case ${COMP_WORDS[1]}:$previous in
         export:-o | export:--output) _kv_mvc_settings_files "$word" 'sh|txt|cfg'; return ;;
+        doctor:-o | doctor:--output) _kv_mvc_settings_files "$word" 'txt'; return ;;
     esac
     case $previous in
         -o | --output) _kv_mvc_settings_files "$word" "$settings" ;;

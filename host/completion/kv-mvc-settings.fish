@@ -44,6 +44,7 @@ complete -c kv-mvc-settings -n __kv_mvc_settings_first -a defaults -d "Write a p
 complete -c kv-mvc-settings -n __kv_mvc_settings_first -a diff -d 'Print the settings that differ'
 complete -c kv-mvc-settings -n __kv_mvc_settings_first -a import -d 'Write the settings that fit a media file'
 complete -c kv-mvc-settings -n __kv_mvc_settings_first -a export -d 'Write settings for another encoder'
+complete -c kv-mvc-settings -n __kv_mvc_settings_first -a doctor -d 'Tell why the dialog does not open'
 
 # What stands without an option
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in edit show check report set diff export' -a "(__kv_mvc_settings_files '$settings|json')"
@@ -54,7 +55,7 @@ complete -c kv-mvc-settings -n '__kv_mvc_settings_in set' -a '(__kv_mvc_settings
 # Options
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in show check report diff' -l json -d 'Write JSON'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in edit check set defaults import' -s o -l output -x -a "(__kv_mvc_settings_files '$settings')" -d 'Save the settings in this file'
-complete -c kv-mvc-settings -n '__kv_mvc_settings_in export' -s o -l output -r -F -d 'Write this file'
+complete -c kv-mvc-settings -n '__kv_mvc_settings_in export doctor' -s o -l output -r -F -d 'Write this file'
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in check report' -l language -x -a 'en de ja' -d "The language of the encoder's messages"
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in check' -l notes -d "Print the encoder's notes in any case"
 complete -c kv-mvc-settings -n '__kv_mvc_settings_in check' -l strict -d 'Refuse settings with risks, too'

@@ -56,9 +56,8 @@ void write(const QString& line)
         // Not by way of the toolkit, whose messages a host may have sent elsewhere.
         std::fprintf(stderr, "kv_config_gui_mvc: %s\n", text.constData());
         std::fflush(stderr);
-    } else {
-        qCDebug(category, "%s", text.constData());
     }
+    qCDebug(category, "%s", text.constData());
 }
 
 } // namespace trace

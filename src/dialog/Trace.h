@@ -6,8 +6,8 @@
 /// a library, each function, each call of a companion with its result, and the reason for an error,
 /// one line each.
 ///
-/// With KV_CONFIG_GUI_TRACE set, to anything but 0, lines go to standard error; otherwise they are
-/// debug messages of the toolkit's logging category "kv.config_gui_mvc", which is off by default.
+/// With KV_CONFIG_GUI_TRACE set, to anything but 0, lines go to standard error. They are debug
+/// messages of the toolkit's logging category "kv.config_gui_mvc", too, which is off by default.
 namespace trace
 {
 

@@ -25,10 +25,11 @@ private Q_SLOTS:
 namespace
 {
 
-const QStringList commandNames = {
-    QStringLiteral("edit"),   QStringLiteral("show"),   QStringLiteral("check"),
-    QStringLiteral("report"), QStringLiteral("set"),    QStringLiteral("defaults"),
-    QStringLiteral("diff"),   QStringLiteral("import"), QStringLiteral("export")};
+const QStringList commandNames = {QStringLiteral("edit"),   QStringLiteral("show"),
+                                  QStringLiteral("check"),  QStringLiteral("report"),
+                                  QStringLiteral("set"),    QStringLiteral("defaults"),
+                                  QStringLiteral("diff"),   QStringLiteral("import"),
+                                  QStringLiteral("export"), QStringLiteral("doctor")};
 
 QString textOf(const char* name)
 {
@@ -165,8 +166,8 @@ void TestHostDocuments::completionOffers_data()
         QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(offers);
     };
     // The last word of the line, after its last blank, is being typed.
-    row("", "--help --version check defaults diff edit export import report set show");
-    row("d", "defaults diff");
+    row("", "--help --version check defaults diff doctor edit export import report set show");
+    row("d", "defaults diff doctor");
     row("e", "edit export");
     row("--v", "--version");
     row("show ", "a.ini b.CFG folder");
