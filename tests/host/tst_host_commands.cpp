@@ -136,7 +136,8 @@ void TestHostCommands::helpNamesEveryCommand()
     for (const char* line :
          {"\n  edit [FILE] ", "\n  show FILE ", "\n  check FILE... ", "\n  report FILE ",
           "\n  set FILE KEY=VALUE... ", "\n  defaults PRESET ", "\n  diff A B ",
-          "\n  import MEDIA ", "\n  export FILE ", "\n  doctor ", "\n  -h, --help ", "\n  -v, --version "}) {
+          "\n  import MEDIA ", "\n  export FILE ", "\n  doctor ", "\n  -h, --help ",
+          "\n  -v, --version "}) {
         QVERIFY2(result.output.contains(QLatin1String(line)), line);
     }
     QCOMPARE(program.run({QStringLiteral("-h")}).output, result.output);
