@@ -1567,6 +1567,13 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>MessageLinks</name>
+    <message>
+        <source>Go to &quot;%1&quot;: click, or press Enter.</source>
+        <translation>Zu „%1“ gehen: klicken oder Eingabetaste drücken.</translation>
+    </message>
+</context>
+<context>
     <name>MiscPage</name>
     <message>
         <source>CAVLC</source>

@@ -1567,6 +1567,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>MessageLinks</name>
+    <message>
+        <source>Go to &quot;%1&quot;: click, or press Enter.</source>
+        <translation>「%1」へ移動: クリックまたは Enter キー。</translation>
+    </message>
+</context>
+<context>
     <name>MiscPage</name>
     <message>
         <source>CAVLC</source>

@@ -81,14 +81,16 @@ typedef void (*KvMvcFunction)(void);
 
 /**
  * Names that a lookup may know besides: a KvMvcTellAbout and a KvMvcTellLimitUse, for callers that
- * want more than texts. The dialog's lookup does not know them. An encoder need not ask for them,
- * and leaves out what it cannot tell.
+ * want more than texts. The dialog's lookup knows both: it leads from a message to its control,
+ * marks that, and draws how much of the limits is used. An encoder need not ask for them, and
+ * leaves out what it cannot tell; other lookups answer with null.
  */
 #define KV_MVC_MESSAGE_ABOUT "msg_about"
 #define KV_MVC_LIMIT_USE "lim_usage"
 
 /**
- * The function lookup that the check receives. It knows KV_MVC_MALLOC, KV_MVC_FREE and the sinks.
+ * The function lookup that the check receives. It knows KV_MVC_MALLOC, KV_MVC_FREE and the sinks,
+ * and may know KV_MVC_MESSAGE_ABOUT and KV_MVC_LIMIT_USE.
  * @return The function, or null for any other name.
  */
 typedef KvMvcFunction (*KvMvcLookup)(const char* name);

@@ -3,7 +3,9 @@
 #include "Companions.h"
 #include "FocusMark.h"
 #include "ForeignText.h"
+#include "MessageLinks.h"
 #include "MessageLog.h"
+#include "SettingControls.h"
 #include "Shortcuts.h"
 #include "model/FurtherViews.h"
 #include "model/KeyNames.h"
@@ -97,6 +99,9 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     settingsToState();
     showTabInFrontWhole();
 
+    new MessageLinks(
+        ui.errorLog, [this](const MessageFacts& facts) { return controlOf(facts); },
+        &setting_controls::goTo);
     shortcuts::add(this, ui.tabWidget, ui.errorLog);
     shortcuts::addHistory(
         this, [this] { turnHistory(&EditHistory::undo, tr("Undo: %1")); },
@@ -329,7 +334,11 @@ bool AVCVideoEncoderDlg::check()
     const QPointer<AVCVideoEncoderDlg> self(this);
     const int number = ++m_checks;
     alignas(8) KvMvcSettings settings = m_record.settings;
-    const bool accepted = runCheck(settings);
+    bool accepted = false;
+    {
+        const RunningCheck running;
+        accepted = runCheck(settings);
+    }
     // Settings that another check has seen meanwhile, and shown, are not these any more.
     if (!self || m_isClosed || number != m_checks) {
         return false;
@@ -388,6 +397,7 @@ void AVCVideoEncoderDlg::slotAccept()
         // The same messages may have been there before: that nothing happened must not be all.
         if (self) {
             messageLog().pointOutError();
+            goToFirstError();
         }
         return;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CheckFacts.h"
 #include "EditHistory.h"
 #include "model/ConfigState.h"
 #include "model/KeyTable.h"
@@ -84,6 +85,10 @@ private:
     bool check();
     /// The encoder's part of it; while the dialog is constructed, an exception goes through.
     bool runCheck(KvMvcSettings& settings);
+
+    /// The control that a message is about; null without one.
+    QWidget* controlOf(const MessageFacts& facts) const;
+    void goToFirstError();
 
     /// Makes a change, and a step of the history of it and of all that follows from it.
     void takeStep(const QString& text, const QString& goesOn, const std::function<void()>& change);

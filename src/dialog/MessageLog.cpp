@@ -2,6 +2,7 @@
 
 #include "Companions.h"
 #include "ForeignText.h"
+#include "MessageLinks.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -16,6 +17,7 @@
 #include <cstdarg>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 namespace
 {
@@ -52,21 +54,37 @@ const char* localized(const char* format)
     return converted ? converted : format;
 }
 
-void takeText(QString& buffer, QMessageBox::Icon icon, const QString& text)
+/// What a sink does with its messages.
+struct Sink {
+    qint32 kind;
+    QString MessageLog::*buffer;
+    QMessageBox::Icon icon;
+};
+constexpr Sink errorSink = {KV_MVC_MESSAGE_ERROR, &MessageLog::errors, QMessageBox::Critical};
+constexpr Sink warningSink = {KV_MVC_MESSAGE_WARNING, &MessageLog::warnings, QMessageBox::Warning};
+constexpr Sink noteSink = {KV_MVC_MESSAGE_NOTE, &MessageLog::notes, QMessageBox::Information};
+
+void takeText(const Sink& sink, const QString& text, std::optional<MessageFacts> facts = {})
 {
     const QString message = text + QLatin1Char('\n');
     const QTextEdit* log = messageLog().widget;
-    if (log && log->isHidden()) {
-        showBox(icon, message);
+    const bool isLogged = !log || !log->isHidden();
+    // Before a box handles events, and with them maybe another check.
+    if (RunningCheck::isLast()) {
+        messageLog().told.append({sink.kind, text, std::move(facts), isLogged});
+    }
+    if (isLogged) {
+        messageLog().*sink.buffer += message;
     } else {
-        buffer += message;
+        showBox(sink.icon, message);
     }
 }
 
-void take(QString& buffer, QMessageBox::Icon icon, const char* format, va_list arguments)
+void take(const Sink& sink, const char* format, va_list arguments)
 {
+    auto facts = RunningCheck::takeFacts();
     try {
-        takeText(buffer, icon, foreignText(formatted(localized(format), arguments)));
+        takeText(sink, foreignText(formatted(localized(format), arguments)), std::move(facts));
     } catch (...) {
         // The encoder is between here and whoever could take it: rather is a message lost.
     }
@@ -76,7 +94,7 @@ int printError(const char* format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
-    take(messageLog().errors, QMessageBox::Critical, format, arguments);
+    take(errorSink, format, arguments);
     va_end(arguments);
     return 0;
 }
@@ -85,7 +103,7 @@ int printWarning(const char* format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
-    take(messageLog().warnings, QMessageBox::Warning, format, arguments);
+    take(warningSink, format, arguments);
     va_end(arguments);
     return 0;
 }
@@ -94,7 +112,7 @@ int printNote(const char* format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
-    take(messageLog().notes, QMessageBox::Information, format, arguments);
+    take(noteSink, format, arguments);
     va_end(arguments);
     return 0;
 }
@@ -180,7 +198,7 @@ void MessageLog::clearMessages()
 
 void MessageLog::addError(const QString& text)
 {
-    takeText(errors, QMessageBox::Critical, text);
+    takeText(errorSink, text);
 }
 
 void MessageLog::dropDistinctColours()
@@ -199,11 +217,13 @@ void MessageLog::rewriteWidget()
     const int place = widget->verticalScrollBar()->value();
     shownFirst = first;
     const struct {
+        qint32 kind;
         const QString& messages;
         const QColor& colour;
         int state;
-    } blocks[] = {
-        {warnings, warningColour, -1}, {errors, errorColour, errorsBegin}, {notes, noteColour, -1}};
+    } blocks[] = {{KV_MVC_MESSAGE_WARNING, warnings, warningColour, -1},
+                  {KV_MVC_MESSAGE_ERROR, errors, errorColour, errorsBegin},
+                  {KV_MVC_MESSAGE_NOTE, notes, noteColour, -1}};
     const QTextBlockFormat paragraph = hangingIndent();
 
     widget->clear();
@@ -220,6 +240,7 @@ void MessageLog::rewriteWidget()
         QTextBlock first = cursor.block();
         cursor.insertText(block.messages, format);
         first.setUserState(block.state);
+        message_links::mark(first, told, block.kind);
     }
     cursor.endEditBlock();
 
@@ -253,5 +274,12 @@ void MessageLog::pointOutError() const
 KvMvcFunction lookUpCheckFunction(const char* name)
 {
     const KvMvcSinks sinks = {&printError, &printWarning, &printNote, &printProgress};
+    const QLatin1String asked(name);
+    if (asked == QLatin1String(KV_MVC_MESSAGE_ABOUT)) {
+        return reinterpret_cast<KvMvcFunction>(&tellMessageAbout);
+    }
+    if (asked == QLatin1String(KV_MVC_LIMIT_USE)) {
+        return reinterpret_cast<KvMvcFunction>(&tellLimitUse);
+    }
     return kvMvcLookUpIn(&sinks, name);
 }

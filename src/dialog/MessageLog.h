@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CheckFacts.h"
+
 #include <QColor>
 #include <QPointer>
 #include <QString>
@@ -13,6 +15,9 @@ struct MessageLog {
     QString errors;
     QString warnings;
     QString notes;
+    /// The messages of the last check, in the order in which they came, and what it told besides.
+    QVector<CheckMessage> told;
+    QVector<LimitUse> limits;
 
     QColor errorColour{180, 0, 0};
     QColor warningColour{0, 0, 180};
@@ -41,5 +46,5 @@ struct MessageLog {
 MessageLog& messageLog();
 
 /// The lookup for the check; its sinks print to the log, but for that of progress, which does
-/// nothing.
+/// nothing. It also knows what encoders may tell besides (CheckFacts.h).
 KvMvcFunction lookUpCheckFunction(const char* name);

@@ -24,8 +24,30 @@ void setBlocked(Control* control, const ConfigEntry& entry, Set set)
     control->setEnabled(entry.enabled);
 }
 
-/// As screen readers have it, but for lists, which they call by the chosen item.
-QString captionOf(const QWidget* control)
+} // namespace
+
+SettingsPage::SettingsPage(QWidget* parent) : QFrame(parent) {}
+
+void SettingsPage::receiveState(const ConfigState& state)
+{
+    for (const StateSetter& setFromState : std::as_const(m_setters)) {
+        setFromState(state);
+    }
+}
+
+QWidget* SettingsPage::widgetOf(const QString& key) const
+{
+    QObject* const control = const_cast<QObject*>(controlOf(key));
+    const auto* const group = qobject_cast<const QButtonGroup*>(control);
+    if (!group) {
+        return qobject_cast<QWidget*>(control);
+    }
+    QAbstractButton* const chosen = group->checkedButton();
+    return chosen ? chosen : group->buttons().value(0);
+}
+
+// As screen readers have it, but for lists, which they call by the chosen item.
+QString SettingsPage::plainCaptionOf(const QWidget* control)
 {
     if (!control) {
         return {};
@@ -48,24 +70,9 @@ QString captionOf(const QWidget* control)
     return caption.trimmed();
 }
 
-} // namespace
-
-SettingsPage::SettingsPage(QWidget* parent) : QFrame(parent) {}
-
-void SettingsPage::receiveState(const ConfigState& state)
+QString SettingsPage::captionOf(const QWidget* control) const
 {
-    for (const StateSetter& setFromState : std::as_const(m_setters)) {
-        setFromState(state);
-    }
-}
-
-QString SettingsPage::captionOf(const QString& key) const
-{
-    const QObject* control = controlOf(key);
-    if (const auto* group = qobject_cast<const QButtonGroup*>(control)) {
-        control = group->checkedButton();
-    }
-    const QString caption = ::captionOf(qobject_cast<const QWidget*>(control));
+    const QString caption = plainCaptionOf(control);
     const bool isNamed = !caption.isEmpty() && !accessibleName().isEmpty();
     return isNamed ? accessibleName() + QLatin1String(", ") + caption : caption;
 }

@@ -28,9 +28,14 @@ public:
     /// What edits the key: a control, or the group of buttons of which one is chosen; null when
     /// none of this page's own does.
     const QObject* controlOf(const QString& key) const { return controlKeys.key(key); }
+    /// The control itself: of a group the chosen button, or else the first one.
+    QWidget* widgetOf(const QString& key) const;
     /// What the page calls that, in the user's language, with the page's own name before it where
     /// it has one.
-    QString captionOf(const QString& key) const;
+    QString captionOf(const QString& key) const { return captionOf(widgetOf(key)); }
+    QString captionOf(const QWidget* control) const;
+    /// The same of a control on no page.
+    static QString plainCaptionOf(const QWidget* control);
 
 Q_SIGNALS:
     /// One edit by the user.

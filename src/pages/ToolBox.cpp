@@ -168,6 +168,21 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
     bar->setValue(bar->value() + placeOf(control) - before);
 }
 
+void ToolBox::reveal(QWidget* widget)
+{
+    for (int row = 0; row < m_grid->rowCount(); ++row) {
+        const QLayoutItem* const page = m_grid->itemAtPosition(row, 1);
+        if (row == 0 || !page || !page->widget()->isAncestorOf(widget)) {
+            continue;
+        }
+        auto* const button =
+            qobject_cast<QToolButton*>(m_grid->itemAtPosition(row - 1, 0)->widget());
+        button->setChecked(true);
+    }
+    layOutNow(m_scrollArea->viewport());
+    m_scrollArea->ensureWidgetVisible(widget);
+}
+
 int ToolBox::placeOf(const QWidget* widget) const
 {
     return widget->mapTo(m_scrollArea->viewport(), QPoint()).y();

@@ -29,6 +29,9 @@ public:
     /// the control with the focus does not move under the user's eyes.
     void keepFocusInPlace(const std::function<void()>& change);
 
+    /// Opens the section that the widget is in, and scrolls to it.
+    void reveal(QWidget* widget);
+
     /// How much more than its size hint it would take to show all sections without scrolling, in
     /// pixels; `width` is what they have.
     int missingHeight(int width) const;

@@ -380,12 +380,12 @@ void TestDialogLog::wrappedMessagesHang()
 void TestDialogLog::lookup_data()
 {
     QTest::addColumn<bool>("known");
-    for (const char* name :
-         {"malloc", "free", "err_printf", "prg_printf", "wrn_printf", "inf_printf"}) {
+    for (const char* name : {"malloc", "free", "err_printf", "prg_printf", "wrn_printf",
+                             "inf_printf", "msg_about", "lim_usage"}) {
         QTest::newRow(name) << true;
     }
     for (const char* name : {"printf", "err_printf ", "ERR_PRINTF", "err_print", "err_printfs",
-                             "realloc", "wrn", "mallocfree"}) {
+                             "realloc", "wrn", "mallocfree", "msg_abou", "msg_about_", "lim_use"}) {
         QTest::newRow(name) << false;
     }
 }
