@@ -169,6 +169,26 @@ Soll sie überschrieben werden?</translation>
         <source>Preset %1</source>
         <translation>Voreinstellung %1</translation>
     </message>
+    <message>
+        <source>Copy all</source>
+        <extracomment>In the context menu of the message log: all messages, whole.</extracomment>
+        <translation>Alles kopieren</translation>
+    </message>
+    <message>
+        <source>Further messages: %1.</source>
+        <extracomment>At the end of the message log, which is too long to be shown whole.</extracomment>
+        <translation>Weitere Meldungen: %1.</translation>
+    </message>
+    <message>
+        <source>Messages cut short: %1.</source>
+        <extracomment>At the end of the message log: how many are too long to be shown whole.</extracomment>
+        <translation>Gekürzte Meldungen: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;Copy all&quot; has them whole.</source>
+        <extracomment>&quot;Copy all&quot; is an item of the log&apos;s context menu.</extracomment>
+        <translation>„Alles kopieren“ nimmt sie ganz.</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

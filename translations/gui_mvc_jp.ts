@@ -169,6 +169,26 @@ Do you want to overwrite it?</source>
         <source>Preset %1</source>
         <translation>プリセット %1</translation>
     </message>
+    <message>
+        <source>Copy all</source>
+        <extracomment>In the context menu of the message log: all messages, whole.</extracomment>
+        <translation>すべてコピー</translation>
+    </message>
+    <message>
+        <source>Further messages: %1.</source>
+        <extracomment>At the end of the message log, which is too long to be shown whole.</extracomment>
+        <translation>表示していないメッセージ: %1 件。</translation>
+    </message>
+    <message>
+        <source>Messages cut short: %1.</source>
+        <extracomment>At the end of the message log: how many are too long to be shown whole.</extracomment>
+        <translation>途中までのメッセージ: %1 件。</translation>
+    </message>
+    <message>
+        <source>&quot;Copy all&quot; has them whole.</source>
+        <extracomment>&quot;Copy all&quot; is an item of the log&apos;s context menu.</extracomment>
+        <translation>「すべてコピー」で全文をコピーできます。</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

@@ -3,6 +3,7 @@
 #include "Companions.h"
 #include "FocusMark.h"
 #include "ForeignText.h"
+#include "LogMenu.h"
 #include "MessageLinks.h"
 #include "MessageLog.h"
 #include "SettingControls.h"
@@ -79,6 +80,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     m_caller = settings;
     takeSettings(*settings);
     messageLog().showIn(ui.errorLog);
+    log_menu::attach(ui.errorLog);
     ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
     connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
     connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);

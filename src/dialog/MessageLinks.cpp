@@ -1,5 +1,6 @@
 #include "MessageLinks.h"
 
+#include "LogText.h"
 #include "MessageLog.h"
 #include "SettingControls.h"
 
@@ -47,15 +48,17 @@ int paragraphsOf(const QString& text)
 
 } // namespace
 
-void message_links::mark(QTextBlock first, const QVector<CheckMessage>& messages, qint32 kind)
+void message_links::mark(QTextBlock first, int end, const QVector<CheckMessage>& messages,
+                         qint32 kind)
 {
     QTextBlock block = std::move(first);
-    for (int number = 0; number < int(messages.size()); ++number) {
+    const auto goesOn = [&] { return block.isValid() && block.blockNumber() < end; };
+    for (int number = 0; number < int(messages.size()) && goesOn(); ++number) {
         const CheckMessage& message = messages[number];
         if (message.kind != kind || !message.isLogged) {
             continue;
         }
-        for (int left = paragraphsOf(message.text); left > 0 && block.isValid(); --left) {
+        for (int left = paragraphsOf(shownOf(message.text)); left > 0 && goesOn(); --left) {
             block.setUserData(new MessageNumber(number));
             block = block.next();
         }

@@ -2,6 +2,7 @@
 
 #include "Companions.h"
 #include "ForeignText.h"
+#include "LogText.h"
 #include "MessageLinks.h"
 
 #include <QCoreApplication>
@@ -57,7 +58,7 @@ const char* localized(const char* format)
 /// What a sink does with its messages.
 struct Sink {
     qint32 kind;
-    QString MessageLog::*buffer;
+    QStringList MessageLog::*buffer;
     QMessageBox::Icon icon;
 };
 constexpr Sink errorSink = {KV_MVC_MESSAGE_ERROR, &MessageLog::errors, QMessageBox::Critical};
@@ -66,7 +67,6 @@ constexpr Sink noteSink = {KV_MVC_MESSAGE_NOTE, &MessageLog::notes, QMessageBox:
 
 void takeText(const Sink& sink, const QString& text, std::optional<MessageFacts> facts = {})
 {
-    const QString message = text + QLatin1Char('\n');
     const QTextEdit* log = messageLog().widget;
     const bool isLogged = !log || !log->isHidden();
     // Before a box handles events, and with them maybe another check.
@@ -74,9 +74,9 @@ void takeText(const Sink& sink, const QString& text, std::optional<MessageFacts>
         messageLog().told.append({sink.kind, text, std::move(facts), isLogged});
     }
     if (isLogged) {
-        messageLog().*sink.buffer += message;
+        messageLog().*sink.buffer += text;
     } else {
-        showBox(sink.icon, message);
+        showBox(sink.icon, text + QLatin1Char('\n'));
     }
 }
 
@@ -120,11 +120,6 @@ int printNote(const char* format, ...)
 int printProgress(const char*, ...)
 {
     return 0;
-}
-
-QString firstLine(const QString& messages)
-{
-    return messages.section(QLatin1Char('\n'), 0, 0);
 }
 
 /// The state of the paragraph that the errors begin with.
@@ -185,13 +180,16 @@ MessageLog& messageLog()
 void MessageLog::showIn(QTextEdit* log)
 {
     widget = log;
+    shown.clear();
     shownFirst.clear();
+    // What is taken back is settings, not messages.
+    log->setUndoRedoEnabled(false);
     layVeil(log->document());
 }
 
 void MessageLog::clearMessages()
 {
-    for (QString* messages : {&errors, &warnings, &notes}) {
+    for (QStringList* messages : {&errors, &warnings, &notes}) {
         messages->clear();
     }
 }
@@ -212,37 +210,29 @@ void MessageLog::rewriteWidget()
     if (!widget) {
         return;
     }
-    const QString first = firstLine(errors.isEmpty() ? warnings : errors);
+    const QString first = (errors.isEmpty() ? warnings : errors).value(0);
     const bool keepsItsPlace = widget->isVisible() && first == shownFirst;
     const int place = widget->verticalScrollBar()->value();
     shownFirst = first;
-    const struct {
-        qint32 kind;
-        const QString& messages;
-        const QColor& colour;
-        int state;
-    } blocks[] = {{KV_MVC_MESSAGE_WARNING, warnings, warningColour, -1},
-                  {KV_MVC_MESSAGE_ERROR, errors, errorColour, errorsBegin},
-                  {KV_MVC_MESSAGE_NOTE, notes, noteColour, -1}};
-    const QTextBlockFormat paragraph = hangingIndent();
 
-    widget->clear();
-    layVeil(widget->document());
-    QTextCursor cursor(widget->document());
-    cursor.beginEditBlock();
-    cursor.setBlockFormat(paragraph);
-    for (const auto& block : blocks) {
-        QTextCharFormat format;
-        format.setForeground(block.colour);
-        if (&block != blocks) {
-            cursor.insertBlock(paragraph, format);
-        }
-        QTextBlock first = cursor.block();
-        cursor.insertText(block.messages, format);
-        first.setUserState(block.state);
-        message_links::mark(first, told, block.kind);
+    const LogText text = logText(warnings, errors, notes);
+    QVector<Block> blocks = {{text.warnings, warningColour, -1, KV_MVC_MESSAGE_WARNING},
+                             {text.errors, errorColour, errorsBegin, KV_MVC_MESSAGE_ERROR},
+                             {text.notes, noteColour, -1, KV_MVC_MESSAGE_NOTE}};
+    if (!text.omitted.isEmpty()) {
+        blocks += {text.omitted, noteColour, -1, std::nullopt};
     }
-    cursor.endEditBlock();
+    if (blocks != shown) {
+        const auto wrap = text.hasEndlessWord ? QTextOption::WrapAnywhere
+                                              : QTextOption::WrapAtWordBoundaryOrAnywhere;
+        if (widget->wordWrapMode() != wrap) {
+            widget->clear();
+            widget->setWordWrapMode(wrap);
+        }
+        write(blocks);
+    }
+    // Also where the texts are the last ones: they may be about something else.
+    markMessages();
 
     scrollToFirstToRead(widget);
     if (keepsItsPlace) {
@@ -253,6 +243,59 @@ void MessageLog::rewriteWidget()
         QMetaObject::invokeMethod(
             widget, [log = widget.data()] { scrollToFirstToRead(log); }, Qt::QueuedConnection);
     }
+}
+
+void MessageLog::write(const QVector<Block>& blocks)
+{
+    shown = blocks;
+    const QTextBlockFormat paragraph = hangingIndent();
+    QTextCursor cursor(widget->document());
+    // One edit, which is laid out once.
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    for (Block& block : shown) {
+        QTextCharFormat format;
+        format.setForeground(block.colour);
+        if (&block == &shown.first()) {
+            cursor.setBlockFormat(paragraph);
+            cursor.setBlockCharFormat(format);
+        } else {
+            cursor.insertBlock(paragraph, format);
+        }
+        QTextBlock first = cursor.block();
+        // The first paragraph is the one that was there before.
+        first.setUserData(nullptr);
+        cursor.insertText(block.text, format);
+        first.setUserState(block.state);
+        block.paragraph = first.blockNumber();
+    }
+    cursor.endEditBlock();
+}
+
+void MessageLog::markMessages() const
+{
+    const QTextDocument* const document = widget->document();
+    int end = document->blockCount();
+    for (auto block = shown.crbegin(); block != shown.crend(); ++block) {
+        if (block->kind) {
+            // A block ends with an empty paragraph.
+            message_links::mark(document->findBlockByNumber(block->paragraph), end - 1, told,
+                                *block->kind);
+        }
+        end = block->paragraph;
+    }
+}
+
+QString MessageLog::allMessages() const
+{
+    QStringList blocks;
+    for (const QStringList* messages : {&warnings, &errors, &notes}) {
+        if (!messages->isEmpty()) {
+            blocks += messages->join(QLatin1Char('\n'));
+        }
+    }
+    return blocks.join(QStringLiteral("\n\n"));
 }
 
 void MessageLog::pointOutError() const

@@ -4,17 +4,20 @@
 
 #include <QColor>
 #include <QPointer>
-#include <QString>
+#include <QStringList>
 #include <QTextEdit>
+#include <QVector>
 
 #include <kv_config_gui_mvc/companions.h>
+
+#include <optional>
 
 /// Where the messages of an encoder's check go. One for the process, since the check's printf-like
 /// sinks carry no context.
 struct MessageLog {
-    QString errors;
-    QString warnings;
-    QString notes;
+    QStringList errors;
+    QStringList warnings;
+    QStringList notes;
     /// The messages of the last check, in the order in which they came, and what it told besides.
     QVector<CheckMessage> told;
     QVector<LimitUse> limits;
@@ -25,7 +28,25 @@ struct MessageLog {
 
     /// The log of the dialog that is open. While it is hidden, messages are shown in boxes instead.
     QPointer<QTextEdit> widget;
-    /// The first error that it shows, or else the first warning.
+    /// Messages of a kind, each a paragraph or several, in one colour.
+    struct Block {
+        QString text;
+        QColor colour;
+        /// Of the paragraph that it begins with.
+        int state;
+        /// KvMvcMessageKind, as their sink knows it; no value: what the log itself says.
+        std::optional<qint32> kind;
+        /// Where it begins, set when it is written.
+        int paragraph = 0;
+
+        friend bool operator==(const Block& a, const Block& b)
+        {
+            return a.text == b.text && a.colour == b.colour && a.state == b.state;
+        }
+    };
+    /// What it shows; none when it has not been written yet.
+    QVector<Block> shown;
+    /// The first error among it, or else the first warning.
     QString shownFirst;
 
     /// Makes it the log.
@@ -39,8 +60,15 @@ struct MessageLog {
     /// without messages is an empty paragraph. What is read stays in its place, unless there is
     /// another first error, or first warning, to be seen.
     void rewriteWidget();
+    /// All collected messages, whole, in the order in which the log shows them.
+    QString allMessages() const;
     /// Gives the log the focus, with the first error selected.
     void pointOutError() const;
+
+private:
+    void write(const QVector<Block>& blocks);
+    /// Marks which message each paragraph is of.
+    void markMessages() const;
 };
 
 MessageLog& messageLog();

@@ -1,6 +1,7 @@
 #include "Shortcuts.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QShortcut>
 #include <QTabWidget>
@@ -39,6 +40,17 @@ void explain(const QWidget* widget)
     }
 }
 
+/// The menu that a right click opens. Not all window systems have the key for it at Shift+F10, too.
+void openMenu(QWidget* widget)
+{
+    if (!widget) {
+        return;
+    }
+    const QPoint place = widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &event);
+}
+
 } // namespace
 
 void shortcuts::add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log)
@@ -51,6 +63,7 @@ void shortcuts::add(QDialog* dialog, QTabWidget* tabs, QTextEdit* log)
     }
     bind(dialog, {"F8"}, [log] { log->setFocus(Qt::ShortcutFocusReason); });
     bind(dialog, {"F1"}, [dialog] { explain(dialog->focusWidget()); });
+    bind(dialog, {"Shift+F10"}, [dialog] { openMenu(dialog->focusWidget()); });
 
     const auto widgets = dialog->findChildren<QWidget*>();
     for (QWidget* widget : widgets) {

@@ -6,6 +6,7 @@
 #include "SettingsLedger.h"
 #include "ToolkitWarnings.h"
 #include "UserInput.h"
+#include "dialog/MessageLinks.h"
 #include "dialog/MessageLog.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -107,6 +108,8 @@ private Q_SLOTS:
     void innerCheckHasTheLastWord();
     void factsOutsideACheckAreNobodys();
     void textAndColoursAreAsWithoutFacts();
+    void sameTextMayBeAboutSomethingElse();
+    void messagesThatAreNotShownMarkNothing();
 };
 
 void TestDialogLinks::messageLeadsToItsControl_data()
@@ -547,6 +550,45 @@ void TestDialogLinks::textAndColoursAreAsWithoutFacts()
                             "#b40000 of err_printf|#b40000 and more|"
                             "#b40000 of err_printf|#b40000 and more| |"
                             "#141414 of inf_printf|#141414 and more| "));
+}
+
+void TestDialogLinks::sameTextMayBeAboutSomethingElse()
+{
+    OpenDialog dialog;
+    for (const auto& [setting, control] :
+         {std::pair{"width", "widthSpin"}, std::pair{"height", "heightSpin"}}) {
+        checkWith(dialog, [name = setting](KvMvcLookup lookUp, KvMvcSettings&) {
+            printAbout(lookUp, "wrn_printf", name, -1, "odd");
+            return 0;
+        });
+        pressEnter(dialog, QStringLiteral("odd"));
+        QCOMPARE(focus()->objectName(), QLatin1String(control));
+    }
+    // Nothing of it stays when there is no warning any more.
+    checkWith(dialog, [](KvMvcLookup, KvMvcSettings&) { return 0; });
+    QVERIFY(!message_links::messageOf(dialog.log()->document()->begin()));
+}
+
+void TestDialogLinks::messagesThatAreNotShownMarkNothing()
+{
+    OpenDialog dialog;
+    checkWith(dialog, [](KvMvcLookup lookUp, KvMvcSettings&) {
+        for (int i = 0; i < 10000; ++i) {
+            printAbout(lookUp, "wrn_printf", "width", -1, QByteArray(i == 0 ? "first" : "next"));
+        }
+        printAbout(lookUp, "wrn_printf", "height", -1, "not shown");
+        printAbout(lookUp, "inf_printf", "height", -1, "not shown either");
+        return 0;
+    });
+    int paragraphs = 0;
+    const QTextDocument* const document = dialog.log()->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const CheckMessage* const message = message_links::messageOf(block);
+        QCOMPARE(message != nullptr, !block.text().isEmpty() && paragraphs < 10000);
+        QVERIFY(!message || message->facts->setting == QLatin1String("width"));
+        ++paragraphs;
+    }
+    QCOMPARE(paragraphs, 10000 + 4);
 }
 
 QTEST_MAIN(TestDialogLinks)

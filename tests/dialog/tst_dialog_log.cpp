@@ -8,6 +8,7 @@
 #include "dialog/MessageLog.h"
 
 #include <QMessageBox>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
 #include <QTextBlock>
@@ -48,6 +49,23 @@ int oneOfEach(KvMvcLookup lookUp, KvMvcSettings&)
     return 0;
 }
 
+/// More of each than the log can show.
+int manyOfEach(KvMvcLookup lookUp, KvMvcSettings&)
+{
+    for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"}) {
+        for (int i = 0; i < 20; ++i) {
+            print(lookUp, sink, "%s %d", sink, i);
+        }
+    }
+    return 1;
+}
+
+/// The text of the line at the log's upper edge.
+QString topLine(const OpenDialog& dialog)
+{
+    return dialog.log()->cursorForPosition({20, 3}).block().text();
+}
+
 const char* const sinkNames[] = {"err_printf", "wrn_printf", "inf_printf", "prg_printf"};
 
 const char* translated(const char* format)
@@ -73,6 +91,11 @@ private Q_SLOTS:
     void logOfTheDialogThatIsOpen();
     void longMessagesAreWhole();
     void manyMessages();
+    void ordinaryAmountsAreShownWhole();
+    void furtherMessagesAreCounted();
+    void errorsAreShownBeforeWarnings();
+    void longerMessageIsCutShort();
+    void nothingIsWrittenTwice();
     void textIsNotMarkup();
     void textOutsideAscii_data();
     void textOutsideAscii();
@@ -180,7 +203,7 @@ void TestDialogLog::logOfTheDialogThatIsOpen()
 void TestDialogLog::longMessagesAreWhole()
 {
     OpenDialog dialog;
-    const QByteArray word(100000, 'x');
+    const QByteArray word(65000, 'x');
     dialog.companions.onCheck = [&word](KvMvcLookup lookUp, KvMvcSettings&) {
         print(lookUp, "err_printf", "<%s> %d", word.constData(), 7);
         print(lookUp, "wrn_printf", word.constData());
@@ -188,8 +211,8 @@ void TestDialogLog::longMessagesAreWhole()
     };
     dialog.probe().check();
     QCOMPARE(dialog.log()->toPlainText(),
-             QString(100000, QLatin1Char('x')) + QStringLiteral("\n\n<") +
-                 QString(100000, QLatin1Char('x')) + QStringLiteral("> 7\n\n"));
+             QString(65000, QLatin1Char('x')) + QStringLiteral("\n\n<") +
+                 QString(65000, QLatin1Char('x')) + QStringLiteral("> 7\n\n"));
 }
 
 void TestDialogLog::manyMessages()
@@ -204,6 +227,95 @@ void TestDialogLog::manyMessages()
     dialog.probe().check();
     QCOMPARE(dialog.log()->document()->blockCount(), 2000 + 3);
     QVERIFY(dialog.log()->toPlainText().contains(QLatin1String("\nmessage 1999\n")));
+}
+
+namespace
+{
+
+/// Prints the given number of errors, warnings and notes; each has its number.
+auto printing(int errors, int warnings, int notes)
+{
+    return [=](KvMvcLookup lookUp, KvMvcSettings&) {
+        for (int i = 1; i <= errors; ++i) {
+            print(lookUp, "err_printf", "error %d", i);
+        }
+        for (int i = 1; i <= warnings; ++i) {
+            print(lookUp, "wrn_printf", "warning %d", i);
+        }
+        for (int i = 1; i <= notes; ++i) {
+            print(lookUp, "inf_printf", "note %d", i);
+        }
+        return 0;
+    };
+}
+
+} // namespace
+
+void TestDialogLog::ordinaryAmountsAreShownWhole()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = printing(1, 1, 9998);
+    dialog.probe().check();
+    QCOMPARE(dialog.log()->document()->blockCount(), 10000 + 3);
+    QVERIFY(dialog.log()->toPlainText().endsWith(QLatin1String("\nnote 9998\n")));
+}
+
+void TestDialogLog::furtherMessagesAreCounted()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = printing(0, 10, 100000);
+    dialog.probe().check();
+    const QString shown = dialog.log()->toPlainText();
+    QVERIFY(shown.endsWith(
+        QLatin1String("\nnote 9990\n\nFurther messages: 90,010. \"Copy all\" has them whole.")));
+    QVERIFY(shown.startsWith(QLatin1String("warning 1\n")));
+    QCOMPARE(paragraphs(dialog).last().left(16), QStringLiteral("#141414 Further "));
+
+    // The next check has an ordinary amount.
+    dialog.companions.onCheck = printing(0, 0, 1);
+    dialog.probe().check();
+    QCOMPARE(dialog.log()->toPlainText(), QStringLiteral("\n\nnote 1\n"));
+}
+
+void TestDialogLog::errorsAreShownBeforeWarnings()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = printing(2, 10000, 1);
+    dialog.probe().check();
+    const QString shown = dialog.log()->toPlainText();
+    QVERIFY(shown.endsWith(QLatin1String("\nwarning 9998\n\nerror 1\nerror 2\n\n\nFurther "
+                                         "messages: 3. \"Copy all\" has them whole.")));
+}
+
+void TestDialogLog::longerMessageIsCutShort()
+{
+    OpenDialog dialog;
+    const QByteArray word(10 * 1024 * 1024, 'x');
+    dialog.companions.onCheck = [&word](KvMvcLookup lookUp, KvMvcSettings&) {
+        print(lookUp, "wrn_printf", "%s", word.constData());
+        print(lookUp, "inf_printf", "a note");
+        return 0;
+    };
+    dialog.probe().check();
+    QCOMPARE(dialog.log()->toPlainText(),
+             QString(65536, QLatin1Char('x')) +
+                 QStringLiteral("\u2026\n\n\na note\n\nMessages cut short: 1. \"Copy all\" has "
+                                "them whole."));
+}
+
+void TestDialogLog::nothingIsWrittenTwice()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = manyOfEach;
+    dialog.probe().check();
+    const QSignalSpy writes(dialog.log()->document(), &QTextDocument::contentsChange);
+    dialog.probe().check();
+    QCOMPARE(writes.size(), 0);
+    QCOMPARE(topLine(dialog), QStringLiteral("err_printf 0"));
+    // At once, and not emptied first.
+    dialog.companions.onCheck = oneOfEach;
+    dialog.probe().check();
+    QCOMPARE(writes.size(), 1);
 }
 
 void TestDialogLog::textIsNotMarkup()
@@ -266,28 +378,6 @@ void TestDialogLog::startsReadingAtTheFirstMessage()
     QCOMPARE(dialog.log()->textCursor().block().text(), QStringLiteral("note 0"));
     QVERIFY(!dialog.log()->textCursor().hasSelection());
 }
-
-namespace
-{
-
-/// More of each than the log can show.
-int manyOfEach(KvMvcLookup lookUp, KvMvcSettings&)
-{
-    for (const char* sink : {"wrn_printf", "err_printf", "inf_printf"}) {
-        for (int i = 0; i < 20; ++i) {
-            print(lookUp, sink, "%s %d", sink, i);
-        }
-    }
-    return 1;
-}
-
-/// The text of the line at the log's upper edge.
-QString topLine(const OpenDialog& dialog)
-{
-    return dialog.log()->cursorForPosition({20, 3}).block().text();
-}
-
-} // namespace
 
 void TestDialogLog::startsReadingAtTheFirstErrorBelowWarnings()
 {
@@ -522,7 +612,7 @@ void TestDialogLog::printingWithoutADialog()
 {
     ModalWatch watch([](QWidget* window) { window->close(); });
     print(&lookUpCheckFunction, "err_printf", "nobody %s", "listens");
-    QCOMPARE(messageLog().errors, QStringLiteral("nobody listens\n"));
+    QCOMPARE(messageLog().errors, QStringList(QStringLiteral("nobody listens")));
     QCOMPARE(watch.seen(), 0);
 }
 
