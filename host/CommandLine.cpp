@@ -5,6 +5,11 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/version.h>
 
 #include <algorithm>
 
@@ -59,6 +64,16 @@ QString commandHelp(const Command& command, const QCommandLineParser& parser)
     const QString page = parser.helpText();
     return usage(command) + QLatin1Char('\n') + latin1(command.description) +
            page.mid(page.indexOf(QLatin1Char('\n')) + 1) + examples(command);
+}
+
+/// The folder where libraries are installed, unless they lie beside the program.
+QString librariesFolder()
+{
+    const QString own = QCoreApplication::applicationDirPath();
+    const QDir installed(own + QLatin1String("/" KV_LIBRARIES_FROM_HERE));
+    const bool besideProgram =
+        QFile::exists(own + QLatin1String("/" KV_MVC_SETTINGS_IO_LIBRARY KV_MVC_LIBRARY_SUFFIX));
+    return besideProgram || !installed.exists() ? own : installed.canonicalPath();
 }
 
 /// @param hint As of didYouMean(); without one the help page is named.
@@ -147,7 +162,7 @@ QStringList Invocation::values(const char* option) const
 Invocation parseCommandLine(std::span<const Command> commands, const QStringList& arguments)
 {
     Invocation call;
-    call.directory = QCoreApplication::applicationDirPath();
+    call.directory = librariesFolder();
     if (arguments.size() < 2) {
         refuse(nullptr, QStringLiteral("no command"));
     }
@@ -157,7 +172,7 @@ Invocation parseCommandLine(std::span<const Command> commands, const QStringList
         return call;
     }
     if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
-        call.text = QByteArray(programName) + " " KV_VERSION "\n";
+        call.text = QByteArray(programName) + " " KV_MVC_VERSION "\n";
         return call;
     }
 

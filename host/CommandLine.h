@@ -31,7 +31,7 @@ struct Invocation {
     QStringList files;
     /// The values of each option given, by the option's long name; one empty value for a switch.
     QHash<QString, QStringList> options;
-    /// Where the program lies; libraries are looked for there first.
+    /// Where libraries are looked for, besides the program's own folder.
     QString directory;
 
     [[nodiscard]] bool has(const char* option) const;

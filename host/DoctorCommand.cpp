@@ -11,6 +11,7 @@
 #include <QLocale>
 
 #include <kv_config_gui_mvc/config_gui.h>
+#include <kv_config_gui_mvc/version.h>
 
 namespace
 {
@@ -91,7 +92,8 @@ Outcome runDoctor(const Invocation& call)
         throw Failure(
             QStringLiteral("cannot write '%1': the name of a report ends in .txt").arg(output));
     }
-    QString text = QStringLiteral("kv-mvc-settings " KV_VERSION " in %1\n").arg(call.directory) +
+    QString text = QStringLiteral("kv-mvc-settings " KV_MVC_VERSION ", libraries in %1\n")
+                       .arg(call.directory) +
                    QStringLiteral("language of the user: %1\n").arg(QLocale::system().name()) +
                    environmentText() + QLatin1Char('\n');
     const ModuleTrace trace;

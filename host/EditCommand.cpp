@@ -131,6 +131,8 @@ struct DialogCall {
     int32_t flags;
     Hosting hosting;
     void* parent;
+    /// Of the libraries.
+    QString directory;
     bool hasTitle;
     bool hasBanner;
     QByteArray title;
@@ -148,6 +150,7 @@ DialogCall dialogCall(const Invocation& call)
     return {flagsOf(call),
             hosting,
             parentWindow(call, hosting),
+            call.directory,
             call.has("title"),
             call.has("banner"),
             call.value("title").toUtf8(),
@@ -168,6 +171,7 @@ int32_t showDialog(const Library& module, const DialogCall& call, KvMvcSettings&
     std::unique_ptr<QApplication> application;
     if (call.hosting == Hosting::Host) {
         application = std::make_unique<QApplication>(count, arguments);
+        addLibraryFolder(call.directory);
         flags |= KV_MVC_GUI_HOST_APPLICATION;
         hosting.parent = application.get();
     }

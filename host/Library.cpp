@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <string>
@@ -26,6 +27,13 @@ QString reasonOf(const KvMvcLibrary& library)
 }
 
 } // namespace
+
+void addLibraryFolder(const QString& directory)
+{
+    if (!QCoreApplication::libraryPaths().contains(directory)) {
+        QCoreApplication::setLibraryPaths(QCoreApplication::libraryPaths() << directory);
+    }
+}
 
 Library::Library(const QString& directory, std::vector<const char*> baseNames)
 {

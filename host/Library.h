@@ -6,6 +6,9 @@
 
 #include <vector>
 
+/// Has the application look in the folder, too, after its own, for translations as well.
+void addLibraryFolder(const QString& directory);
+
 /// A shared library found at run time, by its file name without "lib" and suffix; unloaded with
 /// the object.
 ///

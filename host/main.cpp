@@ -25,6 +25,7 @@ Outcome run(int& argc, char** argv)
             return {ExitYes, call.text};
         }
         if (!call.command->opensDialog) {
+            addLibraryFolder(call.directory);
             return call.command->run(call);
         }
     }

@@ -19,6 +19,7 @@
 
 #include <kv_config_gui_mvc/companions.h>
 #include <kv_config_gui_mvc/config_gui.h>
+#include <kv_config_gui_mvc/version.h>
 
 #include <memory>
 
@@ -201,8 +202,7 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
 /// What the call is, and what it is made by.
 QString describeCall(int32_t flags, const void* ext)
 {
-    return QStringLiteral("version " KV_PROJECT_VERSION
-                          ", Qt %1 (built with %2), flags 0x%3, ext %4")
+    return QStringLiteral("version " KV_MVC_VERSION ", Qt %1 (built with %2), flags 0x%3, ext %4")
         .arg(QLatin1String(qVersion()), QLatin1String(QT_VERSION_STR))
         .arg(uint32_t(flags), 8, 16, QLatin1Char('0'))
         .arg(ext ? QStringLiteral("given") : QStringLiteral("null"));

@@ -55,7 +55,7 @@ void TestHostDoctor::dialogThatOpensIsLeftAtOnce()
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, 0);
     for (const char* pattern :
-         {R"(kv-mvc-settings \d+\.\d+\.\d+ in .+)", R"(language of the user: \S+)",
+         {R"(kv-mvc-settings \d+\.\d+\.\d+, libraries in .+)", R"(language of the user: \S+)",
           R"(version \d.*, Qt [56]\..*)", R"(kv_mvcenc_b: not loaded: .+)",
           R"(kv_mvcenc: loaded .*[/\\]bin[/\\]kv_mvcenc\.\w+)",
           R"(kv_mvcenc\.\w+: has mvcOutVideoChkSettings)", R"(platform plug-in offscreen: works)",

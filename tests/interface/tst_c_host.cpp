@@ -2,7 +2,10 @@
 // and used as its readers would, and a host that links the module.
 
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -50,6 +53,10 @@ private Q_SLOTS:
     void errors_data();
     void errors();
     void hostThatLinksTheModule();
+    void hostFoundByPkgConfigRunsWhereverTheTreeIs();
+    void projectThatTakesTheSourcesHasTheSameTargets();
+    void installedProgramFindsItsLibraries();
+    void whatPeopleReadIsInstalled();
     void exampleForX11IsBuilt();
 
 private:
@@ -70,7 +77,7 @@ void TestCHost::initTestCase()
         run(QStringLiteral(KV_CMAKE), {QStringLiteral("--install"), QStringLiteral(KV_BUILD),
                                        QStringLiteral("--prefix"), path("installed")});
     QVERIFY2(installed.exitCode == 0, qPrintable(installed.output + installed.error));
-    m_folder = path("installed/bin");
+    m_folder = path("installed/" KV_MODULEDIR);
     QVERIFY(build(KV_EXAMPLES "/c-host", "build"));
     m_program = path("build/kv-c-host");
 }
@@ -180,6 +187,79 @@ void TestCHost::hostThatLinksTheModule()
     QCOMPARE(result.error, QString());
     QCOMPARE(result.output, QStringLiteral("1\n"));
     QCOMPARE(result.exitCode, 0);
+}
+
+void TestCHost::hostFoundByPkgConfigRunsWhereverTheTreeIs()
+{
+    const QString moved = path("moved tree");
+    QVERIFY(QFile::rename(path("installed"), moved));
+    const auto moveBack = qScopeGuard([&] { QVERIFY(QFile::rename(moved, path("installed"))); });
+    const Result built = run(
+        QStringLiteral("sh"),
+        {QStringLiteral("-c"),
+         QStringLiteral("eval \"\"$1\" $2 \"$3\" -o \"$4\" $(pkg-config --cflags --libs "
+                        "'kv_config_gui_mvc >= 1.0')\""),
+         QStringLiteral("sh"), QStringLiteral(KV_C_COMPILER), QStringLiteral(KV_C_FLAGS),
+         QStringLiteral(KV_LINKED_HOST_SOURCE "/main.c"), path("by-pkg-config")},
+        {{QStringLiteral("PKG_CONFIG_PATH"), moved + QStringLiteral("/" KV_LIBDIR "/pkgconfig")}});
+    QVERIFY2(built.exitCode == 0, qPrintable(built.error));
+    const Result result = run(path("by-pkg-config"), {});
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.output, QStringLiteral("1\n"));
+}
+
+void TestCHost::projectThatTakesTheSourcesHasTheSameTargets()
+{
+    const Result result =
+        run(QStringLiteral(KV_CMAKE),
+            {QStringLiteral("-S"), QStringLiteral(KV_LINKED_HOST_SOURCE), QStringLiteral("-B"),
+             path("subdirectory"), QStringLiteral("-G"), QStringLiteral(KV_GENERATOR),
+             QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
+             QStringLiteral("-DKV_LINKED_HOST_TAKES=" KV_SOURCE)});
+    QVERIFY2(result.exitCode == 0, qPrintable(result.output + result.error));
+}
+
+void TestCHost::installedProgramFindsItsLibraries()
+{
+    const QString program = path("installed/bin/kv-mvc-settings");
+    const QString file = path("film.cfg");
+    QCOMPARE(
+        run(program, {QStringLiteral("defaults"), QStringLiteral("2"), QStringLiteral("-o"), file})
+            .error,
+        QString());
+    const QMap<QString, QString> german = {
+        {QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8")},
+        {QStringLiteral("LANGUAGE"), QString()},
+        {QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path()}};
+    const Result check =
+        run(program, {QStringLiteral("check"), QStringLiteral("--notes"), file}, german);
+    QCOMPARE(check.error, QString());
+    QVERIFY2(check.output.contains(QStringLiteral("Ansichten")), qPrintable(check.output));
+    const Result doctor = run(program, {QStringLiteral("doctor")}, german);
+    QVERIFY2(doctor.exitCode == 0, qPrintable(doctor.output + doctor.error));
+    QVERIFY2(doctor.output.contains(QStringLiteral("gui_mvc_de.qm: from ") +
+                                    QFileInfo(m_folder).canonicalFilePath()),
+             qPrintable(doctor.output));
+}
+
+void TestCHost::whatPeopleReadIsInstalled()
+{
+    const QString documents = path("installed/" KV_DOCDIR "/");
+    for (const char* file : {"README.md", "CHANGELOG.md", "docs/architecture.md",
+                             "docs/settings.schema.json", "examples/c-host/c_host.c"}) {
+        QVERIFY2(QFile::exists(documents + QLatin1String(file)), file);
+    }
+    // Links of the one that is read first lead to what is there.
+    QFile readme(documents + QStringLiteral("README.md"));
+    QVERIFY(readme.open(QIODevice::ReadOnly));
+    const QRegularExpression link(QStringLiteral(R"(\]\(((?:docs|examples)/[^)#]*))"));
+    const QString text = QString::fromUtf8(readme.readAll());
+    int links = 0;
+    for (auto match = link.globalMatch(text); match.hasNext(); ++links) {
+        const QString target = match.next().captured(1);
+        QVERIFY2(QFile::exists(documents + target), qPrintable(target));
+    }
+    QVERIFY(links > 5);
 }
 
 void TestCHost::exampleForX11IsBuilt()

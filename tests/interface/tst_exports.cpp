@@ -17,7 +17,8 @@ void TestExports::exports_data()
 {
     QTest::addColumn<QStringList>("functions");
     const QMap<QString, QStringList> functions = {
-        {QStringLiteral("kv_config_gui_mvc"), {QStringLiteral("showMVCEncoderPages")}},
+        {QStringLiteral("kv_config_gui_mvc"),
+         {QStringLiteral("showMVCEncoderPages@@KV_CONFIG_GUI_MVC_1")}},
         {QStringLiteral("kv_mvcenc"),
          {QStringLiteral("mvcOutVideoChkSettings"), QStringLiteral("mvcOutVideoDefaults")}},
         {QStringLiteral("kv_mvc_settings_io"), {QStringLiteral("MVCConfigGetAPIExt")}},
@@ -37,8 +38,8 @@ void TestExports::exports()
     const QString library = qEnvironmentVariable("KV_BIN_DIR") +
                             QStringLiteral("/%1.so").arg(QLatin1String(QTest::currentDataTag()));
     QProcess lister;
-    lister.start(QStringLiteral(KV_NM),
-                 {QStringLiteral("-D"), QStringLiteral("--defined-only"), library});
+    lister.start(QStringLiteral(KV_NM), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                                         QStringLiteral("--extern-only"), library});
     QVERIFY(lister.waitForFinished());
     QVERIFY2(lister.exitCode() == 0, lister.readAllStandardError().constData());
 
