@@ -7,7 +7,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # What each folder may include of the project, as regular expressions of the name between the quotes
 # or brackets. A name without a folder is a neighbour, which must exist beside the file.
-set(public "kv_config_gui_mvc/((settings_record|companions|companion_check|companion_library|config_gui|media_info)\\.h|settings_fields\\.def)")
+set(public "kv_config_gui_mvc/((settings_record|companions|companion_check|companion_library|config_gui|media_info|version)\\.h|settings_fields\\.def)")
 set(may_include_include "${public}|[a-z_]+\\.h")
 set(may_include_src_model "${public}|model/[A-Za-z]+\\.h")
 set(may_include_src_pages "pages/[A-Za-z0-9]+\\.h|model/(ConfigState|KeyNames)\\.h")
