@@ -20,6 +20,8 @@ struct Checked {
     QString file;
     KvMvcSettings before;
     CheckResult result;
+    /// Why it could not be read; the others are checked all the same.
+    QStringList trouble = {};
 };
 
 /// In the order in which kinds are printed: what refuses the settings first.
@@ -75,6 +77,12 @@ QJsonObject resultJson(const Checked& checked)
             {QStringLiteral("corrections"), corrections}};
 }
 
+QJsonObject troubleJson(const QStringList& lines)
+{
+    return {{QStringLiteral("accepted"), false},
+            {QStringLiteral("trouble"), QJsonArray::fromStringList(lines)}};
+}
+
 /// Of one file: its members, at the top.
 QByteArray resultsJson(const std::vector<Checked>& all, bool accepted)
 {
@@ -84,7 +92,8 @@ QByteArray resultsJson(const std::vector<Checked>& all, bool accepted)
     } else {
         QJsonArray files;
         for (const Checked& checked : all) {
-            QJsonObject file = resultJson(checked);
+            QJsonObject file =
+                checked.trouble.isEmpty() ? resultJson(checked) : troubleJson(checked.trouble);
             file[QStringLiteral("file")] = checked.file;
             files.append(file);
         }
@@ -101,6 +110,40 @@ QByteArray resultsText(const std::vector<Checked>& all, bool notesToo)
         text += resultText(checked.result, beginning, notesToo);
     }
     return text.toUtf8();
+}
+
+/// @throws Failure when none can be read.
+std::vector<Checked> readAll(const SettingsFiles& files, const QStringList& names)
+{
+    std::vector<Checked> all;
+    QStringList trouble;
+    bool isAnyRead = false;
+    for (const QString& name : names) {
+        all.push_back({name, {}, {}});
+        try {
+            all.back().before = files.read(name);
+            isAnyRead = true;
+        } catch (const Failure& failure) {
+            all.back().trouble = failure.lines();
+            trouble += failure.lines();
+        }
+    }
+    if (!isAnyRead) {
+        throw Failure(trouble);
+    }
+    return all;
+}
+
+/// For standard error.
+QByteArray troubleOf(const std::vector<Checked>& all)
+{
+    QByteArray text;
+    for (const Checked& checked : all) {
+        for (const QString& line : checked.trouble) {
+            text += line.toUtf8() + '\n';
+        }
+    }
+    return text;
 }
 
 /// @throws Failure for options that contradict each other.
@@ -142,22 +185,22 @@ Outcome runCheck(const Invocation& call)
         requireWritable(output);
     }
     const SettingsFiles files(call.directory);
-    std::vector<Checked> all;
-    for (const QString& file : call.files) {
-        all.push_back({file, files.read(file), {}});
-    }
+    std::vector<Checked> all = readAll(files, call.files);
+    const QByteArray trouble = troubleOf(all);
     const MessageTexts texts(call.value("language"));
     const Encoder encoder(call.directory, texts.convert());
     bool accepted = true;
     for (Checked& checked : all) {
         CheckResult& result = checked.result;
-        result = encoder.check(checked.before);
+        if (checked.trouble.isEmpty()) {
+            result = encoder.check(checked.before);
+        }
         if (call.has("strict") && hasKind(result, CheckMessage::Risk)) {
             result.accepted = false;
         }
         accepted = accepted && result.accepted;
     }
-    const ExitCode exitCode = accepted ? ExitYes : ExitNo;
+    const ExitCode exitCode = !trouble.isEmpty() ? ExitTrouble : accepted ? ExitYes : ExitNo;
     const QByteArray messages =
         call.has("json") ? resultsJson(all, accepted) : resultsText(all, call.has("notes"));
     const KvMvcSettings& corrected = all.front().result.corrected;
@@ -167,5 +210,5 @@ Outcome runCheck(const Invocation& call)
     if (accepted && call.has("output")) {
         files.write(corrected, output);
     }
-    return {exitCode, messages};
+    return {exitCode, messages, trouble};
 }

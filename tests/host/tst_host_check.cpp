@@ -18,9 +18,6 @@ private Q_SLOTS:
     void correctionsAreSavedElsewhere();
     void nothingIsSavedWhenRefused_data();
     void nothingIsSavedWhenRefused();
-    void severalFiles();
-    void whatIsOfOneFileIsRefusedForSeveral_data();
-    void whatIsOfOneFileIsRefusedForSeveral();
     void json();
     void messagesAreInTheUsersLanguage_data();
     void messagesAreInTheUsersLanguage();
@@ -157,69 +154,6 @@ void TestHostCheck::nothingIsSavedWhenRefused()
     const HostProgram::Result result = program.run(
         {QStringLiteral("check"), a, QStringLiteral("-o"), fixedName, QStringLiteral("--strict")});
     QCOMPARE(result.exitCode, 1);
-    QCOMPARE(program.fileNames(), QStringList{a});
-}
-
-void TestHostCheck::severalFiles()
-{
-    HostProgram program;
-    prepare(program, 2);
-    program.writeSettings(QStringLiteral("good.ini"), settingsOfWidth(1920));
-    program.writeSettings(QStringLiteral("bad.ini"), settingsOfWidth(1));
-    const QStringList arguments = {QStringLiteral("check"), a, QStringLiteral("good.ini"),
-                                   QStringLiteral("-")};
-    const QByteArray bad = program.content(QStringLiteral("bad.ini"));
-    HostProgram::Result result = program.run(arguments, {}, bad);
-    QCOMPARE(result.error, QString());
-    QCOMPARE(result.output, QStringLiteral("a.ini: warning: width 2 corrected to 16\n"
-                                           "-: error: width 1 is below 16\n"
-                                           "-: warning: 100 % of 0.500 is less\n"
-                                           "-: note: the picture of 1 x 2\n"));
-    QCOMPARE(result.exitCode, 1);
-    QCOMPARE(program.run(arguments.mid(0, 3)).exitCode, 0);
-
-    result = program.run(arguments + QStringList{QStringLiteral("--json")}, {}, bad);
-    QCOMPARE(result.exitCode, 1);
-    QCOMPARE(problemOf(result), QString());
-    const QJsonObject all = QJsonDocument::fromJson(result.output.toUtf8()).object();
-    QCOMPARE(all.keys().join(QLatin1Char(' ')), QStringLiteral("accepted files format_version"));
-    QCOMPARE(all[QStringLiteral("accepted")], QJsonValue(false));
-    QStringList verdicts;
-    for (const QJsonValue& file : all[QStringLiteral("files")].toArray()) {
-        verdicts << file[QStringLiteral("file")].toString() +
-                        (file[QStringLiteral("accepted")].toBool() ? QStringLiteral(" accepted")
-                                                                   : QStringLiteral(" refused"));
-    }
-    QCOMPARE(verdicts,
-             QStringList({QStringLiteral("a.ini accepted"), QStringLiteral("good.ini accepted"),
-                          QStringLiteral("- refused")}));
-}
-
-void TestHostCheck::whatIsOfOneFileIsRefusedForSeveral_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("line");
-    const auto row = [](const char* name, const char* arguments, const char* line) {
-        QTest::newRow(name) << QString::fromLatin1(arguments).split(QLatin1Char(' '))
-                            << QStringLiteral("kv-mvc-settings: ") + QLatin1String(line) +
-                                   QLatin1Char('\n');
-    };
-    row("output", "check a.ini a.ini -o fixed.ini", "-o takes the settings of one file");
-    row("standard input", "check - -", "standard input can be only one of the files");
-    row("an unreadable file", "check a.ini none.ini",
-        "cannot read 'none.ini': there is no such file");
-}
-
-void TestHostCheck::whatIsOfOneFileIsRefusedForSeveral()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, line);
-    HostProgram program;
-    prepare(program, 1);
-    const HostProgram::Result result = program.run(arguments);
-    QCOMPARE(result.error, line);
-    QCOMPARE(result.output, QString());
-    QCOMPARE(result.exitCode, 2);
     QCOMPARE(program.fileNames(), QStringList{a});
 }
 
