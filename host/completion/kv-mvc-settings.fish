@@ -28,7 +28,7 @@ function __kv_mvc_settings_keys
 end
 
 set -l settings 'cfg|ini'
-set -l media 'm2p|m2t|m2v|m4p|mp2|mp4|mpeg|mpg|mpv|mxf|trp|ts|vob|ifo'
+set -l media '264|265|asf|avc|avi|flv|h264|h265|hevc|ifo|m1v|m2p|m2t|m2ts|m2v|m4p|m4v|mk3d|mkv|mov|mp2|mp4|mpeg|mpg|mpv|mts|mvc|mxf|ssif|trp|ts|vc1|vob|webm|wmv|y4m'
 set -l presets '0 1 2 3 none multiview-high stereo-high blu-ray-3d'
 
 complete -c kv-mvc-settings -f

@@ -258,7 +258,7 @@ void TestHostCompletion::fishOffers_data()
     row("check a.ini -o ", "a.ini b.CFG folder/");
     row("check --language ", "de en ja");
     row("defaults ", "0 1 2 3 blu-ray-3d multiview-high none stereo-high");
-    row("import ", "folder/ movie.MP4 stream.ts");
+    row("import ", "disc.m2ts folder/ movie.MP4 stream.ts");
     row("export --to ", "ffmpeg jm x264");
     row("edit --hosting ", "host native own");
     row("edit --lock size,v", "size,video-type size,views");
@@ -276,7 +276,8 @@ void TestHostCompletion::fishOffers()
     QFETCH(QString, line);
     QFETCH(QString, words);
     const HostProgram program;
-    for (const char* file : {"a.ini", "b.CFG", "c.json", "movie.MP4", "stream.ts", "notes.txt"}) {
+    for (const char* file :
+         {"a.ini", "b.CFG", "c.json", "disc.m2ts", "movie.MP4", "stream.ts", "notes.txt"}) {
         program.setContent(QString::fromLatin1(file), "");
     }
     QVERIFY(QDir(program.path(QString())).mkdir(QStringLiteral("folder")));

@@ -107,6 +107,12 @@ void TestHostDocuments::suffixesAreTheSameEverywhere_data()
                                QStringLiteral("mp4"), QStringLiteral("mpeg"), QStringLiteral("mpg"),
                                QStringLiteral("mpv"), QStringLiteral("mxf"),  QStringLiteral("trp"),
                                QStringLiteral("ts"),  QStringLiteral("vob")};
+    // What import reads under other names, too.
+    const QStringList imported =
+        QStringLiteral("264 265 asf avc avi flv h264 h265 hevc ifo m1v m2p m2t m2ts m2v m4p m4v "
+                       "mk3d mkv mov mp2 mp4 mpeg mpg mpv mts mvc mxf ssif trp ts vc1 vob webm wmv "
+                       "y4m")
+            .split(QLatin1Char(' '));
     const auto row = [](const char* name, const char* file, const char* place, const char* suffix,
                         const QStringList& expected) {
         QTest::newRow(name) << QString::fromLatin1(KV_SOURCE_DIR "/") + QLatin1String(file)
@@ -118,19 +124,21 @@ void TestHostDocuments::suffixesAreTheSameEverywhere_data()
     row("header, media", header, "KV_MVC_MEDIA_SUFFIXES [^\"]*[^\\n]*", R"x("(\w+)")x", media);
     const char* const completion = "host/completion/kv-mvc-settings.bash";
     row("completion, settings", completion, "settings='[^']*'", "['|](\\w+)", settings);
-    row("completion, media", completion, "media='[^']*'", "['|](\\w+)", media);
+    row("completion, media", completion, "media='[^']*'", "['|](\\w+)", imported);
     for (const char* file :
          {"host/completion/_kv-mvc-settings", "host/completion/kv-mvc-settings.fish"}) {
         row((std::string(file) + ", settings").c_str(), file, "\\bsettings[= ]'[^']*'",
             "['|](\\w+)", settings);
         row((std::string(file) + ", media").c_str(), file, "\\bmedia[= ]'[^']*'", "['|](\\w+)",
-            media);
+            imported);
     }
     const char* const manual = "docs/kv-mvc-settings.1";
     row("manual, settings", manual, "their names end in.*?upper or lower", "^\\.IR? \\.(\\w+)",
         settings);
-    row("manual, media", manual, "Names of media files end in.*?\\n\\.TP", "^\\.IR? \\.(\\w+)",
+    row("manual, media", manual, "Names of media files end in.*?\\n\\.PP", "^\\.IR? \\.(\\w+)",
         media);
+    row("manual, import", manual, "What is read, with the names.*?tells its format",
+        "[( ]\\.(\\w+)", imported);
     const char* const format = "docs/settings-file.md";
     row("format, settings", format, "The suffix decides.*?are settings", "`(\\w+)`", settings);
     row("format, media", format, "are settings; .*?are media", "`(\\w+)`", media);
@@ -188,7 +196,7 @@ void TestHostDocuments::completionOffers_data()
     row("set ", "a.ini b.CFG folder");
     row("set a.ini ", "");
     row("set -o b", "b.CFG");
-    row("import ", "folder movie.MP4 stream.ts");
+    row("import ", "disc.m2ts folder movie.MP4 stream.ts");
     row("import movie.MP4 -o a", "a.ini");
     row("export ", "a.ini b.CFG folder");
     row("export --to ", "ffmpeg jm x264");
@@ -214,7 +222,8 @@ void TestHostDocuments::completionOffers()
     QFETCH(QString, line);
     QFETCH(QString, offers);
     const HostProgram program;
-    for (const char* name : {"a.ini", "b.CFG", "movie.MP4", "stream.ts", "notes.txt"}) {
+    for (const char* name :
+         {"a.ini", "b.CFG", "disc.m2ts", "movie.MP4", "stream.ts", "notes.txt"}) {
         program.setContent(QString::fromLatin1(name), "");
     }
     QVERIFY(QDir(program.path(QString())).mkdir(QStringLiteral("folder")));
