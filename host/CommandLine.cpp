@@ -199,8 +199,8 @@ Invocation parseCommandLine(std::span<const Command> commands, const QStringList
     if (call.files.contains(QString())) {
         refuse(&command, QStringLiteral("an argument is empty"));
     }
-    if (!command.takesStandardInput && call.files.contains(QStringLiteral("-"))) {
-        refuse(&command, QStringLiteral("it does not read standard input"));
+    if (command.noStandardInput != nullptr && call.files.contains(QStringLiteral("-"))) {
+        refuse(&command, latin1(command.noStandardInput));
     }
     for (const QCommandLineOption& option : command.options()) {
         const QString name = option.names().constLast();

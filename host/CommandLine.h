@@ -54,8 +54,8 @@ struct Command {
     Outcome (*run)(const Invocation&);
     /// Runs when the program has no application object of its own.
     bool opensDialog;
-    /// "-" among its arguments is standard input.
-    bool takesStandardInput;
+    /// Why "-" is refused among its arguments; null: it is standard input.
+    const char* noStandardInput;
     /// The end of the help page, a line each: what may follow the command's name.
     const char* examples;
 };

@@ -107,43 +107,43 @@ constexpr int anyNumber = std::numeric_limits<int>::max();
 
 constexpr Command commands[] = {
     {"edit", "[FILE]", 0, 1, "Opens the settings dialog.", editHelp, editOptions, runEdit, true,
-     false,
+     "the dialog works on files, not on standard input",
      "film.cfg\n"
      "--preset stereo-high new.cfg"},
     {"show", "FILE", 1, 1, "Prints the settings as a table.", showHelp, showOptions, runShow, false,
-     true,
+     nullptr,
      "film.cfg\n"
      "--json film.cfg"},
     {"check", "FILE...", 1, anyNumber, "Runs the encoder's check, without a window.", checkHelp,
-     checkOptions, runCheck, false, true,
+     checkOptions, runCheck, false, nullptr,
      "film.cfg\n"
      "--strict film.cfg -o checked.cfg"},
     {"report", "FILE", 1, 1, "Tells which levels the settings fit.", reportHelp, reportOptions,
-     runReport, false, true,
+     runReport, false, nullptr,
      "film.cfg\n"
      "--json film.cfg"},
     {"set", "FILE KEY=VALUE...", 2, anyNumber, "Sets settings in a file.", setHelp, setOptions,
-     runSet, false, true,
+     runSet, false, nullptr,
      "film.cfg width=1280 height=720\n"
      "film.cfg frame_rate=24000/1001 view1.bitrate=8M"},
     {"defaults", "PRESET", 1, 1, "Writes a preset's settings.", defaultsHelp, defaultsOptions,
-     runDefaults, false, false,
+     runDefaults, false, "it reads no settings",
      "stereo-high -o film.cfg\n"
      "2 --set bitrate=20M --set max_bitrate=25M"},
     {"diff", "A B", 2, 2, "Prints the settings that differ.", diffHelp, diffOptions, runDiff, false,
-     true,
+     nullptr,
      "film.cfg other.cfg\n"
      "--json film.cfg other.cfg"},
     {"import", "MEDIA", 1, 1, "Writes the settings that fit a media file.", importHelp,
-     importOptions, runImport, false, false,
+     importOptions, runImport, false, "media are read from files, not from standard input",
      "film.mp4\n"
      "film.mp4 -o film.cfg"},
     {"export", "FILE", 1, 1, "Writes settings for another encoder.", exportHelp, exportOptions,
-     runExport, false, true,
+     runExport, false, nullptr,
      "--to x264 --input left.y4m --stream left.264 film.cfg\n"
      "--to jm --input l.yuv --input r.yuv film.cfg -o jm.cfg"},
     {"doctor", "", 0, 0, "Tells why the dialog does not open.", doctorHelp, doctorOptions,
-     runDoctor, true, false,
+     runDoctor, true, "it reads no settings",
      "\n"
      "-o report.txt"},
 };

@@ -11,8 +11,14 @@ QString folded(const QString& text)
     return text.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
 }
 
-/// Letters to insert, leave out or replace, and neighbours to swap.
-int editDistance(const QString& left, const QString& right)
+/// Letters to insert, leave out or replace, and neighbours to swap: to the whole of a name, and to
+/// its nearest beginning.
+struct Distance {
+    int whole;
+    int beginning;
+};
+
+Distance editDistance(const QString& left, const QString& right)
 {
     const auto width = static_cast<std::size_t>(right.size()) + 1;
     std::vector<int> before, last(width), row(width);
@@ -32,7 +38,7 @@ int editDistance(const QString& left, const QString& right)
             }
         }
     }
-    return row.back();
+    return {row.back(), *std::min_element(row.begin(), row.end())};
 }
 
 } // namespace
@@ -46,9 +52,10 @@ QString didYouMean(const QString& text, const QStringList& names)
     QString nearest;
     for (const QString& name : names) {
         const QString candidate = folded(name);
-        // What is left unfinished is as near as one wrong letter.
+        // What is left unfinished is as near as one wrong letter more.
+        const Distance edits = editDistance(meant, candidate);
         const int apart =
-            meant.size() > 2 && candidate.startsWith(meant) ? 1 : editDistance(meant, candidate);
+            meant.size() > 2 ? std::min(edits.whole, edits.beginning + 1) : edits.whole;
         if (apart < least || (apart == least && nearest.isEmpty())) {
             least = apart;
             nearest = name;

@@ -43,13 +43,16 @@ QByteArray readText(std::FILE* stream, const QString& name)
     if (std::ferror(stream) != 0) {
         refuse(name, systemReason());
     }
+    // What comes in a stream has no name that says so.
+    if (text.contains('\0') || text.startsWith("YUV4MPEG2 ")) {
+        refuse(name, QStringLiteral("no text of a settings file; media are read from files, not "
+                                    "from a stream"));
+    }
     if (text.size() > largestText) {
         refuse(name, QStringLiteral("too large"));
     }
-    // What comes in a stream has no name that says so.
     if (!fromUtf8(text)) {
-        refuse(name, text.contains('\0') ? QStringLiteral("no text of a settings file")
-                                         : QStringLiteral("not valid UTF-8 text"));
+        refuse(name, QStringLiteral("not valid UTF-8 text"));
     }
     return text;
 }

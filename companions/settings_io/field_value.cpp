@@ -173,10 +173,15 @@ std::string expectation(const Field& field)
     if (field.kind == FieldKind::Rate) {
         return "a number, a fraction or a bit pattern";
     }
+    // A value without a name in a list of names is for what others wrote.
+    const bool hasNames =
+        std::ranges::any_of(field.values, [](const NamedValue& row) { return !row.name.empty(); });
     std::vector<std::string> texts;
     for (const NamedValue& row : field.values) {
-        if (!row.name.empty() || field.isCode()) {
-            texts.push_back(row.name.empty() ? decimal(row.value) : std::string(row.name));
+        if (!row.name.empty()) {
+            texts.emplace_back(row.name);
+        } else if (field.isCode() && !hasNames) {
+            texts.push_back(decimal(row.value));
         }
     }
     if (!field.isCode()) {

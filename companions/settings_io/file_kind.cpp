@@ -33,10 +33,15 @@ FileKind kindByName(std::string_view name)
                                                         : FileKind::Unknown;
 }
 
+bool isPlainText(std::string_view content)
+{
+    return isUtf8(content) && !std::ranges::any_of(content, isControlByte);
+}
+
 bool looksLikeSettings(std::string_view content)
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (!isUtf8(content) || std::ranges::any_of(content, isControlByte)) {
+    if (!isPlainText(content)) {
         return false;
     }
     if (content.starts_with(byteOrderMark)) {
@@ -46,14 +51,19 @@ bool looksLikeSettings(std::string_view content)
             .starts_with('{')) {
         return true; // JSON
     }
-    bool lineBegins = true;
-    for (const char byte : content) {
-        if (byte == '[' && lineBegins) {
+    bool isFirst = true; // but for empty lines and comments
+    while (!content.empty()) {
+        const auto end = std::min(content.find_first_of("\r\n"), content.size());
+        const std::string_view line = trimmed(content.substr(0, end));
+        content.remove_prefix(std::min(end + 1, content.size()));
+        const bool isEmpty = line.empty() || line.front() == '#' || line.front() == ';';
+        // A key whose section is missing is an error of a settings file, too.
+        if (line.starts_with('[') || (isFirst && !isEmpty && line.find('=') != line.npos)) {
             return true;
         }
-        lineBegins = byte == '\n' || byte == '\r' || (lineBegins && (byte == ' ' || byte == '\t'));
+        isFirst = isFirst && isEmpty;
     }
-    return lineBegins && content.find_first_not_of(" \t\r\n") == content.npos;
+    return isFirst;
 }
 
 } // namespace kv

@@ -116,10 +116,11 @@ void JsonReader::readSetting(const Section& section, const Field& field, const J
     const JsonValue* value = findMember(setting, "value");
     const JsonValue* bits = findMember(setting, "bits"); // where JSON has no such number
     const JsonValue* unknown = findMember(setting, "unknown");
-    if (!value) {
+    const JsonValue* read = bits ? bits : value;
+    if (!read) {
         return refuse(setting, "a member 'value'");
     }
-    readValue(section, field, bits ? *bits : *value, unknown && unknown->kind == Kind::True);
+    readValue(section, field, *read, unknown && unknown->kind == Kind::True);
 }
 
 void JsonReader::readValue(const Section& section, const Field& field, const JsonValue& value,

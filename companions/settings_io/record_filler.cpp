@@ -72,14 +72,30 @@ const Field* findField(const Section& section, std::string_view name)
 namespace
 {
 
-/// What stands behind the message about an unknown key: where it belongs, or what was meant.
+/// The keys of a section that has no more than a line takes.
+std::string fewKeys(const Section& section)
+{
+    constexpr std::size_t most = 4;
+    const std::vector<std::string_view> keys = keysOf(section);
+    std::string text;
+    for (const std::string_view key : keys) {
+        text += (text.empty() ? "; its keys are " : " and ") + std::string(key);
+    }
+    return keys.size() > most ? std::string() : text;
+}
+
+/// What stands behind the message about an unknown key: where it belongs, what was meant, or what
+/// there is.
 std::string hintAtKey(const Section& section, std::string_view key)
 {
     const auto sections = settingsSections();
     const auto owner = std::ranges::find_if(
         sections, [key](const Section& other) { return findField(other, key) != nullptr; });
-    return owner != sections.end() ? "; it belongs in section " + quoted(owner->name)
-                                   : didYouMean(nearestName(key, keysOf(section)));
+    if (owner != sections.end()) {
+        return "; it belongs in section " + quoted(owner->name);
+    }
+    const std::string nearest = didYouMean(nearestName(key, keysOf(section)));
+    return nearest.empty() ? fewKeys(section) : nearest;
 }
 
 } // namespace
@@ -192,7 +208,7 @@ void RecordFiller::finish(std::size_t line)
     for (const Section& section : settingsSections().first(2)) {
         if (std::ranges::find(m_seen, &section) == m_seen.end()) {
             report(std::max<std::size_t>(line, 1), // of an empty file
-                   "section " + quoted(section.name) + " is missing");
+                   "section " + quoted(section.name) + " is missing" + fewKeys(section));
         }
     }
 }

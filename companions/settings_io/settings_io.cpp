@@ -29,12 +29,14 @@ int32_t fail(const std::string& file, const std::string& reason)
     return Failed;
 }
 
-int32_t readMedia(const std::filesystem::path& file, KvMvcSettings& settings)
+/// @param otherwise What is wrong with a file that is no media; empty: that.
+int32_t readMedia(const std::filesystem::path& file, KvMvcSettings& settings,
+                  const std::string& otherwise = {})
 {
     std::vector<std::string> notes;
     const std::string reason = kv::importMedia(file, settings, notes);
     if (!reason.empty()) {
-        return fail(kv::displayName(file), reason);
+        return fail(kv::displayName(file), otherwise.empty() ? reason : otherwise);
     }
     for (const std::string& note : notes) {
         report(kv::displayName(file), "note: " + note);
@@ -64,7 +66,10 @@ int32_t readFile(const std::filesystem::path& file, KvMvcSettings& settings)
     const bool isRead = reason.empty() || text.size() > largestFile;
     const bool isSettings = text.size() <= largestFile && kv::looksLikeSettings(text);
     if (kind == kv::FileKind::Unknown && isRead && !isSettings) {
-        return readMedia(file, settings);
+        const bool isText = text.size() <= largestFile && kv::isPlainText(text);
+        return readMedia(file, settings,
+                         isText ? "no media, and no text of a settings file: it has no [section]"
+                                : "");
     }
     return reason.empty() ? readText(name, text, settings) : fail(name, reason);
 }

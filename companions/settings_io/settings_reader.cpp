@@ -38,7 +38,7 @@ private:
 
     std::size_t m_line = 0;
     const Section* m_section = nullptr;
-    bool m_skipping = false; // the lines of a refused section
+    bool m_skipping = false; // the lines of a section that is refused or missing
 };
 
 void Reader::readLine(std::string_view line)
@@ -66,7 +66,8 @@ void Reader::readLine(std::string_view line)
     }
     const std::string_view key = trimmed(line.substr(0, equals));
     if (!m_section) {
-        return report("key " + quoted(key) + " before the first section");
+        m_skipping = true; // once is enough
+        return report("key " + quoted(key) + " before the first section, which is [record]");
     }
     filler.set(*m_section, key, trimmed(line.substr(equals + 1)), m_line);
 }

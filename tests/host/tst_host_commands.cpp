@@ -87,6 +87,8 @@ void TestHostCommands::wrongArgumentsGetOneLine_data()
         "there is no preset '4'; there are 0 None, 1 Multivew High, 2 Stereo High, 3 Blu-ray 3D");
     row("preset name", text("edit --preset stereo"),
         "there is no preset 'stereo'; did you mean 'stereo-high'?");
+    row("preset unfinished, with a slip", text("defaults stero"),
+        "there is no preset 'stero'; did you mean 'stereo-high'?");
     row("preset like no other", text("defaults vhs"),
         "there is no preset 'vhs'; there are 0 None, 1 Multivew High, 2 Stereo High, 3 Blu-ray 3D");
     row("lock", text("edit --lock size,colour"),
@@ -102,11 +104,12 @@ void TestHostCommands::wrongArgumentsGetOneLine_data()
         "--parent: '0' is no window identifier");
     row("banner", text("edit --banner none.png"), "cannot read 'none.png': there is no such file");
     row("edit from a stream", text("edit -"),
-        "it does not read standard input; see 'kv-mvc-settings edit --help'");
+        "the dialog works on files, not on standard input; see 'kv-mvc-settings edit --help'");
     row("edit to a stream", text("edit -o -"),
         "cannot write '-': the name of a settings file ends in .cfg or .ini");
     row("import from a stream", text("import -"),
-        "it does not read standard input; see 'kv-mvc-settings import --help'");
+        "media are read from files, not from standard input; see 'kv-mvc-settings import "
+        "--help'");
     row("diff of one stream", text("diff - -"), "standard input can be only one of the two files");
     row("two outputs in one stream", text("check a.ini --json -o -"),
         "--json and '-o -' both write to standard output");
@@ -217,10 +220,12 @@ void TestHostCommands::badFilesGetTheirReasonsAndLeaveAllAsItWas_data()
         {"folder.ini", "kv-mvc-settings: cannot read 'folder.ini': it is a directory\n"},
         {"broken.ini", "broken.ini:2: neither a section nor a 'key = value' line: 'nonsense'\n"
                        "broken.ini:3: unknown section 'nothing'\n"},
-        {"empty.ini", "empty.ini:1: section 'record' is missing\n"
-                      "empty.ini:1: section 'view 0' is missing\n"},
-        {"a%1.ini", "a%1.ini:1: section 'record' is missing\n"
-                    "a%1.ini:1: section 'view 0' is missing\n"},
+        {"empty.ini",
+         "empty.ini:1: section 'record' is missing; its keys are num_views and split_views\n"
+         "empty.ini:1: section 'view 0' is missing\n"},
+        {"a%1.ini",
+         "a%1.ini:1: section 'record' is missing; its keys are num_views and split_views\n"
+         "a%1.ini:1: section 'view 0' is missing\n"},
     };
     static const char* const commands[] = {"show %1",
                                            "show --json %1",

@@ -101,7 +101,8 @@ void TestHostConsole::consoleShowsWhatIsWritten_data()
                    .arg(word)};
     QTest::newRow("several lines")
         << QStringLiteral("show bad.ini")
-        << QStringList{QStringLiteral("bad.ini:1: section 'record' is missing"),
+        << QStringList{QStringLiteral("bad.ini:1: section 'record' is missing; its keys are "
+                                      "num_views and split_views"),
                        QStringLiteral("bad.ini:1: section 'view 0' is missing")};
 }
 

@@ -113,16 +113,31 @@ void TestHostStreams::badInputIsRefused_data()
 {
     QTest::addColumn<QByteArray>("input");
     QTest::addColumn<QString>("error");
-    QTest::newRow("nothing") << QByteArray()
-                             << QStringLiteral("<stdin>:1: section 'record' is missing\n"
-                                               "<stdin>:1: section 'view 0' is missing\n");
+    const QString media = prefix + QStringLiteral("cannot read '<stdin>': no text of a settings "
+                                                  "file; media are read from files, not from a "
+                                                  "stream\n");
+    QTest::newRow("nothing")
+        << QByteArray()
+        << QStringLiteral(
+               "<stdin>:1: section 'record' is missing; its keys are num_views and split_views\n"
+               "<stdin>:1: section 'view 0' is missing\n");
     QTest::newRow("errors") << QByteArray("[record]\nnonsense\n[nothing]\n")
                             << QStringLiteral("<stdin>:2: neither a section nor a 'key = value' "
                                               "line: 'nonsense'\n"
                                               "<stdin>:3: unknown section 'nothing'\n");
-    QTest::newRow("no text") << QByteArray("\x00\x00\x01\xB3", 4)
-                             << prefix + QStringLiteral(
-                                             "cannot read '<stdin>': no text of a settings file\n");
+    QTest::newRow("no text") << QByteArray("\x00\x00\x01\xB3", 4) << media;
+    QTest::newRow("film") << "YUV4MPEG2 W16 H16\nFRAME\n" + QByteArray(384, '\x40') << media;
+    QTest::newRow("long film") << "YUV4MPEG2 W1920 H1080\nFRAME\n" +
+                                      QByteArray(2 * 1024 * 1024, '\x40')
+                               << media;
+    QTest::newRow("key without a section")
+        << QByteArray("# two\n\nnum_views = 2\n")
+        << QStringLiteral(
+               "<stdin>:3: key 'num_views' before the first section, which is [record]\n");
+    QTest::newRow("other text")
+        << QByteArray("To be, or not to be.\nnum_views = 2\n")
+        << prefix + QStringLiteral(
+                        "<stdin>: no media, and no text of a settings file: it has no [section]\n");
     QTest::newRow("text of another encoding")
         << QByteArray("[record]\n# Gr\xF6\xDF"
                       "e\n")
@@ -238,7 +253,8 @@ void TestHostStreams::unixPipesAndDevices_data()
     row("pipe of a name, written",
         "mkfifo one; cat one & \"$program\" check a.ini -o one > /dev/null; wait", "width = 16\n");
     row("no device without an end", "\"$program\" show /dev/zero 2>&1",
-        "kv-mvc-settings: cannot read '/dev/zero': too large\n");
+        "kv-mvc-settings: cannot read '/dev/zero': no text of a settings file; media are read from "
+        "files, not from a stream\n");
     row("dialogs write files only", "\"$program\" edit a.ini -o /dev/null 2>&1",
         "kv-mvc-settings: cannot write '/dev/null': the name of a settings file ends in .cfg or "
         ".ini\n");
@@ -268,10 +284,12 @@ void TestHostStreams::noTemporaryFolderIsNeeded_data()
     QTest::newRow("check") << QStringLiteral("check - -o -")
                            << QStringLiteral("warning: width 2 corrected to 16\n") << 0;
     QTest::newRow("show") << QStringLiteral("show -") << QString() << 0;
-    QTest::newRow("messages") << QStringLiteral("show bad.ini")
-                              << QStringLiteral("bad.ini:1: section 'record' is missing\n"
-                                                "bad.ini:1: section 'view 0' is missing\n")
-                              << 2;
+    QTest::newRow("messages")
+        << QStringLiteral("show bad.ini")
+        << QStringLiteral(
+               "bad.ini:1: section 'record' is missing; its keys are num_views and split_views\n"
+               "bad.ini:1: section 'view 0' is missing\n")
+        << 2;
 }
 
 void TestHostStreams::noTemporaryFolderIsNeeded()

@@ -135,8 +135,8 @@ void TestSettingsFile::unknownSuffixesAreJudgedByContent()
         QCOMPARE(settings.num_views, 7);
     }
     // Neither is any media; there is no such library on some systems.
-    for (const char* text : {"Dear reader,\nthis is no recording.\n", "x = 1\ny = 2\nz = 3\n",
-                             "%PDF-1.4\n%\x01", "\x1A\x45\xDF\xA3", "YUV4MPEG2 W0 H0\n"}) {
+    for (const char* text : {"Dear reader,\nthis is no recording.\n", "%PDF-1.4\n%\x01",
+                             "\x1A\x45\xDF\xA3", "YUV4MPEG2 W0 H0\n"}) {
         put(path("none"), text);
         KvMvcSettings settings = filledRecord(0x5A);
         QVERIFY(m_library->read(settings, path("none")) != 0);
@@ -144,6 +144,11 @@ void TestSettingsFile::unknownSuffixesAreJudgedByContent()
         QVERIFY2(m_library->messages.contains("media"), m_library->messages.constData());
         QVERIFY(same(settings, filledRecord(0x5A)));
     }
+    put(path("none"), "x = 1\ny = 2\nz = 3\n");
+    KvMvcSettings none{};
+    QVERIFY(m_library->read(none, path("none")) != 0);
+    QCOMPARE(m_library->messages,
+             path("none") + ":1: key 'x' before the first section, which is [record]\n");
     put(path("text.mp4"), oldText); // the suffix says media, whatever is in it
     KvMvcSettings settings{};
     QVERIFY(m_library->read(settings, path("text.mp4")) != 0);

@@ -108,6 +108,7 @@ void TestSettingsJson::valuesAreTaken_data()
     row(R"("frame_rate": 23.98)", "frame_rate", 23.98);
     row(R"("frame_rate": "23.98")", "frame_rate", 24000 / 1001.0);
     row(R"("frame_rate": "24000/1001")", "frame_rate", 24000 / 1001.0);
+    row(R"("frame_rate": {"bits": "0x4028000000000000"})", "frame_rate", 12);
     row(R"("frame_rate": {"value": 23.976023976023978})", "frame_rate", 24000 / 1001.0);
     row(R"("\u0077idth": "\u0038")", "width", 8);
 }
@@ -202,6 +203,8 @@ void TestSettingsJson::problemsNameTheirLine_data()
         "2: bad member 'format_version': expected version 1");
     row("version as a text", R"({"format_version": [], "views": [{}]})",
         "1: bad member 'format_version': expected version 1");
+    row("unknown key like no other", R"({"a": 2, "views": [{}]})",
+        "1: unknown key 'a' in section 'record'; its keys are num_views and split_views");
     row("unknown key of the record", R"({"nam_views": 2, "views": [{}]})",
         "1: unknown key 'nam_views' in section 'record'; did you mean 'num_views'?");
     view(R"("widht": 3)", "2: unknown key 'widht' in section 'view 0'; did you mean 'width'?");

@@ -513,7 +513,7 @@ void TestSettingsText::problemsNameTheirLine_data()
         "4: bad value '3' for 'pulldown': expected off, 2:3, 3:2, 2:3 progressive, 3:2 "
         "progressive, auto, 2:2 or 3:3");
     row("unknown code without a name", "chroma_format = 5",
-        "3: bad value '5' for 'chroma_format': expected 4:0:0, 4:2:0, 4:2:2 or 4");
+        "3: bad value '5' for 'chroma_format': expected 4:0:0, 4:2:0 or 4:2:2");
     row("unknown depth", "bit_depth_luma = 9",
         "3: bad value '9' for 'bit_depth_luma': expected 8 or 10");
     row("switch", "hrd_mode = 2", "3: bad value '2' for 'hrd_mode': expected off or on");
@@ -564,8 +564,10 @@ void TestSettingsText::problemsNameTheirLine_data()
         "'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...'");
     QTest::newRow("before the first section")
         << QByteArray("width = 1\n[record]")
-        << QByteArray("1: key 'width' before the first section");
-    QTest::newRow("empty") << QByteArray() << QByteArray("1: section 'record' is missing");
+        << QByteArray("1: key 'width' before the first section, which is [record]");
+    QTest::newRow("empty")
+        << QByteArray()
+        << QByteArray("1: section 'record' is missing; its keys are num_views and split_views");
     QTest::newRow("no view") << QByteArray("\n[record]\n")
                              << QByteArray("2: section 'view 0' is missing");
     QTest::newRow("UTF-16") << QByteArray("\xFF\xFE[\0r\0", 6)
