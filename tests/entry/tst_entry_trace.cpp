@@ -55,6 +55,7 @@ private Q_SLOTS:
     void goesToTheToolkitsCategory();
     void tellsWhyItFailed_data();
     void tellsWhyItFailed();
+    void everyReasonIsInTheDocument();
     void tellsTheLoadersWords_data();
     void tellsTheLoadersWords();
     void tellsOfPlatformsAndDisplays();
@@ -156,6 +157,30 @@ void TestEntryTrace::tellsWhyItFailed()
     if (encoder == QLatin1String("stub_entry_encoder_without_check")) {
         QVERIFY(hasLine(lines, QStringLiteral(R"(kv_mvcenc\.\w+: lacks mvcOutVideoChkSettings)")));
     }
+}
+
+void TestEntryTrace::everyReasonIsInTheDocument()
+{
+    QFile source(QStringLiteral(KV_SHOW_PAGES_SOURCE));
+    QFile document(QStringLiteral(KV_HOSTING_DOCUMENT));
+    QVERIFY(source.open(QIODevice::ReadOnly) && document.open(QIODevice::ReadOnly));
+    const QString table = QString::fromUtf8(document.readAll());
+    const QRegularExpression reason(QStringLiteral(R"(failed\(((?:\s*"[^"]*"|\s*\w+)+)\))"));
+    int reasons = 0;
+    const QString text = QString::fromUtf8(source.readAll());
+    for (auto match = reason.globalMatch(text); match.hasNext(); ++reasons) {
+        QString words = match.next().captured(1).trimmed();
+        words.replace(QLatin1String("KV_MVC_SETTINGS_IO_LIBRARY"),
+                      QLatin1String("\"kv_mvc_settings_io\""));
+        words.remove(QRegularExpression(QStringLiteral(R"("\s*")"))).remove(QLatin1Char('"'));
+        if (words.contains(QLatin1String("reason"))) { // the function's own definition
+            --reasons;
+            continue;
+        }
+        QVERIFY2(table.contains(QLatin1String("\n| ") + words + QLatin1String(" | ")),
+                 qPrintable(words));
+    }
+    QCOMPARE(reasons, 10);
 }
 
 void TestEntryTrace::tellsTheLoadersWords_data()
