@@ -1,5 +1,6 @@
 #include "ToolBox.h"
 
+#include "StickingTitle.h"
 #include "TextFit.h"
 #include "WheelGuard.h"
 
@@ -8,12 +9,13 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QVector>
+#include <QWidgetItem>
 
 #include <utility>
 
@@ -25,14 +27,53 @@ namespace
 class Column : public QGridLayout
 {
 public:
-    using QGridLayout::QGridLayout;
+    Column(QWidget* parent, std::function<void()> laidOut)
+        : QGridLayout(parent), m_laidOut(std::move(laidOut))
+    {
+    }
 
     void setGeometry(const QRect& rect) override
     {
         const int needed = hasHeightForWidth() ? heightForWidth(rect.width()) : sizeHint().height();
         QGridLayout::setGeometry(
             {rect.topLeft(), QSize(rect.width(), qMin(rect.height(), needed))});
+        m_laidOut();
     }
+
+    void addPage(QWidget* page, int row)
+    {
+        addChildWidget(page);
+        addItem(new PageItem(page), row, 0, 1, 2);
+    }
+
+private:
+    /// A page without the spacer that it ends with: pages have spacers of different heights, which
+    /// would be the gaps between the sections.
+    class PageItem : public QWidgetItem
+    {
+    public:
+        using QWidgetItem::QWidgetItem;
+
+        QSize sizeHint() const override
+        {
+            return isEmpty() ? QSize(0, 0) : QWidgetItem::sizeHint() - QSize(0, heightOfSpacer());
+        }
+        int heightForWidth(int width) const override
+        {
+            return isEmpty() ? -1 : QWidgetItem::heightForWidth(width) - heightOfSpacer();
+        }
+
+    private:
+        int heightOfSpacer() const
+        {
+            const QLayout* const layout = wid->layout();
+            QLayoutItem* const last =
+                layout && layout->count() > 0 ? layout->itemAt(layout->count() - 1) : nullptr;
+            return last && last->spacerItem() ? last->sizeHint().height() : 0;
+        }
+    };
+
+    std::function<void()> m_laidOut;
 };
 
 /// Lays out what is below the widget and then the widget itself, in which changes take effect from
@@ -73,8 +114,10 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     // Focused controls are scrolled into view anyway; a stop of its own would be invisible.
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    m_stickingTitle = new StickingTitle(m_scrollArea->viewport());
+    m_stickingTitle->installEventFilter(this);
     m_content = new QFrame(this);
-    m_grid = new Column(m_content);
+    m_grid = new Column(m_content, [this] { placeStickingTitle(); });
     m_grid->setAlignment(Qt::AlignTop);
     m_grid->setContentsMargins(2, 2, 2, 2);
     m_grid->setColumnStretch(1, 1);
@@ -82,6 +125,8 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     // What is behind shows through: a box of another tone would end at no visible edge.
     m_scrollArea->viewport()->setAutoFillBackground(false);
     m_content->setAutoFillBackground(false);
+    connect(m_scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &ToolBox::placeStickingTitle);
     WheelGuard::watch(m_scrollArea->viewport());
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* former, QWidget* focus) {
         // The scroll area sees to it for its own Tab key only. A window that becomes the active one
@@ -119,6 +164,9 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     bold.setWeight(QFont::Bold);
     label->setFont(bold);
     label->setBuddy(button);
+    label->setToolTip(button->toolTip());
+    label->setCursor(Qt::PointingHandCursor);
+    label->installEventFilter(this);
 
     const auto buttons = page->findChildren<QAbstractButton*>();
     for (QAbstractButton* inside : buttons) {
@@ -129,7 +177,8 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
 
     m_grid->addWidget(button, row, 0);
     m_grid->addWidget(label, row, 1);
-    m_grid->addWidget(page, row + 1, 0, 1, 2);
+    static_cast<Column*>(m_grid)->addPage(page, row + 1);
+    m_sections.append({button, label, page});
     connect(button, &QToolButton::toggled, page, &QWidget::setVisible);
 
     // The pages are older than the buttons, but the Tab key shall go from top to bottom.
@@ -147,6 +196,52 @@ void ToolBox::addSection(QWidget* page, const QString& title)
 {
     addSection(page, title, QStringLiteral(":/res_mvc/icons/down.png"),
                QStringLiteral(":/res_mvc/icons/right.png"));
+}
+
+bool ToolBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* const mouse = static_cast<QMouseEvent*>(event);
+        auto* const title = static_cast<QWidget*>(watched);
+        if (mouse->button() == Qt::LeftButton && title->rect().contains(mouse->pos())) {
+            clickToggleOf(title);
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void ToolBox::clickToggleOf(const QWidget* title)
+{
+    const bool sticks = title == m_stickingTitle;
+    QToolButton* const toggle =
+        sticks ? m_stickingTitle->toggle()
+               : qobject_cast<QToolButton*>(static_cast<const QLabel*>(title)->buddy());
+    if (!toggle) {
+        return;
+    }
+    toggle->setFocus(Qt::MouseFocusReason);
+    toggle->click();
+    if (sticks) {
+        // The section's own comes to where that was.
+        layOutNow(m_scrollArea->viewport());
+        m_scrollArea->verticalScrollBar()->setValue(toggle->y());
+    }
+}
+
+void ToolBox::placeStickingTitle()
+{
+    const Section* shown = nullptr;
+    for (const Section& section : m_sections) {
+        if (placeOf(section.title) < 0 && section.toggle->isChecked()) {
+            shown = &section;
+        }
+    }
+    const int bottom = shown ? placeOf(shown->page) + shown->page->height() : 0;
+    if (bottom > 0) {
+        m_stickingTitle->showFor(shown->toggle, shown->title, bottom);
+    } else {
+        m_stickingTitle->hide();
+    }
 }
 
 void ToolBox::keepFocusInPlace(const std::function<void()>& change)

@@ -2,13 +2,19 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <QVector>
 
 #include <functional>
 
 class QGridLayout;
+class QLabel;
 class QScrollArea;
+class QToolButton;
+class StickingTitle;
 
 /// A scrollable column of collapsible sections, all open at first. Any number of them may be open.
+/// A click on a section's title does what one on its button does, and the title of the section that
+/// shows at the top sticks there.
 class ToolBox : public QFrame
 {
     Q_OBJECT
@@ -36,13 +42,26 @@ public:
     /// pixels; `width` is what they have.
     int missingHeight(int width) const;
 
+    /// Folds and unfolds a section by a click on its title.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    struct Section {
+        QToolButton* toggle;
+        QLabel* title;
+        QWidget* page;
+    };
+
+    void clickToggleOf(const QWidget* title);
+    void placeStickingTitle();
     /// Where the widget stands in the part of the column that shows.
     int placeOf(const QWidget* widget) const;
 
     QScrollArea* m_scrollArea;
     QFrame* m_content;
     QGridLayout* m_grid;
+    StickingTitle* m_stickingTitle;
+    QVector<Section> m_sections;
     /// Behind it in the order of the Tab key comes the next section.
     QPointer<QWidget> m_lastInChain;
 };

@@ -1,5 +1,6 @@
 #include "ToolkitWarnings.h"
 
+#include "pages/StickingTitle.h"
 #include "pages/ToolBox.h"
 
 #include <QGridLayout>
@@ -37,6 +38,15 @@ private Q_SLOTS:
     void columnStaysWithoutAFocusedControl();
     void sectionsStayTogetherInAHighBox();
     void backgroundIsThatOfTheWindowBehind();
+    void gapsBetweenSectionsAreEqual();
+    void clickOnATitleFoldsItsSectionAlone();
+    void otherClicksOnATitleDoNot_data();
+    void otherClicksOnATitleDoNot();
+    void titleOfTheSectionInSightSticks_data();
+    void titleOfTheSectionInSightSticks();
+    void stickingTitleGivesWayToTheNext();
+    void stickingTitleIsDrawn();
+    void clickOnTheStickingTitleFoldsItsSection();
 };
 
 namespace
@@ -111,6 +121,10 @@ public:
     }
 
     QScrollBar* bar() const { return area->verticalScrollBar(); }
+    StickingTitle* stickingTitle() const
+    {
+        return static_cast<StickingTitle*>(box.findChild<QFrame*>(QStringLiteral("stickingTitle")));
+    }
     int placeOf(const QWidget* widget) const
     {
         return widget->mapTo(area->viewport(), QPoint()).y();
@@ -403,6 +417,135 @@ void TestToolBox::backgroundIsThatOfTheWindowBehind()
     const QRect title = sections.title(0)->geometry();
     QCOMPARE(window.grab().toImage().pixelColor(title.right() - 2, title.center().y()),
              QColor(Qt::cyan));
+}
+
+// Pages end with spacers of different heights.
+void TestToolBox::gapsBetweenSectionsAreEqual()
+{
+    ThreeSections sections;
+    auto* const first = static_cast<QVBoxLayout*>(sections.pages[0]->layout());
+    first->addItem(new QSpacerItem(20, 40, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    static_cast<QVBoxLayout*>(sections.pages[1]->layout())->addStretch();
+    QVERIFY(sections.show(900));
+    const auto gapBelow = [&](int section) {
+        const QLabel* const label = sections.labels[section];
+        const int end = label->mapTo(sections.area->widget(), QPoint(0, label->height())).y();
+        return sections.buttons[section + 1]->y() - end;
+    };
+    QCOMPARE(gapBelow(0), gapBelow(1));
+    QVERIFY2(gapBelow(0) < 30, qPrintable(QString::number(gapBelow(0))));
+    // The spacer itself is as it was.
+    QCOMPARE(first->itemAt(1)->sizeHint(), QSize(20, 40));
+}
+
+void TestToolBox::clickOnATitleFoldsItsSectionAlone()
+{
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    QCOMPARE(sections.title(1)->cursor().shape(), Qt::PointingHandCursor);
+    // Far from the text, too: the title takes the rest of its line.
+    const QPoint end(sections.title(1)->width() - 3, 3);
+    QTest::mouseClick(sections.title(1), Qt::LeftButton, {}, end);
+    QCOMPARE(sections.visible(), (QList<bool>{true, false, true}));
+    QVERIFY(!sections.buttons[1]->isChecked());
+    QVERIFY(sections.buttons[1]->hasFocus());
+    QTest::mouseClick(sections.title(1), Qt::LeftButton);
+    QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
+}
+
+void TestToolBox::otherClicksOnATitleDoNot_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QPoint>("released");
+    QTest::newRow("right button") << int(Qt::RightButton) << QPoint(5, 5);
+    QTest::newRow("released elsewhere") << int(Qt::LeftButton) << QPoint(5, 200);
+}
+
+void TestToolBox::otherClicksOnATitleDoNot()
+{
+    QFETCH(int, button);
+    QFETCH(QPoint, released);
+    ThreeSections sections;
+    QVERIFY(sections.show(600));
+    QTest::mousePress(sections.title(0), Qt::MouseButton(button), {}, QPoint(5, 5));
+    QTest::mouseRelease(sections.title(0), Qt::MouseButton(button), {}, released);
+    QCOMPARE(sections.visible(), (QList<bool>{true, true, true}));
+}
+
+void TestToolBox::titleOfTheSectionInSightSticks_data()
+{
+    QTest::addColumn<int>("scrolled");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("at the beginning") << 0 << QString();
+    QTest::newRow("in the first") << 100 << QStringLiteral("Section 0");
+    QTest::newRow("in the second") << 450 << QStringLiteral("Section 1");
+    QTest::newRow("at the end") << 2000 << QStringLiteral("Section 2");
+}
+
+void TestToolBox::titleOfTheSectionInSightSticks()
+{
+    QFETCH(int, scrolled);
+    QFETCH(QString, text);
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    sections.bar()->setValue(scrolled);
+    const auto* const title = sections.stickingTitle();
+    QVERIFY(title);
+    QCOMPARE(title->isVisible(), !text.isEmpty());
+    if (!text.isEmpty()) {
+        QCOMPARE(title->text(), text);
+        QCOMPARE(title->geometry().topLeft(), QPoint(0, 0));
+        QCOMPARE(title->width(), sections.area->viewport()->width());
+        // In front of the page.
+        QCOMPARE(sections.area->viewport()->childAt(5, 5), title);
+    }
+}
+
+void TestToolBox::stickingTitleGivesWayToTheNext()
+{
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    const StickingTitle* const title = sections.stickingTitle();
+    for (int scrolled = 1; scrolled < sections.bar()->maximum(); ++scrolled) {
+        sections.bar()->setValue(scrolled);
+        for (const QToolButton* button : sections.buttons) {
+            const QRect own(0, sections.placeOf(button), button->width(), button->height());
+            QVERIFY(own.top() < 0 || !title->isVisible() || !own.intersects(title->geometry()));
+        }
+    }
+    // A closed section has nothing to tell apart.
+    sections.bar()->setValue(100);
+    QVERIFY(title->isVisible());
+    QCOMPARE(title->text(), QStringLiteral("Section 0"));
+    sections.buttons[0]->click();
+    QTRY_COMPARE(title->text(), QStringLiteral("Section 1"));
+}
+
+void TestToolBox::stickingTitleIsDrawn()
+{
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    const auto picture = [&sections](int scrolled) {
+        sections.bar()->setValue(scrolled);
+        auto* const title = sections.stickingTitle();
+        return title->grab().toImage();
+    };
+    QVERIFY(picture(100) != picture(450));
+    QCOMPARE(picture(100), picture(101));
+}
+
+void TestToolBox::clickOnTheStickingTitleFoldsItsSection()
+{
+    Scrolled sections;
+    QVERIFY(sections.ready);
+    auto* const title = sections.stickingTitle();
+    sections.bar()->setValue(450);
+    QTest::mouseClick(title, Qt::LeftButton);
+    QCOMPARE(sections.visible(), (QList<bool>{true, false, true}));
+    // The title itself comes to where the click was.
+    QTRY_VERIFY(!title->isVisible());
+    const int place = sections.placeOf(sections.buttons[1]);
+    QVERIFY2(place >= 0 && place < 10, qPrintable(QString::number(place)));
 }
 
 QTEST_MAIN(TestToolBox)
