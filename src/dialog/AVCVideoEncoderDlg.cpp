@@ -3,9 +3,11 @@
 #include "Companions.h"
 #include "FocusMark.h"
 #include "ForeignText.h"
+#include "LogGround.h"
 #include "LogMenu.h"
 #include "MessageLinks.h"
 #include "MessageLog.h"
+#include "PaletteCare.h"
 #include "SettingControls.h"
 #include "Shortcuts.h"
 #include "model/FurtherViews.h"
@@ -15,6 +17,7 @@
 #include "pages/AdvancedPage.h"
 #include "pages/BasicPage.h"
 #include "pages/ControlLabel.h"
+#include "pages/PaletteIcon.h"
 #include "pages/TextFit.h"
 #include "pages/ToolBox.h"
 #include "pages/ViewsPage.h"
@@ -67,11 +70,12 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
                  {ui.buttonOk, "ok"},
                  {ui.buttonCancel, "cancel"}};
     for (const auto& row : icons) {
-        row.button->setIcon(
-            QIcon(QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon))));
+        PaletteIcon::set(row.button,
+                         QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon)));
     }
     new FocusMark(ui.buttonOk);
     new FocusMark(ui.errorLog);
+    new LogGround(ui.errorLog);
     if (!settings) {
         return;
     }
@@ -97,6 +101,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     if (!(m_flags & KV_MVC_GUI_LOG_COLOURS)) {
         messageLog().dropDistinctColours();
     }
+    new PaletteCare(this);
     limitHeight();
     settingsToState();
     showTabInFrontWhole();

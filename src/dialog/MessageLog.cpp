@@ -2,6 +2,7 @@
 
 #include "Companions.h"
 #include "ForeignText.h"
+#include "LogGround.h"
 #include "LogText.h"
 #include "MessageLinks.h"
 
@@ -11,7 +12,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextFrame>
 
 #include <kv_config_gui_mvc/companion_check.h>
 
@@ -160,15 +160,6 @@ QTextBlockFormat hangingIndent()
     return format;
 }
 
-/// Lightens what is behind the messages: a skin's background may end dark, where red is hard to
-/// read.
-void layVeil(QTextDocument* document)
-{
-    QTextFrameFormat format = document->rootFrame()->frameFormat();
-    format.setBackground(QColor(255, 255, 255, 100));
-    document->rootFrame()->setFrameFormat(format);
-}
-
 } // namespace
 
 MessageLog& messageLog()
@@ -184,7 +175,6 @@ void MessageLog::showIn(QTextEdit* log)
     shownFirst.clear();
     // What is taken back is settings, not messages.
     log->setUndoRedoEnabled(false);
-    layVeil(log->document());
 }
 
 void MessageLog::clearMessages()
@@ -230,6 +220,7 @@ void MessageLog::rewriteWidget()
             widget->setWordWrapMode(wrap);
         }
         write(blocks);
+        LogGround::lay(widget);
     }
     // Also where the texts are the last ones: they may be about something else.
     markMessages();

@@ -1,6 +1,7 @@
 #include "ControlLabel.h"
 
 #include <QEvent>
+#include <QGraphicsOpacityEffect>
 #include <QLabel>
 
 void ControlLabel::attach(QLabel* label, QWidget* control)
@@ -20,8 +21,12 @@ void ControlLabel::attachBuddies(QWidget* control)
 }
 
 ControlLabel::ControlLabel(QLabel* label, QWidget* control)
-    : QObject(label), m_label(label), m_control(control)
+    : QObject(label), m_label(label), m_control(control), m_paleness(new QGraphicsOpacityEffect)
 {
+    // Whatever colour the text has from palettes, skins and sheets of hosts.
+    constexpr double half = 0.5;
+    m_paleness->setOpacity(half);
+    label->setGraphicsEffect(m_paleness);
     follow();
 }
 
@@ -38,5 +43,5 @@ void ControlLabel::follow()
     m_label->setToolTip(m_control->toolTip());
     // A page greys its labels itself.
     const bool grey = !m_control->isEnabledTo(m_control->parentWidget());
-    m_label->setForegroundRole(grey ? QPalette::PlaceholderText : QPalette::NoRole);
+    m_paleness->setEnabled(grey);
 }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class QGraphicsOpacityEffect;
 class QLabel;
 class QWidget;
 
@@ -24,4 +25,5 @@ private:
 
     QLabel* m_label;
     QWidget* m_control;
+    QGraphicsOpacityEffect* m_paleness;
 };

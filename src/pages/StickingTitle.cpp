@@ -6,6 +6,7 @@
 StickingTitle::StickingTitle(QWidget* viewport) : QFrame(viewport)
 {
     setObjectName(QStringLiteral("stickingTitle"));
+    setBackgroundRole(QPalette::Button);
     setAutoFillBackground(true);
     setCursor(Qt::PointingHandCursor);
     hide();

@@ -1,5 +1,7 @@
 #include "ToolBox.h"
 
+#include "PaletteIcon.h"
+#include "Separator.h"
 #include "StickingTitle.h"
 #include "TextFit.h"
 #include "WheelGuard.h"
@@ -151,11 +153,11 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
     button->setCheckable(true);
     button->setChecked(true);
     button->setAutoRaise(true);
+    // Of even sides, on which icons are sharp.
+    constexpr int side = 24;
+    button->setFixedSize(side, side);
     button->setFocusPolicy(Qt::StrongFocus);
-    QIcon icon;
-    icon.addFile(expandedIcon, QSize(), QIcon::Normal, QIcon::On);
-    icon.addFile(collapsedIcon, QSize(), QIcon::Normal, QIcon::Off);
-    button->setIcon(icon);
+    PaletteIcon::set(button, expandedIcon, collapsedIcon);
     button->setAccessibleName(title);
     button->setToolTip(tr("Shows or hides this section."));
 
@@ -177,6 +179,7 @@ void ToolBox::addSection(QWidget* page, const QString& title, const QString& exp
 
     m_grid->addWidget(button, row, 0);
     m_grid->addWidget(label, row, 1);
+    Separator::takeLinesOf(page);
     static_cast<Column*>(m_grid)->addPage(page, row + 1);
     m_sections.append({button, label, page});
     connect(button, &QToolButton::toggled, page, &QWidget::setVisible);

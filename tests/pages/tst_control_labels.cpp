@@ -2,6 +2,7 @@
 #include "Controls.h"
 #include "ToolkitWarnings.h"
 
+#include <QGraphicsEffect>
 #include <QLabel>
 #include <QTest>
 
@@ -35,7 +36,7 @@ QLabel* labelOn(AllPages& pages, const QString& page, const QString& name)
 
 bool isGrey(const QLabel* label)
 {
-    return label->foregroundRole() == QPalette::PlaceholderText;
+    return label->graphicsEffect() && label->graphicsEffect()->isEnabled();
 }
 
 bool isSlider(const ledger::Setting& setting)
