@@ -7,6 +7,7 @@
 #include <optional>
 
 class QByteArray;
+class QGuiApplication;
 class QWidget;
 
 /// A window of the host that this toolkit did not make: HWND on Windows, X11 window id elsewhere.
@@ -28,6 +29,11 @@ void embed(QWidget* widget, NativeWindowHandle window);
 /// Keeps a dialog above the window. Windows: the owner, which is the dialog's parent's window,
 /// does so already.
 void setTransientFor(QWidget* dialog, NativeWindowHandle window);
+
+/// Names the windows that the application makes, for window managers, which group windows and apply
+/// their users' rules by it. X11: WM_CLASS, which the toolkit takes from the arguments; before 6.2
+/// it shows no way to do so.
+void nameWindows(QGuiApplication& application, const QByteArray& name);
 
 /// Whether the window takes mouse and keyboard input. X11, which has no such state: an invisible
 /// window on top takes the mouse, and the keys while the pointer is over it, until the window is

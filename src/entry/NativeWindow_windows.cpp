@@ -47,6 +47,8 @@ void embed(QWidget* widget, NativeWindowHandle window)
     SetParent(own, windowHandle(window));
 }
 
+void nameWindows(QGuiApplication&, const QByteArray&) {}
+
 void setTransientFor(QWidget*, NativeWindowHandle) {}
 
 void setEnabled(NativeWindowHandle window, bool enabled)

@@ -7,6 +7,11 @@
 
 #include <xcb/xcb.h>
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 2, 0) && QT_CONFIG(xcb)
+#include <QPlatformSurfaceEvent>
+#define KV_HAS_X11_APPLICATION
+#endif
+
 #include <cstdlib>
 #include <memory>
 #include <string_view>
@@ -150,6 +155,45 @@ std::unique_ptr<Shield>& currentShield()
     return shield;
 }
 
+#ifdef KV_HAS_X11_APPLICATION
+/// Sets WM_CLASS of each window before it is shown. By the toolkit's connection: on another one the
+/// window may not be there yet.
+class WindowNamer : public QObject
+{
+public:
+    /// @param name Of the instance, and of the class.
+    WindowNamer(QGuiApplication& application, const QByteArray& name)
+        : QObject(&application), m_application(application), m_value(name + '\0' + name + '\0')
+    {
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* const window = qobject_cast<QWindow*>(watched);
+        if (window && window->isTopLevel() && event->type() == QEvent::PlatformSurface &&
+            static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+                QPlatformSurfaceEvent::SurfaceCreated) {
+            setClass(*window);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void setClass(const QWindow& window) const
+    {
+        if (auto* const x11 = m_application.nativeInterface<QNativeInterface::QX11Application>()) {
+            xcb_change_property(x11->connection(), XCB_PROP_MODE_REPLACE,
+                                static_cast<xcb_window_t>(window.winId()), XCB_ATOM_WM_CLASS,
+                                XCB_ATOM_STRING, 8, static_cast<uint32_t>(m_value.size()),
+                                m_value.constData());
+        }
+    }
+
+    const QGuiApplication& m_application;
+    const QByteArray m_value;
+};
+#endif
+
 } // namespace
 
 namespace native_window
@@ -191,6 +235,18 @@ void setTransientFor(QWidget* dialog, NativeWindowHandle window)
     dialog->windowHandle()->setTransientParent(foreign);
     QObject::connect(dialog, &QObject::destroyed, foreign, [foreign] { delete foreign; });
 }
+
+#ifdef KV_HAS_X11_APPLICATION
+void nameWindows(QGuiApplication& application, const QByteArray& name)
+{
+    // The offscreen platform has the interface, too, without a connection behind it.
+    if (isX11()) {
+        application.installEventFilter(new WindowNamer(application, name));
+    }
+}
+#else
+void nameWindows(QGuiApplication&, const QByteArray&) {}
+#endif
 
 void setEnabled(NativeWindowHandle window, bool enabled)
 {

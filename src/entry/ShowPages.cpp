@@ -66,7 +66,7 @@ public:
     ApplicationName() : m_isOurs(QCoreApplication::applicationName().isEmpty())
     {
         if (m_isOurs) {
-            QCoreApplication::setApplicationName(QStringLiteral("kv_config_gui_mvc"));
+            QCoreApplication::setApplicationName(QStringLiteral(KV_MVC_GUI_LIBRARY));
         }
     }
     ApplicationName(const ApplicationName&) = delete;
@@ -125,6 +125,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     QApplication application(argumentCount, arguments, versionCode);
     ProcessLocale::useCNumbers();
     addOwnFolder(application);
+    native_window::nameWindows(application, KV_MVC_GUI_LIBRARY);
     const auto restore = qScopeGuard([&application] { restoreApplication(application); });
     setUpApplication(application);
 

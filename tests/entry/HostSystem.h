@@ -23,6 +23,9 @@ void setLibraryFolder(const std::string& folder);
 /// libraries or data; each as often as the system lists it.
 std::vector<std::string> mappedFiles();
 
+/// What window managers know a window of X11 by: instance and class. Empty for other windows.
+std::string classOf(unsigned long window);
+
 /// Shows a window of the window system's own, without the toolkit, and gives it the focus. It stays
 /// until the process ends. @return Its handle; null where a host makes none in its own process.
 void* openForeignWindow();

@@ -68,6 +68,11 @@ void* openForeignWindow()
     return window;
 }
 
+std::string classOf(unsigned long)
+{
+    return {};
+}
+
 std::string stateOf(void* foreignWindow)
 {
     const auto window = static_cast<HWND>(foreignWindow);

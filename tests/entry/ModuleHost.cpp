@@ -86,6 +86,10 @@ void describe(QDialog* dialog)
             .arg(dialog->pos().y())
             .arg(dialog->width())
             .arg(dialog->height()));
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        say(QStringLiteral("class ") +
+            QString::fromStdString(host_system::classOf(dialog->winId())));
+    }
     const QWidget* const parent = dialog->parentWidget();
     say(QStringLiteral("parent ") +
         (parent ? QString::fromLatin1(parent->metaObject()->className()) : QStringLiteral("none")));

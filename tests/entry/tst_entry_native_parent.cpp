@@ -87,6 +87,7 @@ private Q_SLOTS:
 
     void dialogIsPutOverTheParent_data();
     void dialogIsPutOverTheParent();
+    void windowHasAName();
     void parentMayBeInARecord();
     void windowThatIsGone();
     void parentTakesInputAgain_data();
@@ -173,6 +174,19 @@ void TestEntryNativeParent::dialogIsPutOverTheParent()
                   : edge.contains("bottom") ? screenHeight - dialog.height()
                                             : centre.y() - dialog.height() / 2;
     QCOMPARE(dialog.topLeft(), QPoint(x, y));
+}
+
+void TestEntryNativeParent::windowHasAName()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run =
+        sandbox.run({QStringLiteral("flags=3"), QStringLiteral("call")}, environment());
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    if (QT_VERSION < QT_VERSION_CHECK(6, 2, 0)) {
+        QSKIP("this version of the toolkit shows no way to set it");
+    }
+    QCOMPARE(run.value("class"), QStringLiteral("kv_config_gui_mvc kv_config_gui_mvc"));
 }
 
 void TestEntryNativeParent::parentMayBeInARecord()
