@@ -36,6 +36,12 @@ void ViewsPage::tellPage(SettingsPage* page, const ConfigState& state)
     if (additional >= 0) {
         // Unsigned: a count out of range enables all.
         const auto count = quint32(state.value(keys::numberOfViews).toInt());
-        page->setEnabled(count > quint32(additional));
+        const bool isCoded = count > quint32(additional);
+        const QWidget* const focus = window()->focusWidget();
+        if (!isCoded && focus && page->isAncestorOf(focus)) {
+            // Disabled with the focus in it, the page would leave it nowhere.
+            findChild<QWidget*>(QLatin1String("toggle") + page->objectName())->setFocus();
+        }
+        page->setEnabled(isCoded);
     }
 }

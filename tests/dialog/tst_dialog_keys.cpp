@@ -114,6 +114,7 @@ private Q_SLOTS:
 
     void focusIsScrolledIntoView_data();
     void focusIsScrolledIntoView();
+    void focusStaysBesideAViewThatGoes();
     void mouseDoesNotScroll();
     void scrollingDoesNotEdit();
     void wheelEditsAfterAPause_data();
@@ -338,6 +339,21 @@ void TestDialogKeys::focusIsScrolledIntoView()
     }
     QVERIFY2(isWhollyInView(QApplication::focusWidget()),
              qPrintable(QApplication::focusWidget()->objectName()));
+}
+
+void TestDialogKeys::focusStaysBesideAViewThatGoes()
+{
+    KvMvcSettings settings = exampleSettings();
+    settings.num_views = 3;
+    OpenDialog dialog(usualFlags, settings);
+    auto* const rate = on<QSpinBox>(dialog, "View2Page", "targetRateSpin");
+    user::reveal(rate);
+    rate->setFocus();
+    settings.num_views = 2;
+    dialog.dropSettings(settings);
+    QVERIFY(!rate->isEnabled());
+    QVERIFY(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("toggleIView2Page"));
 }
 
 void TestDialogKeys::mouseDoesNotScroll()
