@@ -18,6 +18,13 @@ struct LevelRule {
     Rule<Args...> none;
 };
 
+/// The same of a view.
+template <class... Args>
+struct LevelViewRule {
+    ViewRule<Args..., const char*> other;
+    ViewRule<Args...> none;
+};
+
 /// The subject of a rule's other words, which no other level is named in.
 constexpr Subject inOtherWords(const char* rule, Subject subject)
 {
@@ -34,6 +41,17 @@ void sayLevel(Report& report, const LevelRule<Args...>& rule, const Level* other
         report.say(rule.other, args..., other->name);
     } else {
         report.say(rule.none, args...);
+    }
+}
+
+template <class... Args>
+void sayLevelOf(Report& report, int view, const LevelViewRule<Args...>& rule, const Level* other,
+                std::type_identity_t<Args>... args)
+{
+    if (other) {
+        report.sayOf(view, rule.other, args..., other->name);
+    } else {
+        report.sayOf(view, rule.none, args...);
     }
 }
 

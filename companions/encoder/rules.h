@@ -41,7 +41,8 @@ void judgeLimits(const Stream& stream, const Level& level, const Level* other, R
 /// The parts of it for a picture whose size the level takes.
 void judgeLevelReferences(const Stream& stream, const Level& level, const Level* other,
                           Report& report);
-void judgeLevelPictures(const Stream& stream, const Level& level, Report& report);
+void judgeLevelPictures(const Stream& stream, const Level& level, const Level* other,
+                        Report& report);
 /// Tells how much of the level's limits is used, where anybody wants to know.
 void tellLimits(const Stream& stream, const Level* level, const Report& report);
 void tellDiscLimits(const Stream& stream, const Report& report);

@@ -107,28 +107,46 @@ constexpr LevelRule<Decimal, const char*, Decimal> bitrateVcl = {
     {"level.bitrate-vcl-none", Severity::Risk,
      "Of %d.%0*d Mbit/s, level %s allows at most %d.%0*d for picture data: lower a bitrate.",
      vclClause, inOtherWords("level.bitrate-vcl", vclSubject)}};
-constexpr Rule<const char*, Decimal, Decimal> buffer = {
-    "level.buffer",
-    Severity::Error,
-    "Level %s allows the base view a bitrate buffer of at most %d.%0*d Mbit (now %d.%0*d): make it "
-    "smaller.",
-    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view by itself",
-    {.setting = "bitrate_buffer", .value = 3, .limit = 2, .level = 1, .view = 0}};
-constexpr Rule<const char*, Decimal, int, Decimal> bufferViews = {
-    "level.buffer-views",
-    Severity::Error,
-    "Level %s allows bitrate buffers of at most %d.%0*d Mbit for %d views together (now %d.%0*d): "
-    "make one smaller.",
-    "H.10.2.1 r: MaxCPB * 1500, not doubled; all views together",
-    {.setting = "bitrate_buffer", .value = 4, .limit = 2, .level = 1}};
-constexpr Rule<Decimal, const char*, Decimal> bufferVcl = {
-    "level.buffer-vcl",
-    Severity::Risk,
-    "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make "
-    "one smaller.",
+constexpr const char* bufferClause =
+    "A.3.1 j, A.3.3 h: MaxCPB * cpbBrNalFactor; the base view by itself";
+constexpr Subject bufferSubject = {
+    .setting = "bitrate_buffer", .value = 3, .limit = 2, .level = 1, .view = 0};
+constexpr LevelRule<const char*, Decimal, Decimal> buffer = {
+    {"level.buffer", Severity::Error,
+     "Level %s allows the base view a bitrate buffer of at most %d.%0*d Mbit (now %d.%0*d): make "
+     "it smaller, or level %s.",
+     bufferClause, bufferSubject},
+    {"level.buffer-none", Severity::Error,
+     "Level %s allows the base view a bitrate buffer of at most %d.%0*d Mbit (now %d.%0*d): make "
+     "it smaller.",
+     bufferClause, inOtherWords("level.buffer", bufferSubject)}};
+constexpr const char* viewsBufferClause =
+    "H.10.2.1 r: MaxCPB * 1500, not doubled; all views together";
+constexpr Subject viewsBufferSubject = {
+    .setting = "bitrate_buffer", .value = 4, .limit = 2, .level = 1};
+constexpr LevelRule<const char*, Decimal, int, Decimal> bufferViews = {
+    {"level.buffer-views", Severity::Error,
+     "Level %s allows bitrate buffers of at most %d.%0*d Mbit for %d views (now %d.%0*d): make one "
+     "smaller, or level %s.",
+     viewsBufferClause, viewsBufferSubject},
+    {"level.buffer-views-none", Severity::Error,
+     "Level %s allows bitrate buffers of at most %d.%0*d Mbit for %d views (now %d.%0*d): make one "
+     "smaller.",
+     viewsBufferClause, inOtherWords("level.buffer-views", viewsBufferSubject)}};
+constexpr const char* vclBufferClause =
     "A.3.1 i, A.3.3 g, H.10.2.1 q: MaxCPB * cpbBrVclFactor; the base view by itself, and all views "
-    "together",
-    {.setting = "bitrate_buffer", .value = 1, .limit = 3, .level = 2}};
+    "together";
+constexpr Subject vclBufferSubject = {
+    .setting = "bitrate_buffer", .value = 1, .limit = 3, .level = 2};
+constexpr LevelRule<Decimal, const char*, Decimal> bufferVcl = {
+    {"level.buffer-vcl", Severity::Risk,
+     "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make "
+     "one smaller, or level %s.",
+     vclBufferClause, vclBufferSubject},
+    {"level.buffer-vcl-none", Severity::Risk,
+     "Of %d.%0*d Mbit in bitrate buffers, level %s allows at most %d.%0*d for picture data: make "
+     "one smaller.",
+     vclBufferClause, inOtherWords("level.buffer-vcl", vclBufferSubject)}};
 
 /// A stream at a level, and the level that would do instead; null when none would.
 struct Judge {
@@ -142,10 +160,11 @@ struct Judge {
     {
         sayLevel(report, rule, other, args...);
     }
-    template <class... Args>
-    void say(const Rule<Args...>& rule, std::type_identity_t<Args>... args) const
+    /// The level that has room for all of the bits as picture data.
+    /// No level may: the other one then only has it with headers, too.
+    const Level* otherOfPictureData() const
     {
-        report.say(rule, args...);
+        return other && !exceedsPictureData(stream, *other) ? other : nullptr;
     }
 
     bool judgeSize() const;
@@ -211,9 +230,7 @@ void Judge::judgeBitrate() const
         say(bitrateViews, level.name, millions(nal.all), stream.views, millions(rates.all));
     } else if (exceeds(rates, vcl)) {
         const bool ofBase = rates.base > vcl.base;
-        // No level may have room for it: the other one then only has it with headers, too.
-        const bool helps = other && !exceedsPictureData(stream, *other);
-        sayLevel(report, bitrateVcl, helps ? other : nullptr,
+        sayLevel(report, bitrateVcl, otherOfPictureData(),
                  millions(ofBase ? rates.base : rates.all), level.name,
                  millions(ofBase ? vcl.base : vcl.all));
     }
@@ -230,10 +247,11 @@ void Judge::judgeBuffer() const
         say(buffer, level.name, millions(nal.base), millions(buffers.base));
     } else if (buffers.all > nal.all) {
         say(bufferViews, level.name, millions(nal.all), stream.views, millions(buffers.all));
-    } else if (buffers.base > vcl.base) {
-        say(bufferVcl, millions(buffers.base), level.name, millions(vcl.base));
-    } else if (buffers.all > vcl.all) {
-        say(bufferVcl, millions(buffers.all), level.name, millions(vcl.all));
+    } else if (exceeds(buffers, vcl)) {
+        const bool ofBase = buffers.base > vcl.base;
+        sayLevel(report, bufferVcl, otherOfPictureData(),
+                 millions(ofBase ? buffers.base : buffers.all), level.name,
+                 millions(ofBase ? vcl.base : vcl.all));
     }
 }
 
@@ -245,9 +263,8 @@ void Judge::judgeInterlace() const
 }
 
 constexpr auto rules =
-    joinRules(bothRules(pictureSize, pictureSide, mbRate, mbRateViews, mbRatePulldown, interlace,
-                        bitrate, bitrateViews, bitrateVcl),
-              std::to_array<const RuleInfo*>({&buffer, &bufferViews, &bufferVcl}));
+    bothRules(pictureSize, pictureSide, mbRate, mbRateViews, mbRatePulldown, interlace, bitrate,
+              bitrateViews, bitrateVcl, buffer, bufferViews, bufferVcl);
 
 } // namespace
 
@@ -264,7 +281,7 @@ void judgeLimits(const Stream& stream, const Level& level, const Level* other, R
     if (fits) { // the rest would say the same in other numbers
         judge.judgeMbRate();
         judgeLevelReferences(stream, level, other, report);
-        judgeLevelPictures(stream, level, report);
+        judgeLevelPictures(stream, level, other, report);
     }
 }
 

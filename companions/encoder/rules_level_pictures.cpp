@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "level_rule.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -11,22 +12,32 @@ namespace kv::encoder
 namespace
 {
 
-constexpr ViewRule<const char*, int, int> slicesMost = {
-    "level.slices-most",
-    Severity::Error,
-    KV_ALL_VIEWS(
-        "Level %s allows at most %d slices per picture at this size and rate (now %d): use "
-        "fewer."),
-    "A.3.3 a, b, H.10.2.1 l, n: SliceRate; the slices of each view by itself",
-    {.setting = "num_slices", .value = 3, .limit = 2, .level = 1}};
-constexpr Rule<const char*, int, int, int> slicesTogether = {
-    "level.slices-most-views",
-    Severity::Error,
-    "Level %s allows at most %d slices in %d views together at this size and rate (now %d): use "
-    "fewer.",
+constexpr const char* slicesClause =
+    "A.3.3 a, b, H.10.2.1 l, n: SliceRate; the slices of each view by itself";
+constexpr Subject slicesSubject = {.setting = "num_slices", .value = 3, .limit = 2, .level = 1};
+constexpr LevelViewRule<const char*, int, int> slicesMost = {
+    {"level.slices-most", Severity::Error,
+     KV_ALL_VIEWS("Level %s allows at most %d slices per picture at this size and rate (now %d): "
+                  "use fewer, or choose level %s."),
+     slicesClause, slicesSubject},
+    {"level.slices-most-none", Severity::Error,
+     KV_ALL_VIEWS("Level %s allows at most %d slices per picture at this size and rate (now %d): "
+                  "use fewer."),
+     slicesClause, inOtherWords("level.slices-most", slicesSubject)}};
+constexpr const char* viewsSlicesClause =
     "H.10.2.1 k, m: mvcScaleFactor 2 times SliceRate's limit; the slices of all view components of "
-    "an access unit",
-    {.setting = "num_slices", .value = 4, .limit = 2, .level = 1}};
+    "an access unit";
+constexpr Subject viewsSlicesSubject = {
+    .setting = "num_slices", .value = 4, .limit = 2, .level = 1};
+constexpr LevelRule<const char*, int, int, int> slicesTogether = {
+    {"level.slices-most-views", Severity::Error,
+     "Level %s allows at most %d slices in %d views together at this size and rate (now %d): use "
+     "fewer, or choose level %s.",
+     viewsSlicesClause, viewsSlicesSubject},
+    {"level.slices-most-views-none", Severity::Error,
+     "Level %s allows at most %d slices in %d views together at this size and rate (now %d): use "
+     "fewer.",
+     viewsSlicesClause, inOtherWords("level.slices-most-views", viewsSlicesSubject)}};
 constexpr ViewRule<const char*, int, int> slicesLeast = {
     "level.slices-least",
     Severity::Error,
@@ -156,16 +167,32 @@ SliceLimit mostSlices(const Stream& stream, const Level& level)
     return {whole(most, 1), whole(2 * most, stream.views)};
 }
 
-void judgeSlices(const Stream& stream, const Level& level, Report& report)
+/// Whether a sum over all views is told, and not what each of them is by itself: of more than two
+/// views it binds first, since an access unit may have twice what a view may.
+bool isToldTogether(const Stream& stream, bool sumExceeds, bool eachFits)
+{
+    return stream.multiview && sumExceeds && (eachFits || stream.views > 2);
+}
+
+void judgeSlices(const Stream& stream, const Level& level, const Level* other, Report& report)
 {
     const SliceLimit most = mostSlices(stream, level);
     const int least = leastSlices(stream, level);
     int total = 0;
+    int largest = 0;
     for (int v = 0; v < stream.subRecords; ++v) {
         const int slices = stream.record.views[v].num_slices;
         total += stream.viewsLike(v) * slices;
+        largest = std::max(largest, slices);
+    }
+    if (isToldTogether(stream, total > most.ofAll, largest <= most.ofView)) {
+        sayLevel(report, slicesTogether, other, level.name, most.ofAll, stream.views, total);
+        return;
+    }
+    for (int v = 0; v < stream.subRecords; ++v) {
+        const int slices = stream.record.views[v].num_slices;
         if (slices > most.ofView) {
-            report.sayOf(v, slicesMost, level.name, most.ofView, slices);
+            sayLevelOf(report, v, slicesMost, other, level.name, most.ofView, slices);
             return;
         }
         if (slices < least) {
@@ -173,30 +200,29 @@ void judgeSlices(const Stream& stream, const Level& level, Report& report)
             return;
         }
     }
-    if (stream.multiview && total > most.ofAll) {
-        report.say(slicesTogether, level.name, most.ofAll, stream.views, total);
-    }
 }
 
 /// Holds the size limits of one kind of picture against a level's, in bytes.
 void judgeBytesOf(const Stream& stream, const Level& level, const PictureBytes& row, double limit,
                   Report& report)
 {
+    std::int32_t bytes[KV_MVC_RECORD_VIEWS] = {};
     double total = 0;
-    bool each = true;
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
-        if (view.bitrate_mode == KV_MVC_CONSTANT_QUANTIZER) {
-            continue; // no picture is held to a size
+        if (view.bitrate_mode != KV_MVC_CONSTANT_QUANTIZER) { // which holds no picture to a size
+            bytes[v] = view.*row.field;
         }
-        total += static_cast<double>(stream.viewsLike(v)) * view.*row.field;
-        if (view.*row.field > limit) {
-            report.sayOf(v, row.rule, view.*row.field, limit, level.name);
-            each = false;
-        }
+        total += static_cast<double>(stream.viewsLike(v)) * bytes[v];
     }
-    if (each && stream.multiview && total > 2 * limit) {
+    if (isToldTogether(stream, total > 2 * limit, std::ranges::max(bytes) <= limit)) {
         report.say(row.together, total, level.name, 2 * limit);
+        return;
+    }
+    for (int v = 0; v < stream.subRecords; ++v) {
+        if (bytes[v] > limit) {
+            report.sayOf(v, row.rule, bytes[v], limit, level.name);
+        }
     }
 }
 
@@ -222,15 +248,15 @@ void judgeVectors(const Stream& stream, const Level& level, Report& report)
     }
 }
 
-constexpr auto singles =
-    std::to_array<const RuleInfo*>({&slicesMost, &slicesTogether, &slicesLeast, &vectors});
+constexpr auto singles = std::to_array<const RuleInfo*>({&slicesLeast, &vectors});
 constexpr auto togetherRules = [] {
     std::array<const RuleInfo*, std::size(pictureBytes)> list{};
     std::ranges::transform(pictureBytes, list.begin(),
                            [](const PictureBytes& row) { return &row.together; });
     return list;
 }();
-constexpr auto rules = joinRules(singles, rulesOf(pictureBytes), togetherRules);
+constexpr auto rules =
+    joinRules(bothRules(slicesMost, slicesTogether), singles, rulesOf(pictureBytes), togetherRules);
 
 } // namespace
 
@@ -255,9 +281,10 @@ double mostBytes(const Stream& stream, const Level& level)
     return 384 * mbs / level.minCompression;
 }
 
-void judgeLevelPictures(const Stream& stream, const Level& level, Report& report)
+void judgeLevelPictures(const Stream& stream, const Level& level, const Level* other,
+                        Report& report)
 {
-    judgeSlices(stream, level, report);
+    judgeSlices(stream, level, other, report);
     judgePictureBytes(stream, level, report);
     judgeVectors(stream, level, report);
 }

@@ -156,7 +156,15 @@ constexpr Advice advice[] = {
     {"a rate between the limits of both highest levels", 0, [](Record& r) { setBoth(r, &V::level, 52); setBoth(r, &V::max_bitrate, 350000000); },
      "Of 350.00 Mbit/s, level 5.2 allows at most 300.00 for picture data: lower a bitrate."},
     {"a buffer between the limits", 0, [](Record& r) { setBoth(r, &V::level, 40); setBoth(r, &V::max_bitrate, 25000000); setBoth(r, &V::bitrate_buffer, 4000000); },
-     "Of 32.00 Mbit in bitrate buffers, level 4.0 allows at most 31.25 for picture data: make one smaller."},
+     "Of 32.00 Mbit in bitrate buffers, level 4.0 allows at most 31.25 for picture data: make one smaller, or level 4.1."},
+    {"a larger buffer", 0, [](Record& r) { setBoth(r, &V::bitrate_buffer, 12000000); },
+     "Level 4.1 allows the base view a bitrate buffer of at most 93.75 Mbit (now 96.00): make it smaller, or level 5.0."},
+    {"larger buffers of two views", 2, [](Record& r) { r.views[0].bitrate_buffer = 10000000; },
+     "Level 4.1 allows bitrate buffers of at most 93.75 Mbit for 2 views (now 95.00): make one smaller, or level 5.0."},
+    {"a larger buffer than any level allows", 0, [](Record& r) { setBoth(r, &V::level, 41); setBoth(r, &V::bitrate_buffer, 46000000); },
+     "Level 4.1 allows the base view a bitrate buffer of at most 93.75 Mbit (now 368.00): make it smaller."},
+    {"more slices", 0, [](Record& r) { setBoth(r, &V::width, 16); setBoth(r, &V::height, 960); setBoth(r, &V::num_slices, 60); },
+     "Level 4.1 allows at most 59 slices per picture at this size and rate (now 60): use fewer, or choose level 4.2."},
 };
 // clang-format on
 
@@ -340,7 +348,9 @@ void TestEncoderLevels::buffer()
     change(record, row().buffer * 1250);
     QVERIFY(!encoder::check(record).said(QStringLiteral("level.buffer-vcl")));
     change(record, row().buffer * 1250 + 1);
-    QVERIFY(encoder::check(record).said(QStringLiteral("level.buffer-vcl")));
+    const Outcome outcome = encoder::check(record);
+    QVERIFY(outcome.said(QStringLiteral("level.buffer-vcl")) ||
+            outcome.said(QStringLiteral("level.buffer-vcl-none")));
 }
 
 void TestEncoderLevels::pictureBytes()
