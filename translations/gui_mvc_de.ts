@@ -2682,6 +2682,103 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
 </context>
 <context>
+    <name>SettingHelp</name>
+    <message>
+        <source>Only shown here: a preset or file sets it.</source>
+        <translation>Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+    </message>
+    <message>
+        <source>The settings hold two views: what is set for this one goes no further.</source>
+        <translation>Die Einstellungen fassen zwei Ansichten: Werte für diese hier werden nicht weitergegeben.</translation>
+    </message>
+    <message>
+        <source>= %1</source>
+        <extracomment>The reading of a rate in bits per second that is being typed: &quot;= 22 Mbit/s&quot;.</extracomment>
+        <translation>= %1</translation>
+    </message>
+    <message>
+        <source>Range: %1 to %2%3.</source>
+        <extracomment>%3 is empty or a unit with a blank before it.</extracomment>
+        <translation>Bereich: %1 bis %2%3.</translation>
+    </message>
+    <message>
+        <source>The range rests on: %1.</source>
+        <translation>Grundlage des Bereichs: %1.</translation>
+    </message>
+    <message>
+        <source>as opened</source>
+        <translation>beim Öffnen</translation>
+    </message>
+    <message>
+        <source>Changed; the starting value is %1 (%2).</source>
+        <extracomment>What a setting was at the start, and what the start was: a preset, a file.</extracomment>
+        <translation>Geändert; der Ausgangswert ist %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Starting value: %1 (%2).</source>
+        <translation>Ausgangswert: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Changed.</source>
+        <translation>Geändert.</translation>
+    </message>
+    <message>
+        <source>Greyed because this view is not coded; see &quot;Number of additional views&quot;.</source>
+        <translation>Grau, weil diese Ansicht nicht codiert wird; siehe „Weitere Ansichten“.</translation>
+    </message>
+    <message>
+        <source>Greyed because the program that opened the dialog has set it.</source>
+        <translation>Grau, weil das aufrufende Programm den Wert festgelegt hat.</translation>
+    </message>
+    <message>
+        <source>Greyed because the picture aspect ratio sets it, unless that is &quot;Custom&quot;.</source>
+        <translation>Grau, weil das Bildseitenverhältnis den Wert bestimmt, außer bei „Benutzerdefiniert“.</translation>
+    </message>
+    <message>
+        <source>Greyed because progressive pictures have no fields.</source>
+        <translation>Grau, weil progressive Bilder keine Halbbilder haben.</translation>
+    </message>
+    <message>
+        <source>Greyed because the buffer is kept at the length of 1 second.</source>
+        <translation>Grau, weil der Puffer auf der Länge von 1 Sekunde gehalten wird.</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>range of the encoder; H.7.4.2.1.4 allows 1024</source>
+        <translation>Bereich des Encoders; H.7.4.2.1.4 erlaubt 1024</translation>
+    </message>
+    <message>
+        <source>range of the encoder; discs allow 3 in a row</source>
+        <translation>Bereich des Encoders; Discs erlauben 3 nacheinander</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+</context>
+<context>
     <name>ToolBox</name>
     <message>
         <source>Shows or hides this section.</source>

@@ -2682,6 +2682,103 @@ Do you want to delete it anyway?</source>
     </message>
 </context>
 <context>
+    <name>SettingHelp</name>
+    <message>
+        <source>Only shown here: a preset or file sets it.</source>
+        <translation>ここでは表示のみ: プリセットまたはファイルが設定します。</translation>
+    </message>
+    <message>
+        <source>The settings hold two views: what is set for this one goes no further.</source>
+        <translation>設定が持つビューは 2 つです: このビューの値はどこにも渡されません。</translation>
+    </message>
+    <message>
+        <source>= %1</source>
+        <extracomment>The reading of a rate in bits per second that is being typed: &quot;= 22 Mbit/s&quot;.</extracomment>
+        <translation>= %1</translation>
+    </message>
+    <message>
+        <source>Range: %1 to %2%3.</source>
+        <extracomment>%3 is empty or a unit with a blank before it.</extracomment>
+        <translation>範囲: %1～%2%3。</translation>
+    </message>
+    <message>
+        <source>The range rests on: %1.</source>
+        <translation>範囲の根拠: %1。</translation>
+    </message>
+    <message>
+        <source>as opened</source>
+        <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>Changed; the starting value is %1 (%2).</source>
+        <extracomment>What a setting was at the start, and what the start was: a preset, a file.</extracomment>
+        <translation>変更済み。開始時の値は %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>Starting value: %1 (%2).</source>
+        <translation>開始時の値: %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>Changed.</source>
+        <translation>変更済み。</translation>
+    </message>
+    <message>
+        <source>Greyed because this view is not coded; see &quot;Number of additional views&quot;.</source>
+        <translation>このビューは符号化されないため変更できません。「追加ビュー数」を参照してください。</translation>
+    </message>
+    <message>
+        <source>Greyed because the program that opened the dialog has set it.</source>
+        <translation>このダイアログを開いたプログラムが決めているため変更できません。</translation>
+    </message>
+    <message>
+        <source>Greyed because the picture aspect ratio sets it, unless that is &quot;Custom&quot;.</source>
+        <translation>画面アスペクト比で決まるため変更できません (「カスタム」を除く)。</translation>
+    </message>
+    <message>
+        <source>Greyed because progressive pictures have no fields.</source>
+        <translation>プログレッシブの画像にはフィールドがないため変更できません。</translation>
+    </message>
+    <message>
+        <source>Greyed because the buffer is kept at the length of 1 second.</source>
+        <translation>バッファが 1 秒の長さに保たれているため変更できません。</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>エラー: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>警告: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>ビット</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>range of the encoder; H.7.4.2.1.4 allows 1024</source>
+        <translation>エンコーダーの範囲。H.7.4.2.1.4 では 1024 まで</translation>
+    </message>
+    <message>
+        <source>range of the encoder; discs allow 3 in a row</source>
+        <translation>エンコーダーの範囲。ディスクでは連続 3 枚まで</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
+</context>
+<context>
     <name>ToolBox</name>
     <message>
         <source>Shows or hides this section.</source>

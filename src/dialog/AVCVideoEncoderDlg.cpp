@@ -5,10 +5,9 @@
 #include "ForeignText.h"
 #include "LogGround.h"
 #include "LogMenu.h"
-#include "MessageLinks.h"
 #include "MessageLog.h"
 #include "PaletteCare.h"
-#include "SettingControls.h"
+#include "SettingHelp.h"
 #include "Shortcuts.h"
 #include "model/FurtherViews.h"
 #include "model/KeyNames.h"
@@ -83,6 +82,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     buildPresetRow();
     m_caller = settings;
     takeSettings(*settings);
+    startHere({});
     messageLog().showIn(ui.errorLog);
     log_menu::attach(ui.errorLog);
     ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
@@ -90,6 +90,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);
     connect(this, &AVCVideoEncoderDlg::stateChanged, this, &AVCVideoEncoderDlg::slotReceiveState);
     buildPages();
+    buildHelp();
 
     if (!(m_flags & KV_MVC_GUI_FILE_BUTTONS)) {
         ui.buttonLoad->hide();
@@ -106,9 +107,6 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     settingsToState();
     showTabInFrontWhole();
 
-    new MessageLinks(
-        ui.errorLog, [this](const MessageFacts& facts) { return controlOf(facts); },
-        &setting_controls::goTo);
     shortcuts::add(this, ui.tabWidget, ui.errorLog);
     shortcuts::addHistory(
         this, [this] { turnHistory(&EditHistory::undo, tr("Undo: %1")); },
@@ -236,6 +234,7 @@ void AVCVideoEncoderDlg::settingsToState()
 {
     describeCurrentView();
     describeAllViews();
+    m_help->follow(m_record, m_currentView, m_start);
 }
 
 void AVCVideoEncoderDlg::describeCurrentView()
@@ -271,6 +270,7 @@ void AVCVideoEncoderDlg::describeAllViews()
 void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
 {
     const auto preset = requestedPreset(m_vocabulary, state);
+    bool isNew = false;
     if (preset && companionFunctions().defaults) {
         // On a copy, as the check.
         const QPointer<AVCVideoEncoderDlg> self(this);
@@ -289,6 +289,7 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
         }
         if (!thrown) {
             takeSettings(settings);
+            isNew = true;
         }
     }
 
@@ -300,6 +301,9 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
         describeCurrentView();
     }
     applyViews(edit, m_record);
+    if (isNew) {
+        startHere(describeEdit(state));
+    }
 }
 
 void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
@@ -356,6 +360,7 @@ bool AVCVideoEncoderDlg::check()
 
     m_suppressNextAccept = false;
     messageLog().rewriteWidget();
+    m_help->showMessages(messageLog().told);
     return accepted;
 }
 

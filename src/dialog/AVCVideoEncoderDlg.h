@@ -18,6 +18,7 @@ class AdvancedPage;
 class BasicPage;
 class QDropEvent;
 class QDragEnterEvent;
+class SettingHelp;
 class SettingsPage;
 class ViewsPage;
 
@@ -86,13 +87,18 @@ private:
     /// The encoder's part of it; while the dialog is constructed, an exception goes through.
     bool runCheck(KvMvcSettings& settings);
 
+    /// Makes the words and marks at the controls, which follow the working copy and the checks.
+    void buildHelp();
     /// The control that a message is about; null without one.
     QWidget* controlOf(const MessageFacts& facts) const;
     void goToFirstError();
 
     /// Makes a change, and a step of the history of it and of all that follows from it.
     void takeStep(const QString& text, const QString& goesOn, const std::function<void()>& change);
-    EditedState editedState() const { return {m_record, m_currentView}; }
+    EditedState editedState() const { return {m_record, m_currentView, m_start}; }
+    /// From here on edits are changes of what the settings are now.
+    /// @param name Of the preset or file.
+    void startHere(const QString& name);
     /// Makes the state that a step of the history comes to the working copy, shows and checks it.
     /// @param message What is told of it, with %1 for the step.
     void turnHistory(std::optional<EditHistory::Turn> (EditHistory::*turn)(),
@@ -117,6 +123,8 @@ private:
     bool m_suppressNextAccept = false;
     bool m_updating = false;
     EditHistory m_history;
+    StartingPointPtr m_start;
+    SettingHelp* m_help = nullptr;
     /// What hears of another focus, until the history goes.
     QObject* m_focusWatch = new QObject(this);
     bool m_isTakingStep = false;

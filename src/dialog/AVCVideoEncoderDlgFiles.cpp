@@ -63,8 +63,10 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
     if (!settings || !self) {
         return;
     }
-    takeStep(tr("File %1").arg(QFileInfo(path).fileName()), {}, [&] {
+    const QString name = tr("File %1").arg(QFileInfo(path).fileName());
+    takeStep(name, {}, [&] {
         takeSettings(*settings);
+        startHere(name);
         check();
         if (self) {
             settingsToState();

@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <memory>
 
 void AVCVideoEncoderDlg::takeStep(const QString& text, const QString& goesOn,
                                   const std::function<void()>& change)
@@ -46,6 +47,7 @@ void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHisto
     m_isTakingStep = true;
     m_record = reached->state.record;
     m_currentView = reached->state.currentView;
+    m_start = reached->state.start;
     settingsToState();
     check();
     if (!self) {
@@ -58,6 +60,11 @@ void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHisto
         QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()),
                            Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
     }
+}
+
+void AVCVideoEncoderDlg::startHere(const QString& name)
+{
+    m_start = std::make_shared<const StartingPoint>(StartingPoint{m_record, name});
 }
 
 QString AVCVideoEncoderDlg::describeEdit(const ConfigState& state) const

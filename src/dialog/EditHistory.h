@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StartingPoint.h"
 #include "model/WorkingRecord.h"
 
 #include <QString>
@@ -11,6 +12,8 @@
 struct EditedState {
     WorkingRecord record;
     int currentView = 0;
+    /// What its edits started from.
+    StartingPointPtr start = {};
 };
 
 /// The edits, presets and files that the dialog took, as steps that can be taken back.

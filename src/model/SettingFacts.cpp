@@ -6,8 +6,10 @@
 #include <QHash>
 
 #include <kv_config_gui_mvc/companions.h>
+#include <kv_config_gui_mvc/config_gui.h>
 
 #include <algorithm>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 
@@ -91,7 +93,7 @@ struct Index {
     QHash<std::pair<QString, int>, QString> byMember;
 };
 
-SettingFacts factsOf(const FieldRow& row, int view)
+SettingFacts factsOf(const FieldRow& row, int view, qint32 lock)
 {
     SettingFacts facts;
     facts.member = QLatin1String(row.name);
@@ -102,12 +104,13 @@ SettingFacts factsOf(const FieldRow& row, int view)
     }
     facts.basis = QLatin1String(row.basis);
     facts.view = view;
+    facts.lock = lock;
     return facts;
 }
 
-void add(Index& index, const QString& key, const FieldRow& row, int view)
+void add(Index& index, const QString& key, const FieldRow& row, int view, qint32 lock)
 {
-    const SettingFacts facts = factsOf(row, view);
+    const SettingFacts facts = factsOf(row, view, lock);
     index.byMember.insert({facts.member, view}, key);
     if (!index.byKey.contains(key)) {
         index.byKey.insert(key, facts);
@@ -117,8 +120,11 @@ void add(Index& index, const QString& key, const FieldRow& row, int view)
 void addView(Index& index, const ViewRow& setting, const QString& key, int view)
 {
     for (const FieldRow& row : fieldRows()) {
-        if (setting.field && row.ofView == setting.field) {
-            add(index, key, row, view);
+        const std::pair own(setting.key, QLatin1String(row.name));
+        const bool isItsOwn = std::find(std::begin(withoutField), std::end(withoutField), own) !=
+                              std::end(withoutField);
+        if (setting.field ? row.ofView == setting.field : isItsOwn) {
+            add(index, key, row, view, setting.lock);
         }
     }
 }
@@ -135,7 +141,7 @@ Index makeIndex()
     for (const RecordRow& setting : table.record) {
         for (const FieldRow& row : fieldRows()) {
             if (row.ofRecord == setting.field && row.ofRecord) {
-                add(index, setting.key, row, KV_MVC_ALL_VIEWS);
+                add(index, setting.key, row, KV_MVC_ALL_VIEWS, setting.lock);
             }
         }
     }
@@ -144,14 +150,9 @@ Index makeIndex()
             addView(index, setting, keys::ofView(setting.key, view), view);
         }
     }
-    for (const auto& [key, member] : withoutField) {
-        const auto row = std::find_if(
-            fieldRows().begin(), fieldRows().end(),
-            [name = member](const FieldRow& each) { return name == QLatin1String(each.name); });
-        if (row != fieldRows().end()) {
-            add(index, key, *row, KV_MVC_ALL_VIEWS);
-        }
-    }
+    // The presets have a key, but no row of the key table.
+    const ViewRow presets = {.key = keys::videoType, .lock = KV_MVC_GUI_LOCK_VIDEO_TYPE};
+    addView(index, presets, presets.key, KV_MVC_ALL_VIEWS);
     return index;
 }
 

@@ -19,6 +19,8 @@ struct SettingFacts {
     QString basis;
     /// The view whose rate control it is; -1 where all views share the key.
     int view = -1;
+    /// The flag of the host that locks it; 0: none.
+    qint32 lock = 0;
 };
 
 /// No value for a key that no setting has.

@@ -46,6 +46,43 @@ QWidget* SettingsPage::widgetOf(const QString& key) const
     return chosen ? chosen : group->buttons().value(0);
 }
 
+QVector<QWidget*> SettingsPage::widgetsOf(const QString& key) const
+{
+    const auto* const group = qobject_cast<const QButtonGroup*>(controlOf(key));
+    QVector<QWidget*> widgets;
+    if (group) {
+        for (QAbstractButton* button : group->buttons()) {
+            widgets.append(button);
+        }
+    } else if (QWidget* const control = widgetOf(key)) {
+        widgets.append(control);
+    }
+    return widgets;
+}
+
+QString SettingsPage::textOf(const QString& key, const QVariant& value) const
+{
+    const QObject* const control = controlOf(key);
+    if (const auto* group = qobject_cast<const QButtonGroup*>(control)) {
+        const QAbstractButton* const button = group->button(value.toInt());
+        return button ? button->text() : value.toString();
+    }
+    if (qobject_cast<const QAbstractButton*>(control)) {
+        return value.toBool() ? tr("on") : tr("off");
+    }
+    const auto* const field = qobject_cast<const QSpinBox*>(control);
+    const bool isSpecial =
+        field && !field->specialValueText().isEmpty() && value.toInt() == field->minimum();
+    return isSpecial ? field->specialValueText() : value.toString();
+}
+
+ConfigState SettingsPage::edited(const QString& key, const QVariant& value)
+{
+    ConfigState state;
+    state.insert(key, value);
+    return state;
+}
+
 // As screen readers have it, but for lists, which they call by the chosen item.
 QString SettingsPage::plainCaptionOf(const QWidget* control)
 {

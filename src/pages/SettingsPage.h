@@ -30,6 +30,14 @@ public:
     const QObject* controlOf(const QString& key) const { return controlKeys.key(key); }
     /// The control itself: of a group the chosen button, or else the first one.
     QWidget* widgetOf(const QString& key) const;
+    /// All that a user may take for it: the control, or every button of a group.
+    QVector<QWidget*> widgetsOf(const QString& key) const;
+    /// The keys that the page's own controls edit.
+    QStringList keys() const { return controlKeys.values(); }
+    /// How the control shows a value of its key.
+    QString textOf(const QString& key, const QVariant& value) const;
+    /// The state that an edit of the key to this value reports.
+    virtual ConfigState edited(const QString& key, const QVariant& value);
     /// What the page calls that, in the user's language, with the page's own name before it where
     /// it has one.
     QString captionOf(const QString& key) const { return captionOf(widgetOf(key)); }

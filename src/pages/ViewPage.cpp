@@ -177,28 +177,49 @@ void ViewPage::setGroupFromState(QButtonGroup* group, const ConfigState& state)
     group->setExclusive(true);
 }
 
-void ViewPage::slotChangeTargetRate(int rate)
+ConfigState ViewPage::withTargetRate(const QString& key, int rate)
 {
     ConfigState state;
-    state.insert(senderKey(), rate);
+    state.insert(key, rate);
     if (rate > m_maxRate->value()) {
         state.insert(keyOf(m_maxRate), rate);
         setSpinFromState(m_maxRate, state);
     }
     applyOneSecondBuffer(state, rate);
-    Q_EMIT stateChanged(state);
+    return state;
 }
 
-void ViewPage::slotChangeMaxRate(int rate)
+ConfigState ViewPage::withMaxRate(const QString& key, int rate)
 {
     ConfigState state;
-    state.insert(senderKey(), rate);
+    state.insert(key, rate);
     if (rate < m_targetRate->value()) {
         state.insert(keyOf(m_targetRate), rate);
         setSpinFromState(m_targetRate, state);
         applyOneSecondBuffer(state, rate);
     }
-    Q_EMIT stateChanged(state);
+    return state;
+}
+
+ConfigState ViewPage::edited(const QString& key, const QVariant& value)
+{
+    if (key == keyOf(m_targetRate)) {
+        return withTargetRate(key, value.toInt());
+    }
+    if (key == keyOf(m_maxRate)) {
+        return withMaxRate(key, value.toInt());
+    }
+    return SettingsPage::edited(key, value);
+}
+
+void ViewPage::slotChangeTargetRate(int rate)
+{
+    Q_EMIT stateChanged(withTargetRate(senderKey(), rate));
+}
+
+void ViewPage::slotChangeMaxRate(int rate)
+{
+    Q_EMIT stateChanged(withMaxRate(senderKey(), rate));
 }
 
 void ViewPage::slotChangeUnits(QAbstractButton* button)

@@ -16,6 +16,9 @@ public:
     /// Fills the mode list; once, after construction.
     void fillBitrateModes();
 
+    /// Of a rate, with what it pulls along.
+    ConfigState edited(const QString& key, const QVariant& value) override;
+
     /// Also shows what fits the mode, and sets labels and limits by the units.
     void receiveState(const ConfigState& state) override;
 
@@ -57,6 +60,9 @@ protected:
     virtual QVector<UnitTexts> unitTexts() const = 0;
 
 private:
+    /// What a new rate sets, under the key that it is reported with.
+    ConfigState withTargetRate(const QString& key, int rate);
+    ConfigState withMaxRate(const QString& key, int rate);
     /// Keeps the buffer as large as one second at `rate` (bit/s) while the box for it is checked.
     void applyOneSecondBuffer(ConfigState& state, int rate);
     void setGroupFromState(QButtonGroup* group, const ConfigState& state);

@@ -77,7 +77,10 @@ QString announced(QWidget* widget)
     for (const auto& relation : list->relations(QAccessible::Label)) {
         return relation.first->text(QAccessible::Name);
     }
-    return widget->accessibleName().isEmpty() ? QString() : list->text(QAccessible::Description);
+    // Of a tip of several lines the first one names it.
+    return widget->accessibleName().isEmpty()
+               ? QString()
+               : list->text(QAccessible::Description).section(QLatin1Char('\n'), 0, 0);
 }
 
 bool isSlider(const Setting& setting)
