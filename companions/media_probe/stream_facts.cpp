@@ -29,6 +29,17 @@ void copyName(char (&to)[32], const char* from)
     std::snprintf(to, sizeof to, "%s", from);
 }
 
+/// A transport stream is known by its packets, and says nothing without its tables (ISO 13818-1).
+const char* whatIsMissing(const AVFormatContext* format)
+{
+    if (!format || std::strcmp(format->iformat->name, "mpegts") != 0) {
+        return "no media format, or damaged";
+    }
+    return format->nb_programs == 0
+               ? "a transport stream without programs: no association table (PAT) lists one"
+               : "a transport stream whose program has no map (PMT), which tells its streams";
+}
+
 /// Formats end with error numbers of all kinds, so only those of reading itself are told.
 ProbeAnswer refusalFor(int error, const MediaInput& input)
 {
@@ -42,7 +53,7 @@ ProbeAnswer refusalFor(int error, const MediaInput& input)
         return refusal(KV_MEDIA_UNREADABLE,
                        std::generic_category().message(input.readError()).c_str());
     }
-    return refusal(KV_MEDIA_UNREADABLE, "no media format, or damaged");
+    return refusal(KV_MEDIA_UNREADABLE, whatIsMissing(input.format()));
 }
 
 bool isDescribed(const AVStream& stream)

@@ -25,6 +25,12 @@ namespace
 constexpr qint64 longest = 5000;              // milliseconds
 constexpr long largestKilobytes = 256 * 1024; // of any child so far
 
+/// Of a transport stream, without a meaning.
+QByteArray nullPackets(int count)
+{
+    return (QByteArray::fromHex("471fff10") + QByteArray(184, '\xFF')).repeated(count);
+}
+
 QByteArray atom(const char* type, const QByteArray& content, quint32 length = 0)
 {
     const quint32 size = length != 0 ? length : quint32(content.size() + 8);
@@ -212,6 +218,16 @@ void TestMediaLimits::filesWithoutMediaAreRefused_data()
     QTest::newRow("flash.mp4") << QByteArray("FLV\1\5\0\0\0\x09\0\0\0\0", 13) +
                                       QByteArray(400, '\xb7')
                                << none;
+    QTest::newRow("nothing.ts")
+        << nullPackets(4000)
+        << QByteArray("a transport stream without programs: no association table (PAT) lists one");
+    // Program 1 has its map in packets of number 0x100.
+    const QByteArray association = QByteArray::fromHex("4740001000"
+                                                       "00b00d0001c100000001e100e8f95e7d")
+                                       .leftJustified(188, '\xFF');
+    QTest::newRow("table.ts")
+        << (association + nullPackets(9)).repeated(400)
+        << QByteArray("a transport stream whose program has no map (PMT), which tells its streams");
     QTest::newRow("nothing.y4m") << QByteArray("YUV4MPEG2 W0 H0\nFRAME\n") << none;
     QTest::newRow("wave.mpg") << QByteArray("RIFF\x24\x08\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x44\xac\0\0"
                                             "\x88\x58\1\0\2\0\x10\0data\0\x08\0\0",
