@@ -32,6 +32,8 @@
 #define _GNU_SOURCE /* for readlink() and dladdr(); NOLINT(bugprone-reserved-identifier) */
 #endif
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <link.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #if !defined(RTLD_DEFAULT)
@@ -212,10 +214,62 @@ static inline int kvMvcIsThere(const char* file)
     return stat(file, &status) == 0;
 }
 
+/**
+ * Why the system loader must not be asked for a file: it would wait for the writer of a pipe, and
+ * what is mapped from behind a file's end ends the process when it is touched.
+ * @return Null: it may be asked, and has its own words for whatever else is wrong.
+ */
+static inline const char* kvMvcLibraryFault(const char* file)
+{
+    static const char truncated[] = "truncated";
+    const char* fault = NULL;
+    struct stat status;
+    ElfW(Ehdr) header;
+    ElfW(Phdr) segment;
+    int descriptor;
+    int at;
+    if (stat(file, &status) != 0) {
+        return NULL;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return "not a regular file"; /* opening a device may do something */
+    }
+    descriptor = open(file, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return NULL;
+    }
+    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        fault = "not a regular file";
+    } else if (pread(descriptor, &header, sizeof header, 0) == (ssize_t)sizeof header &&
+               memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 &&
+               header.e_ident[EI_CLASS] == (sizeof(void*) == 8 ? ELFCLASS64 : ELFCLASS32) &&
+               header.e_phentsize == sizeof segment) {
+        for (at = 0; at < header.e_phnum && fault == NULL; ++at) {
+            const off_t place = (off_t)header.e_phoff + (off_t)at * (off_t)sizeof segment;
+            if (pread(descriptor, &segment, sizeof segment, place) != (ssize_t)sizeof segment) {
+                fault = truncated;
+            } else if (segment.p_type == PT_LOAD &&
+                       (segment.p_offset > (ElfW(Off))status.st_size ||
+                        segment.p_filesz > (ElfW(Off))status.st_size - segment.p_offset)) {
+                fault = truncated;
+            }
+        }
+    }
+    close(descriptor);
+    return fault;
+}
+
 static inline void* kvMvcLoadFile(const KvMvcLibrary* library, int32_t flags, char* reason)
 {
-    void* const handle = dlopen(library->file, RTLD_NOW | RTLD_LOCAL);
+    /* Where the loader looks by itself is its own affair. */
+    const char* const fault = library->is_beside ? kvMvcLibraryFault(library->file) : NULL;
+    void* handle;
     (void)flags;
+    if (fault != NULL) {
+        snprintf(reason, KV_MVC_LIBRARY_TEXT, "%.3900s: %s", library->file, fault);
+        return NULL;
+    }
+    handle = dlopen(library->file, RTLD_NOW | RTLD_LOCAL);
     if (handle == NULL) {
         const char* const words = dlerror();
         snprintf(reason, KV_MVC_LIBRARY_TEXT, "%s", words ? words : "");
@@ -241,7 +295,7 @@ static inline int kvMvcFileIn(const char* folder, const char* name, char* file)
  * Opens the first of the names that can be loaded. Each is looked for in the host program's folder,
  * else in another one, else by the system loader's own rules, the current directory left out. A
  * file that lies in one of the folders counts, even when it cannot be loaded: then the next name is
- * tried.
+ * tried. On Linux one that is no regular file there, or shorter than it says, is not loaded.
  * @param library Overwritten; to be closed by the caller when one is open.
  * @param folder  UTF-8; looked in after the host program's. Null: that of the library which this
  *                code is compiled into.

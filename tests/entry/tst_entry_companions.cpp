@@ -2,8 +2,13 @@
 
 #include "Sandbox.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 namespace
 {
@@ -35,6 +40,9 @@ private Q_SLOTS:
     void searchOfTheHostStays();
     void brokenFileCountsAsMissing();
     void brokenFileBesideTheHostHidesOneBesideTheModule();
+    void whatTheLoaderWouldHangOrDieOfIsRefused_data();
+    void whatTheLoaderWouldHangOrDieOfIsRefused();
+    void whatTheLoaderFindsFirstIsNotRefusedForALaterOne();
     void failedCallsLibrariesAreReleasedByTheNextCall();
     void probeOfAFailedCallIsReleasedByTheNextCall();
     void missingFunctionIsNotFoundInAnEarlierCallsLibrary();
@@ -240,6 +248,65 @@ void TestEntryCompanions::brokenFileBesideTheHostHidesOneBesideTheModule()
     const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
     QCOMPARE(run.value("result"), QStringLiteral("1"));
     QCOMPARE(run.log.filter(QStringLiteral("kv_mvcenc")), QStringList());
+}
+
+void TestEntryCompanions::whatTheLoaderWouldHangOrDieOfIsRefused_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("folder");
+    for (const char* what : {"pipe", "half a library", "folder"}) {
+        for (const char* folder : {"host", "module"}) {
+            QTest::addRow("%s, %s", what, folder)
+                << QString::fromLatin1(what) << QString::fromLatin1(folder);
+        }
+    }
+}
+
+/// A pipe that nobody writes to is waited for, and a page that is missing ends the process.
+void TestEntryCompanions::whatTheLoaderWouldHangOrDieOfIsRefused()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the loader of Windows reads no pipes, and maps whole files");
+#else
+    QFETCH(QString, what);
+    QFETCH(QString, folder);
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io");
+    const QByteArray place = folder.toLatin1();
+    const QString name = sandbox.libraryPath("kv_mvcenc", place.constData());
+    if (what == QLatin1String("pipe")) {
+        QCOMPARE(::mkfifo(QFile::encodeName(name).constData(), 0600), 0);
+    } else if (what == QLatin1String("folder")) {
+        QVERIFY(QDir().mkdir(name));
+    } else {
+        sandbox.add("stub_entry_encoder", "kv_mvcenc", place.constData());
+        QFile whole(name);
+        QVERIFY(whole.resize(whole.size() / 2));
+    }
+    const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
+    QCOMPARE(run.value("result"), QStringLiteral("1"));
+    QCOMPARE(run.log.filter(QStringLiteral("kv_mvcenc")), QStringList());
+    QVERIFY2(run.errors.isEmpty() || run.errors.contains(QStringLiteral("kv_mvcenc")),
+             qPrintable(run.errors));
+#endif
+}
+
+void TestEntryCompanions::whatTheLoaderFindsFirstIsNotRefusedForALaterOne()
+{
+#ifdef Q_OS_WIN
+    QSKIP("there is no LD_LIBRARY_PATH");
+#else
+    const Sandbox sandbox(Sandbox::Module::Apart);
+    sandbox.add("stub_entry_settings_io", "kv_mvc_settings_io");
+    QVERIFY(QDir().mkdir(sandbox.path(QStringLiteral("first"))));
+    sandbox.add("stub_entry_encoder", "kv_mvcenc", "first");
+    QVERIFY(QDir().mkdir(sandbox.libraryPath("kv_mvcenc", "module")));
+    const QString first = sandbox.path(QStringLiteral("nowhere")) + QLatin1Char(':') +
+                          sandbox.path(QStringLiteral("first"));
+    const auto run = sandbox.run(ownCall, {{QStringLiteral("LD_LIBRARY_PATH"), first}});
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    QVERIFY(run.log.contains(QLatin1String("load first/kv_mvcenc")));
+#endif
 }
 
 void TestEntryCompanions::failedCallsLibrariesAreReleasedByTheNextCall()

@@ -9,6 +9,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
 namespace
 {
 
@@ -35,7 +39,7 @@ public:
     explicit Sandbox(const QString& language);
 
     /// @param files "FOLDER/NAME=NUMBER" of the companion that says this number; "=broken": a file
-    ///              that is no library.
+    ///              that is no library; "=half": a part of one; "=pipe", "=folder".
     void fill(const QString& files) const;
     Result run(const QStringList& arguments) const;
     /// Below a folder whose name is beyond ASCII, since paths are UTF-8 whatever the system has.
@@ -60,6 +64,15 @@ Sandbox::Sandbox(const QString& language)
     QFile::copy(program, m_program);
 }
 
+void makePipe(const QString& name)
+{
+#ifdef Q_OS_WIN
+    QFAIL(qPrintable(name));
+#else
+    QCOMPARE(::mkfifo(QFile::encodeName(name).constData(), 0600), 0);
+#endif
+}
+
 void Sandbox::fill(const QString& files) const
 {
     for (const QString& file : files.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
@@ -68,10 +81,17 @@ void Sandbox::fill(const QString& files) const
         if (number == QLatin1String("broken")) {
             QFile broken(target);
             QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
+        } else if (number == QLatin1String("folder")) {
+            QVERIFY(QDir().mkdir(target));
+        } else if (number == QLatin1String("pipe")) {
+            makePipe(target);
         } else {
+            const bool isCut = number == QLatin1String("half");
             QVERIFY(QFile::copy(qEnvironmentVariable("KV_KIT_COMPANIONS") +
-                                    QStringLiteral("/kit_companion_") + number + suffix,
+                                    QStringLiteral("/kit_companion_") +
+                                    (isCut ? QStringLiteral("1") : number) + suffix,
                                 target));
+            QVERIFY(!isCut || QFile::resize(target, QFileInfo(target).size() / 2));
         }
     }
 }
@@ -145,6 +165,9 @@ void TestCompanionKit::firstThatCountsIsOpened_data()
     row("first name anywhere before the second", "host/b=1 given/a=2", "../given 0 a b", 2,
         "given/a");
     row("second name", "host/b=2", "- 0 a b", 2, "host/b");
+#ifndef Q_OS_WIN
+    row("second name where the first is a pipe", "host/a=pipe host/b=2", "- 0 a b", 2, "host/b");
+#endif
     row("second name where the first cannot be loaded", "host/a=broken host/b=2", "- 0 a b", 2,
         "host/b");
     row("what the host has counts", "host/a=broken given/a=1 host/b=2", "../given 0 a b", 2,
@@ -213,6 +236,14 @@ void TestCompanionKit::whyNoneIsOpen_data()
     row("no library", "host/a=broken", "- 0 a", "beside", "host/a", brokenReason);
     row("the file that is there is what is told of", "host/a=broken", "- 0 a b", "beside", "host/a",
         brokenReason);
+#ifndef Q_OS_WIN
+    const QLatin1String noFile("a.so: not a regular file");
+    row("a pipe", "host/a=pipe", "- 0 a", "beside", "host/a", noFile);
+    row("a pipe beside the user", "given/a=pipe", "../given 0 a", "beside", "given/a", noFile);
+    row("a folder", "host/a=folder", "- 0 a", "beside", "host/a", noFile);
+    row("half a library", "host/a=half", "- 0 a", "beside", "host/a",
+        QLatin1String("a.so: truncated"));
+#endif
     row("the last file that is there", "host/a=broken given/b=broken", "../given 0 a b c", "beside",
         "given/b", brokenReason);
     row("the file of the host, not the system's", "host/a=broken system/a=1", "- 0 a", "beside",
