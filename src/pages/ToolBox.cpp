@@ -256,12 +256,16 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
     }
     const int before = placeOf(control);
     change();
-    // Disabled, it has passed the focus on, and what has it now is in view.
-    if (!control || !control->isVisible() || control != window()->focusWidget()) {
-        return;
-    }
     // Now, not when the event loop comes to it, which would show the control elsewhere first.
     layOutNow(m_scrollArea->viewport());
+    QWidget* const focus = window()->focusWidget();
+    if (!control || !control->isVisible() || control != focus) {
+        // Disabled or hidden, it has passed the focus on.
+        if (m_content->isAncestorOf(focus)) {
+            m_scrollArea->ensureWidgetVisible(focus);
+        }
+        return;
+    }
     QScrollBar* const bar = m_scrollArea->verticalScrollBar();
     bar->setValue(bar->value() + placeOf(control) - before);
 }

@@ -115,6 +115,7 @@ private Q_SLOTS:
     void focusIsScrolledIntoView_data();
     void focusIsScrolledIntoView();
     void focusStaysBesideAViewThatGoes();
+    void focusOfARowThatGoesIsInView();
     void mouseDoesNotScroll();
     void scrollingDoesNotEdit();
     void wheelEditsAfterAPause_data();
@@ -354,6 +355,31 @@ void TestDialogKeys::focusStaysBesideAViewThatGoes()
     QVERIFY(!rate->isEnabled());
     QVERIFY(QApplication::focusWidget());
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("toggleIView2Page"));
+}
+
+void TestDialogKeys::focusOfARowThatGoesIsInView()
+{
+    KvMvcSettings settings = exampleSettings();
+    for (KvMvcViewSettings& view : settings.views) {
+        view.bitrate_mode = KV_MVC_VARIABLE_BITRATE;
+        view.hrd_mode = 1;
+    }
+    OpenDialog dialog(usualFlags, settings);
+    dialog->resize(dialog->width(), dialog->minimumHeight());
+    auto* const buffer = on<QSpinBox>(dialog, "View0Page", "bitrateBufferSpin");
+    user::reveal(buffer);
+    buffer->setFocus();
+    dialog.companions.onCheck = [](KvMvcLookup, KvMvcSettings& checked) {
+        for (KvMvcViewSettings& view : checked.views) {
+            view.bitrate_mode = KV_MVC_AVERAGE_QUANTIZER;
+        }
+        return 0;
+    };
+    QTest::keyClick(buffer, Qt::Key_Up);
+    QVERIFY(!buffer->isVisible());
+    const QWidget* const focus = QApplication::focusWidget();
+    QVERIFY(focus);
+    QVERIFY2(isWhollyInView(focus), qPrintable(focus->objectName()));
 }
 
 void TestDialogKeys::mouseDoesNotScroll()
