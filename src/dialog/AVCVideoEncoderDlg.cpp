@@ -37,7 +37,20 @@
 namespace
 {
 
-constexpr QSize builtInBannerSize(380, 74);
+/// In the screen's density. Not by way of an icon, which leaves each of them in the toolkit's cache
+/// of pictures: that is the host's, and would fill with ours.
+QPixmap builtInBanner(double density)
+{
+    constexpr QSize size(380, 74);
+    const int drawn = qBound(1, qCeil(density), 3);
+    const QString mark = drawn == 1 ? QString() : QStringLiteral("@%1x").arg(drawn);
+    QImage image(QStringLiteral(":/res_mvc/banners/banner%1.png").arg(mark));
+    if (const QSize pixels = size * density; !image.isNull() && image.size() != pixels) {
+        image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    image.setDevicePixelRatio(density);
+    return QPixmap::fromImage(image);
+}
 
 } // namespace
 
@@ -221,9 +234,7 @@ void AVCVideoEncoderDlg::applySkin(const QString& name)
     }
 
     if (m_banner.isNull()) {
-        // By way of an icon, which has the picture in the screen's density.
-        const QIcon banner(QStringLiteral(":/res_mvc/banners/banner.png"));
-        ui.bannerFrame->setPixmap(banner.pixmap(builtInBannerSize));
+        ui.bannerFrame->setPixmap(builtInBanner(qApp->devicePixelRatio()));
     } else {
         ui.bannerFrame->setAlignment(Qt::AlignCenter);
         ui.bannerFrame->setPixmap(m_banner);

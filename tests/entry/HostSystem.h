@@ -26,6 +26,11 @@ std::vector<std::string> mappedFiles();
 /// What window managers know a window of X11 by: instance and class. Empty for other windows.
 std::string classOf(unsigned long window);
 
+/// What the process has of the system: "resident=KIB descriptors=N threads=N windows=N", windows
+/// being those of the whole display, or 0. Memory that is free is given back first. Empty where
+/// nothing tells.
+std::string usage();
+
 /// Shows a window of the window system's own, without the toolkit, and gives it the focus. It stays
 /// until the process ends. @return Its handle; null where a host makes none in its own process.
 void* openForeignWindow();

@@ -1,12 +1,55 @@
 #include "HostSystem.h"
 
 #include <dlfcn.h>
+#include <malloc.h>
+#include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
-
 #include <fstream>
+#include <iterator>
+#include <thread>
+
+namespace
+{
+
+long entriesOf(const char* folder)
+{
+    return std::distance(std::filesystem::directory_iterator(folder),
+                         std::filesystem::directory_iterator());
+}
+
+long windowsBelow(xcb_connection_t* server, xcb_window_t window)
+{
+    xcb_query_tree_reply_t* const tree =
+        xcb_query_tree_reply(server, xcb_query_tree(server, window), nullptr);
+    long count = 1;
+    for (int i = 0; tree && i < xcb_query_tree_children_length(tree); ++i) {
+        count += windowsBelow(server, xcb_query_tree_children(tree)[i]);
+    }
+    std::free(tree);
+    return count;
+}
+
+/// A window manager takes its time to clear up behind a window.
+long windowsOfTheDisplay()
+{
+    xcb_connection_t* const server = xcb_connect(nullptr, nullptr);
+    long count = 0;
+    if (!xcb_connection_has_error(server)) {
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
+        for (long before = -1; count != before; count = windowsBelow(server, root)) {
+            before = count;
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        }
+    }
+    xcb_disconnect(server);
+    return count;
+}
+
+} // namespace
 
 namespace host_system
 {
@@ -70,6 +113,18 @@ std::string classOf(unsigned long window)
     }
     std::replace(text.begin(), text.end(), '\0', ' ');
     return text;
+}
+
+std::string usage()
+{
+    malloc_trim(0);
+    long size = 0;
+    long resident = 0;
+    std::ifstream("/proc/self/statm") >> size >> resident;
+    return "resident=" + std::to_string(resident * sysconf(_SC_PAGESIZE) / 1024) +
+           " descriptors=" + std::to_string(entriesOf("/proc/self/fd")) +
+           " threads=" + std::to_string(entriesOf("/proc/self/task")) +
+           " windows=" + std::to_string(windowsOfTheDisplay());
 }
 
 // A test opens one itself: the ids of windows are the display's, not the process's.

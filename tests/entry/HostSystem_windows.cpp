@@ -58,6 +58,11 @@ std::vector<std::string> mappedFiles()
     return names;
 }
 
+std::string usage()
+{
+    return {};
+}
+
 void* openForeignWindow()
 {
     const HWND window =

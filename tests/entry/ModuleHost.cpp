@@ -12,6 +12,10 @@
 // | press=WHAT      | ok, cancel, close: what is done in the dialog; "again": the module    |
 // |                 | is called once more, while the dialog is open, which is then left     |
 // | call            | calls the module: "result", "changed", "record flags"                |
+// | quiet           | from now on dialogs are not described, and left at once               |
+// | repeat=NUMBER   | calls the module so often; what is said is the last result            |
+// | reload=NUMBER   | calls it so often, unloaded and loaded before each call               |
+// | usage           | says what the process has of the system                               |
 // | call-null       | calls it without settings                                            |
 // | library-folder=F| Windows: has libraries searched in that folder, no longer in the       |
 // |                 | current one                                                           |
@@ -64,6 +68,7 @@ void say(const QString& line)
 }
 
 QString what = QStringLiteral("cancel");
+bool quiet = false;
 KvShowMvcEncoderPages showAgain = nullptr;
 void* foreignWindow = nullptr;
 
@@ -143,10 +148,12 @@ void watchDialogs()
             return;
         }
         *last = dialog;
-        describe(dialog);
+        if (!quiet) {
+            describe(dialog);
+        }
         press(dialog);
     });
-    timer->start(50);
+    timer->start(quiet ? 1 : 50);
 }
 
 struct Host {
@@ -169,6 +176,7 @@ struct Host {
     bool load();
     void setExt(std::string kind);
     void call(KvMvcSettings* edited);
+    void repeat(int count, bool reloads);
     void mapped() const;
     std::filesystem::path libraryBeside(const std::string& name) const;
     bool step(const std::string& text);
@@ -221,6 +229,21 @@ void Host::call(KvMvcSettings* edited)
     }
 }
 
+void Host::repeat(int count, bool reloads)
+{
+    int32_t result = 0;
+    for (int i = 0; i < count; ++i) {
+        if (reloads) {
+            host_system::closeLibrary(module);
+            if (!load()) {
+                return;
+            }
+        }
+        result = show(&settings, flags, ownRecord ? static_cast<void*>(&record) : parent);
+    }
+    say(QStringLiteral("result %1").arg(result));
+}
+
 void Host::mapped() const
 {
     std::set<std::string> names;
@@ -268,6 +291,12 @@ bool Host::step(const std::string& text)
         what = QString::fromStdString(value);
     } else if (name == "call") {
         call(&settings);
+    } else if (name == "quiet") {
+        quiet = true;
+    } else if (name == "repeat" || name == "reload") {
+        repeat(std::stoi(value), name == "reload");
+    } else if (name == "usage") {
+        say(QStringLiteral("usage ") + QString::fromStdString(host_system::usage()));
     } else if (name == "call-null") {
         call(nullptr);
     } else if (name == "library-folder") {

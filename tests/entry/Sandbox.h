@@ -22,6 +22,8 @@ public:
     void add(const char* stub, const char* name, const char* folder = "host") const;
     /// The stubs of the required companions.
     void addRequired() const;
+    /// The reference companions, those that there are.
+    void addReference() const;
     QString path(const QString& name) const { return m_directory.filePath(name); }
     QString libraryPath(const char* name, const char* folder = "host") const;
 
