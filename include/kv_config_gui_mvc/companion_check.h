@@ -236,7 +236,7 @@ static inline void kvMvcTakeMessage(int32_t kind, const char* format, va_list ar
     KvMvcListener* listener;
     const char* translated;
     char* text;
-    if (running == NULL) {
+    if (running == NULL || format == NULL) {
         return;
     }
     listener = running->listener;

@@ -83,6 +83,9 @@ void takeText(const Sink& sink, const QString& text, std::optional<MessageFacts>
 void take(const Sink& sink, const char* format, va_list arguments)
 {
     auto facts = RunningCheck::takeFacts();
+    if (!format) {
+        return;
+    }
     try {
         takeText(sink, foreignText(formatted(localized(format), arguments)), std::move(facts));
     } catch (...) {

@@ -12,6 +12,7 @@
 // | press=WHAT      | ok, cancel, close: what is done in the dialog; "again": the module    |
 // |                 | is called once more, while the dialog is open, which is then left     |
 // | call            | calls the module: "result", "changed", "record flags"                |
+// | env=NAME=VALUE  | sets a variable of the environment                                    |
 // | quiet           | from now on dialogs are not described, and left at once               |
 // | repeat=NUMBER   | calls the module so often; what is said is the last result            |
 // | reload=NUMBER   | calls it so often, unloaded and loaded before each call               |
@@ -291,6 +292,9 @@ bool Host::step(const std::string& text)
         what = QString::fromStdString(value);
     } else if (name == "call") {
         call(&settings);
+    } else if (name == "env") {
+        const auto at = value.find('=');
+        qputenv(value.substr(0, at).c_str(), QByteArray::fromStdString(value.substr(at + 1)));
     } else if (name == "quiet") {
         quiet = true;
     } else if (name == "repeat" || name == "reload") {

@@ -81,8 +81,14 @@ __attribute__((constructor)) void loaded()
     }
 }
 
+/// A sink that a check keeps, though it is good for that check only.
+KvMvcPrintf keptSink = nullptr;
+
 __attribute__((destructor)) void unloaded()
 {
+    if (keptSink) {
+        keptSink("late %d", 5);
+    }
     writeDown("unload " + ownName());
 }
 
@@ -111,6 +117,54 @@ public:
     const char* what() const noexcept override { return "no licence"; }
 };
 
+void flood(KvMvcPrintf print)
+{
+    for (int i = 0; i < 20000; ++i) {
+        print("message %d", i);
+    }
+    print("%s", std::string(4 << 20, 'x').c_str());
+}
+
+void printOddities(KvMvcPrintf print)
+{
+    const char* const none = nullptr;
+    print(nullptr);
+    print("");
+    print("%s", none);
+    print("%%");
+    print("\xff\xfe\x80");
+    print("\n\n");
+}
+
+void askForOddNames(KvMvcLookup lookUp)
+{
+    for (const char* name : {static_cast<const char*>(nullptr), "", "system", "err_printf "}) {
+        if (lookUp(name)) {
+            writeDown("found what is not there");
+        }
+    }
+}
+
+/// What an encoder should not do in a check, where KV_STUB_CHECK asks for it.
+void misbehave(KvMvcLookup lookUp, KvMvcSettings* settings)
+{
+    const auto print = reinterpret_cast<KvMvcPrintf>(lookUp("err_printf"));
+    if (asked("KV_STUB_CHECK", "throw 5")) {
+        throw 5;
+    }
+    if (asked("KV_STUB_CHECK", "scribble")) {
+        std::memset(static_cast<void*>(settings), 0xA5, sizeof *settings);
+    } else if (asked("KV_STUB_CHECK", "flood")) {
+        flood(print);
+    } else if (asked("KV_STUB_CHECK", "odd messages")) {
+        printOddities(print);
+    } else if (asked("KV_STUB_CHECK", "odd names")) {
+        askForOddNames(lookUp);
+    } else if (asked("KV_STUB_CHECK", "late")) {
+        keptSink = print;
+    }
+}
+
 } // namespace
 
 extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookUp,
@@ -121,10 +175,14 @@ extern "C" KV_MVC_COMPANION_API int32_t mvcOutVideoChkSettings(KvMvcLookup lookU
     if (asked("KV_STUB_CHECK", "throw")) {
         throw CheckError();
     }
+    misbehave(lookUp, settings);
     if (asked("KV_STUB_CHECK", "correct")) {
         settings->views[0].bitrate = 4711;
     }
     reinterpret_cast<KvMvcPrintf>(lookUp("err_printf"))("width %d", 5);
+    if (asked("KV_STUB_CHECK", "odd answer")) {
+        return INT32_MIN;
+    }
     return asked("KV_STUB_CHECK", "refuse") ? 1 : 0;
 }
 #endif

@@ -395,24 +395,32 @@ void Monkey::useMouse(const OpenDialog& dialog)
              .arg(place.x())
              .arg(place.y())
              .arg(target->objectName()));
-    // Each part of it may close the window.
-    const QPointer<QWindow> handle = window->windowHandle();
     const QPoint end = m_random.oneIn(8) ? QPoint(m_random.below(window->width()),
                                                   m_random.below(window->height()))
                                          : place;
-    const auto part = [&handle](auto act) {
+    const int clicks = m_random.oneIn(8) ? 2 : 1;
+    // Each part of it may close the window; what is pressed is let go all the same, elsewhere.
+    const QPointer<QWindow> handle = window->windowHandle();
+    const auto at = [&handle](const QPoint& inside, auto act) {
         if (handle && handle->isVisible()) {
-            act();
+            act(handle.data(), inside);
+        } else if (QWindow* const other = frontHandle()) {
+            act(other, QPoint(1, 1));
         }
     };
-    part([&] { QTest::mouseMove(handle, place); });
-    for (int clicks = m_random.oneIn(8) ? 2 : 1; clicks > 0; --clicks) {
-        part([&] { QTest::mousePress(handle, button, {}, place); });
+    const auto move = [](QWindow* target, const QPoint& to) { QTest::mouseMove(target, to); };
+    at(place, move);
+    for (int click = 0; click < clicks; ++click) {
+        at(place, [button](QWindow* target, const QPoint& to) {
+            QTest::mousePress(target, button, {}, to);
+        });
         if (end != place) {
-            part([&] { QTest::mouseMove(handle, (place + end) / 2); });
-            part([&] { QTest::mouseMove(handle, end); });
+            at((place + end) / 2, move);
+            at(end, move);
         }
-        part([&] { QTest::mouseRelease(handle, button, {}, end); });
+        at(end, [button](QWindow* target, const QPoint& to) {
+            QTest::mouseRelease(target, button, {}, to);
+        });
     }
 }
 
