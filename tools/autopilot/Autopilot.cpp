@@ -16,8 +16,9 @@
 namespace
 {
 
-constexpr int stepInterval = 60;   // ms
-constexpr int longestWait = 10000; // ms
+constexpr int stepInterval = 60;        // ms
+constexpr int longestWait = 10000;      // ms
+constexpr int longestActivation = 2000; // ms; there may be no window manager that activates
 
 QString withVariables(QString line)
 {
@@ -70,6 +71,31 @@ bool choose(QComboBox* box, const QString& text)
     return true;
 }
 
+void click(QAbstractButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {},
+                      QPoint(button->height() / 2, button->height() / 2));
+}
+
+/// A visible button of a host's window; none while it is not there.
+QAbstractButton* hostButton(const QString& name)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        auto* const button = find<QAbstractButton>(window, name);
+        if (button && window->isVisible()) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+[[noreturn]] void fail(const QString& line, const QString& reason)
+{
+    QTextStream(stderr) << "autopilot: " << line << ": " << reason << '\n';
+    std::_Exit(3);
+}
+
 void type(QAbstractSpinBox* field, const QString& text)
 {
     field->setFocus();
@@ -82,10 +108,11 @@ void type(QAbstractSpinBox* field, const QString& text)
 
 QObject* AutopilotPlugin::create(const QString&, const QString& script)
 {
-    QFile file(script);
+    // The toolkit takes the bytes of the variable for Latin-1.
+    QFile file(QFile::decodeName(script.toLatin1()));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        qWarning("autopilot: cannot read %s", qPrintable(script));
-        return nullptr;
+        // Without a script nobody would close the dialog.
+        fail(file.fileName(), QStringLiteral("cannot be read"));
     }
     return new Autopilot(QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')));
 }
@@ -108,12 +135,31 @@ void Autopilot::playNext()
     QWidget* const dialog = QApplication::activeModalWidget();
     // Ahead of the step, which may close the dialog and with it the event loop that called.
     QTimer::singleShot(stepInterval, this, &Autopilot::playNext);
-    if (dialog && dialog->isVisible()) {
+    const QString hostCommand = QStringLiteral("host ");
+    const bool isForHost = m_lines.first().startsWith(hostCommand);
+    auto* const button =
+        isForHost && !dialog ? hostButton(m_lines.first().mid(hostCommand.size())) : nullptr;
+    if (button) {
+        m_waited = 0;
+        m_lines.removeFirst();
+        click(button);
+    } else if (!isForHost && dialog && dialog->isVisible() && isReady(dialog)) {
         m_waited = 0;
         play(dialog, m_lines.takeFirst());
     } else if ((m_waited += stepInterval) > longestWait) {
-        fail(m_lines.first(), QStringLiteral("no dialog"));
+        fail(m_lines.first(), isForHost ? QStringLiteral("no such button, or a dialog is open")
+                                        : QStringLiteral("no dialog"));
     }
+}
+
+/// What is typed into a window that becomes active meanwhile is not taken.
+bool Autopilot::isReady(QWidget* dialog)
+{
+    if (m_dialog != dialog && !dialog->isActiveWindow() && m_waited < longestActivation) {
+        return false;
+    }
+    m_dialog = dialog;
+    return true;
 }
 
 void Autopilot::play(QWidget* dialog, const QString& line)
@@ -163,15 +209,8 @@ void Autopilot::play(QWidget* dialog, const QString& line)
     } else if (command == QLatin1String("type") && field) {
         type(field, text);
     } else if (command == QLatin1String("click") && button) {
-        QTest::mouseClick(button, Qt::LeftButton, {},
-                          QPoint(button->height() / 2, button->height() / 2));
+        click(button);
     } else if (command != QLatin1String("show")) {
         fail(line, QStringLiteral("no such command for this widget"));
     }
-}
-
-void Autopilot::fail(const QString& line, const QString& reason)
-{
-    QTextStream(stderr) << "autopilot: " << line << ": " << reason << '\n';
-    std::_Exit(3);
 }

@@ -2,6 +2,7 @@
 
 #include <QGenericPlugin>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 class QWidget;
@@ -25,6 +26,7 @@ public:
 /// | choose LIST TEXT     | chooses an item of a combo box, as the user does                   |
 /// | type FIELD TEXT      | replaces the content of a spin box by typing, and leaves the field |
 /// | click BUTTON         | clicks a button, found by object name or by accessible name        |
+/// | host BUTTON          | clicks a button of the host's own window, when no dialog is open   |
 /// | key NAME             | presses a key on the dialog ("F6")                                 |
 /// | show WIDGET          | scrolls until the widget is visible                                |
 /// | size WIDTH HEIGHT    | resizes the dialog                                                 |
@@ -40,9 +42,10 @@ public:
 
 private:
     void playNext();
+    bool isReady(QWidget* dialog);
     void play(QWidget* dialog, const QString& line);
-    [[noreturn]] void fail(const QString& line, const QString& reason);
 
     QStringList m_lines;
+    QPointer<QWidget> m_dialog; // that the last step was for
     int m_waited = 0;
 };
