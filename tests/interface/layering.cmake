@@ -18,8 +18,10 @@ set(may_include_host "${public}")
 set(may_include_examples "${public}")
 set(folders include src/model src/pages src/dialog src/entry companions host examples)
 
-# Where the toolkit must not be: C headers and companions have none, the model its core only.
+# Where the toolkit must not be: C headers, companions and examples have none, but for the one of a host that
+# has it; the model has its core only.
 set(without_toolkit include companions examples)
+set(with_toolkit "/examples/qt-host/")
 set(widget_headers "^Q(Widget|Dialog|Application|Frame|Label|[A-Z][a-z]+Box|[A-Za-z]*Layout|TabWidget|TextEdit|GuiApplication|Icon|Pixmap)$")
 
 # check_file(FOLDER FILE CONTENT): appends what is wrong to `breaches`.
@@ -33,7 +35,7 @@ function(check_file folder file content)
         string(REGEX REPLACE ".*[<\"]([^>\"]+)[>\"]$" "\\1" name "${line}")
         string(REGEX MATCH "<" bracket "${line}")
         set(breach "")
-        if(name MATCHES "^Q[A-Z]" AND folder IN_LIST without_toolkit)
+        if(name MATCHES "^Q[A-Z]" AND folder IN_LIST without_toolkit AND NOT file MATCHES "${with_toolkit}")
             set(breach "toolkit")
         elseif(name MATCHES "${widget_headers}" AND folder STREQUAL "src/model")
             set(breach "widgets in the model")
@@ -98,7 +100,8 @@ elseif(PART STREQUAL "self_test")
         "host|<kv_config_gui_mvc/config_gui.h>|no" "host|\"dialog/Companions.h\"|yes"
         "host|<QProcess>|no" "host|<src/dialog/Companions.h>|yes"
         "include|<stdint.h>|no" "include|<QString>|yes" "include|\"model/KeyTable.h\"|yes"
-        "examples|<kv_config_gui_mvc/config_gui.h>|no" "examples|<QString>|yes")
+        "examples|<kv_config_gui_mvc/config_gui.h>|no" "examples|<QString>|yes"
+        "examples/qt-host|<QString>|no")
     foreach(row IN LISTS rows)
         string(REPLACE "|" ";" row "${row}")
         list(GET row 0 folder)

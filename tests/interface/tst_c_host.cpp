@@ -1,44 +1,13 @@
 // The installed module, as other projects build on it: the C example, built as a project of its own
 // and used as its readers would, and a host that links the module.
 
+#include "InstalledTree.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QScopeGuard>
-#include <QTemporaryDir>
 #include <QTest>
-
-namespace
-{
-
-struct Result {
-    int exitCode;
-    QString output;
-    QString error;
-};
-
-Result run(const QString& program, const QStringList& arguments,
-           const QMap<QString, QString>& variables = {})
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (auto at = variables.begin(); at != variables.end(); ++at) {
-        environment.insert(at.key(), at.value());
-    }
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    if (!process.waitForFinished(100000)) {
-        process.kill();
-        process.waitForFinished();
-        return {-1, {}, QStringLiteral("did not end")};
-    }
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2,
-            QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-} // namespace
 
 class TestCHost : public QObject
 {
@@ -60,62 +29,24 @@ private Q_SLOTS:
     void exampleForX11IsBuilt();
 
 private:
-    /// Builds a project against the installed module, in a directory of the test's.
-    bool build(const char* project, const char* directory) const;
+    QString path(const char* name) const { return m_tree.path(name); }
     /// Runs the example while a script is played on its dialog.
-    Result play(const QStringList& arguments, const QByteArray& script) const;
-    QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
+    RunResult play(const QStringList& arguments, const QByteArray& script) const
+    {
+        return run(m_program, arguments, m_tree.playing(script));
+    }
 
-    QTemporaryDir m_directory;
+    InstalledTree m_tree;
     QString m_program;
     QString m_folder;
 };
 
 void TestCHost::initTestCase()
 {
-    const Result installed =
-        run(QStringLiteral(KV_CMAKE), {QStringLiteral("--install"), QStringLiteral(KV_BUILD),
-                                       QStringLiteral("--prefix"), path("installed")});
-    QVERIFY2(installed.exitCode == 0, qPrintable(installed.output + installed.error));
-    m_folder = path("installed/" KV_MODULEDIR);
-    QVERIFY(build(KV_EXAMPLES "/c-host", "build"));
+    QVERIFY(m_tree.install());
+    m_folder = m_tree.moduleFolder();
+    QVERIFY(m_tree.build(m_tree.example("c-host"), "build"));
     m_program = path("build/kv-c-host");
-}
-
-bool TestCHost::build(const char* project, const char* directory) const
-{
-    const QStringList configure = {QStringLiteral("-S"),
-                                   QLatin1String(project),
-                                   QStringLiteral("-B"),
-                                   path(directory),
-                                   QStringLiteral("-G"),
-                                   QStringLiteral(KV_GENERATOR),
-                                   QStringLiteral("-DCMAKE_C_COMPILER=" KV_C_COMPILER),
-                                   QStringLiteral("-DCMAKE_C_FLAGS=" KV_C_FLAGS),
-                                   QStringLiteral("-DCMAKE_PREFIX_PATH=") + path("installed")};
-    for (const QStringList& arguments :
-         {configure, QStringList{QStringLiteral("--build"), path(directory)}}) {
-        const Result result = run(QStringLiteral(KV_CMAKE), arguments);
-        if (result.exitCode != 0) {
-            qWarning("%s", qPrintable(result.output + result.error));
-            return false;
-        }
-    }
-    return true;
-}
-
-Result TestCHost::play(const QStringList& arguments, const QByteArray& script) const
-{
-    QFile file(path("script.txt"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) {
-        return {-1, {}, QStringLiteral("cannot write the script")};
-    }
-    file.close();
-    return run(m_program, arguments,
-               {{QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path()},
-                {QStringLiteral("QT_PLUGIN_PATH"), qEnvironmentVariable("KV_PLUGINS")},
-                {QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
-                 QLatin1String("kvautopilot:") + file.fileName()}});
 }
 
 void TestCHost::edits_data()
@@ -136,7 +67,7 @@ void TestCHost::edits()
     QFETCH(QByteArray, script);
     QFETCH(int, exitCode);
     QFETCH(QString, output);
-    const Result result = play({m_folder}, script);
+    const RunResult result = play({m_folder}, script);
     QCOMPARE(result.error, QString());
     QCOMPARE(result.exitCode, exitCode);
     QVERIFY2(result.output.startsWith(output), qPrintable(result.output));
@@ -146,10 +77,10 @@ void TestCHost::edits()
 
 void TestCHost::presetOfTheCommandLine()
 {
-    const Result none = play({m_folder, QStringLiteral("0")}, "click OK\n");
+    const RunResult none = play({m_folder, QStringLiteral("0")}, "click OK\n");
     QCOMPARE(none.exitCode, 0);
     QCOMPARE(none.output.count(QLatin1String("view ")), 1);
-    const Result disc = play({m_folder, QStringLiteral("3")}, "click OK\n");
+    const RunResult disc = play({m_folder, QStringLiteral("3")}, "click OK\n");
     QCOMPARE(disc.exitCode, 0);
     QVERIFY2(disc.output.contains(QLatin1String("view 1: 1920 x 1080")), qPrintable(disc.output));
 }
@@ -174,7 +105,7 @@ void TestCHost::errors()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, error);
-    const Result result = run(m_program, arguments);
+    const RunResult result = run(m_program, arguments);
     QCOMPARE(result.exitCode, 2);
     QVERIFY2(result.error.startsWith(error), qPrintable(result.error));
     QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
@@ -182,8 +113,8 @@ void TestCHost::errors()
 
 void TestCHost::hostThatLinksTheModule()
 {
-    QVERIFY(build(KV_LINKED_HOST_SOURCE, "linked"));
-    const Result result = run(path("linked/kv-linked-host"), {});
+    QVERIFY(m_tree.build(QStringLiteral(KV_LINKED_HOST_SOURCE), "linked"));
+    const RunResult result = run(path("linked/kv-linked-host"), {});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.output, QStringLiteral("1\n"));
     QCOMPARE(result.exitCode, 0);
@@ -194,7 +125,7 @@ void TestCHost::hostFoundByPkgConfigRunsWhereverTheTreeIs()
     const QString moved = path("moved tree");
     QVERIFY(QFile::rename(path("installed"), moved));
     const auto moveBack = qScopeGuard([&] { QVERIFY(QFile::rename(moved, path("installed"))); });
-    const Result built = run(
+    const RunResult built = run(
         QStringLiteral("sh"),
         {QStringLiteral("-c"),
          QStringLiteral("eval \"\"$1\" $2 \"$3\" -o \"$4\" $(pkg-config --cflags --libs "
@@ -203,14 +134,14 @@ void TestCHost::hostFoundByPkgConfigRunsWhereverTheTreeIs()
          QStringLiteral(KV_LINKED_HOST_SOURCE "/main.c"), path("by-pkg-config")},
         {{QStringLiteral("PKG_CONFIG_PATH"), moved + QStringLiteral("/" KV_LIBDIR "/pkgconfig")}});
     QVERIFY2(built.exitCode == 0, qPrintable(built.error));
-    const Result result = run(path("by-pkg-config"), {});
+    const RunResult result = run(path("by-pkg-config"), {});
     QCOMPARE(result.error, QString());
     QCOMPARE(result.output, QStringLiteral("1\n"));
 }
 
 void TestCHost::projectThatTakesTheSourcesHasTheSameTargets()
 {
-    const Result result =
+    const RunResult result =
         run(QStringLiteral(KV_CMAKE),
             {QStringLiteral("-S"), QStringLiteral(KV_LINKED_HOST_SOURCE), QStringLiteral("-B"),
              path("subdirectory"), QStringLiteral("-G"), QStringLiteral(KV_GENERATOR),
@@ -230,12 +161,12 @@ void TestCHost::installedProgramFindsItsLibraries()
     const QMap<QString, QString> german = {
         {QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8")},
         {QStringLiteral("LANGUAGE"), QString()},
-        {QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path()}};
-    const Result check =
+        {QStringLiteral("XDG_RUNTIME_DIR"), path("")}};
+    const RunResult check =
         run(program, {QStringLiteral("check"), QStringLiteral("--notes"), file}, german);
     QCOMPARE(check.error, QString());
     QVERIFY2(check.output.contains(QStringLiteral("Ansichten")), qPrintable(check.output));
-    const Result doctor = run(program, {QStringLiteral("doctor")}, german);
+    const RunResult doctor = run(program, {QStringLiteral("doctor")}, german);
     QVERIFY2(doctor.exitCode == 0, qPrintable(doctor.output + doctor.error));
     QVERIFY2(doctor.output.contains(QStringLiteral("gui_mvc_de.qm: from ") +
                                     QFileInfo(m_folder).canonicalFilePath()),
@@ -264,8 +195,8 @@ void TestCHost::whatPeopleReadIsInstalled()
 
 void TestCHost::exampleForX11IsBuilt()
 {
-    QVERIFY(build(KV_EXAMPLES "/xcb-host", "xcb"));
-    const Result result = run(path("xcb/xcb-host"), {});
+    QVERIFY(m_tree.build(m_tree.example("xcb-host"), "xcb"));
+    const RunResult result = run(path("xcb/xcb-host"), {});
     QCOMPARE(result.exitCode, 2);
     QVERIFY2(result.error.startsWith(QLatin1String("usage: ")), qPrintable(result.error));
 }
