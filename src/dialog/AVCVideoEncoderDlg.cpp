@@ -3,6 +3,7 @@
 #include "Companions.h"
 #include "FocusMark.h"
 #include "ForeignText.h"
+#include "FrameEdges.h"
 #include "LogGround.h"
 #include "LogMenu.h"
 #include "MessageLog.h"
@@ -85,6 +86,11 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
         PaletteIcon::set(row.button,
                          QStringLiteral(":/res_mvc/icons/%1.png").arg(QLatin1String(row.icon)));
     }
+    // Before what is drawn over them.
+    for (QWidget* framed : std::initializer_list<QWidget*>{
+             ui.presetFrame, ui.infoFrame, ui.errorLog, ui.tabWidget, ui.buttonFrame}) {
+        new FrameEdges(framed);
+    }
     new FocusMark(ui.buttonOk);
     new FocusMark(ui.errorLog);
     new LogGround(ui.errorLog);
@@ -154,7 +160,8 @@ void AVCVideoEncoderDlg::buildPresetRow()
     // A turn of the wheel in passing would replace every setting.
     WheelGuard::protect(ui.presetList);
     text_fit::shrink(ui.presetList);
-    text_fit::shrink(ui.presetLabel);
+    constexpr int besideListAndButtons = 110;
+    text_fit::shrink(ui.presetLabel, besideListAndButtons);
     ControlLabel::attachBuddies(ui.presetList);
 }
 

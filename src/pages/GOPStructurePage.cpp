@@ -1,6 +1,7 @@
 #include "GOPStructurePage.h"
 
 #include "ControlLabel.h"
+#include "TextFit.h"
 #include "model/KeyNames.h"
 
 GOPStructurePage::GOPStructurePage(QWidget* parent) : SettingsPage(parent)
@@ -18,4 +19,7 @@ GOPStructurePage::GOPStructurePage(QWidget* parent) : SettingsPage(parent)
     bind(ui.bAsReferenceCheck, keys::referenceB, &Page::slotChangeReferenceB);
     // The end of its sentence.
     ControlLabel::attach(ui.label_2, ui.idrSpin);
+    constexpr int narrowest = 70;
+    text_fit::shrink(ui.label, narrowest);
+    text_fit::shrink(ui.label_2, narrowest);
 }

@@ -145,6 +145,7 @@ void SettingsPage::setComboFromState(QComboBox* box, const ConfigState& state)
         box->setCurrentIndex(
             box->findText(value.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
     });
+    text_fit::refit(box);
 }
 
 void SettingsPage::setSpinFromState(QSpinBox* box, const ConfigState& state)

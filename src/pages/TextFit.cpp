@@ -49,22 +49,6 @@ int roomForText(const QAbstractButton* button)
     return button->style()->subElementRect(contents, &option, button).width();
 }
 
-QStringList linesOf(const QString& text, const QFont& font, int width)
-{
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines += text.mid(line.textStart(), line.textLength()).trimmed();
-    }
-    layout.endLayout();
-    return lines;
-}
-
 class Wrapping : public QObject
 {
 public:
@@ -101,7 +85,7 @@ public:
 private:
     void breakLines()
     {
-        m_lines = linesOf(m_button->text(), m_button->font(), roomForText(m_button));
+        m_lines = text_fit::lines(m_button->text(), m_button->font(), roomForText(m_button));
         const int further = int(m_lines.size()) - 1;
         m_button->setMinimumHeight(further > 0 ? m_button->sizeHint().height() +
                                                      further * m_button->fontMetrics().lineSpacing()
@@ -147,6 +131,8 @@ public:
         return QObject::eventFilter(watched, event);
     }
 
+    void fit();
+
 protected:
     virtual bool hasRoomIn(const QFont& font) const = 0;
 
@@ -164,41 +150,41 @@ private:
         QMetaObject::invokeMethod(this, go, Qt::QueuedConnection);
     }
 
-    void fit()
-    {
-        if (m_isFitting || !m_widget->isVisible()) {
-            return;
-        }
-        const QScopedValueRollback<bool> fitting(m_isFitting, true);
-        QFont font = m_widget->font();
-        // A font may be given in pixels.
-        const double usual = QFontInfo(m_widget->parentWidget()->font()).pointSizeF();
-        font.setPointSizeF(usual);
-        while (font.pointSizeF() > smallestFont && !hasRoomIn(font)) {
-            font.setPointSizeF(font.pointSizeF() - fontStep);
-        }
-        // Once for each size: a host's style sheet may have the last word.
-        if (font.pointSizeF() == m_asked || (m_asked == 0 && font.pointSizeF() == usual)) {
-            return;
-        }
-        m_asked = font.pointSizeF();
-        // Smaller letters shall not take room away, too; a bar of tabs takes what it needs.
-        if (!qobject_cast<QTabBar*>(m_widget)) {
-            m_widget->setMinimumWidth(std::max(m_widget->minimumWidth(), m_widget->width()));
-        }
-        m_widget->setFont(font);
-        // Under a style sheet it is not handed on by itself.
-        if (auto* const text = m_widget->findChild<QLineEdit*>()) {
-            text->setFont(font);
-        }
-    }
-
     QWidget* const m_widget;
     bool m_isFitting = false;
     bool m_isQueued = false;
     /// The size that the widget was given, in points; 0 while it has the usual one.
     double m_asked = 0;
 };
+
+void Shrinking::fit()
+{
+    if (m_isFitting || !m_widget->isVisible()) {
+        return;
+    }
+    const QScopedValueRollback<bool> fitting(m_isFitting, true);
+    QFont font = m_widget->font();
+    // A font may be given in pixels.
+    const double usual = QFontInfo(m_widget->parentWidget()->font()).pointSizeF();
+    font.setPointSizeF(usual);
+    while (font.pointSizeF() > smallestFont && !hasRoomIn(font)) {
+        font.setPointSizeF(font.pointSizeF() - fontStep);
+    }
+    // Once for each size: a host's style sheet may have the last word.
+    if (font.pointSizeF() == m_asked || (m_asked == 0 && font.pointSizeF() == usual)) {
+        return;
+    }
+    m_asked = font.pointSizeF();
+    // Smaller letters shall not take room away, too; a bar of tabs takes what it needs.
+    if (!qobject_cast<QTabBar*>(m_widget)) {
+        m_widget->setMinimumWidth(std::max(m_widget->minimumWidth(), m_widget->width()));
+    }
+    m_widget->setFont(font);
+    // Under a style sheet it is not handed on by itself.
+    if (auto* const text = m_widget->findChild<QLineEdit*>()) {
+        text->setFont(font);
+    }
+}
 
 class ShrinkingField : public Shrinking
 {
@@ -236,7 +222,10 @@ private:
 class ShrinkingList : public Shrinking
 {
 public:
-    explicit ShrinkingList(QComboBox* list) : Shrinking(list), m_list(list) {}
+    explicit ShrinkingList(QComboBox* list) : Shrinking(list), m_list(list)
+    {
+        connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { fit(); });
+    }
 
 protected:
     bool hasRoomIn(const QFont& font) const override
@@ -249,11 +238,9 @@ protected:
         const QRect room = m_list->style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                            QStyle::SC_ComboBoxEditField, m_list);
         const QFontMetrics metrics(font);
-        bool fits = metrics.height() <= room.height();
-        for (int i = 0; i < m_list->count(); ++i) {
-            fits = fits && metrics.horizontalAdvance(m_list->itemText(i)) <= room.width() - margins;
-        }
-        return fits;
+        // The chosen item alone: a long one shall not make the others small.
+        return metrics.height() <= room.height() &&
+               metrics.horizontalAdvance(m_list->currentText()) <= room.width() - margins;
     }
 
 private:
@@ -292,18 +279,25 @@ private:
 class ShrinkingLabel : public Shrinking
 {
 public:
-    explicit ShrinkingLabel(QLabel* label) : Shrinking(label), m_label(label)
+    ShrinkingLabel(QLabel* label, int narrowest) : Shrinking(label), m_label(label)
     {
-        // As much as is left beside a list and buttons: what expands gives way before the text.
-        constexpr int room = 110;
-        label->setMinimumWidth(std::min(label->sizeHint().width(), room));
+        // What expands gives way before the text.
+        label->setMinimumWidth(
+            std::min({label->sizeHint().width(), narrowest, label->maximumWidth()}));
     }
 
 protected:
     bool hasRoomIn(const QFont& font) const override
     {
-        return QFontMetrics(font).horizontalAdvance(m_label->text()) <=
-               m_label->contentsRect().width();
+        const QRect room = m_label->contentsRect();
+        const QFontMetrics metrics(font);
+        if (!m_label->wordWrap()) {
+            return metrics.horizontalAdvance(m_label->text()) <= room.width();
+        }
+        // Its longest word.
+        const QRect lines(0, 0, room.width(), QWIDGETSIZE_MAX);
+        return metrics.boundingRect(lines, Qt::TextWordWrap, m_label->text()).width() <=
+               room.width();
     }
 
 private:
@@ -311,6 +305,22 @@ private:
 };
 
 } // namespace
+
+QStringList text_fit::lines(const QString& text, const QFont& font, int width)
+{
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines += text.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines;
+}
 
 void text_fit::wrap(QAbstractButton* button)
 {
@@ -327,12 +337,22 @@ void text_fit::shrink(QComboBox* list)
     new ShrinkingList(list);
 }
 
+void text_fit::refit(QComboBox* list)
+{
+    const QObjectList children = list->children();
+    for (QObject* child : children) {
+        if (auto* const shrinking = dynamic_cast<ShrinkingList*>(child)) {
+            shrinking->fit();
+        }
+    }
+}
+
 void text_fit::shrink(QTabBar* bar)
 {
     new ShrinkingTabs(bar);
 }
 
-void text_fit::shrink(QLabel* label)
+void text_fit::shrink(QLabel* label, int narrowest)
 {
-    new ShrinkingLabel(label);
+    new ShrinkingLabel(label, narrowest);
 }

@@ -113,6 +113,9 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     policy.setHeightForWidth(m_scrollArea->sizePolicy().hasHeightForWidth());
     m_scrollArea->setSizePolicy(policy);
     m_scrollArea->setWidgetResizable(true);
+    // On a low screen it gives way, not what stands above it, which does not scroll.
+    constexpr int lowest = 40;
+    m_scrollArea->setMinimumHeight(lowest);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     // Focused controls are scrolled into view anyway; a stop of its own would be invisible.
     m_scrollArea->setFocusPolicy(Qt::NoFocus);

@@ -1,5 +1,6 @@
 #include "VideoFormatPage.h"
 
+#include "TextFit.h"
 #include "model/KeyNames.h"
 
 namespace
@@ -20,6 +21,11 @@ VideoFormatPage::VideoFormatPage(QWidget* parent)
 {
     using Page = VideoFormatPage;
     ui.setupUi(this);
+    constexpr int besideTwoFields = 150;
+    const auto labels = findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        text_fit::shrink(label, besideTwoFields);
+    }
     bind(ui.widthSpin, keys::horizontalSize, &Page::slotChangeWidth);
     bind(ui.heightSpin, keys::verticalSize, &Page::slotChangeHeight);
     bind(ui.aspectRatioList, keys::pictureAspectRatio, &Page::slotChangeAspectRatio);

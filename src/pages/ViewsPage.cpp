@@ -1,5 +1,6 @@
 #include "ViewsPage.h"
 
+#include "TextFit.h"
 #include "View0Page.h"
 #include "View1Page.h"
 #include "View2Page.h"
@@ -11,6 +12,8 @@
 ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
 {
     ui.setupUi(this);
+    constexpr int besideTheNumber = 260;
+    text_fit::shrink(ui.profileLabel, besideTheNumber);
     bind(ui.numViewsSpin, keys::numberOfViews, &ViewsPage::slotChangeNumLayers);
     bind(ui.splitCheck, keys::split, &ViewsPage::slotChangeSplit);
 

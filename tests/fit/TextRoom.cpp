@@ -99,7 +99,13 @@ void measureGroup(const QGroupBox* group, Measure& measure)
     option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
     const QRect room = group->style()->subControlRect(QStyle::CC_GroupBox, &option,
                                                       QStyle::SC_GroupBoxLabel, group);
-    measure.need(group, group->title(), room.intersected(group->rect()).size());
+    // Some styles measure the letters themselves, which may be smaller than the font says.
+    const QFontMetrics metrics = group->fontMetrics();
+    const QString title = drawn(group->title());
+    const int width =
+        qMin(metrics.horizontalAdvance(title), metrics.boundingRect(title).right() + 1);
+    measure.compare(group, title, room.intersected(group->rect()).size(),
+                    {width, metrics.tightBoundingRect(title).height()});
 }
 
 QStyleOptionTab::TabPosition positionOf(int tab, int tabs)
@@ -142,9 +148,7 @@ void measureList(const QComboBox* list, Measure& measure)
     const QRect room = list->style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                      QStyle::SC_ComboBoxEditField, list);
     // Styles draw the text a pixel off either edge.
-    for (int i = 0; i < list->count(); ++i) {
-        measure.need(list, list->itemText(i), room.size() - QSize(2, 0));
-    }
+    measure.need(list, list->currentText(), room.size() - QSize(2, 0));
 }
 
 void measureField(const QSpinBox* field, Measure& measure)

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void narrowLabelIsFound();
     void textsFit_data() { rows(); }
     void textsFit();
+    void everyItemFitsItsList_data() { rows(); }
+    void everyItemFitsItsList();
     void openListsFit_data() { rows(); }
     void openListsFit();
 
@@ -106,6 +108,35 @@ void TestFit::textsFit()
 
     faults.removeDuplicates();
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void TestFit::everyItemFitsItsList()
+{
+    QFETCH(QString, language);
+    QFETCH(int, skinKey);
+    const Language installed(language);
+    QVERIFY(installed.isReady());
+    OpenDialog dialog;
+    QTest::keyClick(dialog.get(), Qt::Key(skinKey));
+    QStringList faults;
+    int items = 0;
+    for (int tab = 0; tab < dialog.tabs()->count(); ++tab) {
+        dialog.tabs()->setCurrentIndex(tab);
+        QCoreApplication::processEvents();
+        for (QComboBox* list : dialog->findChildren<QComboBox*>()) {
+            for (int i = 0; list->isVisible() && i < list->count(); ++i, ++items) {
+                list->setCurrentIndex(i);
+                faults += cutTexts(list->parentWidget());
+            }
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+    QVERIFY2(items >= 90, qPrintable(QString::number(items)));
+    // A short one is as large as other texts.
+    auto* const modes = on<QComboBox>(dialog, "View0Page", "bitrateModeList");
+    modes->setCurrentIndex(3);
+    modes->setCurrentIndex(0);
+    QCOMPARE(modes->font().pointSizeF(), modes->parentWidget()->font().pointSizeF());
 }
 
 void TestFit::openListsFit()
