@@ -10,6 +10,7 @@
 #include "PaletteCare.h"
 #include "SettingHelp.h"
 #include "Shortcuts.h"
+#include "TipWrap.h"
 #include "model/FurtherViews.h"
 #include "model/KeyNames.h"
 #include "model/SettingsToState.h"
@@ -122,6 +123,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
         messageLog().dropDistinctColours();
     }
     new PaletteCare(this);
+    new TipWrap(this);
     limitHeight();
     settingsToState();
     showTabInFrontWhole();

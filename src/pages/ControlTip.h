@@ -20,7 +20,7 @@ public:
     /// The control's one, made when it is first asked for.
     static ControlTip* of(QWidget* control);
 
-    /// Each line is a sentence; what is too long for a line goes on in the next.
+    /// Each line is a sentence, however long; who shows it breaks it.
     void setLines(Part part, const QStringList& lines);
     /// Rich text that is shown below them, in the tip alone; empty: none.
     void setPicture(const QString& html);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+/// Shows tips on lines of a readable length: the toolkit shows a plain text on one, however long.
+class TipWrap : public QObject
+{
+public:
+    /// Owned by the window, which has all its widgets.
+    explicit TipWrap(QWidget* window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
