@@ -1,11 +1,11 @@
 #include "file_store.h"
+#include "temporary_file.h"
 
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <optional>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -40,27 +40,6 @@ private:
     int m_number;
 };
 
-/// Removes the temporary file unless it has become the file.
-class TemporaryName
-{
-public:
-    explicit TemporaryName(std::string name) : m_name(std::move(name)) {}
-    ~TemporaryName()
-    {
-        if (!m_name.empty()) {
-            ::unlink(m_name.c_str());
-        }
-    }
-    TemporaryName(const TemporaryName&) = delete;
-    TemporaryName& operator=(const TemporaryName&) = delete;
-
-    const char* get() const { return m_name.c_str(); }
-    void release() { m_name.clear(); }
-
-private:
-    std::string m_name;
-};
-
 std::string systemReason(int error = errno)
 {
     return std::generic_category().message(error);
@@ -81,39 +60,39 @@ bool writeAll(int descriptor, std::string_view content)
     return true;
 }
 
+/// In a folder where everybody may leave files, somebody may leave a link to those of others.
+bool isForeignLink(const std::filesystem::path& link)
+{
+    constexpr mode_t everybodys = S_ISVTX | S_IWOTH;
+    const std::filesystem::path folder = link.has_parent_path() ? link.parent_path() : ".";
+    struct stat ofLink = {};
+    struct stat ofFolder = {};
+    return ::lstat(link.c_str(), &ofLink) == 0 && ::stat(folder.c_str(), &ofFolder) == 0 &&
+           (ofFolder.st_mode & everybodys) == everybodys && ofLink.st_uid != ::geteuid() &&
+           ofLink.st_uid != ofFolder.st_uid;
+}
+
 /// Follows symbolic links by name, since what they lead to may not exist yet.
-std::filesystem::path linkTarget(std::filesystem::path file, std::error_code& error)
+/// @param file Becomes what the chain of links leads to.
+/// @return Why it must not be followed; empty for success.
+std::string followLinks(std::filesystem::path& file)
 {
     constexpr int longestChain = 40; // as the system's own limit
     for (int links = 0; links < longestChain; ++links) {
-        std::error_code none;
-        if (!std::filesystem::is_symlink(std::filesystem::symlink_status(file, none))) {
-            return file;
+        std::error_code error;
+        if (!std::filesystem::is_symlink(std::filesystem::symlink_status(file, error))) {
+            return {};
+        }
+        if (isForeignLink(file)) {
+            return "the link belongs to another user";
         }
         const std::filesystem::path target = std::filesystem::read_symlink(file, error);
         if (error) {
-            return {};
+            return error.message();
         }
         file = file.parent_path() / target;
     }
-    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-    return {};
-}
-
-/// Creates a file of a name of its own; the umask and the folder's default rules apply.
-int createBeside(const std::filesystem::path& file, std::string& name)
-{
-    constexpr int attempts = 100;
-    std::random_device random;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const std::string own = ".settings-" + std::to_string(random()) + ".tmp";
-        name = (file.parent_path() / own).string();
-        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0 || errno != EEXIST) {
-            return descriptor;
-        }
-    }
-    return -1;
+    return systemReason(ELOOP);
 }
 
 #if defined(__linux__)
@@ -165,24 +144,19 @@ std::string replaceRegular(const std::filesystem::path& file,
     if (former && ::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
         return systemReason();
     }
-    std::string name;
-    Descriptor descriptor(createBeside(file, name));
-    if (!descriptor.isOpen()) {
+    TemporaryFile temporary(file);
+    if (!temporary.isOpen()) {
         return "no file can be made in its folder: " + systemReason();
     }
-    TemporaryName temporary(name);
-    if (former && !keepAccess(*former, file.c_str(), descriptor.number())) {
+    const int descriptor = temporary.descriptor();
+    if (former && !keepAccess(*former, file.c_str(), descriptor)) {
         return systemReason();
     }
-    if (!writeAll(descriptor.number(), content) || ::fsync(descriptor.number()) != 0 ||
-        !descriptor.close()) {
+    if (!writeAll(descriptor, content) || ::fsync(descriptor) != 0 || !temporary.replace(file)) {
         return systemReason();
     }
-    if (::rename(temporary.get(), file.c_str()) != 0) {
-        return systemReason();
-    }
-    temporary.release();
     flushFolder(file);
+    removeAbandoned(file);
     return {};
 }
 
@@ -243,6 +217,11 @@ bool isFolder(const std::filesystem::path& file)
 
 std::string readFile(const std::filesystem::path& file, std::size_t largest, std::string& content)
 {
+    // Not opened by what that finds: some names are links by magic, as those below /proc.
+    std::filesystem::path target = file;
+    if (std::string reason = followLinks(target); !reason.empty()) {
+        return reason;
+    }
     const Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};
     if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) {
@@ -273,6 +252,10 @@ std::string readFile(const std::filesystem::path& file, std::size_t largest, std
 
 std::string replaceFile(const std::filesystem::path& file, std::string_view content)
 {
+    std::filesystem::path target = file;
+    if (std::string reason = followLinks(target); !reason.empty()) {
+        return reason;
+    }
     struct stat former = {};
     const bool exists = ::stat(file.c_str(), &former) == 0;
     if (!exists && errno != ENOENT) {
@@ -283,11 +266,6 @@ std::string replaceFile(const std::filesystem::path& file, std::string_view cont
     }
     if (exists && !S_ISREG(former.st_mode)) {
         return writeStream(file, content);
-    }
-    std::error_code error;
-    const std::filesystem::path target = linkTarget(file, error);
-    if (error) {
-        return error.message();
     }
     return replaceRegular(target, exists ? std::optional(former) : std::nullopt, content);
 }

@@ -1,5 +1,6 @@
 #include "file_store.h"
 #include "system_windows.h"
+#include "temporary_file.h"
 
 #include <algorithm>
 #include <array>
@@ -105,14 +106,48 @@ std::wstring linkTarget(const std::wstring& link)
     return name;
 }
 
+std::wstring folderOf(const std::wstring& file)
+{
+    return file.substr(0, file.find_last_of(L'\\') + 1);
+}
+
+/// What the temporary files of a file are called, with the folder, up to their number.
+std::wstring temporaryStart(const std::wstring& file)
+{
+    const std::string beginning = temporaryBeginning(file);
+    return folderOf(file).append(beginning.begin(), beginning.end());
+}
+
+std::wstring temporarySuffix()
+{
+    return {std::begin(temporaryEnd), std::end(temporaryEnd) - 1};
+}
+
+/// Removes what killed saves of the file have left beside it; what another save is writing cannot
+/// be removed.
+void removeAbandoned(const std::wstring& file)
+{
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search =
+        FindFirstFileW((temporaryStart(file) + L'*' + temporarySuffix()).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return;
+    }
+    do {
+        if (!hasAttributes(found.dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY)) {
+            DeleteFileW((folderOf(file) + found.cFileName).c_str());
+        }
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+}
+
 /// Creates a file of a name of its own.
 HANDLE createBeside(const std::wstring& file, DWORD attributes, std::wstring& name)
 {
     constexpr int attempts = 100;
     std::random_device random;
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        name = file.substr(0, file.find_last_of(L'\\') + 1);
-        name.append(L".settings-").append(std::to_wstring(random())).append(L".tmp");
+        name = temporaryStart(file) + std::to_wstring(random()) + temporarySuffix();
         const HANDLE handle =
             CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr);
         if (handle != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS) {
@@ -200,6 +235,7 @@ std::string replaceRegular(const std::wstring& file, DWORD former, std::string_v
         former != 0 ? replace(temporary.get(), file.c_str()) : move(temporary.get(), file.c_str());
     if (error == ERROR_SUCCESS) {
         temporary.release();
+        removeAbandoned(file);
         return {};
     }
     if (former == 0 || GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES) {

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void deviceNamesWithASuffixAreNoBlackHole_data();
     void deviceNamesWithASuffixAreNoBlackHole();
     void aPipeIsRefusedWithoutWaiting();
+    void whatAKilledSaveLeftIsRemoved();
     void longNames();
     void formsOfNames_data();
     void formsOfNames();
@@ -368,6 +369,29 @@ void TestSettingsFileWindows::namesThatNoFileCanHave()
     QVERIFY(m_library->write(settings, path(name)) != 0);
     QCOMPARE(m_library->messages, message);
     QCOMPARE(names(), QStringList());
+}
+
+void TestSettingsFileWindows::whatAKilledSaveLeftIsRemoved()
+{
+    const QByteArray left = path(".settings-65abe8b5491700c0-17.tmp"); // of a.ini
+    const QByteArray written = path(".settings-65abe8b5491700c0-18.tmp");
+    const QByteArray others = path(".settings-0123456789abcdef-17.tmp");
+    for (const QByteArray& name : {left, written, others}) {
+        put(name, "half of it");
+    }
+    const QString inUse = QString::fromUtf8(written);
+    const HANDLE writer =
+        CreateFileW(QDir::toNativeSeparators(inUse).toStdWString().c_str(), GENERIC_WRITE, 0,
+                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    QVERIFY(writer != INVALID_HANDLE_VALUE);
+    QCOMPARE(m_library->write(recordOfViews(2), path("a.ini")), 0);
+    CloseHandle(writer);
+    QCOMPARE(names(), QStringList({QStringLiteral(".settings-0123456789abcdef-17.tmp"),
+                                   QStringLiteral(".settings-65abe8b5491700c0-18.tmp"),
+                                   QStringLiteral("a.ini")}));
+    QCOMPARE(m_library->write(recordOfViews(2), path("a.ini")), 0);
+    QCOMPARE(names(), QStringList({QStringLiteral(".settings-0123456789abcdef-17.tmp"),
+                                   QStringLiteral("a.ini")}));
 }
 
 void TestSettingsFileWindows::namesThatAreNoTextAreRefused()
