@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "MessageJson.h"
 #include "MessageTexts.h"
+#include "Printable.h"
 #include "SettingsFiles.h"
 #include "SettingsJson.h"
 #include "SettingsTable.h"
@@ -50,9 +51,10 @@ QString resultText(const CheckResult& result, const QString& beginning, bool not
         for (const CheckMessage& message : result.messages) {
             if (message.kind == kind) {
                 // A message is a line, whatever the encoder wrote.
-                text += beginning + kindName(kind) + QStringLiteral(": ") +
-                        QString(message.text).replace(QLatin1Char('\n'), QLatin1Char(' ')) +
-                        QLatin1Char('\n');
+                text +=
+                    beginning + kindName(kind) + QStringLiteral(": ") +
+                    printable(QString(message.text).replace(QLatin1Char('\n'), QLatin1Char(' '))) +
+                    QLatin1Char('\n');
             }
         }
     }
@@ -106,7 +108,8 @@ QByteArray resultsText(const std::vector<Checked>& all, bool notesToo)
 {
     QString text;
     for (const Checked& checked : all) {
-        const QString beginning = all.size() == 1 ? QString() : checked.file + QStringLiteral(": ");
+        const QString beginning =
+            all.size() == 1 ? QString() : printable(checked.file) + QStringLiteral(": ");
         text += resultText(checked.result, beginning, notesToo);
     }
     return text.toUtf8();

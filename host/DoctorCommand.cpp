@@ -3,6 +3,7 @@
 #include "FatalMessages.h"
 #include "Library.h"
 #include "ModuleTrace.h"
+#include "Printable.h"
 #include "TextOutput.h"
 
 #include <QCoreApplication>
@@ -44,7 +45,8 @@ void closeDialogs()
 QString environmentLine(const char* name)
 {
     return qEnvironmentVariableIsSet(name)
-               ? QStringLiteral("%1=%2\n").arg(QLatin1String(name), qEnvironmentVariable(name))
+               ? QStringLiteral("%1=%2\n").arg(QLatin1String(name),
+                                               printable(qEnvironmentVariable(name)))
                : QString();
 }
 
@@ -93,7 +95,7 @@ Outcome runDoctor(const Invocation& call)
             QStringLiteral("cannot write '%1': the name of a report ends in .txt").arg(output));
     }
     QString text = QStringLiteral("kv-mvc-settings " KV_MVC_VERSION ", libraries in %1\n")
-                       .arg(call.directory) +
+                       .arg(printable(call.directory)) +
                    QStringLiteral("language of the user: %1\n").arg(QLocale::system().name()) +
                    environmentText() + QLatin1Char('\n');
     const ModuleTrace trace;
@@ -104,7 +106,7 @@ Outcome runDoctor(const Invocation& call)
         reason = failure.lines().join(QLatin1Char('\n'));
     }
     for (const QString& line : ModuleTrace::lines()) {
-        text += line + QLatin1Char('\n');
+        text += printable(line) + QLatin1Char('\n');
     }
     text += QLatin1Char('\n') +
             (reason.isEmpty() ? QStringLiteral("The dialog opens.\n")

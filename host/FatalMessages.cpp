@@ -1,6 +1,7 @@
 #include "FatalMessages.h"
 
 #include "CommandLine.h"
+#include "Printable.h"
 #include "TextOutput.h"
 
 #include <QByteArray>
@@ -25,7 +26,7 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
         const QString reason = platformMessages.isEmpty() ? text : platformMessages.first();
         writeText(stderr, QStringLiteral("%1: cannot open a window: %2\n")
                               .arg(QLatin1String(programName),
-                                   reason.section(QLatin1Char('\n'), 0, 0).trimmed())
+                                   printable(reason.section(QLatin1Char('\n'), 0, 0).trimmed()))
                               .toUtf8());
         std::_Exit(ExitTrouble);
     }

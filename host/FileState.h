@@ -19,5 +19,9 @@ struct FileState {
 
 FileState fileState(const QString& path);
 
+/// Whether writing to the name would follow a link that another user has left in a folder where
+/// everybody may leave files.
+bool leadsThroughForeignLink(const QString& path);
+
 /// Whether a file or a link, leading anywhere or not, has this name.
 bool isNameTaken(const QString& path);

@@ -14,6 +14,11 @@ FileState fileState(const QString& path)
     return {kind, file.isReadable(), file.isWritable()};
 }
 
+bool leadsThroughForeignLink(const QString&)
+{
+    return false; // there is no such folder
+}
+
 bool isNameTaken(const QString& path)
 {
     const QFileInfo file(path);

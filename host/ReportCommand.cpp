@@ -4,6 +4,7 @@
 #include "Encoder.h"
 #include "MessageJson.h"
 #include "MessageTexts.h"
+#include "Printable.h"
 #include "SettingsFiles.h"
 #include "SettingsJson.h"
 #include "SettingsTable.h"
@@ -77,8 +78,9 @@ Report makeReport(const Encoder& encoder, const KvMvcSettings& settings)
 
 QString nameOf(const LimitUse& use)
 {
-    return use.view < 0 ? use.name
-                        : use.name + QStringLiteral(", ") + QString(viewName(use.view)).toLower();
+    const QString name = printable(use.name);
+    return use.view < 0 ? name
+                        : name + QStringLiteral(", ") + QString(viewName(use.view)).toLower();
 }
 
 /// Bits are many: millions of them, with as many decimals as it takes.
@@ -128,7 +130,7 @@ QString reasonsText(const LevelReport& level)
             std::any_of(level.exceeded.begin(), level.exceeded.end(),
                         [&](const LimitUse& use) { return use.rule == objection.rule; });
         if (!counted) {
-            reasons << objection.text;
+            reasons << printable(objection.text);
         }
     }
     return reasons.join(QStringLiteral("; "));
@@ -167,7 +169,7 @@ QString limitsText(const CheckResult& result)
         text += QStringLiteral("  %1  %2  %3 of %4 %5%6\n")
                     .arg(nameOf(use).leftJustified(width), bar(use),
                          amountText(use.used, inMillions), amountText(use.limit, inMillions),
-                         inMillions ? QStringLiteral("M") : QString(), use.unit);
+                         inMillions ? QStringLiteral("M") : QString(), printable(use.unit));
     }
     return text;
 }
@@ -178,7 +180,7 @@ QString reportText(const Report& report)
     if (report.asSet.uses.empty()) {
         return text;
     }
-    text += QStringLiteral("\nLevel %1").arg(report.asSet.level());
+    text += QStringLiteral("\nLevel %1").arg(printable(report.asSet.level()));
     text += report.isAuto ? QStringLiteral(", which Auto comes to\n") : QStringLiteral("\n");
     return text + limitsText(report.asSet);
 }

@@ -5,6 +5,7 @@
 #include "FileNames.h"
 #include "FileState.h"
 #include "PassedText.h"
+#include "Printable.h"
 #include "StandardErrorCapture.h"
 #include "TextInput.h"
 #include "TextOutput.h"
@@ -46,14 +47,15 @@ struct Subject {
     QString shown;
 };
 
-/// What the library said, with the name that the user knows.
+/// What the library said, with the name that the user knows. It escapes names as printable() does.
 QStringList linesAbout(const Subject& subject, const QByteArray& said)
 {
+    const QString name = printable(subject.name);
     QStringList lines = QString::fromUtf8(said).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (QString& line : lines) {
-        line = line.trimmed();
-        if (line.startsWith(subject.name + QLatin1Char(':'))) {
-            line = subject.shown + line.mid(subject.name.size());
+        line = printable(line.trimmed());
+        if (line.startsWith(name + QLatin1Char(':'))) {
+            line = printable(subject.shown) + line.mid(name.size());
         }
     }
     return lines;
@@ -78,7 +80,7 @@ void callLibrary(const Subject& subject, const QString& failed, const Call& call
         throw Failure(failed);
     }
     for (QString& line : lines) {
-        if (!tellsPlace(line, subject.shown)) {
+        if (!tellsPlace(line, printable(subject.shown))) {
             line = QStringLiteral("%1: %2").arg(QLatin1String(programName), line);
         }
     }

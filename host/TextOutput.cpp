@@ -56,6 +56,10 @@ bool writeText(std::FILE* stream, const QByteArray& text)
 
 void writeTextFile(const QString& path, const QByteArray& text)
 {
+    if (leadsThroughForeignLink(path)) {
+        throw Failure(
+            QStringLiteral("cannot write '%1': the link belongs to another user").arg(path));
+    }
     QSaveFile file(path);
     // A pipe or a device is no file that another could replace.
     file.setDirectWriteFallback(fileState(path).kind == FileState::Stream);

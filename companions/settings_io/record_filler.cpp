@@ -37,7 +37,7 @@ std::string quoted(std::string_view text)
         if (!point) {
             break;
         }
-        result.append(isControl(*point) ? "?" : text.substr(begin, end - begin));
+        result.append(printable(text.substr(begin, end - begin)));
     }
     return result.append(end < text.size() ? "...'" : "'");
 }

@@ -4,11 +4,13 @@
 #include "media_import.h"
 #include "setting_assignment.h"
 #include "settings_text.h"
+#include "utf8.h"
 
 #include <kv_config_gui_mvc/companions.h>
 
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <vector>
 
 namespace
@@ -20,7 +22,7 @@ constexpr std::size_t largestFile = 1024 * 1024; // twenty times what the writer
 
 void report(const std::string& where, const std::string& what)
 {
-    std::fprintf(stderr, "%s: %s\n", where.c_str(), what.c_str());
+    std::fprintf(stderr, "%s: %s\n", kv::printable(where).c_str(), kv::printable(what).c_str());
 }
 
 int32_t fail(const std::string& file, const std::string& reason)
@@ -91,10 +93,12 @@ int32_t guarded(const char* subject, Work work) noexcept
 {
     try {
         return work();
+    } catch (const std::bad_alloc&) {
+        std::fputs("out of memory\n", stderr);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", subject, error.what());
+        report(subject, error.what());
     } catch (...) {
-        std::fprintf(stderr, "%s: failed\n", subject);
+        report(subject, "failed");
     }
     return Failed;
 }
@@ -123,7 +127,7 @@ int32_t setSetting(KvMvcSettings* settings, const char* assignment)
     return guarded(assignment, [&] {
         const std::string reason = kv::assignSetting(assignment, *settings);
         if (!reason.empty()) {
-            std::fprintf(stderr, "%s\n", reason.c_str());
+            std::fprintf(stderr, "%s\n", kv::printable(reason).c_str());
         }
         return reason.empty() ? Succeeded : Failed;
     });

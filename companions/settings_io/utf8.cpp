@@ -1,5 +1,7 @@
 #include "utf8.h"
 
+#include "hex_bytes.h"
+
 namespace kv
 {
 
@@ -33,6 +35,47 @@ std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& positi
 bool isControl(char32_t point)
 {
     return (point < 0x20 && point != '\t') || (point >= 0x7F && point < 0xA0);
+}
+
+namespace
+{
+
+/// Also the separators of lines and paragraphs, and what the bidirectional algorithm (UAX #9)
+/// obeys.
+bool isEscaped(char32_t point)
+{
+    return isControl(point) || point == '\t' || point == 0x061C || point == 0x200E ||
+           point == 0x200F || (point >= 0x2028 && point <= 0x202E) ||
+           (point >= 0x2066 && point <= 0x2069);
+}
+
+std::string hexadecimal(char32_t number, int digits)
+{
+    std::string text;
+    while (digits-- > 0) {
+        text += hexDigits[number >> 4 * digits & 15];
+    }
+    return text;
+}
+
+} // namespace
+
+std::string printable(std::string_view text)
+{
+    std::string result;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t begin = at;
+        const auto point = nextCodePoint(text, at);
+        if (!point) {
+            at = begin + 1;
+            result += "\\x" + hexadecimal(static_cast<unsigned char>(text[begin]), 2);
+        } else if (isEscaped(*point)) {
+            result += "\\u" + hexadecimal(*point, 4);
+        } else {
+            result += text.substr(begin, at - begin);
+        }
+    }
+    return result;
 }
 
 bool isUtf8(std::string_view text)

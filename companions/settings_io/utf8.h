@@ -16,6 +16,10 @@ bool isControl(char32_t point);
 
 bool isUtf8(std::string_view text);
 
+/// Text from elsewhere as a part of a line: what would end the line, control the terminal or turn
+/// the direction of writing is escaped, as "\\u001b"; bytes that are no UTF-8 as "\\xff".
+std::string printable(std::string_view text);
+
 /// Undoes "UTF-8 bytes that were read as Latin-1 and encoded as UTF-8 again".
 /// @return The former text; none where `text` cannot be the outcome of such a
 ///         conversion, or holds ASCII only and so is its own former text.

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void aFileSizeLimitLeavesTheOldFile();
     void aPipeWithAReaderIsWrittenTo();
     void aReaderThatGoesIsAnError();
+    void namesAreOneLineOfText_data();
+    void namesAreOneLineOfText();
 };
 
 void TestSettingsFilePosix::specialFilesAreNotRead_data()
@@ -296,6 +298,31 @@ void TestSettingsFilePosix::aReaderThatGoesIsAnError()
     QCOMPARE(pthread_sigmask(SIG_SETMASK, nullptr, &blocked), 0);
     QCOMPARE(sigismember(&blocked, SIGPIPE), 0); // as the caller had it
     ::close(writer);
+}
+
+void TestSettingsFilePosix::namesAreOneLineOfText_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("shown");
+    QTest::newRow("line feed") << QByteArray("a\nb.ini") << QByteArray("a\\u000ab.ini");
+    QTest::newRow("escape") << QByteArray("\x1B[2J.ini") << QByteArray("\\u001b[2J.ini");
+    QTest::newRow("C1") << QByteArray("a\xC2\x9B.ini") << QByteArray("a\\u009b.ini");
+    QTest::newRow("override") << QByteArray("a\xE2\x80\xAE.ini") << QByteArray("a\\u202e.ini");
+    QTest::newRow("isolate") << QByteArray("a\xE2\x81\xA9.ini") << QByteArray("a\\u2069.ini");
+    QTest::newRow("mark") << QByteArray("a\xD8\x9C.ini") << QByteArray("a\\u061c.ini");
+    QTest::newRow("no UTF-8") << QByteArray("a\xFF\xC3.ini") << QByteArray("a\\xff\\xc3.ini");
+    QTest::newRow("letters") << QByteArray("\xD9\x86\xE2\x80\x8C\xD9\x85 \xE6\x98\xA0.ini")
+                             << QByteArray("\xD9\x86\xE2\x80\x8C\xD9\x85 \xE6\x98\xA0.ini");
+}
+
+void TestSettingsFilePosix::namesAreOneLineOfText()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, shown);
+    const QByteArray folder = m_folder->path().toUtf8() + '/';
+    KvMvcSettings settings{};
+    QVERIFY(m_library->read(settings, folder + name) != 0);
+    QCOMPARE(m_library->messages, folder + shown + ": No such file or directory\n");
 }
 
 } // namespace

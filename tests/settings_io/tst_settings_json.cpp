@@ -210,7 +210,7 @@ void TestSettingsJson::problemsNameTheirLine_data()
     view(R"("widht": 3)", "2: unknown key 'widht' in section 'view 0'; did you mean 'width'?");
     view(R"("\u00e4\ud83d\ude00": 3)",
          "2: unknown key '\xC3\xA4\xF0\x9F\x98\x80' in section 'view 0'");
-    view(R"("\u001b[2J": 3)", "2: unknown key '?[2J' in section 'view 0'");
+    view(R"("\u001b[2J": 3)", "2: unknown key '\\u001b[2J' in section 'view 0'");
     view(R"("num_views": 3)",
          "2: unknown key 'num_views' in section 'view 0'; it belongs in section 'record'");
     view("\"width\": 1,\n\"width\": 2", "3: 'width' is set twice, first in line 2");
