@@ -276,7 +276,7 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
 void ToolBox::reveal(QWidget* widget)
 {
     for (int row = 0; row < m_grid->rowCount(); ++row) {
-        const QLayoutItem* const page = m_grid->itemAtPosition(row, 1);
+        QLayoutItem* const page = m_grid->itemAtPosition(row, 1);
         if (row == 0 || !page || !page->widget()->isAncestorOf(widget)) {
             continue;
         }

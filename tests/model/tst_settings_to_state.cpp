@@ -290,7 +290,7 @@ void TestSettingsToState::fieldIsSeenByItsKeyAlone_data()
             if (setting.kind == Kind::Aspect) {
                 keys = aspectKeys;
             } else if (partOf(setting)) {
-                keys = {setting.keyOf(view)};
+                keys = QStringList(setting.keyOf(view));
             }
             row(QStringLiteral("%1 of view %2").arg(QLatin1String(setting.member)).arg(view),
                 Cell(view, setting, other), keys);

@@ -53,7 +53,7 @@ namespace
 {
 
 const QString down = QStringLiteral(":/res_mvc/icons/down.png");
-const QString right = QStringLiteral(":/res_mvc/icons/right.png");
+const QString rightArrow = QStringLiteral(":/res_mvc/icons/right.png");
 
 /// A box of three sections, each page with a label of 100 pixels height.
 class ThreeSections
@@ -67,7 +67,7 @@ public:
             label->setMinimumHeight(100);
             auto* const layout = new QVBoxLayout(page);
             layout->addWidget(label);
-            box.addSection(page, QStringLiteral("Section %1").arg(i), down, right);
+            box.addSection(page, QStringLiteral("Section %1").arg(i), down, rightArrow);
             pages += page;
             labels += label;
         }
@@ -256,19 +256,19 @@ void TestToolBox::arrowShowsTheState()
 {
     ThreeSections sections;
     QVERIFY(!picture(down).isNull());
-    QVERIFY(picture(down) != picture(right));
+    QVERIFY(picture(down) != picture(rightArrow));
     QVERIFY(sections.show(600));
     QCOMPARE(arrow(sections.buttons[0]), picture(down));
     click(sections.buttons[0]);
-    QCOMPARE(arrow(sections.buttons[0]), picture(right));
+    QCOMPARE(arrow(sections.buttons[0]), picture(rightArrow));
     QCOMPARE(arrow(sections.buttons[1]), picture(down));
 }
 
 void TestToolBox::iconFilesAreTheCallers()
 {
     ToolBox box;
-    box.addSection(new QFrame, QStringLiteral("Swapped"), right, down);
-    QCOMPARE(arrow(box.findChild<QToolButton*>()), picture(right));
+    box.addSection(new QFrame, QStringLiteral("Swapped"), rightArrow, down);
+    QCOMPARE(arrow(box.findChild<QToolButton*>()), picture(rightArrow));
 }
 
 void TestToolBox::sectionPointsDownWhenOpenAndRightWhenClosed()
@@ -283,7 +283,7 @@ void TestToolBox::sectionPointsDownWhenOpenAndRightWhenClosed()
     QCOMPARE(arrow(button), picture(down));
     click(button);
     QVERIFY(!page->isVisible());
-    QCOMPARE(arrow(button), picture(right));
+    QCOMPARE(arrow(button), picture(rightArrow));
 }
 
 void TestToolBox::titleIsBoldWhilePagesLabelsAreNormal()

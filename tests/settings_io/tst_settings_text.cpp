@@ -129,7 +129,7 @@ void TestSettingsText::codesThatAFieldDoesNotHaveComeBack()
         KvMvcSettings settings{};
         ledger::put(settings, ledger::setting(member), 0, code);
         const std::string text = kv::formatSettings(settings);
-        QCOMPARE(text.find(key + " = ") < text.find("[view 1]"), isKnown);
+        QCOMPARE(text.find((key + " = ").toStdString()) < text.find("[view 1]"), isKnown);
         KvMvcSettings back{};
         QVERIFY(kv::parseSettings(text, back).empty());
         QVERIFY(same(back, settings));

@@ -12,6 +12,8 @@
 using ledger::Kind;
 using ledger::Setting;
 
+Q_DECLARE_METATYPE(ledger::ReservedRange)
+
 class TestSettingsLedger : public QObject
 {
     Q_OBJECT
