@@ -148,7 +148,11 @@ void SettingHelp::tellRange(Row& row)
         lines += tr("Range: %1 to %2%3.").arg(low).arg(high).arg(unit);
     }
     if (!row.facts.basis.isEmpty()) {
-        lines += tr("The range rests on: %1.").arg(tr(row.facts.basis.toLatin1().constData()));
+        // A clause of a standard alone is the same in every language.
+        const QString basis = row.facts.basis.at(0).isLower()
+                                  ? tr(row.facts.basis.toLatin1().constData())
+                                  : row.facts.basis;
+        lines += tr("The range rests on: %1.").arg(basis);
     }
     if (row.facts.view >= KV_MVC_RECORD_VIEWS) {
         lines += tr("The settings hold two views: what is set for this one goes no further.");
