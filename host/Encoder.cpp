@@ -1,5 +1,7 @@
 #include "Encoder.h"
 
+#include "SettingsTable.h"
+
 #include <new>
 
 namespace
@@ -39,8 +41,9 @@ int keepMessage(void* result, int32_t kind, const char* text)
 int keepUse(void* result, const KvMvcLimitUse* use)
 {
     static_cast<CheckResult*>(result)->uses.push_back(
-        {use->view, QString::fromUtf8(use->name), QString::fromUtf8(use->unit),
-         QString::fromUtf8(use->rule), QString::fromUtf8(use->level), use->used, use->limit});
+        {use->view, QString::fromUtf8(use->name), QString::fromUtf8(use->name),
+         QString::fromUtf8(use->unit), QString::fromUtf8(use->rule), QString::fromUtf8(use->level),
+         use->used, use->limit});
     return 1;
 }
 
@@ -71,6 +74,13 @@ KvMvcSettings Encoder::defaults(qint32 preset) const
     return settings;
 }
 
+QString Encoder::translated(const QString& text) const
+{
+    const char* const translation =
+        m_translate != nullptr ? m_translate(text.toUtf8().constData()) : nullptr;
+    return translation != nullptr ? QString::fromUtf8(translation) : text;
+}
+
 CheckResult Encoder::check(const KvMvcSettings& settings) const
 {
     CheckResult result = {false, {}, {}, settings};
@@ -79,6 +89,12 @@ CheckResult Encoder::check(const KvMvcSettings& settings) const
     result.accepted = kvMvcRunFullCheck(m_check, &result.corrected, &listener, &limits) == 0;
     if (listener.lost > 0 || limits.lost > 0) {
         throw std::bad_alloc();
+    }
+    for (LimitUse& use : result.uses) {
+        use.title = translated(use.name);
+        if (use.view >= 0) {
+            use.title += QStringLiteral(", ") + translated(QString(viewName(use.view)).toLower());
+        }
     }
     return result;
 }

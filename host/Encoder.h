@@ -31,6 +31,8 @@ struct CheckMessage {
 struct LimitUse {
     int view;
     QString name;
+    /// The name and the view in the language of messages.
+    QString title;
     QString unit;
     QString rule;
     /// Empty when no level sets the limit.
@@ -65,6 +67,9 @@ public:
     [[nodiscard]] CheckResult check(const KvMvcSettings& settings) const;
 
 private:
+    /// What the library of texts makes of it; itself when that knows none.
+    [[nodiscard]] QString translated(const QString& text) const;
+
     Library m_library;
     KvMvcDefaults m_defaults;
     KvMvcCheck m_check;

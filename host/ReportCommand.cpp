@@ -78,9 +78,19 @@ Report makeReport(const Encoder& encoder, const KvMvcSettings& settings)
 
 QString nameOf(const LimitUse& use)
 {
-    const QString name = printable(use.name);
-    return use.view < 0 ? name
-                        : name + QStringLiteral(", ") + QString(viewName(use.view)).toLower();
+    return printable(use.title);
+}
+
+/// How many columns of a terminal it takes: letters of East Asia have two (UAX #11).
+qsizetype columnsOf(const QString& text)
+{
+    constexpr ushort wide[][2] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},
+                                  {0xF900, 0xFAFF}, {0xFE30, 0xFE6F}, {0xFF00, 0xFF60}};
+    return text.size() + std::count_if(text.begin(), text.end(), [&](QChar sign) {
+               return std::any_of(std::begin(wide), std::end(wide), [sign](const auto& range) {
+                   return sign.unicode() >= range[0] && sign.unicode() <= range[1];
+               });
+           });
 }
 
 /// Bits are many: millions of them, with as many decimals as it takes.
@@ -161,15 +171,16 @@ QString limitsText(const CheckResult& result)
 {
     qsizetype width = 0;
     for (const LimitUse& use : result.uses) {
-        width = std::max<qsizetype>(width, nameOf(use).size());
+        width = std::max(width, columnsOf(nameOf(use)));
     }
     QString text;
     for (const LimitUse& use : result.uses) {
         const bool inMillions = use.unit.startsWith(QLatin1String("bit"));
-        text += QStringLiteral("  %1  %2  %3 of %4 %5%6\n")
-                    .arg(nameOf(use).leftJustified(width), bar(use),
-                         amountText(use.used, inMillions), amountText(use.limit, inMillions),
-                         inMillions ? QStringLiteral("M") : QString(), printable(use.unit));
+        text +=
+            QStringLiteral("  %1  %2  %3 of %4 %5%6\n")
+                .arg(nameOf(use) + QString(width - columnsOf(nameOf(use)), QLatin1Char(' ')),
+                     bar(use), amountText(use.used, inMillions), amountText(use.limit, inMillions),
+                     inMillions ? QStringLiteral("M") : QString(), printable(use.unit));
     }
     return text;
 }

@@ -1,5 +1,6 @@
 // How much of a level's limits, and of a disc's, the settings use.
 
+#include "limit_names.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -44,16 +45,16 @@ void tellPictures(const Stream& stream, const Level& level, const Teller& tell)
 {
     const bool several = stream.multiview != nullptr;
     const std::int64_t side = maxSideMbs(level);
-    tell("Picture size", macroblocks, "level.picture", KV_MVC_ALL_VIEWS, stream.frameMbs,
+    tell(limit::pictureSize, macroblocks, "level.picture", KV_MVC_ALL_VIEWS, stream.frameMbs,
          level.frameMbs);
-    tell("Picture width", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.widthMbs, side);
-    tell("Picture height", macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.heightMbs, side);
+    tell(limit::pictureWidth, macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.widthMbs, side);
+    tell(limit::pictureHeight, macroblocks, "level.side", KV_MVC_ALL_VIEWS, stream.heightMbs, side);
     const auto rateLimit = static_cast<double>(macroblockRateLimit(stream, level));
-    tell("Macroblock rate", "macroblocks/s", macroblockRateRule(stream, rateLimit),
+    tell(limit::macroblockRate, "macroblocks/s", macroblockRateRule(stream, rateLimit),
          KV_MVC_ALL_VIEWS, macroblockRate(stream), rateLimit);
     const std::int64_t most = dpbFrames(stream, level);
     const std::int64_t kept = most - referenceRoom(stream, level);
-    tell("Decoded pictures", frames,
+    tell(limit::decodedPictures, frames,
          !several                                       ? "level.dpb"
          : kept > 0 && stream.totalReferences() <= most ? "level.dpb-views-b"
                                                         : "level.dpb-views",
@@ -88,11 +89,11 @@ void tellSum(const Stream& stream, const Names& names, const Sum& used, const Su
 void tellSums(const Stream& stream, const Level& level, const Teller& tell)
 {
     tellSum(stream,
-            {"Bitrate", "Bitrate of pictures", bitRate, "level.bitrate", "level.bitrate-views",
-             "level.bitrate-vcl"},
+            {limit::bitrate, limit::bitrateOfPictures, bitRate, "level.bitrate",
+             "level.bitrate-views", "level.bitrate-vcl"},
             ratesOf(stream), limitsOf(stream, level.bitrate), tell);
     tellSum(stream,
-            {"Buffer", "Buffer of pictures", bits, "level.buffer", "level.buffer-views",
+            {limit::buffer, limit::bufferOfPictures, bits, "level.buffer", "level.buffer-views",
              "level.buffer-vcl"},
             buffersOf(stream), limitsOf(stream, level.buffer), tell);
 }

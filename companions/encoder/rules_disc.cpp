@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "limit_names.h"
 #include "rules.h"
 
 namespace kv::encoder
@@ -218,15 +219,15 @@ void tellDiscLimits(const Stream& stream, const Report& report)
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
         if (aimsAtRate(view)) {
-            tell("Bitrate on a disc", "bit/s", rateOfView, v, limitRate(view), maxViewRate);
+            tell(limit::bitrateOnDisc, "bit/s", rateOfView, v, limitRate(view), maxViewRate);
         }
         if (keepsBuffer(view)) {
-            tell("Buffer on a disc", "bit", v == 0 ? bufferBase : bufferOther, v, bufferBits(view),
+            tell(limit::bufferOnDisc, "bit", v == 0 ? bufferBase : bufferOther, v, bufferBits(view),
                  discBuffer);
         }
     }
     if (stream.multiview && stream.totalRate() > 0) {
-        tell("Bitrate on a disc", "bit/s", rateOfBoth, KV_MVC_ALL_VIEWS, stream.totalRate(),
+        tell(limit::bitrateOnDisc, "bit/s", rateOfBoth, KV_MVC_ALL_VIEWS, stream.totalRate(),
              maxBothRate);
     }
 }

@@ -706,6 +706,21 @@ inline constexpr Text german[] = {
     KV_TEXT_OF_EACH_VIEW("summary.buffer",
         "The bitrate buffer holds %d.%0*d s; decoding starts after %d.%0*d s.",
         "Der Puffer reicht für %d,%0*d s; die Decodierung beginnt nach %d,%0*d s."),
+
+    // Names of limits
+    {"limit", "Picture size", "Bildgröße"},
+    {"limit", "Picture width", "Bildbreite"},
+    {"limit", "Picture height", "Bildhöhe"},
+    {"limit", "Macroblock rate", "Makroblockrate"},
+    {"limit", "Decoded pictures", "Decodierte Bilder"},
+    {"limit", "Bitrate", "Bitrate"},
+    {"limit", "Bitrate of pictures", "Bitrate der Bilder"},
+    {"limit", "Buffer", "Puffer"},
+    {"limit", "Buffer of pictures", "Puffer der Bilder"},
+    {"limit", "Bitrate on a disc", "Bitrate auf einer Disc"},
+    {"limit", "Buffer on a disc", "Puffer auf einer Disc"},
+    {"limit", "base view", "Basisansicht"},
+    {"limit", "view 1", "Ansicht 1"},
 };
 // clang-format on
 

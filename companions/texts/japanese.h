@@ -706,6 +706,21 @@ inline constexpr Text japanese[] = {
     KV_TEXT_OF_EACH_VIEW("summary.buffer",
         "The bitrate buffer holds %d.%0*d s; decoding starts after %d.%0*d s.",
         "ビットレートバッファは %d.%0*d 秒分で、復号は %d.%0*d 秒後に始まります。"),
+
+    // Names of limits
+    {"limit", "Picture size", "画面のサイズ"},
+    {"limit", "Picture width", "画面の幅"},
+    {"limit", "Picture height", "画面の高さ"},
+    {"limit", "Macroblock rate", "マクロブロックレート"},
+    {"limit", "Decoded pictures", "デコード済みピクチャ"},
+    {"limit", "Bitrate", "ビットレート"},
+    {"limit", "Bitrate of pictures", "ビットレート (映像データ)"},
+    {"limit", "Buffer", "バッファ"},
+    {"limit", "Buffer of pictures", "バッファ (映像データ)"},
+    {"limit", "Bitrate on a disc", "ディスクのビットレート"},
+    {"limit", "Buffer on a disc", "ディスクのバッファ"},
+    {"limit", "base view", "ベースビュー"},
+    {"limit", "view 1", "ビュー 1"},
 };
 // clang-format on
 

@@ -7,7 +7,7 @@ namespace kv::texts
 /// A printf format of the encoder with its translation, both UTF-8. The translation has exactly the
 /// conversions of the format, in the same order: nothing checks them when a message is made.
 struct Text {
-    const char* rule; ///< its name in the encoder's rule list
+    const char* rule; ///< its name in the encoder's rule list; "limit": what a limit is called
     const char* format;
     const char* translation;
 };

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void levelsThatFit();
     void json();
     void limitsNameTheirView();
+    void limitsAreNamedInTheLanguage();
     void autoTakesALevel();
     void onlyAutoTakesALevel();
     void risksAreReported();
@@ -196,6 +197,32 @@ void TestHostReport::limitsNameTheirView()
     QCOMPARE(limits[5][QStringLiteral("view")], QJsonValue(0));
     QCOMPARE(limits[7][QStringLiteral("name")], QJsonValue(QStringLiteral("Bitrate")));
     QCOMPARE(limits[7][QStringLiteral("view")], QJsonValue(QJsonValue::Null));
+}
+
+void TestHostReport::limitsAreNamedInTheLanguage()
+{
+    HostProgram program;
+    program.addTexts();
+    prepare(program, QStringLiteral("2"), {QStringLiteral("level=3.1")});
+    const auto reportIn = [&](const char* language) {
+        return program
+            .run({QStringLiteral("report"), QStringLiteral("--language"),
+                  QString::fromLatin1(language), a})
+            .output;
+    };
+    const QString german = reportIn("de");
+    for (const char* text : {": Bildgröße; ", "\n  Makroblockrate                    #",
+                             "\n  Bitrate der Bilder, Basisansicht  #"}) {
+        QVERIFY2(german.contains(QString::fromUtf8(text)), qPrintable(german));
+    }
+    // A letter takes two columns.
+    const QString japanese = reportIn("ja");
+    for (const char* text : {": 画面のサイズ; ", "\n  マクロブロックレート                     #",
+                             "\n  ビットレート (映像データ), ベースビュー  #",
+                             "\n  画面の幅                                 #"}) {
+        QVERIFY2(japanese.contains(QString::fromUtf8(text)), qPrintable(japanese));
+    }
+    QVERIFY(reportIn("en").contains(QStringLiteral("\n  Bitrate of pictures, base view  #")));
 }
 
 void TestHostReport::autoTakesALevel()

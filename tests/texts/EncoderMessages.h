@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 
+#include "limit_names.h"
 #include "rules.h"
 
 struct Message {
@@ -10,7 +11,7 @@ struct Message {
     QByteArray format;
 };
 
-/// All that the encoder can say, in the order of its rule list.
+/// All that the encoder can say, in the order of its rule list, and what limits are called.
 inline QList<Message> encoderMessages()
 {
     QList<Message> messages;
@@ -22,6 +23,9 @@ inline QList<Message> encoderMessages()
                 }
             }
         }
+    }
+    for (const char* const name : kv::encoder::limit::names) {
+        messages += Message{"limit", name};
     }
     return messages;
 }

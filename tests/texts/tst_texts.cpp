@@ -115,7 +115,7 @@ void TestTexts::messageIsTranslated()
     QCOMPARE(setLanguage(language), 0);
     const char* const text = convert(format.constData());
     QVERIFY(text);
-    QVERIFY(QByteArray(text) != format);
+    QVERIFY(QByteArray(text) != format || format == "Bitrate"); // which is German, too
     QCOMPARE(QString::fromUtf8(text).toUtf8(), QByteArray(text));
     QCOMPARE(conversionsOf(text), conversionsOf(format.constData()));
     QVERIFY(!QByteArray(text).endsWith('\n'));
