@@ -189,6 +189,46 @@ Soll sie überschrieben werden?</translation>
         <extracomment>&quot;Copy all&quot; is an item of the log&apos;s context menu.</extracomment>
         <translation>„Alles kopieren“ nimmt sie ganz.</translation>
     </message>
+    <message>
+        <source>Copy settings as text</source>
+        <extracomment>In the context menu of the message log: all settings, as lines of text.</extracomment>
+        <translation>Einstellungen als Text kopieren</translation>
+    </message>
+    <message>
+        <source>Show changes</source>
+        <extracomment>In the context menu of the message log: a list of the settings that differ from those that the dialog was opened with, or from the last preset or file.</extracomment>
+        <translation>Änderungen zeigen</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Einstellung suchen</translation>
+    </message>
+    <message>
+        <source>No setting has these words.</source>
+        <translation>Keine Einstellung enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Geänderte Einstellungen</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <extracomment>In the menu of the files that were loaded last, while there are none.</extracomment>
+        <translation>Noch keine Dateien</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <extracomment>In the menu of the files that were loaded last.</extracomment>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>Changed since: %1</source>
+        <translation>Geändert seit: %1</translation>
+    </message>
+    <message>
+        <source>No setting has changed.</source>
+        <translation>Keine Einstellung wurde geändert.</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

@@ -189,6 +189,46 @@ Do you want to overwrite it?</source>
         <extracomment>&quot;Copy all&quot; is an item of the log&apos;s context menu.</extracomment>
         <translation>「すべてコピー」で全文をコピーできます。</translation>
     </message>
+    <message>
+        <source>Copy settings as text</source>
+        <extracomment>In the context menu of the message log: all settings, as lines of text.</extracomment>
+        <translation>設定をテキストとしてコピー</translation>
+    </message>
+    <message>
+        <source>Show changes</source>
+        <extracomment>In the context menu of the message log: a list of the settings that differ from those that the dialog was opened with, or from the last preset or file.</extracomment>
+        <translation>変更点を表示</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>No setting has these words.</source>
+        <translation>該当する設定はありません。</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>変更した設定</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <extracomment>In the menu of the files that were loaded last, while there are none.</extracomment>
+        <translation>ファイルはまだありません</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <extracomment>In the menu of the files that were loaded last.</extracomment>
+        <translation>一覧を消去</translation>
+    </message>
+    <message>
+        <source>Changed since: %1</source>
+        <translation>%1 からの変更点</translation>
+    </message>
+    <message>
+        <source>No setting has changed.</source>
+        <translation>変更された設定はありません。</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

@@ -5,7 +5,6 @@
 #include "ForeignText.h"
 #include "FrameEdges.h"
 #include "LogGround.h"
-#include "LogMenu.h"
 #include "MessageLog.h"
 #include "PaletteCare.h"
 #include "SettingHelp.h"
@@ -104,7 +103,6 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     takeSettings(*settings);
     startHere({});
     messageLog().showIn(ui.errorLog);
-    log_menu::attach(ui.errorLog);
     ui.bannerFrame->setHidden(m_flags & KV_MVC_GUI_NO_BANNER);
     connect(ui.presetList, &QComboBox::textActivated, this, &AVCVideoEncoderDlg::slotChangePreset);
     connect(ui.presetButton, &QPushButton::clicked, this, &AVCVideoEncoderDlg::slotRestorePreset);
@@ -128,6 +126,7 @@ AVCVideoEncoderDlg::AVCVideoEncoderDlg(KvMvcSettings* settings, const KvMvcHosti
     settingsToState();
     showTabInFrontWhole();
 
+    addMenus();
     shortcuts::add(this, ui.tabWidget, ui.errorLog);
     shortcuts::addHistory(
         this, [this] { turnHistory(&EditHistory::undo, tr("Undo: %1")); },

@@ -109,7 +109,17 @@ private:
     /// for other edits.
     QString keysOfNumber(const ConfigState& state) const;
 
-    void loadFromFile(const QString& path);
+    /// What the log and the load button have in their menus, and Ctrl+F.
+    void addMenus();
+    /// All that the pages are told of the record.
+    ConfigState allStates(const WorkingRecord& record) const;
+    void loadRecentFile(const QString& path);
+    void findSetting();
+    /// Lists what differs from the starting point.
+    void showChanges();
+
+    /// @return Whether settings were taken from it.
+    bool loadFromFile(const QString& path);
     void saveToFile(const QString& path);
     void takeDrag(QDragEnterEvent* event);
     void takeDrop(QDropEvent* event);

@@ -2,6 +2,7 @@
 
 #include "AVCVideoEncoderDlg.h"
 
+#include "RecentFiles.h"
 #include "SettingsFiles.h"
 
 #include <QCoreApplication>
@@ -56,12 +57,12 @@ QString absoluteDirectory(const QString& file)
 
 } // namespace
 
-void AVCVideoEncoderDlg::loadFromFile(const QString& path)
+bool AVCVideoEncoderDlg::loadFromFile(const QString& path)
 {
     const QPointer<AVCVideoEncoderDlg> self(this);
     const auto settings = m_caller ? settings_files::read(path) : std::nullopt;
     if (!settings || !self) {
-        return;
+        return false;
     }
     const QString name = tr("File %1").arg(QFileInfo(path).fileName());
     takeStep(name, {}, [&] {
@@ -72,6 +73,7 @@ void AVCVideoEncoderDlg::loadFromFile(const QString& path)
             settingsToState();
         }
     });
+    return true;
 }
 
 void AVCVideoEncoderDlg::saveToFile(const QString& path)
@@ -98,7 +100,9 @@ void AVCVideoEncoderDlg::slotLoadSettings()
     if (name.isEmpty() || !self) {
         return;
     }
-    loadFromFile(settings_files::asPassedOn(name));
+    if (loadFromFile(settings_files::asPassedOn(name))) {
+        recent_files::add(name);
+    }
     if (self) {
         m_lastLoadDirectory = absoluteDirectory(name);
     }
@@ -121,6 +125,9 @@ void AVCVideoEncoderDlg::slotSaveSettings()
         return;
     }
     saveToFile(settings_files::asPassedOn(name));
+    if (QFile::exists(name)) {
+        recent_files::add(name);
+    }
     if (self) {
         m_lastSaveDirectory = absoluteDirectory(name);
     }
@@ -159,7 +166,10 @@ void AVCVideoEncoderDlg::takeDrop(QDropEvent* event)
     if (!event->mimeData()->hasUrls()) {
         return;
     }
-    loadFromFile(firstLocalFile(event->mimeData()));
+    const QString path = firstLocalFile(event->mimeData());
+    if (loadFromFile(path)) {
+        recent_files::add(path);
+    }
     event->acceptProposedAction();
 }
 

@@ -29,9 +29,13 @@ void log_menu::attach(QTextEdit* log)
                      [log](const QPoint& place) { show(log, place); });
 
     //: In the context menu of the message log: all messages, whole.
-    auto* const copyAll =
-        new QAction(QCoreApplication::translate("AVCVideoEncoderDlg", "Copy all"), log);
-    QObject::connect(copyAll, &QAction::triggered, log,
-                     [] { QGuiApplication::clipboard()->setText(messageLog().allMessages()); });
-    log->addAction(copyAll);
+    add(log, QCoreApplication::translate("AVCVideoEncoderDlg", "Copy all"),
+        [] { QGuiApplication::clipboard()->setText(messageLog().allMessages()); });
+}
+
+void log_menu::add(QTextEdit* log, const QString& text, const std::function<void()>& act)
+{
+    auto* const action = new QAction(text, log);
+    QObject::connect(action, &QAction::triggered, log, act);
+    log->addAction(action);
 }

@@ -79,3 +79,10 @@ void shortcuts::addHistory(QDialog* dialog, const std::function<void()>& undo,
     bind(dialog, {"Ctrl+Z"}, undo);
     bind(dialog, {"Ctrl+Shift+Z", "Ctrl+Y"}, redo);
 }
+
+void shortcuts::addMenus(QDialog* dialog, const std::function<void()>& find,
+                         const std::function<void()>& showFiles)
+{
+    bind(dialog, {"Ctrl+F"}, find);
+    bind(dialog, {"Ctrl+L"}, showFiles);
+}

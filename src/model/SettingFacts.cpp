@@ -18,6 +18,7 @@ namespace
 
 /// A row of the field table, with the member as the key table has it; null: no whole number.
 struct FieldRow {
+    const char* member;
     const char* name;
     const char* unit;
     bool isCorrected;
@@ -63,6 +64,7 @@ const std::vector<FieldRow>& fieldRows()
 #define KV_FIELD(structure, member, kind, list, name, unit, less, shown, low, high, shared, rule,  \
                  said, called, basis)                                                              \
     {#member,                                                                                      \
+     name,                                                                                         \
      unit,                                                                                         \
      isNumber(#kind) && ((low) != 0 || (high) != 0),                                               \
      (low) - (less),                                                                               \
@@ -96,7 +98,8 @@ struct Index {
 SettingFacts factsOf(const FieldRow& row, int view, qint32 lock)
 {
     SettingFacts facts;
-    facts.member = QLatin1String(row.name);
+    facts.member = QLatin1String(row.member);
+    facts.name = QLatin1String(row.name);
     facts.unit = QLatin1String(row.unit);
     if (row.isCorrected) {
         facts.low = row.low;
@@ -120,7 +123,7 @@ void add(Index& index, const QString& key, const FieldRow& row, int view, qint32
 void addView(Index& index, const ViewRow& setting, const QString& key, int view)
 {
     for (const FieldRow& row : fieldRows()) {
-        const std::pair own(setting.key, QLatin1String(row.name));
+        const std::pair own(setting.key, QLatin1String(row.member));
         const bool isItsOwn = std::find(std::begin(withoutField), std::end(withoutField), own) !=
                               std::end(withoutField);
         if (setting.field ? row.ofView == setting.field : isItsOwn) {

@@ -9,6 +9,8 @@ struct SettingFacts {
     /// The member of the record or of a view: "bit_depth_luma". Of a key that two members stand
     /// behind, the first one.
     QString member;
+    /// What it is called, in English.
+    QString name;
     /// Behind a number: "bytes"; may be empty.
     QString unit;
     /// The range that the reference encoder takes the number into, as the dialog shows it; none

@@ -117,6 +117,7 @@ QString SettingsPage::captionOf(const QWidget* control) const
 void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter setFromState)
 {
     controlKeys.insert(control, key);
+    m_keys.append(key);
     m_setters.append(std::move(setFromState));
     if (auto* field = qobject_cast<QSpinBox*>(control)) {
         TypingGuard::protect(field);

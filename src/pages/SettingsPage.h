@@ -25,6 +25,8 @@ public:
     /// empty value: no item, the smallest number, not checked, and enabled.
     virtual void receiveState(const ConfigState& state);
 
+    /// The keys that the page's own controls edit, in the order of binding.
+    const QStringList& keys() const { return m_keys; }
     /// What edits the key: a control, or the group of buttons of which one is chosen; null when
     /// none of this page's own does.
     const QObject* controlOf(const QString& key) const { return controlKeys.key(key); }
@@ -32,8 +34,6 @@ public:
     QWidget* widgetOf(const QString& key) const;
     /// All that a user may take for it: the control, or every button of a group.
     QVector<QWidget*> widgetsOf(const QString& key) const;
-    /// The keys that the page's own controls edit.
-    QStringList keys() const { return controlKeys.values(); }
     /// How the control shows a value of its key.
     QString textOf(const QString& key, const QVariant& value) const;
     /// The state that an edit of the key to this value reports.
@@ -100,5 +100,6 @@ protected:
 
 private:
     QMap<const QObject*, QString> controlKeys;
+    QStringList m_keys;
     QVector<StateSetter> m_setters;
 };

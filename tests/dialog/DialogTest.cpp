@@ -7,8 +7,22 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
+
+namespace
+{
+
+/// The tester's own files stay as they are.
+void keepUserSettingsInTestFolder()
+{
+    static const QTemporaryDir folder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+}
+
+} // namespace
 
 OpenDialog::OpenDialog(qint32 flags) : OpenDialog(flags, exampleSettings()) {}
 
@@ -16,6 +30,7 @@ OpenDialog::OpenDialog(qint32 flags, const KvMvcSettings& settings,
                        const std::function<void(RecordingCompanions&)>& prepare)
     : caller(settings), given(bytesOf(settings))
 {
+    keepUserSettingsInTestFolder();
     if (prepare) {
         prepare(companions);
     }

@@ -50,7 +50,7 @@ function(check_file folder file content)
             endif()
         elseif(NOT bracket AND NOT name MATCHES "^ui_" AND NOT name MATCHES "\\.moc$" AND
                NOT EXISTS "${beside}/${name}" AND NOT EXISTS "${beside}/${name}.in" AND
-               NOT name MATCHES "^View([0-3]|@VIEW@)Page\\.h$")
+               NOT name MATCHES "^(View([0-3]|@VIEW@)Page\\.h|english_tips\\.inc)$")
             set(breach "no neighbour of that name")
         endif()
         if(breach)
