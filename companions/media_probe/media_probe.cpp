@@ -66,10 +66,11 @@ extern "C" KV_MVC_COMPANION_API int32_t mpegInInfoInit(KvMediaInfo* info, uint32
 
 extern "C" KV_MVC_COMPANION_API int32_t mpegInGetInfo(KvMediaInfo* info, const char* path)
 {
-    if (!info || !path || info->size < sizeof info->size) {
+    if (!info || info->size < sizeof info->size) {
         return KV_MEDIA_BAD_ARGUMENT;
     }
-    const kv::ProbeAnswer answer = probe(path);
+    const kv::ProbeAnswer answer =
+        path ? probe(path) : kv::refusal(KV_MEDIA_BAD_ARGUMENT, "no file is named");
     store(*info, answer.info);
     return answer.result;
 }

@@ -44,8 +44,8 @@ typedef int (*KvMvcHear)(void* context, int32_t kind, const char* text);
 
 /** Who takes the messages of a check. */
 typedef struct KvMvcListener {
-    KvMvcHear hear;
-    void* context; /**< for `hear` */
+    KvMvcHear hear; /**< takes each of them */
+    void* context;  /**< for `hear` */
     /** Translates the formats before they are filled in; null: they are taken as they are. */
     KvMvcLocalizeConvert translate;
     size_t lost; /**< set by kvMvcRunCheck(): messages that there was no memory for */
@@ -61,19 +61,19 @@ typedef int (*KvMvcHearLimitUse)(void* context, const KvMvcLimitUse* use);
 
 /** Who takes how much of the limits is used. */
 typedef struct KvMvcLimitListener {
-    KvMvcHearLimitUse hear;
-    void* context; /**< for `hear` */
-    size_t lost;   /**< set by kvMvcRunFullCheck(), as KvMvcListener's */
+    KvMvcHearLimitUse hear; /**< takes each of them */
+    void* context;          /**< for `hear` */
+    size_t lost;            /**< set by kvMvcRunFullCheck(), as KvMvcListener's */
 } KvMvcLimitListener;
 
 /* --- What a check is given ----------------------------------------------- */
 
 /** The sinks that a lookup hands out. */
 typedef struct KvMvcSinks {
-    KvMvcPrintf error;
-    KvMvcPrintf warning;
-    KvMvcPrintf note;
-    KvMvcPrintf progress;
+    KvMvcPrintf error;    /**< KV_MVC_ERROR_SINK */
+    KvMvcPrintf warning;  /**< KV_MVC_WARNING_SINK */
+    KvMvcPrintf note;     /**< KV_MVC_NOTE_SINK */
+    KvMvcPrintf progress; /**< KV_MVC_PROGRESS_SINK */
 } KvMvcSinks;
 
 /** The answer of a KvMvcLookup: one of the sinks, malloc or free; null for any other name. */
@@ -134,6 +134,7 @@ static inline const char* kvMvcPlaceText(char** end, const char* text)
     return placed;
 }
 
+/** The bytes that kvMvcPlaceText() takes for a text; none for null. */
 static inline size_t kvMvcRoomOf(const char* text)
 {
     return text != NULL ? strlen(text) + 1 : 0;
@@ -187,7 +188,7 @@ static inline KvMvcLimitUse* kvMvcCopyLimitUse(const KvMvcLimitUse* use)
 
 /** A check on its way. */
 typedef struct KvMvcRunningCheck {
-    KvMvcListener* listener;
+    KvMvcListener* listener;    /**< of the messages */
     KvMvcLimitListener* limits; /**< may be null */
     KvMvcMessageAbout* about;   /**< of the next message; null: not told */
 } KvMvcRunningCheck;
@@ -203,6 +204,7 @@ static inline KvMvcRunningCheck** kvMvcListening(void)
     return &running;
 }
 
+/** Calls a listener, out of which no exception comes. @return Whether it kept the message. */
 static inline int kvMvcHearText(const KvMvcListener* listener, int32_t kind, const char* text)
 {
 #if defined(__cpp_exceptions)
@@ -217,6 +219,7 @@ static inline int kvMvcHearText(const KvMvcListener* listener, int32_t kind, con
 #endif
 }
 
+/** The same for the use of a limit. */
 static inline int kvMvcHearUse(const KvMvcLimitListener* listener, const KvMvcLimitUse* use)
 {
 #if defined(__cpp_exceptions)
@@ -230,6 +233,7 @@ static inline int kvMvcHearUse(const KvMvcLimitListener* listener, const KvMvcLi
 #endif
 }
 
+/** Gives a sink's arguments to the listener of this thread. */
 static inline void kvMvcTakeMessage(int32_t kind, const char* format, va_list arguments)
 {
     KvMvcRunningCheck* const running = *kvMvcListening();
@@ -250,6 +254,7 @@ static inline void kvMvcTakeMessage(int32_t kind, const char* format, va_list ar
     running->about = NULL;
 }
 
+/** The KvMvcTellAbout of kvMvcLookUp(). */
 static inline void kvMvcTakeAbout(const KvMvcMessageAbout* about)
 {
     KvMvcRunningCheck* const running = *kvMvcListening();
@@ -259,6 +264,7 @@ static inline void kvMvcTakeAbout(const KvMvcMessageAbout* about)
     }
 }
 
+/** The KvMvcTellLimitUse of kvMvcLookUp(). */
 static inline void kvMvcTakeLimitUse(const KvMvcLimitUse* use)
 {
     KvMvcRunningCheck* const running = *kvMvcListening();
@@ -284,6 +290,7 @@ static inline const KvMvcMessageAbout* kvMvcMessageAbout(void)
     return running != NULL ? running->about : NULL;
 }
 
+/** A KvMvcPrintf: KV_MVC_ERROR_SINK of kvMvcLookUp(). */
 static inline int kvMvcPrintError(const char* format, ...)
 {
     va_list arguments;
@@ -293,6 +300,7 @@ static inline int kvMvcPrintError(const char* format, ...)
     return 0;
 }
 
+/** A KvMvcPrintf: its KV_MVC_WARNING_SINK. */
 static inline int kvMvcPrintWarning(const char* format, ...)
 {
     va_list arguments;
@@ -302,6 +310,7 @@ static inline int kvMvcPrintWarning(const char* format, ...)
     return 0;
 }
 
+/** A KvMvcPrintf: its KV_MVC_NOTE_SINK. */
 static inline int kvMvcPrintNote(const char* format, ...)
 {
     va_list arguments;
@@ -311,6 +320,7 @@ static inline int kvMvcPrintNote(const char* format, ...)
     return 0;
 }
 
+/** A KvMvcPrintf: its KV_MVC_PROGRESS_SINK, which nobody hears. */
 static inline int kvMvcDropProgress(const char* format, ...)
 {
     (void)format;
@@ -335,9 +345,11 @@ static inline KvMvcFunction kvMvcLookUp(const char* name)
 }
 
 /**
- * Runs the check as the dialog does, all of its messages going to the listener, and how much of the
- * limits is used to the other one, which may be null.
+ * Runs the check as the dialog does.
+ * @param check    The encoder's.
  * @param settings May be corrected by the check, whatever its result.
+ * @param listener Takes all of its messages.
+ * @param limits   Takes how much of the limits is used; may be null.
  * @return The check's: 0 when the settings are acceptable.
  */
 static inline int32_t kvMvcRunFullCheck(KvMvcCheck check, KvMvcSettings* settings,
@@ -366,6 +378,7 @@ static inline int32_t kvMvcRunCheck(KvMvcCheck check, KvMvcSettings* settings,
 
 /* --- Messages in a list --------------------------------------------------- */
 
+/** A message that was kept. */
 typedef struct KvMvcMessage {
     int32_t kind;             /**< KvMvcMessageKind, as a KvMvcHear gets it */
     char* text;               /**< owned by the list */
@@ -374,8 +387,8 @@ typedef struct KvMvcMessage {
 
 /** Messages in the order in which they came. Zeros are an empty list; it grows by itself. */
 typedef struct KvMvcMessageList {
-    KvMvcMessage* messages;
-    size_t count;
+    KvMvcMessage* messages; /**< owned by the list */
+    size_t count;           /**< how many there are */
 } KvMvcMessageList;
 
 /** A KvMvcHear whose context is a KvMvcMessageList, which keeps a copy. */
@@ -417,7 +430,7 @@ static inline void kvMvcFreeMessages(KvMvcMessageList* list)
 /** Uses of limits in the order in which they came. Zeros are an empty list; it grows by itself. */
 typedef struct KvMvcLimitList {
     KvMvcLimitUse** uses; /**< owned by the list */
-    size_t count;
+    size_t count;         /**< how many there are */
 } KvMvcLimitList;
 
 /** A KvMvcHearLimitUse whose context is a KvMvcLimitList, which keeps a copy. */

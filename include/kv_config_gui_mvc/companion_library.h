@@ -184,12 +184,14 @@ static inline void* kvMvcLoadFile(const KvMvcLibrary* library, int32_t flags, ch
 
 #else
 
+/** Leaves the folder of a path, with its last stroke. */
 static inline void kvMvcCutToFolder(char* text)
 {
     char* const slash = strrchr(text, '/');
     *(slash ? slash + 1 : text) = '\0';
 }
 
+/** The folder of the host program. */
 static inline void kvMvcHostFolder(char* text)
 {
     const ssize_t length = readlink("/proc/self/exe", text, KV_MVC_LIBRARY_TEXT - 1);
@@ -197,7 +199,10 @@ static inline void kvMvcHostFolder(char* text)
     kvMvcCutToFolder(text);
 }
 
-/** A relative name was true of the directory that was the current one then. */
+/**
+ * The folder of the library that this is compiled into. A relative name was true of the directory
+ * that was the current one then.
+ */
 static inline void kvMvcOwnFolder(char* text)
 {
     static const char here = 0;
@@ -208,6 +213,7 @@ static inline void kvMvcOwnFolder(char* text)
     kvMvcCutToFolder(text);
 }
 
+/** Whether there is a file, of whatever kind. */
 static inline int kvMvcIsThere(const char* file)
 {
     struct stat status;
@@ -259,6 +265,7 @@ static inline const char* kvMvcLibraryFault(const char* file)
     return fault;
 }
 
+/** Loads KvMvcLibrary::file. @return The system's handle; null, with the reason, for none. */
 static inline void* kvMvcLoadFile(const KvMvcLibrary* library, int32_t flags, char* reason)
 {
     /* Where the loader looks by itself is its own affair. */

@@ -24,6 +24,7 @@
 
 #include "settings_record.h"
 
+/** Before the definition of a function that a companion library exports. */
 #if defined(_WIN32)
 #define KV_MVC_COMPANION_API __declspec(dllexport)
 #else
@@ -48,12 +49,12 @@ extern "C" {
 /** The one that messages to the user name. */
 #define KV_MVC_ENCODER_LIBRARY "kv_mvcenc"
 
-/** The functions: a KvMvcDefaults and a KvMvcCheck. */
-#define KV_MVC_ENCODER_DEFAULTS "mvcOutVideoDefaults"
-#define KV_MVC_ENCODER_CHECK "mvcOutVideoChkSettings"
+#define KV_MVC_ENCODER_DEFAULTS "mvcOutVideoDefaults" /**< a KvMvcDefaults */
+#define KV_MVC_ENCODER_CHECK "mvcOutVideoChkSettings" /**< a KvMvcCheck */
 
 /**
  * Overwrites the record with the defaults of a preset.
+ * @param settings All of it, the view that is not coded too.
  * @param preset KvMvcVideoType; unknown numbers give the defaults of 0.
  * @param reserved1, reserved2 The dialog passes 0.
  * @return 0 for success; the dialog does not look at it.
@@ -71,22 +72,22 @@ typedef int (*KvMvcPrintf)(const char* format, ...);
 /** What a lookup yields, to be cast to the function's own type. */
 typedef void (*KvMvcFunction)(void);
 
-/** The names that a check's lookup knows: the C library's functions, and four KvMvcPrintf. */
-#define KV_MVC_MALLOC "malloc"
-#define KV_MVC_FREE "free"
-#define KV_MVC_ERROR_SINK "err_printf"
-#define KV_MVC_WARNING_SINK "wrn_printf"
-#define KV_MVC_NOTE_SINK "inf_printf"
-#define KV_MVC_PROGRESS_SINK "prg_printf"
+/* The names that a check's lookup knows. */
+#define KV_MVC_MALLOC "malloc"            /**< the C library's */
+#define KV_MVC_FREE "free"                /**< the C library's */
+#define KV_MVC_ERROR_SINK "err_printf"    /**< a KvMvcPrintf, as the next three are */
+#define KV_MVC_WARNING_SINK "wrn_printf"  /**< for what was corrected, and for risks */
+#define KV_MVC_NOTE_SINK "inf_printf"     /**< for what is worth knowing */
+#define KV_MVC_PROGRESS_SINK "prg_printf" /**< not shown */
 
-/**
- * Names that a lookup may know besides: a KvMvcTellAbout and a KvMvcTellLimitUse, for callers that
- * want more than texts. The dialog's lookup knows both: it leads from a message to its control,
- * marks that, and draws how much of the limits is used. An encoder need not ask for them, and
- * leaves out what it cannot tell; other lookups answer with null.
+/*
+ * Names that a lookup may know besides, for callers that want more than texts. The dialog's lookup
+ * knows both: it leads from a message to its control, marks that, and draws how much of the limits
+ * is used. An encoder need not ask for them, and leaves out what it cannot tell; other lookups
+ * answer with null.
  */
-#define KV_MVC_MESSAGE_ABOUT "msg_about"
-#define KV_MVC_LIMIT_USE "lim_usage"
+#define KV_MVC_MESSAGE_ABOUT "msg_about" /**< a KvMvcTellAbout */
+#define KV_MVC_LIMIT_USE "lim_usage"     /**< a KvMvcTellLimitUse */
 
 /**
  * The function lookup that the check receives. It knows KV_MVC_MALLOC, KV_MVC_FREE and the sinks,
@@ -139,8 +140,8 @@ typedef struct KvMvcLimitUse {
     const char* unit;  /**< "macroblocks/s"; may be empty */
     const char* rule;  /**< the rule that speaks of what is beyond, as in KvMvcMessageAbout */
     const char* level; /**< the level whose limit it is; null: whatever the level */
-    double used;
-    double limit;
+    double used;       /**< in the unit */
+    double limit;      /**< in the unit */
 } KvMvcLimitUse;
 
 /**
@@ -153,8 +154,9 @@ typedef void (*KvMvcTellLimitUse)(const KvMvcLimitUse* use);
 enum { KV_MVC_CHECK_STAGE = 3 };
 
 /**
- * Checks the record, may correct it in place, and reports errors, warnings and
- * notes through the sinks of `lookup`.
+ * Checks the record, may correct it in place, and reports errors, warnings and notes.
+ * @param lookup   Finds the sinks; to be used during the call only.
+ * @param settings The record, owned by the caller.
  * @param stage    The dialog passes KV_MVC_CHECK_STAGE.
  * @param reserved The dialog passes 0.
  * @return 0 when the settings are acceptable.
@@ -164,10 +166,8 @@ typedef int32_t (*KvMvcCheck)(KvMvcLookup lookup, KvMvcSettings* settings, int32
 
 /* --- Settings file library ----------------------------------------------- */
 
-#define KV_MVC_SETTINGS_IO_LIBRARY "kv_mvc_settings_io"
-
-/** The function: a KvMvcSettingsIoGetApi. */
-#define KV_MVC_SETTINGS_IO_GET_API "MVCConfigGetAPIExt"
+#define KV_MVC_SETTINGS_IO_LIBRARY "kv_mvc_settings_io" /**< its base name */
+#define KV_MVC_SETTINGS_IO_GET_API "MVCConfigGetAPIExt" /**< a KvMvcSettingsIoGetApi */
 
 /** Codes of MVCConfigGetAPIExt. */
 enum KvMvcSettingsIoCode {
@@ -181,7 +181,8 @@ enum KvMvcSettingsIoCode {
 typedef KvMvcFunction (*KvMvcSettingsIoGetApi)(int32_t code);
 
 /**
- * Fills the record from a file. The dialog passes a record of zeros.
+ * Fills the record from a file.
+ * @param settings The dialog passes a record of zeros.
  * @param path Zero-terminated UTF-8. The name that a user chooses in the
  *             dialog's file boxes comes double-converted: its UTF-8 bytes were
  *             read as Latin-1 and encoded once more. A dropped file's name
@@ -192,6 +193,7 @@ typedef int32_t (*KvMvcReadSettings)(KvMvcSettings* settings, const char* path);
 
 /**
  * Writes the record to a file.
+ * @param settings Not to be changed.
  * @param path As in KvMvcReadSettings.
  * @return 0 for success; the dialog does not look at it.
  */
@@ -199,17 +201,20 @@ typedef int32_t (*KvMvcWriteSettings)(KvMvcSettings* settings, const char* path)
 
 /**
  * Sets one setting, as a line of a settings file does; reasons go to standard error.
+ * @param settings   The record that it is set in.
  * @param assignment Zero-terminated UTF-8: KEY=VALUE. The key of a view's setting means all views
  *                   of the record, after "view0." or "view1." that view.
  * @return 0 for success; otherwise the record is unchanged.
  */
 typedef int32_t (*KvMvcSetSetting)(KvMvcSettings* settings, const char* assignment);
 
-/**
+/*
  * Suffixes of the files that the dialog lets a user drop, without a dot and in lower case, though
  * case does not count; as an array's initializers. The reader takes settings from either kind.
  */
+/** Of settings files. */
 #define KV_MVC_SETTINGS_SUFFIXES "cfg", "ini"
+/** Of media files. */
 #define KV_MVC_MEDIA_SUFFIXES                                                                      \
     "m2p", "m2t", "m2v", "m4p", "mp2", "mp4", "mpeg", "mpg", "mpv", "mxf", "trp", "ts", "vob", "ifo"
 
@@ -220,17 +225,15 @@ typedef int32_t (*KvMvcSetSetting)(KvMvcSettings* settings, const char* assignme
 /** The one that messages to the user name. */
 #define KV_MVC_PROBE_LIBRARY "kv_media_probe"
 
-/** The functions, as media_info.h has them; resolved and kept, never called by the dialog. */
-#define KV_MVC_PROBE_INIT "mpegInInfoInit"
-#define KV_MVC_PROBE_GET_INFO "mpegInGetInfo"
+/* The functions, as media_info.h has them; resolved and kept, never called by the dialog. */
+#define KV_MVC_PROBE_INIT "mpegInInfoInit"    /**< a KvMediaInfoInit */
+#define KV_MVC_PROBE_GET_INFO "mpegInGetInfo" /**< a KvMediaGetInfo */
 
 /* --- Localization library ------------------------------------------------ */
 
-#define KV_MVC_LOCALIZE_LIBRARY "mvc_gui_texts"
-
-/** The functions: a KvMvcLocalizeSetLanguage and a KvMvcLocalizeConvert. */
-#define KV_MVC_LOCALIZE_SET_LANGUAGE "localizeSetLanguage"
-#define KV_MVC_LOCALIZE_CONVERT "localizeConvertStr"
+#define KV_MVC_LOCALIZE_LIBRARY "mvc_gui_texts"            /**< its base name */
+#define KV_MVC_LOCALIZE_SET_LANGUAGE "localizeSetLanguage" /**< a KvMvcLocalizeSetLanguage */
+#define KV_MVC_LOCALIZE_CONVERT "localizeConvertStr"       /**< a KvMvcLocalizeConvert */
 
 /** Primary language identifiers that the dialog knows. */
 enum KvMvcLanguage { KV_MVC_LANGUAGE_GERMAN = 7, KV_MVC_LANGUAGE_JAPANESE = 17 };

@@ -10,6 +10,7 @@
 
 #include "settings_record.h"
 
+/** Before the declaration of the module's function. */
 #if !defined(_WIN32)
 #define KV_CONFIG_GUI_MVC_API __attribute__((visibility("default")))
 #elif defined(KV_CONFIG_GUI_MVC_BUILD)
@@ -108,9 +109,9 @@ typedef struct KvMvcHosting {
 KV_CONFIG_GUI_MVC_API int32_t showMVCEncoderPages(KvMvcSettings* settings, int32_t flags,
                                                   void* ext);
 
-/** The module's base name, as companions.h has those of its companions, and its function. */
-#define KV_MVC_GUI_LIBRARY "kv_config_gui_mvc"
-#define KV_MVC_GUI_SHOW_PAGES "showMVCEncoderPages"
+/* The module's names, as companions.h has those of its companions. */
+#define KV_MVC_GUI_LIBRARY "kv_config_gui_mvc"      /**< its base name */
+#define KV_MVC_GUI_SHOW_PAGES "showMVCEncoderPages" /**< a KvShowMvcEncoderPages */
 
 /** Type of showMVCEncoderPages(), for hosts that load the module at run time. */
 typedef int32_t (*KvShowMvcEncoderPages)(KvMvcSettings* settings, int32_t flags, void* ext);

@@ -140,7 +140,8 @@ typedef int32_t (*KvMediaInfoInit)(KvMediaInfo* info, uint32_t size);
  * @param info Prepared by mpegInInfoInit().
  * @param path Zero-terminated UTF-8. The index file of a DVD title stands for the title's first
  *             video file beside it.
- * @return KvMediaResult; anything but KV_MEDIA_OK comes with KvMediaInfo::reason.
+ * @return KvMediaResult; anything but KV_MEDIA_OK comes with KvMediaInfo::reason, where the record
+ *         has room for it.
  */
 typedef int32_t (*KvMediaGetInfo)(KvMediaInfo* info, const char* path);
 

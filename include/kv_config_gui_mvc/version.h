@@ -6,6 +6,7 @@
 #ifndef KV_CONFIG_GUI_MVC_VERSION_H
 #define KV_CONFIG_GUI_MVC_VERSION_H
 
+/** Major, minor and patch. */
 #define KV_MVC_VERSION "1.0.0"
 
 #endif

@@ -355,8 +355,10 @@ void TestMediaProbe::badArgumentsAreRefused()
     QCOMPARE(m_library.init(&info, 3), int32_t(KV_MEDIA_BAD_ARGUMENT));
     QCOMPARE(m_library.getInfo(&info, "x.mp4"), int32_t(KV_MEDIA_BAD_ARGUMENT)); // no size
     QCOMPARE(m_library.getInfo(nullptr, "x.mp4"), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    QCOMPARE(info.reason, "");
     m_library.init(&info, sizeof info);
     QCOMPARE(m_library.getInfo(&info, nullptr), int32_t(KV_MEDIA_BAD_ARGUMENT));
+    QCOMPARE(info.reason, "no file is named");
 }
 
 void TestMediaProbe::nothingStaysLoaded()
