@@ -139,7 +139,7 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
         // be released elsewhere.
         if (former && focus && m_content->isAncestorOf(focus) &&
             QGuiApplication::mouseButtons() == Qt::NoButton) {
-            m_scrollArea->ensureWidgetVisible(focus);
+            scrollTo(focus);
         }
     });
     outer->addWidget(m_scrollArea);
@@ -265,7 +265,7 @@ void ToolBox::keepFocusInPlace(const std::function<void()>& change)
     if (!control || !control->isVisible() || control != focus) {
         // Disabled or hidden, it has passed the focus on.
         if (m_content->isAncestorOf(focus)) {
-            m_scrollArea->ensureWidgetVisible(focus);
+            scrollTo(focus);
         }
         return;
     }
@@ -285,7 +285,18 @@ void ToolBox::reveal(QWidget* widget)
         button->setChecked(true);
     }
     layOutNow(m_scrollArea->viewport());
+    scrollTo(widget);
+}
+
+void ToolBox::scrollTo(QWidget* widget)
+{
     m_scrollArea->ensureWidgetVisible(widget);
+    const int covered = m_stickingTitle->isVisible() ? m_stickingTitle->height() : 0;
+    const int hidden = covered - placeOf(widget);
+    if (hidden > 0) {
+        QScrollBar* const bar = m_scrollArea->verticalScrollBar();
+        bar->setValue(bar->value() - hidden);
+    }
 }
 
 int ToolBox::placeOf(const QWidget* widget) const

@@ -54,6 +54,8 @@ private:
 
     void clickToggleOf(const QWidget* title);
     void placeStickingTitle();
+    /// Scrolls until the widget shows, and no title that sticks covers it.
+    void scrollTo(QWidget* widget);
     /// Where the widget stands in the part of the column that shows.
     int placeOf(const QWidget* widget) const;
 

@@ -116,6 +116,7 @@ private Q_SLOTS:
     void focusIsScrolledIntoView();
     void focusStaysBesideAViewThatGoes();
     void focusOfARowThatGoesIsInView();
+    void focusIsNotBehindATitleThatSticks();
     void mouseDoesNotScroll();
     void scrollingDoesNotEdit();
     void wheelEditsAfterAPause_data();
@@ -380,6 +381,26 @@ void TestDialogKeys::focusOfARowThatGoesIsInView()
     const QWidget* const focus = QApplication::focusWidget();
     QVERIFY(focus);
     QVERIFY2(isWhollyInView(focus), qPrintable(focus->objectName()));
+}
+
+void TestDialogKeys::focusIsNotBehindATitleThatSticks()
+{
+    OpenDialog dialog;
+    dialog->resize(dialog->width(), dialog->minimumHeight());
+    auto* const first = on<QSpinBox>(dialog, "GOPStructurePage", "iFrameIntervalSpin");
+    auto* const next = on<QSpinBox>(dialog, "GOPStructurePage", "iFrameForceSpin");
+    user::reveal(first);
+    first->setFocus();
+    const QScrollArea* area = nullptr;
+    for (QWidget* parent = next->parentWidget(); !area; parent = parent->parentWidget()) {
+        area = qobject_cast<QScrollArea*>(parent);
+    }
+    QScrollBar* const bar = area->verticalScrollBar();
+    bar->setValue(bar->value() + next->mapTo(area->viewport(), QPoint()).y());
+    QCoreApplication::processEvents();
+    QTest::keyClick(first, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), next);
+    QCOMPARE(next->visibleRegion().boundingRect(), next->rect());
 }
 
 void TestDialogKeys::mouseDoesNotScroll()
