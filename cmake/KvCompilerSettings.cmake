@@ -37,6 +37,10 @@ if(KV_SANITIZE)
 elseif(NOT WIN32)
     add_link_options(LINKER:--no-undefined)
 endif()
+if(KV_COVERAGE)
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
+endif()
 
 # What makes a fault in a program that loads these libraries, or in a file that they read, hard to use.
 if(WIN32)
@@ -47,7 +51,8 @@ else()
     add_link_options(LINKER:-z,relro,-z,now,-z,noexecstack)
     add_compile_options(-fstack-protector-strong)
     include(CheckCXXCompilerFlag)
-    # Those that not every compiler or processor has.
+    # Those that not every compiler or processor has; clang takes all, and warns of what it does not use.
+    set(CMAKE_REQUIRED_FLAGS -Werror)
     foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection=full -mbranch-protection=standard)
         string(MAKE_C_IDENTIFIER "KV_HAS${flag}" has)
         check_cxx_compiler_flag(${flag} ${has})
@@ -55,6 +60,7 @@ else()
             add_compile_options(${flag})
         endif()
     endforeach()
+    unset(CMAKE_REQUIRED_FLAGS)
     if(NOT KV_SANITIZE)
         # The C library's checks need the optimizer, and hide calls from the sanitizers. Some compilers
         # define it by themselves.

@@ -26,8 +26,8 @@ struct Limit {
 constexpr Limit limits[] = {
     {RLIMIT_CPU, kv::hardSeconds},
     {RLIMIT_CORE, 0},
-    {RLIMIT_FSIZE, 0},     // it writes to a pipe
-#if !defined(KV_SANITIZED) // a sanitizer's shadow is larger than any limit, and it reads files
+#if !defined(KV_INSTRUMENTED)
+    {RLIMIT_FSIZE, 0}, // it writes to a pipe
     {RLIMIT_DATA, kv::largestMemory},
     {RLIMIT_NOFILE, STDERR_FILENO + 1},
     {RLIMIT_NPROC, 0},
