@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -32,5 +33,6 @@ public:
     QString moduleFolder() const;
 
 private:
-    QTemporaryDir m_directory;
+    // As people name their folders.
+    QTemporaryDir m_directory{QDir::tempPath() + QStringLiteral("/K\u00E4se und Brot-XXXXXX")};
 };

@@ -128,8 +128,8 @@ void TestCHost::hostFoundByPkgConfigRunsWhereverTheTreeIs()
     const RunResult built = run(
         QStringLiteral("sh"),
         {QStringLiteral("-c"),
-         QStringLiteral("eval \"\"$1\" $2 \"$3\" -o \"$4\" $(pkg-config --cflags --libs "
-                        "'kv_config_gui_mvc >= 1.0')\""),
+         QStringLiteral(R"sh(eval "\"\$1\" $2 \"\$3\" -o \"\$4\" )sh"
+                        R"sh($(pkg-config --cflags --libs 'kv_config_gui_mvc >= 1.0')")sh"),
          QStringLiteral("sh"), QStringLiteral(KV_C_COMPILER), QStringLiteral(KV_C_FLAGS),
          QStringLiteral(KV_LINKED_HOST_SOURCE "/main.c"), path("by-pkg-config")},
         {{QStringLiteral("PKG_CONFIG_PATH"), moved + QStringLiteral("/" KV_LIBDIR "/pkgconfig")}});
