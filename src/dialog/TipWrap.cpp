@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
 

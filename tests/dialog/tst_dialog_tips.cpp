@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolTip>
 
 class TestDialogTips : public QObject
