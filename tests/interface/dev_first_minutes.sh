@@ -71,3 +71,24 @@ dev format-check
 [ $status -eq 0 ] || fail 'format-check without git'
 called 'clang-format-16 --dry-run --Werror ./src/two words.cpp' || fail 'the sources that are checked'
 ! grep -q '^git' "$CALLS" || fail 'git was asked'
+
+# The sources go on as an archive, from which all of this works again; the same ones are the same bytes.
+mkdir -p "$place/include/kv_config_gui_mvc" "$place/.git"
+cp "$sources/include/kv_config_gui_mvc/version.h" "$place/include/kv_config_gui_mvc"
+touch "$place/.clang-format" "$place/.git/config"
+dev archive
+[ $status -eq 0 ] || fail 'archive'
+archive=$place/$(cat "$work/said")
+first=$(sha256sum <"$archive")
+touch "$place/src/two words.cpp"
+dev archive
+[ "$(sha256sum <"$archive")" = "$first" ] || fail 'two archives of the same sources differ'
+mkdir "$work/unpacked"
+tar -C "$work/unpacked" -xf "$archive"
+place=$(echo "$work"/unpacked/kv_config_gui_mvc-*)
+[ ! -e "$place/.git" ] && [ ! -e "$place/build" ] && [ -e "$place/.clang-format" ] || fail 'what is in the archive'
+dev format-check
+[ $status -eq 0 ] || fail 'format-check of what was unpacked'
+called 'clang-format-16 --dry-run --Werror ./include/kv_config_gui_mvc/version.h ./src/two words.cpp' ||
+    called 'clang-format-16 --dry-run --Werror ./src/two words.cpp ./include/kv_config_gui_mvc/version.h' ||
+    fail 'the sources that are checked in what was unpacked'
