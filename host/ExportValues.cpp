@@ -109,6 +109,16 @@ int quantizerOffset(const KvMvcViewSettings& view)
     return 6 * (view.bit_depth_luma - 8);
 }
 
+QString flag(bool isSet)
+{
+    return isSet ? QStringLiteral("") : QString();
+}
+
+QString numberIf(bool isSaid, qint64 number)
+{
+    return isSaid ? QString::number(number) : QString();
+}
+
 QString textOf(std::initializer_list<CodeText> texts, qint32 code)
 {
     const auto* const found = std::ranges::find(texts, code, &CodeText::code);

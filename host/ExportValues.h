@@ -44,6 +44,11 @@ double bufferShare(const KvMvcViewSettings& view, qint32 fullness);
 /// By how much quantizers of deep samples begin below 0 (H.264 7.4.2.2).
 int quantizerOffset(const KvMvcViewSettings& view);
 
+/// An option that is its name alone: empty, or null where it is left out.
+QString flag(bool isSet);
+/// A number that may be left out; a null text then.
+QString numberIf(bool isSaid, qint64 number);
+
 /// The text of a code; a null text for one that has none.
 struct CodeText {
     qint32 code;

@@ -67,6 +67,8 @@ bool isLevelChosen(const ExportJob& job);
 bool isSliceCountMissed(const ExportJob& job);
 /// Whether there are too few B-frames in a row for a pyramid.
 bool isPyramidTooSmall(const ExportJob& job);
+/// Whether B-frames are coded as a pyramid.
+bool isPyramid(const ExportJob& job);
 /// Whether IDR pictures but the first would not be decodable.
 bool lacksIdrPictures(const ExportJob& job);
 /// Whether a rate or a buffer is told in units that it is no multiple of.

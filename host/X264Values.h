@@ -56,6 +56,7 @@ QString threads(const ExportJob& job);
 /// Rates and buffers are in thousands of bits there.
 qint64 thousands(qint64 bits);
 
+bool isConstantQuantizer(const ExportJob& job);
 bool isQuantizerMode(const ExportJob& job);
 /// Whether P-frames have a quantizer that would be lossless coding.
 bool isLosslessQuantizer(const ExportJob& job);
