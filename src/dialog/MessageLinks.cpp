@@ -73,7 +73,11 @@ const CheckMessage* message_links::messageOf(const QTextBlock& block)
 }
 
 MessageLinks::MessageLinks(QTextEdit* log, ControlOf controlOf, Follow follow)
-    : QObject(log), m_log(log), m_controlOf(std::move(controlOf)), m_follow(std::move(follow))
+    : QObject(log),
+      m_log(log),
+      m_viewport(log->viewport()),
+      m_controlOf(std::move(controlOf)),
+      m_follow(std::move(follow))
 {
     log->installEventFilter(this);
     log->viewport()->installEventFilter(this);
@@ -84,7 +88,7 @@ MessageLinks::MessageLinks(QTextEdit* log, ControlOf controlOf, Follow follow)
 bool MessageLinks::eventFilter(QObject* watched, QEvent* event)
 {
     bool done = false;
-    if (watched == m_log->viewport()) {
+    if (watched == m_viewport) {
         done = filterMouse(event);
     } else if (event->type() == QEvent::KeyPress) {
         done = filterKey(static_cast<QKeyEvent*>(event));

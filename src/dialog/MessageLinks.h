@@ -55,6 +55,9 @@ private:
     void tintCurrentMessage();
 
     QTextEdit* const m_log;
+    /// Known apart: while the log is destroyed it is no scroll area any more, and events still
+    /// come.
+    const QObject* const m_viewport;
     const ControlOf m_controlOf;
     const Follow m_follow;
     /// Where the left button was pressed on a message; a drag from there selects text.
