@@ -229,6 +229,11 @@ Soll sie überschrieben werden?</translation>
         <source>No setting has changed.</source>
         <translation>Keine Einstellung wurde geändert.</translation>
     </message>
+    <message>
+        <source>%1 in all views</source>
+        <extracomment>A setting of the rate control that was changed in all views at once.</extracomment>
+        <translation>%1 in allen Ansichten</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>
@@ -1627,6 +1632,58 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>LimitBars</name>
+    <message>
+        <source>macroblocks</source>
+        <translation>Makroblöcke</translation>
+    </message>
+    <message>
+        <source>macroblocks/s</source>
+        <translation>Makroblöcke/s</translation>
+    </message>
+    <message>
+        <source>frames</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>bit</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>View %1</source>
+        <translation>Ansicht %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <extracomment>What is used of a limit, with the unit: &quot;4 of 6 frames&quot;.</extracomment>
+        <translation>%1 von %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 too much</source>
+        <translation>%1 zu viel</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 frei</translation>
+    </message>
+    <message>
+        <source>Other limits</source>
+        <translation>Weitere Grenzen</translation>
+    </message>
+    <message>
+        <source>Limits of level %1</source>
+        <translation>Grenzen von Level %1</translation>
+    </message>
+    <message>
+        <source>The encoder tells no limits of these settings.</source>
+        <translation>Der Encoder nennt zu diesen Einstellungen keine Grenzen.</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzen</translation>
+    </message>
+</context>
+<context>
     <name>MessageLinks</name>
     <message>
         <source>Go to &quot;%1&quot;: click, or press Enter.</source>
@@ -2805,6 +2862,23 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     <message>
         <source>range of the encoder; discs allow 3 in a row</source>
         <translation>Bereich des Encoders; Discs erlauben 3 nacheinander</translation>
+    </message>
+</context>
+<context>
+    <name>SettingMenu</name>
+    <message>
+        <source>Reset to %1</source>
+        <extracomment>In the context menu of a setting; %1 is the value.</extracomment>
+        <translation>Zurück auf %1</translation>
+    </message>
+    <message>
+        <source>Starting value: %1</source>
+        <translation>Ausgangswert: %1</translation>
+    </message>
+    <message>
+        <source>Use in all views</source>
+        <extracomment>In the context menu of a view&apos;s rate control.</extracomment>
+        <translation>In allen Ansichten verwenden</translation>
     </message>
 </context>
 <context>

@@ -229,6 +229,11 @@ Do you want to overwrite it?</source>
         <source>No setting has changed.</source>
         <translation>変更された設定はありません。</translation>
     </message>
+    <message>
+        <source>%1 in all views</source>
+        <extracomment>A setting of the rate control that was changed in all views at once.</extracomment>
+        <translation>%1 (すべてのビュー)</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>
@@ -1627,6 +1632,58 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>LimitBars</name>
+    <message>
+        <source>macroblocks</source>
+        <translation>マクロブロック</translation>
+    </message>
+    <message>
+        <source>macroblocks/s</source>
+        <translation>マクロブロック/秒</translation>
+    </message>
+    <message>
+        <source>frames</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>bit</source>
+        <translation>ビット</translation>
+    </message>
+    <message>
+        <source>View %1</source>
+        <translation>ビュー %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <extracomment>What is used of a limit, with the unit: &quot;4 of 6 frames&quot;.</extracomment>
+        <translation>%1 / %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 too much</source>
+        <translation>%1 超過</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>Other limits</source>
+        <translation>その他の制限</translation>
+    </message>
+    <message>
+        <source>Limits of level %1</source>
+        <translation>レベル %1 の制限</translation>
+    </message>
+    <message>
+        <source>The encoder tells no limits of these settings.</source>
+        <translation>この設定に対する制限をエンコーダーは報告していません。</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>制限</translation>
+    </message>
+</context>
+<context>
     <name>MessageLinks</name>
     <message>
         <source>Go to &quot;%1&quot;: click, or press Enter.</source>
@@ -2805,6 +2862,23 @@ Do you want to delete it anyway?</source>
     <message>
         <source>range of the encoder; discs allow 3 in a row</source>
         <translation>エンコーダーの範囲。ディスクでは連続 3 枚まで</translation>
+    </message>
+</context>
+<context>
+    <name>SettingMenu</name>
+    <message>
+        <source>Reset to %1</source>
+        <extracomment>In the context menu of a setting; %1 is the value.</extracomment>
+        <translation>%1 に戻す</translation>
+    </message>
+    <message>
+        <source>Starting value: %1</source>
+        <translation>開始時の値: %1</translation>
+    </message>
+    <message>
+        <source>Use in all views</source>
+        <extracomment>In the context menu of a view&apos;s rate control.</extracomment>
+        <translation>すべてのビューで使用</translation>
     </message>
 </context>
 <context>

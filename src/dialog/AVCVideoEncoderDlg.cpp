@@ -380,6 +380,7 @@ bool AVCVideoEncoderDlg::check()
     m_suppressNextAccept = false;
     messageLog().rewriteWidget();
     m_help->showMessages(messageLog().told);
+    m_help->showLimits(messageLog().limits);
     return accepted;
 }
 

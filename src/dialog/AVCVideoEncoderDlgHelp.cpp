@@ -2,13 +2,19 @@
 
 #include "AVCVideoEncoderDlg.h"
 
+#include "LimitBars.h"
 #include "MessageLinks.h"
 #include "MessageLog.h"
 #include "SettingControls.h"
 #include "SettingHelp.h"
+#include "SettingMenu.h"
+#include "Shortcuts.h"
 #include "model/KeyNames.h"
 #include "model/SettingFacts.h"
+#include "model/SettingsToState.h"
+#include "pages/SettingsPage.h"
 
+#include <QPointer>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -19,6 +25,18 @@ void AVCVideoEncoderDlg::buildHelp()
     new MessageLinks(
         ui.errorLog, [this](const MessageFacts& facts) { return controlOf(facts); },
         &setting_controls::goTo);
+    new SettingMenu(
+        this, m_help, [this] { return describeViews(m_vocabulary, m_flags, m_record); },
+        [this](SettingsPage* page, const ConfigState& state) {
+            // A step of its own, also after numbers that were typed there.
+            const QPointer<AVCVideoEncoderDlg> self(this);
+            m_history.interrupt();
+            Q_EMIT page->stateChanged(state);
+            if (self) {
+                m_history.interrupt();
+            }
+        });
+    shortcuts::addLimits(this, [this] { limit_bars::showOver(this, messageLog().limits); });
 
     // It reports nothing, and goes back to what the settings have.
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {

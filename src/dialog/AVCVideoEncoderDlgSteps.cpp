@@ -3,6 +3,7 @@
 #include "AVCVideoEncoderDlg.h"
 
 #include "model/KeyNames.h"
+#include "model/SettingFacts.h"
 #include "pages/SettingsPage.h"
 
 #include <QAbstractSlider>
@@ -13,6 +14,22 @@
 
 #include <algorithm>
 #include <memory>
+
+namespace
+{
+
+/// Whether the state has the setting of the key for every view.
+bool isInAllViews(const ConfigState& state, const QString& key)
+{
+    const auto facts = settingFacts(key);
+    bool isInAll = facts && facts->view >= 0;
+    for (int view = 0; isInAll && view < KV_MVC_MAX_VIEWS; ++view) {
+        isInAll = state.contains(keyOfSetting(facts->member, view));
+    }
+    return isInAll;
+}
+
+} // namespace
 
 void AVCVideoEncoderDlg::takeStep(const QString& text, const QString& goesOn,
                                   const std::function<void()>& change)
@@ -77,11 +94,19 @@ QString AVCVideoEncoderDlg::describeEdit(const ConfigState& state) const
             return tr("Preset %1").arg(entry->value.toString());
         }
         for (const SettingsPage* page : pages) {
-            const QString caption = page->captionOf(entry.key());
-            if (!caption.isEmpty()) {
-                captions += caption;
-                break;
+            const QWidget* const control = page->widgetOf(entry.key());
+            if (!control) {
+                continue;
             }
+            //: A setting of the rate control that was changed in all views at once.
+            const QString caption =
+                isInAllViews(state, entry.key())
+                    ? tr("%1 in all views").arg(SettingsPage::plainCaptionOf(control))
+                    : page->captionOf(control);
+            if (!caption.isEmpty() && !captions.contains(caption)) {
+                captions += caption;
+            }
+            break;
         }
     }
     return captions.join(QLatin1String("; "));

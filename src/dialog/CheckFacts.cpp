@@ -1,5 +1,6 @@
 #include "CheckFacts.h"
 
+#include "Companions.h"
 #include "ForeignText.h"
 #include "MessageLog.h"
 
@@ -76,9 +77,9 @@ void tellLimitUse(const KvMvcLimitUse* use)
     }
     try {
         if (const auto copy = owned(kvMvcCopyLimitUse(use))) {
-            messageLog().limits.append(LimitUse{copy->view, text(copy->name), text(copy->unit),
-                                                text(copy->rule), text(copy->level), copy->used,
-                                                copy->limit});
+            messageLog().limits.append(LimitUse{
+                copy->view, text(copy->name ? localized(copy->name) : nullptr), text(copy->unit),
+                text(copy->rule), text(copy->level), copy->used, copy->limit});
         }
     } catch (...) {
     }

@@ -32,7 +32,7 @@ struct CheckMessage {
 /// How much of a limit is used; see KvMvcLimitUse.
 struct LimitUse {
     int view;
-    QString name;
+    QString name; ///< in the user's language
     QString unit;
     QString rule;
     QString level;

@@ -41,3 +41,7 @@ std::optional<QString> thrownBy(const char* name, Call call)
     });
     return words;
 }
+
+/// A text of the encoder's, as a message's format, in the user's language; the text itself where
+/// there is none.
+const char* localized(const char* text);

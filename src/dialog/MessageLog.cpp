@@ -44,17 +44,6 @@ void showBox(QMessageBox::Icon icon, const QString& message)
     delete box;
 }
 
-/// The message's format in the user's language; the format itself where there is none.
-const char* localized(const char* format)
-{
-    const auto convert = companionFunctions().localizeConvert;
-    const char* converted = nullptr;
-    if (convert) {
-        thrownBy(KV_MVC_LOCALIZE_CONVERT, [&] { converted = convert(format); });
-    }
-    return converted ? converted : format;
-}
-
 /// What a sink does with its messages.
 struct Sink {
     qint32 kind;

@@ -5,9 +5,10 @@
 #include "pages/ToolBox.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QHelpEvent>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QToolTip>
 
 namespace
 {
@@ -36,10 +37,12 @@ QWidget* firstOf(SettingsPage* page)
     return nullptr;
 }
 
-void showTipOf(const QWidget* control)
+/// As under the pointer.
+void showTipOf(QWidget* control)
 {
-    const QPoint below = control->mapToGlobal(QPoint(0, control->height()));
-    QToolTip::showText(below, control->toolTip());
+    const QPoint below(0, control->height());
+    QHelpEvent event(QEvent::ToolTip, below, control->mapToGlobal(below));
+    QCoreApplication::sendEvent(control, &event);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "SettingHelp.h"
 
+#include "LimitBars.h"
 #include "SettingControls.h"
 #include "TypingHint.h"
 #include "model/Differences.h"
@@ -15,6 +16,7 @@
 #include <QLocale>
 #include <QSlider>
 #include <QSpinBox>
+#include <QToolTip>
 
 #include <kv_config_gui_mvc/config_gui.h>
 
@@ -253,6 +255,14 @@ void SettingHelp::showMessages(const QVector<CheckMessage>& messages)
             ValueMarks::setSeverity(widget,
                                     widget == chosen ? words.severity : ValueMarks::Severity::None);
         }
+    }
+}
+
+void SettingHelp::showLimits(const QVector<LimitUse>& limits)
+{
+    if (const Row* const level = rowOf(keys::level)) {
+        ControlTip::of(level->widgets.first())
+            ->setPicture(limit_bars::table(limits, QToolTip::palette()));
     }
 }
 

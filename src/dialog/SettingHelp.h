@@ -31,6 +31,8 @@ public:
     void follow(const WorkingRecord& record, int view, const StartingPointPtr& start);
     /// Tells what a check has said, until the next one.
     void showMessages(const QVector<CheckMessage>& messages);
+    /// How much of the limits is used, in the tip of the level.
+    void showLimits(const QVector<LimitUse>& limits);
 
     /// Whether the setting is not as it was at the starting point.
     bool isChanged(const QString& key) const;

@@ -86,3 +86,8 @@ void shortcuts::addMenus(QDialog* dialog, const std::function<void()>& find,
     bind(dialog, {"Ctrl+F"}, find);
     bind(dialog, {"Ctrl+L"}, showFiles);
 }
+
+void shortcuts::addLimits(QDialog* dialog, const std::function<void()>& show)
+{
+    bind(dialog, {"F7"}, show);
+}
