@@ -234,6 +234,10 @@ Soll sie überschrieben werden?</translation>
         <extracomment>A setting of the rate control that was changed in all views at once.</extracomment>
         <translation>%1 in allen Ansichten</translation>
     </message>
+    <message>
+        <source>There are errors: the settings are refused.</source>
+        <translation>Es gibt Fehler: Die Einstellungen werden abgelehnt.</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>
@@ -995,15 +999,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Byte, Füllung in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
-        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße und Füllung in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Bit, Füllung in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
@@ -1011,11 +1015,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+        <translation>Füllung des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
     </message>
     <message>
         <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
-        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+        <translation>Zielfüllung des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
     </message>
     <message>
         <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
@@ -1188,15 +1192,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Byte, Füllung in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
-        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße und Füllung in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Bit, Füllung in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
@@ -1204,11 +1208,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+        <translation>Füllung des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
     </message>
     <message>
         <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
-        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+        <translation>Zielfüllung des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
     </message>
     <message>
         <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
@@ -1381,15 +1385,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Byte, Füllung in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
-        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße und Füllung in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Bit, Füllung in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
@@ -1397,11 +1401,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+        <translation>Füllung des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
     </message>
     <message>
         <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
-        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+        <translation>Zielfüllung des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
     </message>
     <message>
         <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
@@ -1574,15 +1578,15 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Buffer size in bytes, buffer fullness in percent. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Byte, Füllstand in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Byte, Füllung in Prozent. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size and buffer fullness in bits. Switching does not convert the numbers.</source>
-        <translation>Puffergröße und Füllstand in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße und Füllung in Bit. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Buffer size in bits, buffer fullness in 90 kHz ticks. Switching does not convert the numbers.</source>
-        <translation>Puffergröße in Bit, Füllstand in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
+        <translation>Puffergröße in Bit, Füllung in 90-kHz-Takten. Ein Wechsel rechnet die Zahlen nicht um.</translation>
     </message>
     <message>
         <source>Size of the coded picture buffer (VBV), in the chosen units.</source>
@@ -1590,11 +1594,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Fullness of the coded picture buffer (VBV) when decoding starts.</source>
-        <translation>Füllstand des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
+        <translation>Füllung des Puffers für codierte Bilder (VBV) bei Beginn der Decodierung.</translation>
     </message>
     <message>
         <source>Target fullness of the coded picture buffer (VBV). Only shown here: a preset or file sets it.</source>
-        <translation>Zielfüllstand des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
+        <translation>Zielfüllung des Puffers für codierte Bilder (VBV). Nur Anzeige: aus Voreinstellung oder Datei.</translation>
     </message>
     <message>
         <source>Keeps the buffer as large as what arrives in one second at the target bitrate.</source>
@@ -2410,7 +2414,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität – fester Quantisierer</translation>
+        <translation>Qualität – konstanter Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
@@ -3058,7 +3062,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität – fester Quantisierer</translation>
+        <translation>Qualität – konstanter Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
@@ -3109,7 +3113,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität – fester Quantisierer</translation>
+        <translation>Qualität – konstanter Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
@@ -3160,7 +3164,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität – fester Quantisierer</translation>
+        <translation>Qualität – konstanter Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>
@@ -3211,7 +3215,7 @@ Soll die Datei trotzdem gelöscht werden?</translation>
     </message>
     <message>
         <source>Const. Quality - Constant Quantizer</source>
-        <translation>Qualität – fester Quantisierer</translation>
+        <translation>Qualität – konstanter Quantisierer</translation>
     </message>
     <message>
         <source>Const. Quality - Average Quantizer</source>

@@ -151,7 +151,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>The encoder failed to check the settings.</source>
-        <translation>エンコーダーは設定を検査できませんでした。</translation>
+        <translation>エンコーダーは設定をチェックできませんでした。</translation>
     </message>
     <message>
         <source>Undo: %1</source>
@@ -234,6 +234,10 @@ Do you want to overwrite it?</source>
         <extracomment>A setting of the rate control that was changed in all views at once.</extracomment>
         <translation>%1 (すべてのビュー)</translation>
     </message>
+    <message>
+        <source>There are errors: the settings are refused.</source>
+        <translation>エラーがあるため、設定は受け付けられません。</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>
@@ -288,7 +292,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Restore preset</source>
-        <translation>プリセットを元に戻す</translation>
+        <translation>プリセットの既定値に戻す</translation>
     </message>
     <message>
         <source>Load settings</source>
@@ -305,7 +309,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Messages of the encoder&apos;s last check of the settings.</source>
-        <translation>エンコーダーが最後に設定を検査したときのメッセージ。</translation>
+        <translation>エンコーダーが最後に設定をチェックしたときのメッセージ。</translation>
     </message>
     <message>
         <source>Message log</source>
@@ -342,7 +346,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Check the settings, apply them and close.</source>
-        <translation>設定を検査し、適用して閉じます。</translation>
+        <translation>設定をチェックし、適用して閉じます。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -385,7 +389,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Level, which limits picture size, rate and buffers; &quot;Auto&quot; takes the lowest that fits.</source>
-        <translation>画面サイズ、レート、バッファを制限するレベル。「自動」は条件を満たす最小のレベルを使います。</translation>
+        <translation>ピクチャサイズ、レート、バッファを制限するレベル。「自動」は条件を満たす最小のレベルを使います。</translation>
     </message>
 </context>
 <context>
@@ -709,11 +713,11 @@ Do you want to overwrite it?</source>
     <message>
         <source>Picture width</source>
         <extracomment>For assistive technology.</extracomment>
-        <translation>画面の幅</translation>
+        <translation>ピクチャの幅</translation>
     </message>
     <message>
         <source>Width of the coded picture in luma samples.</source>
-        <translation>符号化する画面の幅 (輝度サンプル単位)。</translation>
+        <translation>符号化するピクチャの幅 (輝度サンプル単位)。</translation>
     </message>
     <message>
         <source>x</source>
@@ -723,11 +727,11 @@ Do you want to overwrite it?</source>
     <message>
         <source>Picture height</source>
         <extracomment>For assistive technology.</extracomment>
-        <translation>画面の高さ</translation>
+        <translation>ピクチャの高さ</translation>
     </message>
     <message>
         <source>Height of the coded picture in luma samples.</source>
-        <translation>符号化する画面の高さ (輝度サンプル単位)。</translation>
+        <translation>符号化するピクチャの高さ (輝度サンプル単位)。</translation>
     </message>
     <message>
         <source>Keep aspect ratio</source>
@@ -741,7 +745,7 @@ Do you want to overwrite it?</source>
     <message>
         <source>Picture aspect ratio</source>
         <extracomment>For assistive technology: the list beside &quot;Keep aspect ratio&quot;.</extracomment>
-        <translation>画面アスペクト比</translation>
+        <translation>ピクチャアスペクト比</translation>
     </message>
     <message>
         <source>Display aspect ratio; &quot;Custom&quot; leaves it to the pixel aspect ratio.</source>
@@ -886,12 +890,12 @@ Do you want to overwrite it?</source>
     <message>
         <source>VBV buffer initial</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 初期値</translation>
+        <translation>VBV 初期占有量</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 目標値</translation>
+        <translation>VBV 目標占有量</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
@@ -1079,12 +1083,12 @@ Do you want to overwrite it?</source>
     <message>
         <source>VBV buffer initial</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 初期値</translation>
+        <translation>VBV 初期占有量</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 目標値</translation>
+        <translation>VBV 目標占有量</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
@@ -1272,12 +1276,12 @@ Do you want to overwrite it?</source>
     <message>
         <source>VBV buffer initial</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 初期値</translation>
+        <translation>VBV 初期占有量</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 目標値</translation>
+        <translation>VBV 目標占有量</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
@@ -1465,12 +1469,12 @@ Do you want to overwrite it?</source>
     <message>
         <source>VBV buffer initial</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 初期値</translation>
+        <translation>VBV 初期占有量</translation>
     </message>
     <message>
         <source>VBV buffer target</source>
         <extracomment>Placeholder until the unit is known.</extracomment>
-        <translation>VBV 目標値</translation>
+        <translation>VBV 目標占有量</translation>
     </message>
     <message>
         <source>Force bitrate buffer length to 1 second</source>
@@ -2829,11 +2833,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Greyed because the picture aspect ratio sets it, unless that is &quot;Custom&quot;.</source>
-        <translation>画面アスペクト比で決まるため変更できません (「カスタム」を除く)。</translation>
+        <translation>ピクチャアスペクト比で決まるため変更できません (「カスタム」を除く)。</translation>
     </message>
     <message>
         <source>Greyed because progressive pictures have no fields.</source>
-        <translation>プログレッシブの画像にはフィールドがないため変更できません。</translation>
+        <translation>プログレッシブのピクチャにはフィールドがないため変更できません。</translation>
     </message>
     <message>
         <source>Greyed because the buffer is kept at the length of 1 second.</source>
@@ -3070,11 +3074,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
-        <translation>VBV 初期値 (%)</translation>
+        <translation>VBV 初期占有量 (%)</translation>
     </message>
     <message>
         <source>VBV buffer target (%)</source>
-        <translation>VBV 目標値 (%)</translation>
+        <translation>VBV 目標占有量 (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
@@ -3082,19 +3086,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
-        <translation>VBV 初期値 (ビット)</translation>
+        <translation>VBV 初期占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer target (bits)</source>
-        <translation>VBV 目標値 (ビット)</translation>
+        <translation>VBV 目標占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer initial (90 kHz)</source>
-        <translation>VBV 初期値 (90 kHz)</translation>
+        <translation>VBV 初期占有量 (90 kHz)</translation>
     </message>
     <message>
         <source>VBV buffer target (90 kHz)</source>
-        <translation>VBV 目標値 (90 kHz)</translation>
+        <translation>VBV 目標占有量 (90 kHz)</translation>
     </message>
 </context>
 <context>
@@ -3121,11 +3125,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
-        <translation>VBV 初期値 (%)</translation>
+        <translation>VBV 初期占有量 (%)</translation>
     </message>
     <message>
         <source>VBV buffer target (%)</source>
-        <translation>VBV 目標値 (%)</translation>
+        <translation>VBV 目標占有量 (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
@@ -3133,19 +3137,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
-        <translation>VBV 初期値 (ビット)</translation>
+        <translation>VBV 初期占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer target (bits)</source>
-        <translation>VBV 目標値 (ビット)</translation>
+        <translation>VBV 目標占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer initial (90 kHz)</source>
-        <translation>VBV 初期値 (90 kHz)</translation>
+        <translation>VBV 初期占有量 (90 kHz)</translation>
     </message>
     <message>
         <source>VBV buffer target (90 kHz)</source>
-        <translation>VBV 目標値 (90 kHz)</translation>
+        <translation>VBV 目標占有量 (90 kHz)</translation>
     </message>
 </context>
 <context>
@@ -3172,11 +3176,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
-        <translation>VBV 初期値 (%)</translation>
+        <translation>VBV 初期占有量 (%)</translation>
     </message>
     <message>
         <source>VBV buffer target (%)</source>
-        <translation>VBV 目標値 (%)</translation>
+        <translation>VBV 目標占有量 (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
@@ -3184,19 +3188,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
-        <translation>VBV 初期値 (ビット)</translation>
+        <translation>VBV 初期占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer target (bits)</source>
-        <translation>VBV 目標値 (ビット)</translation>
+        <translation>VBV 目標占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer initial (90 kHz)</source>
-        <translation>VBV 初期値 (90 kHz)</translation>
+        <translation>VBV 初期占有量 (90 kHz)</translation>
     </message>
     <message>
         <source>VBV buffer target (90 kHz)</source>
-        <translation>VBV 目標値 (90 kHz)</translation>
+        <translation>VBV 目標占有量 (90 kHz)</translation>
     </message>
 </context>
 <context>
@@ -3223,11 +3227,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (%)</source>
-        <translation>VBV 初期値 (%)</translation>
+        <translation>VBV 初期占有量 (%)</translation>
     </message>
     <message>
         <source>VBV buffer target (%)</source>
-        <translation>VBV 目標値 (%)</translation>
+        <translation>VBV 目標占有量 (%)</translation>
     </message>
     <message>
         <source>Bitrate buffer (bits)</source>
@@ -3235,19 +3239,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>VBV buffer initial (bits)</source>
-        <translation>VBV 初期値 (ビット)</translation>
+        <translation>VBV 初期占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer target (bits)</source>
-        <translation>VBV 目標値 (ビット)</translation>
+        <translation>VBV 目標占有量 (ビット)</translation>
     </message>
     <message>
         <source>VBV buffer initial (90 kHz)</source>
-        <translation>VBV 初期値 (90 kHz)</translation>
+        <translation>VBV 初期占有量 (90 kHz)</translation>
     </message>
     <message>
         <source>VBV buffer target (90 kHz)</source>
-        <translation>VBV 目標値 (90 kHz)</translation>
+        <translation>VBV 目標占有量 (90 kHz)</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "LogText.h"
 #include "MessageLinks.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QScrollBar>
@@ -165,6 +166,7 @@ void MessageLog::showIn(QTextEdit* log)
     widget = log;
     shown.clear();
     shownFirst.clear();
+    showsErrors = false;
     // What is taken back is settings, not messages.
     log->setUndoRedoEnabled(false);
 }
@@ -216,6 +218,7 @@ void MessageLog::rewriteWidget()
     }
     // Also where the texts are the last ones: they may be about something else.
     markMessages();
+    tellErrors();
 
     scrollToFirstToRead(widget);
     if (keepsItsPlace) {
@@ -268,6 +271,21 @@ void MessageLog::markMessages() const
         }
         end = block->paragraph;
     }
+}
+
+void MessageLog::tellErrors()
+{
+    if (showsErrors == !errors.isEmpty()) {
+        return;
+    }
+    showsErrors = !errors.isEmpty();
+    // By its description, which is empty as long as the tip tells all.
+    widget->setAccessibleDescription(
+        showsErrors ? QCoreApplication::translate("AVCVideoEncoderDlg",
+                                                  "There are errors: the settings are refused.")
+                    : QString());
+    QAccessibleEvent alert(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 QString MessageLog::allMessages() const

@@ -48,6 +48,7 @@ struct MessageLog {
     QVector<Block> shown;
     /// The first error among it, or else the first warning.
     QString shownFirst;
+    bool showsErrors = false;
 
     /// Makes it the log.
     void showIn(QTextEdit* log);
@@ -69,6 +70,8 @@ private:
     void write(const QVector<Block>& blocks);
     /// Marks which message each paragraph is of.
     void markMessages() const;
+    /// Tells assistive technology when errors come or go.
+    void tellErrors();
 };
 
 MessageLog& messageLog();

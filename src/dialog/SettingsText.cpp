@@ -1,6 +1,5 @@
 #include "SettingsText.h"
 
-#include "SettingControls.h"
 #include "pages/SettingsPage.h"
 
 #include <QButtonGroup>
@@ -15,17 +14,12 @@ namespace
 {
 
 /// A chosen button is one of the values; what they are values of, their group says.
-QString captionOf(const QWidget* control)
+QString captionOf(const SettingsPage* page, const QWidget* control)
 {
     const auto* const group = qobject_cast<const QRadioButton*>(control)
                                   ? qobject_cast<QGroupBox*>(control->parentWidget())
                                   : nullptr;
-    if (!group) {
-        return setting_controls::captionOf(control);
-    }
-    const QString own = SettingsPage::plainCaptionOf(control);
-    QString caption = setting_controls::captionOf(control);
-    return caption.replace(own, group->title());
+    return group ? page->withPageName(group->title()) : page->captionOf(control);
 }
 
 } // namespace
@@ -45,7 +39,7 @@ QVector<settings_text::Setting> settings_text::settingsOf(const QWidget* window)
         for (const SettingsPage* page : std::as_const(pages)) {
             for (const QString& key : page->keys()) {
                 QWidget* const control = page->widgetOf(key);
-                settings += {key, page, control, captionOf(control), tabs->tabText(tab)};
+                settings += {key, page, control, captionOf(page, control), tabs->tabText(tab)};
             }
         }
     }

@@ -109,9 +109,14 @@ QString SettingsPage::plainCaptionOf(const QWidget* control)
 
 QString SettingsPage::captionOf(const QWidget* control) const
 {
-    const QString caption = plainCaptionOf(control);
-    const bool isNamed = !caption.isEmpty() && !accessibleName().isEmpty();
-    return isNamed ? accessibleName() + QLatin1String(", ") + caption : caption;
+    return withPageName(plainCaptionOf(control));
+}
+
+QString SettingsPage::withPageName(const QString& caption) const
+{
+    const QString before = accessibleName() + QLatin1String(", ");
+    const bool stands = accessibleName().isEmpty() || caption.startsWith(before);
+    return caption.isEmpty() || stands ? caption : before + caption;
 }
 
 void SettingsPage::bindWith(QObject* control, const QString& key, StateSetter setFromState)

@@ -42,6 +42,8 @@ public:
     /// it has one.
     QString captionOf(const QString& key) const { return captionOf(widgetOf(key)); }
     QString captionOf(const QWidget* control) const;
+    /// The caption with the page's own name before it, where it has one that does not stand there.
+    QString withPageName(const QString& caption) const;
     /// The same of a control on no page.
     static QString plainCaptionOf(const QWidget* control);
 

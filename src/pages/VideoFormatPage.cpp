@@ -38,6 +38,12 @@ VideoFormatPage::VideoFormatPage(QWidget* parent)
     bind(ui.chromaList, keys::chromaFormat, &Page::slotChangeChroma);
     bind(ui.bitdepthLList, keys::bitDepthLuma, &Page::slotChangeBitdepthLuma);
     bind(ui.bitdepthCList, keys::bitDepthChroma, &Page::slotChangeBitdepthChroma);
+    // A check box stands where its label would: assistive technology looks for one.
+    auto* const aspectLabel =
+        new QLabel(ui.aspectRatioList->accessibleName(), ui.aspectRatioList->parentWidget());
+    aspectLabel->setObjectName(QStringLiteral("aspectRatioLabel"));
+    aspectLabel->setBuddy(ui.aspectRatioList);
+    aspectLabel->hide();
     // No setting of the record: it only couples the edits that this page reports.
     connect(ui.aspectRatioCheck, &QCheckBox::toggled, this, &Page::slotChangeAspectRatioCheck);
 }

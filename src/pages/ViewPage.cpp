@@ -3,6 +3,7 @@
 #include "model/KeyNames.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -149,6 +150,33 @@ void ViewPage::fillBitrateModes()
     m_modeList->addItems(bitrateModeTexts());
 }
 
+void ViewPage::nameForAccess(const QString& view)
+{
+    setAccessibleName(view);
+    const auto labels = findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        nameLabel(label);
+    }
+    const auto buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        button->setAccessibleName(withPageName(button->text()));
+    }
+    const auto groups = findChildren<QGroupBox*>();
+    for (QGroupBox* group : groups) {
+        group->setAccessibleName(withPageName(group->title()));
+    }
+}
+
+void ViewPage::nameLabel(QLabel* label)
+{
+    const QString name = withPageName(label->text());
+    label->setAccessibleName(name);
+    // A list is called by its label where the platform tells one.
+    if (auto* const field = qobject_cast<QSpinBox*>(label->buddy())) {
+        field->setAccessibleName(name);
+    }
+}
+
 void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate)
 {
     if (!m_oneSecond->isChecked()) {
@@ -273,6 +301,9 @@ void ViewPage::setUnits(int units)
     m_bufferLabel->setText(texts.buffer);
     m_vbvInitialLabel->setText(texts.vbvInitial);
     m_vbvTargetLabel->setText(texts.vbvTarget);
+    for (QLabel* label : {m_bufferLabel, m_vbvInitialLabel, m_vbvTargetLabel}) {
+        nameLabel(label);
+    }
     const UnitRow& row = unitRows[units];
     m_buffer->setSingleStep(row.bufferStep);
     m_vbvInitial->setSingleStep(row.vbvStep);

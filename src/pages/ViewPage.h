@@ -19,6 +19,9 @@ public:
     /// Of a rate, with what it pulls along.
     ConfigState edited(const QString& key, const QVariant& value) override;
 
+    /// Names the page and, after it, what is on it: the four have the same captions.
+    void nameForAccess(const QString& view);
+
     /// Also shows what fits the mode, and sets labels and limits by the units.
     void receiveState(const ConfigState& state) override;
 
@@ -69,6 +72,8 @@ private:
     /// Finds what a mode or a choice of units changes; once, when the layout has been built.
     void findRows();
     void showFor(const QString& mode, bool hrd);
+    /// Names the label and the control that it is the caption of, for assistive technology.
+    void nameLabel(QLabel* label);
     /// Labels, steps and limits of the units, whose code must be a known one.
     void setUnits(int units);
     /// The largest fullness, initial and target, that the page takes.

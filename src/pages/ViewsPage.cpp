@@ -26,8 +26,7 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
     makeToolBox(ui.collectionFrame);
     for (std::size_t i = 0; i < std::size(views); ++i) {
         addPage(views[i], titles[i]);
-        // The four have the same captions.
-        views[i]->setAccessibleName(titles[i]);
+        views[i]->nameForAccess(titles[i]);
     }
     m_additionalViews = {views[1], views[2], views[3]};
 }

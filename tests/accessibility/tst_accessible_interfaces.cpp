@@ -92,7 +92,7 @@ bool isSlider(const Setting& setting)
 const char* spokenName(const Setting& setting)
 {
     if (setting.is("display_aspect_x")) {
-        return "Display aspect ratio; \"Custom\" leaves it to the pixel aspect ratio.";
+        return "Picture aspect ratio";
     }
     // With the units that they are in.
     if (setting.is("bitrate_buffer")) {
@@ -124,6 +124,10 @@ private Q_SLOTS:
     void labelsHaveBuddies();
     void sectionButtonsTellTheirState();
     void tabsAreNamed();
+    void namesTellControlsOfTheDialogApart();
+    void unitButtonsAreInTheGroupOfUnits();
+    void nameFollowsTheUnits();
+    void errorsThatComeAndGoAreTold();
 };
 
 void TestAccessibleInterfaces::control_data()
@@ -133,9 +137,14 @@ void TestAccessibleInterfaces::control_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("role");
     const auto row = [](const char* page, const char* control, const char* name, int role) {
+        const QByteArray ofView = QByteArray(page).startsWith("View0") ? "Base View, "
+                                  : QByteArray(page) == "View1Page"    ? "View 1, "
+                                  : QByteArray(page) == "View2Page"    ? "View 2, "
+                                  : QByteArray(page) == "View3Page"    ? "View 3, "
+                                                                       : "";
         QTest::addRow("%s/%s", page, control)
             << QString::fromLatin1(page) << QString::fromLatin1(control)
-            << QString::fromLatin1(name) << role;
+            << QString::fromLatin1(ofView + name) << role;
     };
     const int list = QAccessible::ComboBox;
     const int number = QAccessible::SpinBox;
@@ -324,6 +333,68 @@ void TestAccessibleInterfaces::tabsAreNamed()
                      qPrintable(nameOf(group)));
         }
     }
+}
+
+void TestAccessibleInterfaces::namesTellControlsOfTheDialogApart()
+{
+    OpenDialog dialog;
+    QSet<QString> seen;
+    QStringList twice;
+    for (QWidget* widget : controlsOf(dialog.get())) {
+        const QString name = announced(widget);
+        if (seen.contains(name)) {
+            twice += name;
+        }
+        seen += name;
+    }
+    // The buttons that fold a section are called as the section.
+    QCOMPARE(twice, QStringList());
+    QVERIFY(seen.contains(QStringLiteral("View 1, Target bitrate (bps)")));
+}
+
+void TestAccessibleInterfaces::unitButtonsAreInTheGroupOfUnits()
+{
+    OpenDialog dialog;
+    auto* const button = findControl<QWidget>(dialog.get(), "View1Page", "units2Radio");
+    QCOMPARE(accessible(button)->parent()->text(QAccessible::Name),
+             QStringLiteral("View 1, Units"));
+    QStringList groups;
+    for (const auto& relation : accessible(button)->relations(QAccessible::Label)) {
+        groups += relation.first->text(QAccessible::Name);
+    }
+    QCOMPARE(groups, QStringList(QStringLiteral("View 1, Units")));
+}
+
+void TestAccessibleInterfaces::nameFollowsTheUnits()
+{
+    OpenDialog dialog;
+    auto* const buffer = findControl<QWidget>(dialog.get(), "View0Page", "vbvInitialSpin");
+    const char* const names[] = {"Base View, VBV buffer initial (%)",
+                                 "Base View, VBV buffer initial (bits)",
+                                 "Base View, VBV buffer initial (90 kHz)"};
+    for (int units = 0; units < 3; ++units) {
+        dialog.probe().record().settings.views[0].bitrate_units = units;
+        dialog.probe().settingsToState();
+        QCOMPARE(announced(buffer), QLatin1String(names[units]));
+    }
+}
+
+void TestAccessibleInterfaces::errorsThatComeAndGoAreTold()
+{
+    OpenDialog dialog;
+    const auto described = [&dialog](const char* sink) {
+        dialog.companions.onCheck = [sink](KvMvcLookup lookUp, KvMvcSettings&) {
+            print(lookUp, sink, "a message");
+            return 0;
+        };
+        dialog.probe().check();
+        return textOf(dialog.log(), QAccessible::Description);
+    };
+    const QString before = textOf(dialog.log(), QAccessible::Description);
+    const QString refused = QStringLiteral("There are errors: the settings are refused.");
+    QCOMPARE(described("wrn_printf"), before);
+    QCOMPARE(described("err_printf"), refused);
+    QCOMPARE(described("inf_printf"), before);
 }
 
 QTEST_MAIN(TestAccessibleInterfaces)

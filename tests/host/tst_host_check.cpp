@@ -210,7 +210,7 @@ void TestHostCheck::messagesAreInTheUsersLanguage_data()
     };
     const char* const english = "The picture width has to be at least 16 (now 0).";
     const char* const german = "Die Bildbreite muss mindestens 16 sein (jetzt 0).";
-    const char* const japanese = "画面の幅は 16 以上にしてください (現在 0)。";
+    const char* const japanese = "ピクチャの幅は 16 以上にしてください (現在 0)。";
     row("German asked for", "C", "de", german);
     row("Japanese asked for", "C", "ja", japanese);
 #ifndef Q_OS_WIN

@@ -38,14 +38,14 @@ void TestUnitLabels::areTranslatedOnEveryPage_data()
         {QStringLiteral("Puffer (Bit)"), QStringLiteral("VBV-Anfangsfüllung (90 kHz)"),
          QStringLiteral("VBV-Zielfüllung (90 kHz)")});
     row("jp", 0,
-        {QStringLiteral("ビットレートバッファ (バイト)"), QStringLiteral("VBV 初期値 (%)"),
-         QStringLiteral("VBV 目標値 (%)")});
+        {QStringLiteral("ビットレートバッファ (バイト)"), QStringLiteral("VBV 初期占有量 (%)"),
+         QStringLiteral("VBV 目標占有量 (%)")});
     row("jp", 1,
-        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期値 (ビット)"),
-         QStringLiteral("VBV 目標値 (ビット)")});
+        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期占有量 (ビット)"),
+         QStringLiteral("VBV 目標占有量 (ビット)")});
     row("jp", 2,
-        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期値 (90 kHz)"),
-         QStringLiteral("VBV 目標値 (90 kHz)")});
+        {QStringLiteral("ビットレートバッファ (ビット)"), QStringLiteral("VBV 初期占有量 (90 kHz)"),
+         QStringLiteral("VBV 目標占有量 (90 kHz)")});
 }
 
 void TestUnitLabels::areTranslatedOnEveryPage()
