@@ -217,9 +217,10 @@ void TestHostReport::limitsAreNamedInTheLanguage()
     }
     // A letter takes two columns.
     const QString japanese = reportIn("ja");
-    for (const char* text : {": ピクチャのサイズ; ", "\n  マクロブロックレート                     #",
-                             "\n  ビットレート (映像データ), ベースビュー  #",
-                             "\n  ピクチャの幅                             #"}) {
+    for (const char* text :
+         {": ピクチャのサイズ; ", "\n  マクロブロックレート                     #",
+          "\n  ビットレート (映像データ), ベースビュー  #",
+          "\n  ピクチャの幅                             #"}) {
         QVERIFY2(japanese.contains(QString::fromUtf8(text)), qPrintable(japanese));
     }
     QVERIFY(reportIn("en").contains(QStringLiteral("\n  Bitrate of pictures, base view  #")));
