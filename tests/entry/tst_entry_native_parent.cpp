@@ -111,11 +111,11 @@ void TestEntryNativeParent::initTestCase()
     if (qstrlen(KV_XVFB) == 0) {
         QSKIP("no Xvfb on this system");
     }
-    m_server.start(QStringLiteral(KV_XVFB),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"),
-                    QStringLiteral("%1x%2x24").arg(screenWidth).arg(screenHeight),
-                    QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    m_server.start(
+        QStringLiteral(KV_XVFB),
+        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+         QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(screenWidth).arg(screenHeight),
+         QStringLiteral("-noreset"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     QVERIFY(m_server.waitForStarted());
     while (!m_server.canReadLine()) {
         QVERIFY(m_server.waitForReadyRead(20000));

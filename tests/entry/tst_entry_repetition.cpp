@@ -12,6 +12,11 @@ namespace
 {
 
 constexpr int mostGrowth = 1024; // KiB
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int usualCalls = 10;
+#else
+constexpr int usualCalls = 40;
+#endif
 
 QStringList words(const QString& text)
 {
@@ -70,7 +75,7 @@ void TestEntryRepetition::nothingGrows()
     QFETCH(QString, result);
     bool isNumber = false;
     const int wanted = qEnvironmentVariableIntValue("KV_CALLS", &isNumber);
-    int count = isNumber ? wanted : 40;
+    int count = isNumber ? wanted : usualCalls;
     if (calls == QLatin1String("reload")) {
         count = qMax(10, count / 10);
     }
