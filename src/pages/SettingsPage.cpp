@@ -104,6 +104,13 @@ QString SettingsPage::plainCaptionOf(const QWidget* control)
     if (caption.endsWith(QLatin1Char(':'))) {
         caption.chop(1);
     }
+    // For assistive technology a control bears its page's name, too.
+    for (const QWidget* page = control->parentWidget(); page; page = page->parentWidget()) {
+        const QString before = page->accessibleName() + QLatin1String(", ");
+        if (qobject_cast<const SettingsPage*>(page) && caption.startsWith(before)) {
+            caption.remove(0, before.size());
+        }
+    }
     return caption.trimmed();
 }
 
