@@ -417,24 +417,31 @@ void AVCVideoEncoderDlg::slotAccept()
         m_suppressNextAccept = false;
         return;
     }
-    // A number that is still being typed counts, also when nothing takes the focus from its field.
     const QPointer<AVCVideoEncoderDlg> self(this);
-    if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget())) {
-        field->interpretText();
-    }
-    if (!self) {
+    if (!endTyping()) {
         return;
     }
     if (!check()) {
         // The same messages may have been there before: that nothing happened must not be all.
         if (self) {
             messageLog().pointOutError();
+        }
+        if (self) {
             goToFirstError();
         }
         return;
     }
     *m_caller = m_record.settings;
     accept();
+}
+
+bool AVCVideoEncoderDlg::endTyping()
+{
+    const QPointer<AVCVideoEncoderDlg> self(this);
+    if (auto* const field = qobject_cast<QAbstractSpinBox*>(focusWidget())) {
+        field->interpretText();
+    }
+    return self;
 }
 
 void AVCVideoEncoderDlg::done(int result)

@@ -36,20 +36,11 @@ void AVCVideoEncoderDlg::buildHelp()
                 m_history.interrupt();
             }
         });
-    shortcuts::addLimits(this, [this] { limit_bars::showOver(this, messageLog().limits); });
-
-    // It reports nothing, and goes back to what the settings have.
-    for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
-        QWidget* const target = setting_controls::find(this, keys::ofView(keys::vbvTarget, view));
-        const auto showAgain = [this] {
-            if (!m_updating) {
-                QMetaObject::invokeMethod(this, &AVCVideoEncoderDlg::describeAllViews,
-                                          Qt::QueuedConnection);
-            }
-        };
-        connect(qobject_cast<QSpinBox*>(target), qOverload<int>(&QSpinBox::valueChanged), this,
-                showAgain);
-    }
+    shortcuts::addLimits(this, [this] {
+        if (endTyping()) {
+            limit_bars::showOver(this, messageLog().limits);
+        }
+    });
 }
 
 QWidget* AVCVideoEncoderDlg::controlOf(const MessageFacts& facts) const

@@ -33,7 +33,7 @@ void AVCVideoEncoderDlg::addMenus()
     shortcuts::addMenus(
         this, [this] { findSetting(); },
         [this] {
-            if (m_flags & KV_MVC_GUI_FILE_BUTTONS) {
+            if ((m_flags & KV_MVC_GUI_FILE_BUTTONS) && endTyping()) {
                 recent_files::showMenu(ui.buttonLoad);
             }
         });
@@ -67,6 +67,9 @@ void AVCVideoEncoderDlg::loadRecentFile(const QString& path)
 
 void AVCVideoEncoderDlg::findSetting()
 {
+    if (!endTyping()) {
+        return;
+    }
     QVector<FindBox::Entry> entries;
     const auto settings = settings_text::settingsOf(this);
     for (const settings_text::Setting& setting : settings) {
@@ -84,6 +87,9 @@ void AVCVideoEncoderDlg::findSetting()
 
 void AVCVideoEncoderDlg::showChanges()
 {
+    if (!endTyping()) {
+        return;
+    }
     const ConfigState before = allStates(m_start->record);
     const ConfigState after = allStates(m_record);
     QVector<FindBox::Entry> entries;

@@ -75,7 +75,9 @@ void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHisto
         const QString text = message.arg(reached->text);
         // A file's name is no markup, whatever it looks like.
         QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()),
-                           Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+                           Qt::mightBeRichText(text)
+                               ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal)
+                               : text);
     }
 }
 

@@ -164,6 +164,10 @@ MessageLog& messageLog()
 void MessageLog::showIn(QTextEdit* log)
 {
     widget = log;
+    // Of an earlier dialog; the colours last.
+    clearMessages();
+    told.clear();
+    limits.clear();
     shown.clear();
     shownFirst.clear();
     showsErrors = false;
@@ -206,7 +210,8 @@ void MessageLog::rewriteWidget()
     if (!text.omitted.isEmpty()) {
         blocks += {text.omitted, noteColour, -1, std::nullopt};
     }
-    if (blocks != shown) {
+    // Somebody else may have written there.
+    if (blocks != shown || widget->document()->revision() != shownRevision) {
         const auto wrap = text.hasEndlessWord ? QTextOption::WrapAnywhere
                                               : QTextOption::WrapAtWordBoundaryOrAnywhere;
         if (widget->wordWrapMode() != wrap) {
@@ -215,6 +220,7 @@ void MessageLog::rewriteWidget()
         }
         write(blocks);
         LogGround::lay(widget);
+        shownRevision = widget->document()->revision();
     }
     // Also where the texts are the last ones: they may be about something else.
     markMessages();
@@ -305,6 +311,10 @@ void MessageLog::pointOutError() const
         return;
     }
     widget->setFocus();
+    // Who hears of the focus may delete it.
+    if (!widget) {
+        return;
+    }
     const QTextBlock block = firstToRead(widget);
     QTextCursor cursor(block);
     if (block.userState() == errorsBegin) {

@@ -46,6 +46,8 @@ struct MessageLog {
     };
     /// What it shows; none when it has not been written yet.
     QVector<Block> shown;
+    /// That of the document then.
+    int shownRevision = 0;
     /// The first error among it, or else the first warning.
     QString shownFirst;
     bool showsErrors = false;

@@ -56,7 +56,10 @@ public:
         int number = 0;
         const QStringList files = recent_files::list();
         for (const QString& path : files) {
-            addAction(itemText(++number, path), parent, [load, path] { load(path); });
+            // Not out of the menu: loading checks, and the dialog may go meanwhile.
+            connect(
+                addAction(itemText(++number, path)), &QAction::triggered, parent,
+                [load, path] { load(path); }, Qt::QueuedConnection);
         }
         if (files.isEmpty()) {
             //: In the menu of the files that were loaded last, while there are none.
@@ -78,6 +81,9 @@ QStringList recent_files::list()
 
 void recent_files::add(const QString& path)
 {
+    if (path.isEmpty()) {
+        return;
+    }
     const QString file = QFileInfo(path).absoluteFilePath();
     QStringList files = list();
     files.removeAll(file);

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHelpEvent>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTabWidget>
 
@@ -91,8 +92,9 @@ void setting_controls::goTo(QWidget* control)
         showTipOf(target);
         return;
     }
+    const QPointer<QWidget> self(target);
     target->setFocus(Qt::OtherFocusReason);
-    if (auto* const field = qobject_cast<QSpinBox*>(target)) {
+    if (auto* const field = qobject_cast<QSpinBox*>(self.data())) {
         field->selectAll();
     }
 }

@@ -35,13 +35,22 @@ QMenu* textMenu(QSpinBox* field)
     const auto add = [&](const char* text, int step, bool isEnabled) {
         QAction* const action =
             menu->addAction(QCoreApplication::translate("QAbstractSpinBox", text));
-        action->setEnabled(isEnabled && field->isEnabled());
-        QObject::connect(action, &QAction::triggered, field,
-                         [field, step] { field->stepBy(step); });
+        action->setEnabled(isEnabled);
+        // Not out of the menu: the number is checked, and the dialog may go meanwhile.
+        QObject::connect(
+            action, &QAction::triggered, field, [field, step] { field->stepBy(step); },
+            Qt::QueuedConnection);
     };
     menu->addSeparator();
     add("&Step up", 1, field->value() < field->maximum());
     add("Step &down", -1, field->value() > field->minimum());
+    // The toolkit would paste into a locked field, too.
+    if (!field->isEnabled()) {
+        const auto actions = menu->actions();
+        for (QAction* action : actions) {
+            action->setEnabled(false);
+        }
+    }
     return menu;
 }
 
@@ -95,15 +104,18 @@ void SettingMenu::attach(SettingsPage* page)
 
 bool SettingMenu::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() != QEvent::ContextMenu) {
+        return QObject::eventFilter(watched, event);
+    }
     const auto setting = m_settings.constFind(watched);
-    if (event->type() != QEvent::ContextMenu || setting == m_settings.constEnd()) {
+    if (setting == m_settings.constEnd()) {
         return QObject::eventFilter(watched, event);
     }
     const QPointer<SettingMenu> self(this);
     const Setting chosen = *setting;
     const QPoint place = static_cast<QContextMenuEvent*>(event)->globalPos();
     // What is typed counts; the number may be checked, and the dialog deleted meanwhile.
-    if (auto* const field = qobject_cast<QSpinBox*>(chosen.control)) {
+    if (auto* const field = qobject_cast<QSpinBox*>(chosen.control); field && field->isEnabled()) {
         field->interpretText();
     }
     if (self) {

@@ -170,7 +170,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* const window = qobject_cast<QWindow*>(watched);
-        if (window && window->isTopLevel() && event->type() == QEvent::PlatformSurface &&
+        // A window of the host, which the toolkit makes an object of, keeps the host's name.
+        if (window && window->isTopLevel() && window->type() != Qt::ForeignWindow &&
+            event->type() == QEvent::PlatformSurface &&
             static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
                 QPlatformSurfaceEvent::SurfaceCreated) {
             setClass(*window);

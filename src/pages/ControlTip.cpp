@@ -8,7 +8,7 @@ namespace
 QString asTip(const QString& text)
 {
     // What an encoder says is no markup, whatever it looks like.
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 } // namespace
@@ -47,8 +47,9 @@ void ControlTip::rewrite()
         all += lines;
     }
     const QString text = all.join(QLatin1Char('\n'));
-    m_control->setToolTip(m_picture.isEmpty() ? asTip(text)
-                                              : Qt::convertFromPlainText(text) + m_picture);
+    m_control->setToolTip(m_picture.isEmpty()
+                              ? asTip(text)
+                              : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) + m_picture);
     m_control->setWhatsThis(asTip(text));
     // Without messages the tip is the description.
     const QStringList& messages = m_lines.at(Messages);

@@ -210,7 +210,12 @@ bool ToolBox::eventFilter(QObject* watched, QEvent* event)
         const auto* const mouse = static_cast<QMouseEvent*>(event);
         auto* const title = static_cast<QWidget*>(watched);
         if (mouse->button() == Qt::LeftButton && title->rect().contains(mouse->pos())) {
+            // A number that is being typed is checked then, and the dialog may go.
+            const QPointer<ToolBox> self(this);
             clickToggleOf(title);
+            if (!self) {
+                return true;
+            }
         }
     }
     return QFrame::eventFilter(watched, event);
@@ -225,7 +230,11 @@ void ToolBox::clickToggleOf(const QWidget* title)
     if (!toggle) {
         return;
     }
+    const QPointer<ToolBox> self(this);
     toggle->setFocus(Qt::MouseFocusReason);
+    if (!self) {
+        return;
+    }
     toggle->click();
     if (sticks) {
         // The section's own comes to where that was.

@@ -140,8 +140,10 @@ void ValueMarks::paint()
             painter.setPen(pen);
             painter.drawRect(mark.control->geometry().adjusted(-1, -1, 1, 1));
         }
-        if (mark.changed && mark.anchor) {
-            const QRect place = mark.anchor->geometry();
+        if (mark.changed) {
+            // A label that is not shown names its control for assistive technology only.
+            const bool hasLabel = mark.anchor && !mark.anchor->isHidden();
+            const QRect place = (hasLabel ? mark.anchor : mark.control)->geometry();
             const int gap = qMin(place.left(), barWidth + 1);
             painter.fillRect(place.left() - gap, place.top(), barWidth, place.height(),
                              inkOn(m_ground, changedInk));

@@ -7,7 +7,9 @@
 #include "dialog/MessageLog.h"
 #include "pages/SettingsPage.h"
 
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
@@ -249,6 +251,11 @@ void TestDialogReset::lockedSettingStays()
     QMenu* const menu = openMenu(width);
     QCOMPARE(textsOf(menu).first(), QStringLiteral("(Reset to 720)"));
     QVERIFY(textsOf(menu).contains(QStringLiteral("(&Step up)")));
+    // Not by the field's own items either.
+    QGuiApplication::clipboard()->setText(QStringLiteral("640"));
+    for (const QAction* action : menu->actions()) {
+        QVERIFY2(action->isSeparator() || !action->isEnabled(), qPrintable(action->text()));
+    }
     close(menu);
 }
 
