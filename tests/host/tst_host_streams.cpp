@@ -134,10 +134,13 @@ void TestHostStreams::badInputIsRefused_data()
         << QByteArray("# two\n\nnum_views = 2\n")
         << QStringLiteral(
                "<stdin>:3: key 'num_views' before the first section, which is [record]\n");
+#ifndef Q_OS_WIN
+    // There is no library that knows media there, and so the settings' own words.
     QTest::newRow("other text")
         << QByteArray("To be, or not to be.\nnum_views = 2\n")
         << prefix + QStringLiteral(
                         "<stdin>: no media, and no text of a settings file: it has no [section]\n");
+#endif
     QTest::newRow("text of another encoding")
         << QByteArray("[record]\n# Gr\xF6\xDF"
                       "e\n")
