@@ -252,11 +252,10 @@ static inline const char* kvMvcLibraryFault(const char* file)
                header.e_phentsize == sizeof segment) {
         for (at = 0; at < header.e_phnum && fault == NULL; ++at) {
             const off_t place = (off_t)header.e_phoff + (off_t)at * (off_t)sizeof segment;
-            if (pread(descriptor, &segment, sizeof segment, place) != (ssize_t)sizeof segment) {
-                fault = truncated;
-            } else if (segment.p_type == PT_LOAD &&
-                       (segment.p_offset > (ElfW(Off))status.st_size ||
-                        segment.p_filesz > (ElfW(Off))status.st_size - segment.p_offset)) {
+            if (pread(descriptor, &segment, sizeof segment, place) != (ssize_t)sizeof segment ||
+                (segment.p_type == PT_LOAD &&
+                 (segment.p_offset > (ElfW(Off))status.st_size ||
+                  segment.p_filesz > (ElfW(Off))status.st_size - segment.p_offset))) {
                 fault = truncated;
             }
         }
