@@ -29,8 +29,8 @@ void AVCVideoEncoderDlg::buildHelp()
         this, m_help, [this] { return describeViews(m_vocabulary, m_flags, m_record); },
         [this](SettingsPage* page, const ConfigState& state) {
             // A step of its own, also after numbers that were typed there.
-            const QPointer<AVCVideoEncoderDlg> self(this);
             m_history.interrupt();
+            const QPointer<AVCVideoEncoderDlg> self(this);
             Q_EMIT page->stateChanged(state);
             if (self) {
                 m_history.interrupt();
@@ -54,10 +54,12 @@ void AVCVideoEncoderDlg::goToFirstError()
     const auto first = std::find_if(told.begin(), told.end(), [](const CheckMessage& message) {
         return message.kind == KV_MVC_MESSAGE_ERROR;
     });
-    if (m_isClosed || first == told.end() || !first->facts) {
+    if (m_isClosed || first == told.end()) {
         return;
     }
-    if (QWidget* const control = controlOf(*first->facts)) {
+    const auto& facts = first->facts;
+    QWidget* const control = facts ? controlOf(*facts) : nullptr;
+    if (control) {
         setting_controls::goTo(control);
     }
 }

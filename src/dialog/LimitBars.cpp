@@ -76,7 +76,7 @@ int percentOf(const LimitUse& use)
 
 QString nameOf(const LimitUse& use)
 {
-    const QString name = use.name.toHtmlEscaped();
+    QString name = use.name.toHtmlEscaped();
     if (use.view < 0) {
         return name;
     }

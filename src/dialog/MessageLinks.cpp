@@ -48,10 +48,10 @@ int paragraphsOf(const QString& text)
 
 } // namespace
 
-void message_links::mark(QTextBlock first, int end, const QVector<CheckMessage>& messages,
+void message_links::mark(const QTextBlock& first, int end, const QVector<CheckMessage>& messages,
                          qint32 kind)
 {
-    QTextBlock block = std::move(first);
+    QTextBlock block = first;
     const auto goesOn = [&] { return block.isValid() && block.blockNumber() < end; };
     for (int number = 0; number < int(messages.size()) && goesOn(); ++number) {
         const CheckMessage& message = messages[number];

@@ -20,7 +20,7 @@ namespace message_links
 
 /// Marks the paragraphs from this one on, one for each line of the messages of the kind, up to the
 /// one with the number `end`: the log does not show all of very many or very long ones.
-void mark(QTextBlock first, int end, const QVector<CheckMessage>& messages, qint32 kind);
+void mark(const QTextBlock& first, int end, const QVector<CheckMessage>& messages, qint32 kind);
 
 /// The message, of those that the log shows; null for a paragraph that is of none.
 const CheckMessage* messageOf(const QTextBlock& block);

@@ -270,10 +270,10 @@ void MessageLog::markMessages() const
     const QTextDocument* const document = widget->document();
     int end = document->blockCount();
     for (auto block = shown.crbegin(); block != shown.crend(); ++block) {
-        if (block->kind) {
-            // A block ends with an empty paragraph.
+        // A block ends with an empty paragraph.
+        if (const auto& kind = block->kind) {
             message_links::mark(document->findBlockByNumber(block->paragraph), end - 1, told,
-                                *block->kind);
+                                *kind);
         }
         end = block->paragraph;
     }
