@@ -69,13 +69,13 @@ QStringList wantedPlatforms()
 
 } // namespace
 
-bool canMakeApplication()
+bool canMakeApplication(DisplayConnection& kept)
 {
     const QStringList installed = installedPlatforms();
     const QStringList wanted = wantedPlatforms();
-    return std::any_of(wanted.begin(), wanted.end(), [&installed](const QString& platform) {
+    return std::any_of(wanted.begin(), wanted.end(), [&](const QString& platform) {
         const bool isInstalled = installed.contains(platform);
-        const bool works = isInstalled && platform_plugins::displayAnswers(platform);
+        const bool works = isInstalled && platform_plugins::displayAnswers(platform, kept);
         trace::say([&] {
             return QStringLiteral("platform plug-in %1: %2")
                 .arg(platform, works         ? QStringLiteral("works")

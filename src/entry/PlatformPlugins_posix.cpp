@@ -9,17 +9,34 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <chrono>
 #include <cstring>
+#include <thread>
 
 namespace
 {
 
-bool xServerAnswers()
+/// A server that starts anew, since its last client has left, drops who comes meanwhile; who comes
+/// after that is taken.
+constexpr int mostTries = 3;
+constexpr auto pauseBetweenTries = std::chrono::milliseconds(50);
+
+bool xServerAnswers(DisplayConnection& kept)
 {
-    xcb_connection_t* const server = xcb_connect(nullptr, nullptr);
-    const bool answers = !xcb_connection_has_error(server);
-    xcb_disconnect(server);
-    return answers;
+    for (int tries = 1;; ++tries) {
+        xcb_connection_t* const server = xcb_connect(nullptr, nullptr);
+        const int error = xcb_connection_has_error(server);
+        if (error == 0) {
+            kept.reset(server,
+                       [](void* open) { xcb_disconnect(static_cast<xcb_connection_t*>(open)); });
+            return true;
+        }
+        xcb_disconnect(server);
+        if (error != XCB_CONN_ERROR || tries == mostTries) {
+            return false;
+        }
+        std::this_thread::sleep_for(pauseBetweenTries);
+    }
 }
 
 bool waylandAnswers()
@@ -66,10 +83,10 @@ QStringList usualPlatforms()
     return platforms;
 }
 
-bool displayAnswers(const QString& platform)
+bool displayAnswers(const QString& platform, DisplayConnection& kept)
 {
     if (platform == QLatin1String("xcb")) {
-        return xServerAnswers();
+        return xServerAnswers(kept);
     }
     return !platform.startsWith(QLatin1String("wayland")) || waylandAnswers();
 }

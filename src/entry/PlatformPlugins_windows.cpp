@@ -21,7 +21,7 @@ QStringList usualPlatforms()
     return {QStringLiteral("windows")};
 }
 
-bool displayAnswers(const QString&)
+bool displayAnswers(const QString&, DisplayConnection&)
 {
     return true;
 }

@@ -113,7 +113,9 @@ void placeOverNativeParent(QWidget* dialog, const QWinWidget& host)
     native_window::setTransientFor(dialog, host.parentWindow());
 }
 
-bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
+/// @param display Kept until the application has a connection of its own.
+bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
+                         DisplayConnection& display)
 {
     // Both outlive the application object, which keeps references to them.
     static int argumentCount = 0;
@@ -123,6 +125,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting)
     const ProcessLocale hostLocale;
     const ApplicationName name;
     QApplication application(argumentCount, arguments, versionCode);
+    display.reset();
     ProcessLocale::useCNumbers();
     addOwnFolder(application);
     native_window::nameWindows(application, KV_MVC_GUI_LIBRARY);
@@ -188,10 +191,11 @@ int32_t showPages(KvMvcSettings* settings, int32_t flags, void* ext)
             return failed("the process has an application object, and KV_MVC_GUI_HOST_APPLICATION "
                           "is not given");
         }
-        if (!canMakeApplication()) {
+        DisplayConnection display;
+        if (!canMakeApplication(display)) {
             return failed("no platform plug-in with a display that answers");
         }
-        accepted = runInOwnApplication(settings, *hosting);
+        accepted = runInOwnApplication(settings, *hosting, display);
     }
     bindings::releaseLocalization();
     bindings::releaseCompanions();

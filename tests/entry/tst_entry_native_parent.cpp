@@ -1,6 +1,7 @@
 // A window of another toolkit as the dialog's parent, on a virtual X display.
 
 #include "Sandbox.h"
+#include "VirtualDisplay.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -12,9 +13,6 @@
 
 namespace
 {
-
-constexpr int screenWidth = 1280;
-constexpr int screenHeight = 1024;
 
 /// A window that nothing manages, so that it lies where it was put.
 class ForeignWindow
@@ -83,7 +81,6 @@ class TestEntryNativeParent : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanupTestCase();
 
     void dialogIsPutOverTheParent_data();
     void dialogIsPutOverTheParent();
@@ -95,41 +92,17 @@ private Q_SLOTS:
     void platformWithoutForeignWindows();
 
 private:
-    QMap<QString, QString> environment() const
-    {
-        return {{QStringLiteral("DISPLAY"), QString::fromLatin1(m_display)},
-                {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")}};
-    }
     void click(QPoint at) const;
 
-    QProcess m_server;
-    QByteArray m_display;
+    VirtualDisplay m_display;
 };
 
 void TestEntryNativeParent::initTestCase()
 {
-    if (qstrlen(KV_XVFB) == 0) {
+    if (!VirtualDisplay::exists()) {
         QSKIP("no Xvfb on this system");
     }
-    m_server.start(
-        QStringLiteral(KV_XVFB),
-        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-         QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(screenWidth).arg(screenHeight),
-         QStringLiteral("-noreset"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-    QVERIFY(m_server.waitForStarted());
-    while (!m_server.canReadLine()) {
-        QVERIFY(m_server.waitForReadyRead(20000));
-    }
-    m_display = ':' + m_server.readLine().trimmed();
-}
-
-void TestEntryNativeParent::cleanupTestCase()
-{
-    if (m_server.state() == QProcess::NotRunning) {
-        return;
-    }
-    m_server.terminate();
-    m_server.waitForFinished();
+    QVERIFY(m_display.start());
 }
 
 void TestEntryNativeParent::dialogIsPutOverTheParent_data()
@@ -149,11 +122,11 @@ void TestEntryNativeParent::dialogIsPutOverTheParent()
     QFETCH(QPoint, centre);
     const Sandbox sandbox;
     sandbox.addRequired();
-    const ForeignWindow window(m_display, parent);
+    const ForeignWindow window(m_display.name(), parent);
     const auto run =
         sandbox.run({QStringLiteral("ext=window=") + window.id(), QStringLiteral("flags=3"),
                      QStringLiteral("call"), QStringLiteral("mapped")},
-                    environment());
+                    m_display.environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
     QCOMPARE(run.value("mapped"), QStringLiteral("kv_config_gui_mvc"));
@@ -164,14 +137,14 @@ void TestEntryNativeParent::dialogIsPutOverTheParent()
     const QRect dialog(place.captured(1).toInt(), place.captured(2).toInt(),
                        place.captured(3).toInt(), place.captured(4).toInt());
     QCOMPARE(dialog.width(), 400);
-    QVERIFY(dialog.height() >= 500 && dialog.height() < screenHeight);
+    QVERIFY(dialog.height() >= 500 && dialog.height() < VirtualDisplay::height);
 
     const QByteArray edge = QTest::currentDataTag();
     const int x = edge.contains("left")    ? 0
-                  : edge.contains("right") ? screenWidth - 400
+                  : edge.contains("right") ? VirtualDisplay::width - 400
                                            : centre.x() - 400 / 2;
     const int y = edge.contains("top")      ? 0
-                  : edge.contains("bottom") ? screenHeight - dialog.height()
+                  : edge.contains("bottom") ? VirtualDisplay::height - dialog.height()
                                             : centre.y() - dialog.height() / 2;
     QCOMPARE(dialog.topLeft(), QPoint(x, y));
 }
@@ -181,7 +154,7 @@ void TestEntryNativeParent::windowHasAName()
     const Sandbox sandbox;
     sandbox.addRequired();
     const auto run =
-        sandbox.run({QStringLiteral("flags=3"), QStringLiteral("call")}, environment());
+        sandbox.run({QStringLiteral("flags=3"), QStringLiteral("call")}, m_display.environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     if (QT_VERSION < QT_VERSION_CHECK(6, 2, 0)) {
         QSKIP("this version of the toolkit shows no way to set it");
@@ -193,11 +166,11 @@ void TestEntryNativeParent::parentMayBeInARecord()
 {
     const Sandbox sandbox;
     sandbox.addRequired();
-    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    const ForeignWindow window(m_display.name(), QRect(0, 0, 200, 200));
     const auto run = sandbox.run({QStringLiteral("ext=record:window=") + window.id(),
                                   QStringLiteral("flags=0x20000000"), QStringLiteral("title=Over"),
                                   QStringLiteral("call")},
-                                 environment());
+                                 m_display.environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QCOMPARE(run.value("parent"), QStringLiteral("QWinWidget"));
     QCOMPARE(run.value("title"), QStringLiteral("Over"));
@@ -208,11 +181,11 @@ void TestEntryNativeParent::windowThatIsGone()
 {
     const Sandbox sandbox;
     sandbox.addRequired();
-    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    const ForeignWindow window(m_display.name(), QRect(0, 0, 200, 200));
     window.close();
     const auto run = sandbox.run({QStringLiteral("ext=window=") + window.id(),
                                   QStringLiteral("flags=0"), QStringLiteral("call")},
-                                 environment());
+                                 m_display.environment());
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     // In the desktop's middle.
     QVERIFY2(run.value("place").startsWith(QLatin1String("440,")), qPrintable(run.value("place")));
@@ -222,7 +195,7 @@ void TestEntryNativeParent::click(QPoint at) const
 {
     QProcess mouse;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    variables.insert(QStringLiteral("DISPLAY"), QString::fromLatin1(m_display));
+    variables.insert(QStringLiteral("DISPLAY"), QString::fromLatin1(m_display.name()));
     mouse.setProcessEnvironment(variables);
     mouse.start(QStringLiteral("xdotool"),
                 {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
@@ -255,12 +228,12 @@ void TestEntryNativeParent::parentTakesInputAgain()
     QFETCH(bool, focusedBefore);
     const Sandbox sandbox;
     sandbox.addRequired();
-    ForeignWindow window(m_display, QRect(100, 100, 300, 300));
+    ForeignWindow window(m_display.name(), QRect(100, 100, 300, 300));
     if (focusedBefore) {
         window.takeFocus();
     }
     QCOMPARE(window.hasFocus(), focusedBefore);
-    auto variables = environment();
+    auto variables = m_display.environment();
     variables.insert(QStringLiteral("KV_STUB_CHECK"), check);
     const auto run = sandbox.run({QStringLiteral("ext=window=") + window.id(),
                                   QStringLiteral("flags=0x13"), QLatin1String("press=") + press,
