@@ -4,12 +4,12 @@
 
 #include "model/KeyNames.h"
 #include "model/SettingFacts.h"
+#include "pages/ControlTip.h"
 #include "pages/SettingsPage.h"
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QPointer>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -72,12 +72,8 @@ void AVCVideoEncoderDlg::turnHistory(std::optional<EditHistory::Turn> (EditHisto
     }
     m_isTakingStep = false;
     if (isVisible()) {
-        const QString text = message.arg(reached->text);
-        // A file's name is no markup, whatever it looks like.
         QToolTip::showText(ui.presetFrame->mapToGlobal(QPoint()),
-                           Qt::mightBeRichText(text)
-                               ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal)
-                               : text);
+                           plainTip(message.arg(reached->text)));
     }
 }
 

@@ -56,6 +56,13 @@ QString rateText(int rate, QLocale locale)
     return number + (isLarge ? QStringLiteral("\u00a0Mbit/s") : QStringLiteral("\u00a0kbit/s"));
 }
 
+/// Of a view that the record has no place for.
+QString goesNoFurther()
+{
+    return SettingHelp::tr(
+        "The settings hold two views: what is set for this one goes no further.");
+}
+
 void add(ConfigState& state, const ConfigState& more)
 {
     const auto& entries = more.entries();
@@ -101,7 +108,7 @@ void SettingHelp::addHints(const Row& row)
     if (member == QLatin1String("vbv_target")) {
         words += tr("Only shown here: a preset or file sets it.");
     } else if (row.facts.view >= KV_MVC_RECORD_VIEWS) {
-        words += tr("The settings hold two views: what is set for this one goes no further.");
+        words += goesNoFurther();
     }
     if (field && (isRate || !words.isEmpty())) {
         TypingHint::attach(field, [field, isRate, words](int number) {
@@ -137,7 +144,7 @@ void SettingHelp::describeStart(int view)
     add(m_startState, describeViews(m_vocabulary, 0, m_start->record));
 }
 
-void SettingHelp::tellRange(Row& row)
+void SettingHelp::tellRange(const Row& row)
 {
     QStringList lines;
     if (const auto range = rangeOf(row.widgets.value(0))) {
@@ -157,14 +164,10 @@ void SettingHelp::tellRange(Row& row)
         lines += tr("The range rests on: %1.").arg(basis);
     }
     if (row.facts.view >= KV_MVC_RECORD_VIEWS) {
-        lines += tr("The settings hold two views: what is set for this one goes no further.");
+        lines += goesNoFurther();
     }
-    const QString now = lines.join(QLatin1Char('\n'));
-    if (now != row.range) {
-        row.range = now;
-        for (QWidget* widget : row.widgets) {
-            ControlTip::of(widget)->setLines(ControlTip::Facts, lines);
-        }
+    for (QWidget* widget : row.widgets) {
+        ControlTip::of(widget)->setLines(ControlTip::Facts, lines);
     }
 }
 
@@ -191,13 +194,9 @@ void SettingHelp::tellStart(Row& row, bool isNew, bool isChanged)
     }
 }
 
-void SettingHelp::tellReason(Row& row)
+void SettingHelp::tellReason(const Row& row)
 {
     const bool isEnabled = row.widgets.value(0)->isEnabledTo(m_dialog);
-    if (row.isEnabled == isEnabled) {
-        return;
-    }
-    row.isEnabled = isEnabled;
     const QString reason = isEnabled ? QString() : reasonOf(row);
     for (QWidget* widget : row.widgets) {
         ControlTip::of(widget)->setLines(ControlTip::Reason,

@@ -49,17 +49,15 @@ private:
         SettingFacts facts;
 
         /// What its tip tells now.
-        QString range;
         bool isChanged = false;
-        bool isEnabled = true;
     };
 
     void addRows(SettingsPage* page);
     void addHints(const Row& row);
     void describeStart(int view);
-    void tellRange(Row& row);
+    static void tellRange(const Row& row);
     void tellStart(Row& row, bool isNew, bool isChanged);
-    void tellReason(Row& row);
+    void tellReason(const Row& row);
     QString reasonOf(const Row& row) const;
     const Row* rowOf(const QString& key) const;
 

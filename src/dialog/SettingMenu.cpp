@@ -79,6 +79,9 @@ SettingMenu::SettingMenu(QDialog* dialog, const SettingHelp* help, Now now, Repo
     for (SettingsPage* page : pages) {
         attach(page);
     }
+    for (auto setting = m_settings.begin(); setting != m_settings.end(); ++setting) {
+        const_cast<QObject*>(setting.key())->installEventFilter(this);
+    }
 }
 
 void SettingMenu::attach(SettingsPage* page)
@@ -97,9 +100,6 @@ void SettingMenu::attach(SettingsPage* page)
             m_settings.insert(label, *setting);
         }
     }
-    for (auto setting = m_settings.begin(); setting != m_settings.end(); ++setting) {
-        const_cast<QObject*>(setting.key())->installEventFilter(this);
-    }
 }
 
 bool SettingMenu::eventFilter(QObject* watched, QEvent* event)
@@ -112,7 +112,7 @@ bool SettingMenu::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     const QPointer<SettingMenu> self(this);
-    const Setting chosen = *setting;
+    const Setting& chosen = *setting;
     const QPoint place = static_cast<QContextMenuEvent*>(event)->globalPos();
     // What is typed counts; the number may be checked, and the dialog deleted meanwhile.
     if (auto* const field = qobject_cast<QSpinBox*>(chosen.control); field && field->isEnabled()) {

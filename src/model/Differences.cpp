@@ -3,7 +3,7 @@
 #include "KeyNames.h"
 #include "KeyTable.h"
 
-#include <cstring>
+#include <bit>
 #include <tuple>
 
 namespace
@@ -14,8 +14,9 @@ bool differs(QLatin1String key, const KvMvcViewSettings& a, const KvMvcViewSetti
 {
     if (key == keys::frameRate) {
         // The field is not aligned, and read by value only.
-        const double rates[] = {a.frame_rate, b.frame_rate};
-        return std::memcmp(&rates[0], &rates[1], sizeof rates[0]) != 0;
+        const double rate = a.frame_rate;
+        const double other = b.frame_rate;
+        return std::bit_cast<quint64>(rate) != std::bit_cast<quint64>(other);
     }
     if (key == keys::pictureAspectRatio) {
         const auto pair = [](const KvMvcViewSettings& view) {

@@ -2,16 +2,10 @@
 
 #include <QWidget>
 
-namespace
+QString plainTip(const QString& text)
 {
-
-QString asTip(const QString& text)
-{
-    // What an encoder says is no markup, whatever it looks like.
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
-
-} // namespace
 
 ControlTip* ControlTip::of(QWidget* control)
 {
@@ -48,9 +42,9 @@ void ControlTip::rewrite()
     }
     const QString text = all.join(QLatin1Char('\n'));
     m_control->setToolTip(m_picture.isEmpty()
-                              ? asTip(text)
+                              ? plainTip(text)
                               : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) + m_picture);
-    m_control->setWhatsThis(asTip(text));
+    m_control->setWhatsThis(plainTip(text));
     // Without messages the tip is the description.
     const QStringList& messages = m_lines.at(Messages);
     m_control->setAccessibleDescription(messages.isEmpty() ? QString()

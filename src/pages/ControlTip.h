@@ -7,6 +7,9 @@
 
 class QWidget;
 
+/// A tip of words that others choose, in which nothing is markup, whatever it looks like.
+QString plainTip(const QString& text);
+
 /// What a control's tip says below its own text, which stays the first line; its What's This has
 /// the same. Messages are its description for assistive technology, too.
 class ControlTip : public QObject

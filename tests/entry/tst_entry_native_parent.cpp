@@ -39,6 +39,16 @@ public:
     ~ForeignWindow() { xcb_disconnect(m_connection); }
 
     QString id() const { return QString::number(m_window); }
+    bool hasName() const
+    {
+        auto* const reply = xcb_get_property_reply(
+            m_connection,
+            xcb_get_property(m_connection, 0, m_window, XCB_ATOM_WM_CLASS, XCB_ATOM_ANY, 0, 64),
+            nullptr);
+        const bool has = reply && reply->type != XCB_ATOM_NONE;
+        free(reply);
+        return has;
+    }
     void takeFocus() const
     {
         xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
@@ -160,6 +170,14 @@ void TestEntryNativeParent::windowHasAName()
         QSKIP("this version of the toolkit shows no way to set it");
     }
     QCOMPARE(run.value("class"), QStringLiteral("kv_config_gui_mvc kv_config_gui_mvc"));
+
+    // The host's own keeps what it has.
+    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    const auto over = sandbox.run({QStringLiteral("ext=window=") + window.id(),
+                                   QStringLiteral("flags=3"), QStringLiteral("call")},
+                                  environment());
+    QCOMPARE(over.value("class"), QStringLiteral("kv_config_gui_mvc kv_config_gui_mvc"));
+    QVERIFY(!window.hasName());
 }
 
 void TestEntryNativeParent::parentMayBeInARecord()

@@ -1,13 +1,13 @@
 // check, of several files.
 
-#include "ExampleSettings.h"
-#include "HostProgram.h"
-#include "JsonSchema.h"
+#include "CheckTest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+
+using namespace check_test;
 
 class TestHostCheckFiles : public QObject
 {
@@ -20,34 +20,6 @@ private Q_SLOTS:
     void aFileThatCannotBeReadLeavesTheOthers();
     void filesOfWhichNoneCanBeReadAreTrouble();
 };
-
-namespace
-{
-
-/// @return What of the program's JSON is not as the schema of messages has it.
-QString problemOf(const HostProgram::Result& result)
-{
-    static const JsonSchema schema(QStringLiteral(KV_SOURCE_DIR "/docs/messages.schema.json"));
-    return schema.problemOf(QJsonDocument::fromJson(result.output.toUtf8()).object());
-}
-
-const QString a = QStringLiteral("a.ini");
-
-KvMvcSettings settingsOfWidth(int width)
-{
-    KvMvcSettings settings = exampleSettings();
-    settings.views[0].width = width;
-    return settings;
-}
-
-/// The program beside the encoder whose messages depend on the width, and settings of a width.
-void prepare(HostProgram& program, int width)
-{
-    program.addStub(QStringLiteral("stub_encoder"), QStringLiteral("kv_mvcenc"));
-    program.writeSettings(a, settingsOfWidth(width));
-}
-
-} // namespace
 
 void TestHostCheckFiles::severalFiles()
 {
