@@ -172,10 +172,10 @@ void TestEntryNativeParent::windowHasAName()
     QCOMPARE(run.value("class"), QStringLiteral("kv_config_gui_mvc kv_config_gui_mvc"));
 
     // The host's own keeps what it has.
-    const ForeignWindow window(m_display, QRect(0, 0, 200, 200));
+    const ForeignWindow window(m_display.name(), QRect(0, 0, 200, 200));
     const auto over = sandbox.run({QStringLiteral("ext=window=") + window.id(),
                                    QStringLiteral("flags=3"), QStringLiteral("call")},
-                                  environment());
+                                  m_display.environment());
     QCOMPARE(over.value("class"), QStringLiteral("kv_config_gui_mvc kv_config_gui_mvc"));
     QVERIFY(!window.hasName());
 }
