@@ -5,10 +5,8 @@
 #include "ModuleTrace.h"
 #include "Printable.h"
 #include "TextOutput.h"
+#include "WindowPart.h"
 
-#include <QCoreApplication>
-#include <QDialog>
-#include <QEvent>
 #include <QLocale>
 
 #include <kv_config_gui_mvc/config_gui.h>
@@ -16,31 +14,6 @@
 
 namespace
 {
-
-/// Leaves each dialog as soon as it is shown, on no screen.
-class DialogCloser : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        // Comes before a window is made.
-        if (auto* const dialog = qobject_cast<QDialog*>(watched);
-            dialog != nullptr && event->type() == QEvent::Polish) {
-            dialog->setAttribute(Qt::WA_DontShowOnScreen);
-            QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
-/// For the application object that the module makes.
-void closeDialogs()
-{
-    QCoreApplication* const application = QCoreApplication::instance();
-    application->installEventFilter(new DialogCloser(application));
-}
 
 QString environmentLine(const char* name)
 {
@@ -69,7 +42,7 @@ QString tryDialog(const QString& directory)
     const FatalMessages noDisplay;
     const Library module(directory, {KV_MVC_GUI_LIBRARY});
     const auto show = module.function<KvShowMvcEncoderPages>(KV_MVC_GUI_SHOW_PAGES);
-    qAddPreRoutine(closeDialogs);
+    windowPart(directory).function<KvLeaveDialogs>(leaveDialogsName)();
     KvMvcSettings settings = {};
     const int32_t result = show(&settings, KV_MVC_GUI_BASIC_TAB | KV_MVC_GUI_ADVANCED_TAB, nullptr);
     if (result != KV_MVC_GUI_ERROR) {

@@ -3,11 +3,13 @@
 #include "Failure.h"
 #include "FatalMessages.h"
 #include "FileState.h"
+#include "Library.h"
 #include "ModuleTrace.h"
 #include "SettingsFiles.h"
 #include "SettingsTable.h"
+#include "WindowPart.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryFile>
@@ -161,6 +163,8 @@ DialogCall dialogCall(const Invocation& call)
 int32_t showDialog(const Library& module, const DialogCall& call, KvMvcSettings& settings)
 {
     const auto show = module.function<KvShowMvcEncoderPages>(KV_MVC_GUI_SHOW_PAGES);
+    const auto makeApplication =
+        windowPart(call.directory).function<KvMakeApplication>(makeApplicationName);
     int32_t flags = call.flags;
     KvMvcHosting hosting = {};
     hosting.parent = call.parent;
@@ -168,9 +172,9 @@ int32_t showDialog(const Library& module, const DialogCall& call, KvMvcSettings&
     static char name[] = "kv-mvc-settings";
     static char* arguments[] = {name, nullptr};
     static int count = 1;
-    std::unique_ptr<QApplication> application;
+    std::unique_ptr<QCoreApplication> application;
     if (call.hosting == Hosting::Host) {
-        application = std::make_unique<QApplication>(count, arguments);
+        application.reset(makeApplication(&count, arguments));
         addLibraryFolder(call.directory);
         flags |= KV_MVC_GUI_HOST_APPLICATION;
         hosting.parent = application.get();

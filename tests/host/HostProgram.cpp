@@ -46,6 +46,7 @@ HostProgram::HostProgram()
         qFatal("no temporary directory");
     }
     copy(builtFile(programName), program());
+    addBuiltLibrary(QStringLiteral("kv_mvc_settings_window"));
     const QString settingsIo = QStringLiteral("kv_mvc_settings_io");
     addBuiltLibrary(settingsIo);
 

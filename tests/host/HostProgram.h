@@ -19,7 +19,7 @@ public:
         QString error;
     };
 
-    /// With the real settings file library.
+    /// With its own part for windows, and the real settings file library.
     HostProgram();
 
     /// Puts a library beside the program.

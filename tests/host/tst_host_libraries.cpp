@@ -19,6 +19,8 @@ private Q_SLOTS:
     void nothingIsLoadedFromTheCurrentFolder();
     void runPathsLeadToTheOwnFolderOnly_data();
     void runPathsLeadToTheOwnFolderOnly();
+    void onlyThePartForWindowsNeedsWidgets_data();
+    void onlyThePartForWindowsNeedsWidgets();
     void missingLibraryIsNamed_data();
     void missingLibraryIsNamed();
     void brokenLibraryIsToldInTheLoadersWords();
@@ -133,6 +135,8 @@ void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder_data()
         << QStringLiteral("kv_mvc_settings_io") << QStringLiteral("show good.ini");
     QTest::newRow("dialog") << QStringLiteral("kv_config_gui_mvc")
                             << QStringLiteral("edit good.ini");
+    QTest::newRow("part for windows")
+        << QStringLiteral("kv_mvc_settings_window") << QStringLiteral("edit good.ini");
 }
 
 void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder()
@@ -141,6 +145,7 @@ void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder()
     QFETCH(QString, arguments);
     HostProgram program;
     program.writeSettings(QStringLiteral("good.ini"), exampleSettings());
+    program.addStub(QStringLiteral("stub_module"), QStringLiteral("kv_config_gui_mvc"));
     program.removeLibrary(planted);
     // Whatever the library does: that it is not found shows that it was not loaded.
     fill(program, program.path(QString()), planted + QStringLiteral("=other"));
@@ -154,7 +159,8 @@ void TestHostLibraries::nothingIsLoadedFromTheCurrentFolder()
 void TestHostLibraries::runPathsLeadToTheOwnFolderOnly_data()
 {
     QTest::addColumn<QString>("file");
-    for (const char* name : {"kv-mvc-settings", "kv_mvc_settings_io.so", "kv_mvcenc.so"}) {
+    for (const char* name : {"kv-mvc-settings", "kv_mvc_settings_io.so", "kv_mvcenc.so",
+                             "kv_mvc_settings_window.so"}) {
         QTest::newRow(name)
             << QDir(qEnvironmentVariable("KV_BIN_DIR")).filePath(QString::fromLatin1(name));
     }
@@ -174,6 +180,32 @@ void TestHostLibraries::runPathsLeadToTheOwnFolderOnly()
     QCOMPARE(QByteArray(content.constData() + start), QByteArray("$ORIGIN"));
 }
 
+void TestHostLibraries::onlyThePartForWindowsNeedsWidgets_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("needed");
+    const HostProgram program;
+    QTest::newRow("program") << QFileInfo(program.program()).fileName() << false;
+    QTest::newRow("part for windows")
+        << QFileInfo(program.libraryPath(QStringLiteral("kv_mvc_settings_window"))).fileName()
+        << true;
+}
+
+// Most of what a command takes is the loader's, of each library that the program names.
+void TestHostLibraries::onlyThePartForWindowsNeedsWidgets()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, needed);
+    QFile binary(QDir(qEnvironmentVariable("KV_BIN_DIR")).filePath(file));
+    QVERIFY(binary.open(QIODevice::ReadOnly));
+    const QByteArray content = binary.readAll();
+    const QByteArray toolkit = "Qt" + QByteArray::number(QT_VERSION_MAJOR);
+    QVERIFY(content.contains(toolkit + "Core"));
+    QCOMPARE(content.contains(toolkit + "Widgets"), needed);
+    // By the widgets alone.
+    QVERIFY(needed || !content.contains(toolkit + "Gui"));
+}
+
 void TestHostLibraries::missingLibraryIsNamed_data()
 {
     QTest::addColumn<QString>("arguments");
@@ -183,6 +215,8 @@ void TestHostLibraries::missingLibraryIsNamed_data()
     QTest::newRow("encoder") << QStringLiteral("check good.ini") << QStringLiteral("kv_mvcenc");
     QTest::newRow("dialog") << QStringLiteral("edit good.ini")
                             << QStringLiteral("kv_config_gui_mvc");
+    QTest::newRow("part for windows")
+        << QStringLiteral("edit good.ini") << QStringLiteral("kv_mvc_settings_window");
 }
 
 void TestHostLibraries::missingLibraryIsNamed()
@@ -191,6 +225,7 @@ void TestHostLibraries::missingLibraryIsNamed()
     QFETCH(QString, library);
     HostProgram program;
     program.writeSettings(QStringLiteral("good.ini"), exampleSettings());
+    program.addStub(QStringLiteral("stub_module"), QStringLiteral("kv_config_gui_mvc"));
     program.removeLibrary(library);
     const HostProgram::Result result = program.run(words(arguments));
     QVERIFY2(result.error.startsWith(prefix + QStringLiteral("cannot find the library ") + library +

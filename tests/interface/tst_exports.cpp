@@ -24,6 +24,8 @@ void TestExports::exports_data()
         {QStringLiteral("kv_mvc_settings_io"), {QStringLiteral("MVCConfigGetAPIExt")}},
         {QStringLiteral("kv_media_probe"),
          {QStringLiteral("mpegInGetInfo"), QStringLiteral("mpegInInfoInit")}},
+        {QStringLiteral("kv_mvc_settings_window"),
+         {QStringLiteral("kvLeaveDialogs"), QStringLiteral("kvMakeApplication")}},
         {QStringLiteral("mvc_gui_texts"),
          {QStringLiteral("localizeConvertStr"), QStringLiteral("localizeSetLanguage")}},
     };

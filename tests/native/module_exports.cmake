@@ -3,6 +3,7 @@
 set(kv_config_gui_mvc showMVCEncoderPages)
 set(kv_mvcenc mvcOutVideoChkSettings mvcOutVideoDefaults)
 set(kv_mvc_settings_io MVCConfigGetAPIExt)
+set(kv_mvc_settings_window kvLeaveDialogs kvMakeApplication)
 set(mvc_gui_texts localizeConvertStr localizeSetLanguage)
 
 foreach(library IN LISTS LIBRARIES)
