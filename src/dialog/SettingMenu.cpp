@@ -95,9 +95,10 @@ void SettingMenu::attach(SettingsPage* page)
     }
     const auto labels = page->findChildren<QLabel*>();
     for (const QLabel* label : labels) {
-        const auto setting = m_settings.constFind(label->buddy());
-        if (label->buddy() && setting != m_settings.constEnd()) {
-            m_settings.insert(label, *setting);
+        // A copy, since the table moves what it holds when it grows.
+        const Setting setting = m_settings.value(label->buddy());
+        if (setting.control) {
+            m_settings.insert(label, setting);
         }
     }
 }

@@ -34,9 +34,9 @@ public:
 
 private:
     struct Setting {
-        SettingsPage* page;
+        SettingsPage* page = nullptr;
         QString key;
-        QWidget* control;
+        QWidget* control = nullptr;
     };
 
     void attach(SettingsPage* page);
