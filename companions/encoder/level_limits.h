@@ -32,6 +32,8 @@ const Level* findLevel(int code);
 inline constexpr int discLevelCode = 41;
 /// Largest buffer of its base view, in bits.
 inline constexpr int discBuffer = 30'000'000;
+/// Most bits per second of both views together.
+inline constexpr int discRate = 60'000'000;
 
 /// Most macroblocks in a row or column: the square root of 8 MaxFS (A.3.1 f, g, A.3.2 d, e).
 int maxSideMbs(const Level& level);

@@ -9,15 +9,15 @@ namespace kv::encoder
 namespace
 {
 
-/// Tells the limits of one level, or of a disc.
+/// Tells the limits of one level.
 struct Teller {
-    const Report& report;
-    const char* level; ///< null: limits that no level sets
+    const TakeLimit& take;
+    const char* level;
 
     void operator()(const char* name, const char* unit, const char* rule, int view, double used,
                     double limit) const
     {
-        report.tellLimit({0, view, name, unit, rule, level, used, limit});
+        take({0, view, name, unit, rule, level, used, limit});
     }
     void operator()(const char* name, const char* unit, const char* rule, int view,
                     std::int64_t used, std::int64_t limit) const
@@ -100,14 +100,21 @@ void tellSums(const Stream& stream, const Level& level, const Teller& tell)
 
 } // namespace
 
+void eachLimit(const Stream& stream, const Level* level, const TakeLimit& take)
+{
+    if (level && stream.sized && stream.streamProfile()) {
+        const Teller tell{take, level->name};
+        tellPictures(stream, *level, tell);
+        tellSums(stream, *level, tell);
+    }
+    eachDiscLimit(stream, take);
+}
+
 void tellLimits(const Stream& stream, const Level* level, const Report& report)
 {
-    if (!report.wantsLimits() || !level || !stream.sized || !stream.streamProfile()) {
-        return;
+    if (report.wantsLimits()) {
+        eachLimit(stream, level, [&](const KvMvcLimitUse& use) { report.tellLimit(use); });
     }
-    const Teller tell{report, level->name};
-    tellPictures(stream, *level, tell);
-    tellSums(stream, *level, tell);
 }
 
 } // namespace kv::encoder

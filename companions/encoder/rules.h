@@ -6,6 +6,7 @@
 
 #include <kv_config_gui_mvc/settings_record.h>
 
+#include <functional>
 #include <span>
 
 #include "level_limits.h"
@@ -43,9 +44,14 @@ void judgeLevelReferences(const Stream& stream, const Level& level, const Level*
                           Report& report);
 void judgeLevelPictures(const Stream& stream, const Level& level, const Level* other,
                         Report& report);
-/// Tells how much of the level's limits is used, where anybody wants to know.
+/// Gives away how much of the limits of the level, if there is one, and of the disc is used.
+using TakeLimit = std::function<void(const KvMvcLimitUse&)>;
+void eachLimit(const Stream& stream, const Level* level, const TakeLimit& take);
+void eachDiscLimit(const Stream& stream, const TakeLimit& take);
+/// Tells them, where anybody wants to know.
 void tellLimits(const Stream& stream, const Level* level, const Report& report);
-void tellDiscLimits(const Stream& stream, const Report& report);
+/// What binds first, of settings that are accepted.
+void tellHeadroom(const Stream& stream, const Level* level, Report& report);
 /// Whether rates or buffers are more than a level allows for picture data (VCL NAL units), which
 /// is less than for all.
 bool exceedsPictureData(const Stream& stream, const Level& level);
@@ -74,6 +80,7 @@ RuleGroup gopRules();
 RuleGroup rateRules();
 RuleGroup discFormatRules();
 RuleGroup discRules();
+RuleGroup headroomRules();
 RuleGroup summaryRules();
 
 /// All of the above, in the order of the documentation.

@@ -110,7 +110,6 @@ constexpr Rule<Decimal, int> bufferOther = {
     {.setting = "bitrate_buffer", .limit = 1, .view = 1}};
 
 constexpr int maxViewRate = 40'000'000;
-constexpr int maxBothRate = 60'000'000;
 
 void judgeTools(const Stream& stream, Report& report)
 {
@@ -169,8 +168,8 @@ void judgeRate(const Stream& stream, Report& report)
             report.say(v == 0 ? bufferBase : bufferOther, millions(discBuffer), discBuffer / 8);
         }
     }
-    if (each && stream.totalRate() > maxBothRate) {
-        report.say(rateOfBoth, millions(maxBothRate), millions(stream.totalRate()));
+    if (each && stream.totalRate() > discRate) {
+        report.say(rateOfBoth, millions(discRate), millions(stream.totalRate()));
     }
 }
 
@@ -206,15 +205,15 @@ void judgeDisc(const Stream& stream, Report& report)
     judgeRate(stream, report);
 }
 
-void tellDiscLimits(const Stream& stream, const Report& report)
+void eachDiscLimit(const Stream& stream, const TakeLimit& take)
 {
-    if (!stream.disc || !report.wantsLimits()) {
+    if (!stream.disc) {
         return;
     }
     const auto tell = [&](const char* name, const char* unit, const RuleInfo& rule, int view,
                           std::int64_t used, int limit) {
-        report.tellLimit({0, view, name, unit, rule.id, nullptr, static_cast<double>(used),
-                          static_cast<double>(limit)});
+        take({0, view, name, unit, rule.id, nullptr, static_cast<double>(used),
+              static_cast<double>(limit)});
     };
     for (int v = 0; v < stream.subRecords; ++v) {
         const KvMvcViewSettings& view = stream.record.views[v];
@@ -228,7 +227,7 @@ void tellDiscLimits(const Stream& stream, const Report& report)
     }
     if (stream.multiview && stream.totalRate() > 0) {
         tell(limit::bitrateOnDisc, "bit/s", rateOfBoth, KV_MVC_ALL_VIEWS, stream.totalRate(),
-             maxBothRate);
+             discRate);
     }
 }
 

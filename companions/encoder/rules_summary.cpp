@@ -39,6 +39,12 @@ constexpr Rule<Decimal, Decimal, const char*> rate = {
     "Bitrate: %d.%0*d of the %d.%0*d Mbit/s that level %s allows.",
     "A.3.1 j, A.3.3 h, H.10.2.1 r",
     {.setting = "bitrate", .value = 1, .limit = 2, .level = 3}};
+constexpr Rule<Decimal, Decimal> rateOnDisc = {
+    "summary.bitrate-disc",
+    Severity::Note,
+    "Bitrate: %d.%0*d of the %d.%0*d Mbit/s that Blu-ray 3D allows both views together.",
+    "disc: 60 Mbit/s in both views, which is less than the level's limit",
+    {.setting = "bitrate", .value = 1, .limit = 2}};
 constexpr Rule<> rateUnknown = {
     "summary.bitrate-unknown",
     Severity::Note,
@@ -55,16 +61,16 @@ constexpr ViewRule<Decimal, Decimal> bufferTime = {
 // What exceeds a limit has its error already, and no note says it again.
 void tellRates(const Stream& stream, const Level* level, Report& report)
 {
-    bool known = true;
-    for (int v = 0; v < stream.subRecords; ++v) {
-        known = known && aimsAtRate(stream.record.views[v]);
-    }
-    if (!known) {
+    if (!stream.knowsRates()) {
         report.say(rateUnknown);
     } else if (level) {
         const std::int64_t limit = level->bitrate * stream.streamProfile()->nalFactor;
         const std::int64_t total = stream.totalRate();
-        if (total <= limit) {
+        if (stream.disc && discRate < limit) {
+            if (total <= discRate) {
+                report.say(rateOnDisc, millions(total), millions(discRate));
+            }
+        } else if (total <= limit) {
             report.say(rate, millions(total), millions(limit), level->name);
         }
     }
@@ -100,8 +106,8 @@ void tellReferences(const Stream& stream, const Level& level, Report& report)
     }
 }
 
-constexpr const RuleInfo* rules[] = {&oneView, &severalViews, &buffered,  &bufferedViews,
-                                     &rate,    &rateUnknown,  &bufferTime};
+constexpr const RuleInfo* rules[] = {&oneView, &severalViews, &buffered,    &bufferedViews,
+                                     &rate,    &rateOnDisc,   &rateUnknown, &bufferTime};
 
 } // namespace
 

@@ -167,6 +167,11 @@ Stream::Stream(const KvMvcSettings& settings)
 {
 }
 
+bool Stream::knowsRates() const
+{
+    return std::all_of(record.views, record.views + subRecords, aimsAtRate);
+}
+
 std::int64_t Stream::totalRate() const
 {
     std::int64_t sum = 0;

@@ -76,6 +76,8 @@ struct Stream {
     const Profile* streamProfile() const { return multiview ? multiview : profile; }
     /// Coded views that a sub-record stands for.
     int viewsLike(int subRecord) const { return subRecord == 0 ? 1 : views - 1; }
+    /// Whether the rate control of each view aims at a bit rate.
+    bool knowsRates() const;
     /// Sums over all views.
     std::int64_t totalRate() const;
     std::int64_t totalBuffer() const;

@@ -28,6 +28,7 @@ std::span<const RuleCase> gopCases();
 std::span<const RuleCase> rateCases();
 std::span<const RuleCase> discCases();
 std::span<const RuleCase> levelCases();
+std::span<const RuleCase> headroomCases();
 
 /// A value of a field in both views, and what the check makes of it.
 struct FieldCase {

@@ -76,7 +76,7 @@ void TestEncoderDefaults::passTheCheckWithNotesOnly()
     QCOMPARE(outcome.errors(), QByteArrayList());
     QCOMPARE(outcome.warnings(), QByteArrayList());
     QCOMPARE(outcome.risks(), QByteArrayList());
-    QVERIFY2(outcome.notes().size() >= 3 && outcome.notes().size() <= 6, outcome.all().constData());
+    QVERIFY2(outcome.notes().size() >= 4 && outcome.notes().size() <= 7, outcome.all().constData());
     QVERIFY(std::memcmp(&before, &record, sizeof record) == 0);
 }
 

@@ -36,7 +36,7 @@ QList<RuleCase> allCases()
 {
     QList<RuleCase> list;
     for (const auto rows : {pictureCases(), profileCases(), viewCases(), gopCases(), rateCases(),
-                            discCases(), levelCases()}) {
+                            discCases(), levelCases(), headroomCases()}) {
         for (const RuleCase& row : rows) {
             list.append(row);
         }
