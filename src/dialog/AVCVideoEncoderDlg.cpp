@@ -32,6 +32,7 @@
 #include <QScreen>
 #include <QShowEvent>
 #include <QTabBar>
+#include <QtMath>
 
 #include <initializer_list>
 

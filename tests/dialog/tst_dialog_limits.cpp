@@ -5,6 +5,7 @@
 #include "DialogTest.h"
 #include "ToolkitWarnings.h"
 
+#include <QScreen>
 #include <QTest>
 
 #include <utility>
