@@ -164,8 +164,10 @@ void Shrinking::fit()
     }
     const QScopedValueRollback<bool> fitting(m_isFitting, true);
     QFont font = m_widget->font();
-    // A font may be given in pixels.
-    const double usual = QFontInfo(m_widget->parentWidget()->font()).pointSizeF();
+    // A font may be given in pixels. What QFontInfo says is rounded to whole ones.
+    const QFont& around = m_widget->parentWidget()->font();
+    const double usual =
+        around.pointSizeF() > 0 ? around.pointSizeF() : QFontInfo(around).pointSizeF();
     font.setPointSizeF(usual);
     while (font.pointSizeF() > smallestFont && !hasRoomIn(font)) {
         font.setPointSizeF(font.pointSizeF() - fontStep);
@@ -250,7 +252,15 @@ private:
 class ShrinkingTabs : public Shrinking
 {
 public:
-    explicit ShrinkingTabs(QTabBar* bar) : Shrinking(bar), m_bar(bar) {}
+    explicit ShrinkingTabs(QTabBar* bar) : Shrinking(bar), m_bar(bar)
+    {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        // A sheet may make the tab in front narrower; the bar stays as it was with the one before,
+        // and scrolls, unless it is measured anew.
+        connect(bar, &QTabBar::currentChanged, bar,
+                [bar] { bar->setElideMode(bar->elideMode()); });
+#endif
+    }
 
 protected:
     bool hasRoomIn(const QFont& font) const override
