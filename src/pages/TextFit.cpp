@@ -257,8 +257,7 @@ public:
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
         // A sheet may make the tab in front narrower; the bar stays as it was with the one before,
         // and scrolls, unless it is measured anew.
-        connect(bar, &QTabBar::currentChanged, bar,
-                [bar] { bar->setElideMode(bar->elideMode()); });
+        connect(bar, &QTabBar::currentChanged, bar, [bar] { bar->setElideMode(bar->elideMode()); });
 #endif
     }
 
@@ -349,7 +348,7 @@ void text_fit::shrink(QComboBox* list)
 
 void text_fit::refit(QComboBox* list)
 {
-    const QObjectList children = list->children();
+    const QObjectList& children = list->children();
     for (QObject* child : children) {
         if (auto* const shrinking = dynamic_cast<ShrinkingList*>(child)) {
             shrinking->fit();
