@@ -26,9 +26,9 @@ std::vector<std::string> mappedFiles();
 /// What window managers know a window of X11 by: instance and class. Empty for other windows.
 std::string classOf(unsigned long window);
 
-/// What the process has of the system: "resident=KIB descriptors=N threads=N windows=N", windows
-/// being those of the whole display, or 0. Memory that is free is given back first. Empty where
-/// nothing tells.
+/// What the process has of the system: "resident=KIB allocated=BYTES descriptors=N threads=N
+/// windows=N", windows being those of the whole display, or 0. Free memory is not given back
+/// before: a small block that stays would then count as a page. Empty where nothing tells.
 std::string usage();
 
 /// Shows a window of the window system's own, without the toolkit, and gives it the focus. It stays

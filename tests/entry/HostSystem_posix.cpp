@@ -117,11 +117,11 @@ std::string classOf(unsigned long window)
 
 std::string usage()
 {
-    malloc_trim(0);
     long size = 0;
     long resident = 0;
     std::ifstream("/proc/self/statm") >> size >> resident;
     return "resident=" + std::to_string(resident * sysconf(_SC_PAGESIZE) / 1024) +
+           " allocated=" + std::to_string(mallinfo2().uordblks) +
            " descriptors=" + std::to_string(entriesOf("/proc/self/fd")) +
            " threads=" + std::to_string(entriesOf("/proc/self/task")) +
            " windows=" + std::to_string(windowsOfTheDisplay());

@@ -16,6 +16,7 @@
 // | quiet           | from now on dialogs are not described, and left at once               |
 // | repeat=NUMBER   | calls the module so often; what is said is the last result            |
 // | reload=NUMBER   | calls it so often, unloaded and loaded before each call               |
+// | bare=NUMBER     | opens so many dialogs that have one button, in the place of calls     |
 // | usage           | says what the process has of the system                               |
 // | call-null       | calls it without settings                                            |
 // | library-folder=F| Windows: has libraries searched in that folder, no longer in the       |
@@ -178,6 +179,7 @@ struct Host {
     void setExt(std::string kind);
     void call(KvMvcSettings* edited);
     void repeat(int count, bool reloads);
+    static void bareDialogs(int count);
     void mapped() const;
     std::filesystem::path libraryBeside(const std::string& name) const;
     bool step(const std::string& text);
@@ -245,6 +247,17 @@ void Host::repeat(int count, bool reloads)
     say(QStringLiteral("result %1").arg(result));
 }
 
+void Host::bareDialogs(int count)
+{
+    for (int i = 0; i < count; ++i) {
+        QDialog dialog;
+        QPushButton button(&dialog);
+        button.setObjectName(QStringLiteral("buttonCancel"));
+        QObject::connect(&button, &QPushButton::clicked, &dialog, &QDialog::reject);
+        dialog.exec();
+    }
+}
+
 void Host::mapped() const
 {
     std::set<std::string> names;
@@ -299,6 +312,8 @@ bool Host::step(const std::string& text)
         quiet = true;
     } else if (name == "repeat" || name == "reload") {
         repeat(std::stoi(value), name == "reload");
+    } else if (name == "bare") {
+        bareDialogs(std::stoi(value));
     } else if (name == "usage") {
         say(QStringLiteral("usage ") + QString::fromStdString(host_system::usage()));
     } else if (name == "call-null") {

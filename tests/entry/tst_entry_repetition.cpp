@@ -4,6 +4,7 @@
 // makes more of them.
 
 #include "Sandbox.h"
+#include "VirtualDisplay.h"
 
 #include <QMap>
 #include <QTest>
@@ -43,6 +44,7 @@ class TestEntryRepetition : public QObject
 private Q_SLOTS:
     void nothingGrows_data();
     void nothingGrows();
+    void whatX11KeepsIsTheToolkits();
 };
 
 void TestEntryRepetition::nothingGrows_data()
@@ -111,6 +113,39 @@ void TestEntryRepetition::nothingGrows()
     // A sanitizer keeps what is freed for a while.
     QVERIFY2(growth <= mostGrowth, qPrintable(QString::number(growth)));
 #endif
+}
+
+/// The toolkit sends some requests of each window by Xlib, which remembers them until the
+/// connection is closed: about 100 bytes a dialog, whatever is in it.
+void TestEntryRepetition::whatX11KeepsIsTheToolkits()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the system's count knows nothing of a sanitizer's memory");
+#endif
+    if (!VirtualDisplay::exists()) {
+        QSKIP("no Xvfb on this system");
+    }
+    VirtualDisplay display;
+    QVERIFY(display.start());
+    const Sandbox sandbox;
+    sandbox.addReference();
+    constexpr int dialogs = 100;
+    const auto bytesPerDialog = [&](const char* how) {
+        const QString steps = QStringLiteral("quiet application ext=application flags=0x10000073 "
+                                             "%1=20 usage %1=%2 usage")
+                                  .arg(QLatin1String(how))
+                                  .arg(dialogs);
+        const QStringList usage = sandbox.run(words(steps), display.environment()).values("usage");
+        const QString allocated = QStringLiteral("allocated");
+        return (numbers(usage.value(1)).value(allocated) -
+                numbers(usage.value(0)).value(allocated)) /
+               dialogs;
+    };
+    const int bare = bytesPerDialog("bare");
+    const int module = bytesPerDialog("repeat");
+    qInfo("%d bytes a call, %d bytes a bare dialog", module, bare);
+    QVERIFY(bare > 0);
+    QVERIFY2(module <= 3 * bare, qPrintable(QString::number(module)));
 }
 
 QTEST_GUILESS_MAIN(TestEntryRepetition)
