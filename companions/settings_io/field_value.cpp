@@ -209,10 +209,14 @@ char lower(char letter)
 
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t";
-    const auto first = text.find_first_not_of(blanks);
-    return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    const auto isBlank = [](char letter) { return letter == ' ' || letter == '\t'; };
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 bool equalIgnoringCase(std::string_view left, std::string_view right)

@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "temporary_file.h"
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -99,11 +100,15 @@ std::string followLinks(std::filesystem::path& file)
 /// Access lists and labels are such attributes; what may not be set is left out.
 void keepAttributes(const char* from, int to)
 {
-    std::vector<char> names(64 * 1024);
+    if (::listxattr(from, nullptr, 0) <= 0) {
+        return;
+    }
+    constexpr std::size_t longest = 64 * 1024; // of a list and of a value, in Linux
+    std::vector<char> names(longest);
+    std::vector<char> value(longest);
     const ssize_t length = ::listxattr(from, names.data(), names.size());
     for (ssize_t at = 0; at < length;) {
         const char* name = names.data() + at;
-        std::vector<char> value(64 * 1024);
         const ssize_t size = ::getxattr(from, name, value.data(), value.size());
         if (size >= 0) {
             ::fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
@@ -231,7 +236,7 @@ std::string readFile(const std::filesystem::path& file, std::size_t largest, std
         return "not a regular file";
     }
     content.clear();
-    std::vector<char> block(64 * 1024);
+    std::array<char, 64 * 1024> block;
     while (true) {
         const ssize_t count = ::read(descriptor.number(), block.data(), block.size());
         if (count < 0 && errno == EINTR) {

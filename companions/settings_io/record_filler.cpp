@@ -58,19 +58,20 @@ std::string badValue(std::string_view key, std::string_view value, std::string_v
     return "bad value " + quoted(value) + " for " + quoted(key) + ": " + std::string(wrong);
 }
 
-const Field* findField(const Section& section, std::string_view name)
+namespace
+{
+
+/// The field, with those that follow it in its group; empty when the section has no such field.
+std::span<const Field> fieldsFrom(const Section& section, std::string_view name)
 {
     for (const FieldGroup& group : section.groups) {
         const auto field = std::ranges::find(group.fields, name, &Field::name);
         if (field != group.fields.end()) {
-            return &*field;
+            return {field, group.fields.end()};
         }
     }
-    return nullptr;
+    return {};
 }
-
-namespace
-{
 
 /// The keys of a section that has no more than a line takes.
 std::string fewKeys(const Section& section)
@@ -100,6 +101,12 @@ std::string hintAtKey(const Section& section, std::string_view key)
 
 } // namespace
 
+const Field* findField(const Section& section, std::string_view name)
+{
+    const std::span<const Field> fields = fieldsFrom(section, name);
+    return fields.empty() ? nullptr : &fields.front();
+}
+
 const Section* RecordFiller::begin(std::string_view name, std::size_t line)
 {
     const auto sections = settingsSections();
@@ -120,13 +127,25 @@ const Section* RecordFiller::begin(std::string_view name, std::size_t line)
 void RecordFiller::set(const Section& section, std::string_view key, std::string_view value,
                        std::size_t line)
 {
-    if (const Field* field = findField(section, key)) {
+    if (const Field* field = findNext(section, key)) {
         return setField(section, *field, value, line);
     }
     if (key.starts_with(bytesKey)) {
         return setBytes(section, trimmed(key.substr(bytesKey.size())), value, line);
     }
     reportUnknownKey(section, key, line);
+}
+
+const Field* RecordFiller::findNext(const Section& section, std::string_view name)
+{
+    const bool isNext = m_section == &section && !m_next.empty() && m_next.front().name == name;
+    const std::span<const Field> fields = isNext ? m_next : fieldsFrom(section, name);
+    if (fields.empty()) {
+        return nullptr;
+    }
+    m_section = &section;
+    m_next = fields.subspan(1);
+    return &fields.front();
 }
 
 void RecordFiller::setField(const Section& section, const Field& field, std::string_view value,
@@ -177,13 +196,21 @@ void RecordFiller::setBytes(const Section& section, std::string_view offsetText,
 bool RecordFiller::claim(const Section& section, std::string_view key, std::size_t offset,
                          std::size_t count, std::size_t line)
 {
-    const std::span bytes(m_setBy.data() + section.offset + offset, count);
-    const auto taken = std::ranges::find_if(bytes, [](std::size_t by) { return by != 0; });
-    if (taken != bytes.end()) {
-        report(line, quoted(key) + " is set twice, first in line " + std::to_string(*taken));
-        return false;
+    const std::size_t begin = section.offset + offset;
+    for (std::size_t byte = begin; byte < begin + count; ++byte) {
+        if (m_isSet[byte]) {
+            const auto first = std::ranges::find_if(m_claims, [byte](const Claim& claim) {
+                return byte >= claim.begin && byte < claim.begin + claim.count;
+            });
+            report(line,
+                   quoted(key) + " is set twice, first in line " + std::to_string(first->line));
+            return false;
+        }
     }
-    std::ranges::fill(bytes, line);
+    for (std::size_t byte = begin; byte < begin + count; ++byte) {
+        m_isSet.set(byte);
+    }
+    m_claims.push_back({begin, count, line});
     return true;
 }
 

@@ -6,7 +6,8 @@
 
 #include <kv_config_gui_mvc/settings_record.h>
 
-#include <array>
+#include <bitset>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,16 @@ public:
 private:
     static constexpr std::size_t mostProblems = 20;
 
+    /// As findField(), which most often is the field behind the last that was found.
+    const Field* findNext(const Section& section, std::string_view name);
+
+    /// A stretch of the record's bytes, and the line that set it.
+    struct Claim {
+        std::size_t begin;
+        std::size_t count;
+        std::size_t line;
+    };
+
     /// Whether the bytes were not set before.
     bool claim(const Section& section, std::string_view key, std::size_t offset, std::size_t count,
                std::size_t line);
@@ -68,7 +79,10 @@ private:
     KvMvcSettings m_settings{};
     std::vector<Problem> m_problems;
     std::vector<const Section*> m_seen;
-    std::array<std::size_t, sizeof(KvMvcSettings)> m_setBy{}; // each byte's line; 0: none yet
+    std::bitset<sizeof(KvMvcSettings)> m_isSet; // each byte
+    std::vector<Claim> m_claims;
+    const Section* m_section = nullptr; // of the fields that follow the last one found
+    std::span<const Field> m_next;
 };
 
 } // namespace kv

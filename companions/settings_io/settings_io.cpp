@@ -66,9 +66,9 @@ int32_t readFile(const std::filesystem::path& file, KvMvcSettings& settings)
     std::string text;
     const std::string reason = kv::readFile(file, largestFile, text);
     const bool isRead = reason.empty() || text.size() > largestFile;
-    const bool isSettings = text.size() <= largestFile && kv::looksLikeSettings(text);
-    if (kind == kv::FileKind::Unknown && isRead && !isSettings) {
-        const bool isText = text.size() <= largestFile && kv::isPlainText(text);
+    const bool isSmall = text.size() <= largestFile;
+    if (kind == kv::FileKind::Unknown && isRead && !(isSmall && kv::looksLikeSettings(text))) {
+        const bool isText = isSmall && kv::isPlainText(text);
         return readMedia(file, settings,
                          isText ? "no media, and no text of a settings file: it has no [section]"
                                 : "");

@@ -12,21 +12,33 @@ namespace
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// What no line of a text file holds.
-bool holdsControls(std::string_view line)
+/// Looked at as a whole, which takes less than a look at each line.
+bool isPlain(std::string_view text)
 {
+    const auto isOrdinary = [](char letter) { return isPlainAscii(letter) || letter == '\n'; };
+    return std::ranges::count_if(text, isOrdinary) == std::ssize(text);
+}
+
+/// What of a line no text file holds; empty: nothing.
+std::string_view faultOf(std::string_view line)
+{
+    bool hasControl = false;
     for (std::size_t at = 0; at < line.size();) {
         const auto point = nextCodePoint(line, at);
-        if (!point || isControl(*point)) {
-            return true;
+        if (!point) {
+            return "not valid UTF-8 text";
         }
+        hasControl = hasControl || isControl(*point);
     }
-    return false;
+    return hasControl ? "a control character" : "";
 }
 
 class Reader
 {
 public:
+    /// @param isPlain Whether no line has a fault.
+    explicit Reader(bool isPlain) : m_isPlain(isPlain) {}
+
     void readLine(std::string_view line);
     void finish() { filler.finish(m_line); }
 
@@ -36,6 +48,7 @@ private:
     void readHeading(std::string_view line);
     void report(std::string reason) { filler.report(m_line, std::move(reason)); }
 
+    const bool m_isPlain;
     std::size_t m_line = 0;
     const Section* m_section = nullptr;
     bool m_skipping = false; // the lines of a section that is refused or missing
@@ -44,13 +57,10 @@ private:
 void Reader::readLine(std::string_view line)
 {
     ++m_line;
-    if (!isUtf8(line)) {
-        return report("not valid UTF-8 text");
+    if (const auto fault = m_isPlain ? std::string_view() : faultOf(line); !fault.empty()) {
+        return report(std::string(fault));
     }
-    if (holdsControls(line)) {
-        return report("a control character");
-    }
-    line = trimmed(line.substr(0, line.find_first_of("#;")));
+    line = trimmed(line.substr(0, std::min(line.find('#'), line.find(';'))));
     if (line.empty()) {
         return;
     }
@@ -94,7 +104,7 @@ std::vector<Problem> parseSettings(std::string_view text, KvMvcSettings& setting
     if (text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size())).starts_with('{')) {
         return parseJsonSettings(text, settings);
     }
-    Reader reader;
+    Reader reader(isPlain(text));
     while (!text.empty() && !reader.filler.isFull()) {
         const auto feed = text.find('\n');
         std::string_view line = text.substr(0, feed);

@@ -48,12 +48,23 @@ std::vector<bool> untoldBytes(const Section& section, const unsigned char* base)
     return untold;
 }
 
+/// Of most lines of a record it is all there is to know.
+bool isZeroLine(std::span<const unsigned char> rest)
+{
+    static constexpr std::array<unsigned char, bytesPerLine> zeros{};
+    return rest.size() >= zeros.size() && std::ranges::equal(rest.first<bytesPerLine>(), zeros);
+}
+
 /// One line for each stretch of untold bytes that is not all zero; lines begin at multiples.
 void appendBytes(std::string& text, const Section& section, const unsigned char* base)
 {
     const std::vector<bool> untold = untoldBytes(section, base);
     bool first = true;
     for (std::size_t begin = 0; begin < section.size;) {
+        if (begin % bytesPerLine == 0 && isZeroLine({base + begin, base + section.size})) {
+            begin += bytesPerLine;
+            continue;
+        }
         std::size_t end = begin + 1;
         while (end < section.size && end % bytesPerLine != 0 && untold[end] == untold[begin]) {
             ++end;

@@ -11,6 +11,12 @@ namespace kv
 /// Decodes one code point at `position` and moves behind it; none for ill-formed text.
 std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position);
 
+/// A letter that is a whole code point, and no control character.
+constexpr bool isPlainAscii(char letter)
+{
+    return letter == '\t' || (letter >= ' ' && letter <= '~');
+}
+
 /// Of the C0 and C1 sets, but for the tabulator.
 bool isControl(char32_t point);
 

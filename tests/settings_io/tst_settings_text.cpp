@@ -470,6 +470,10 @@ void TestSettingsText::problemsNameTheirLine_data()
         "4: unknown key 'widht' in section 'view 0'; did you mean 'width'?");
     row("key of another section", "num_views = 2",
         "3: unknown key 'num_views' in section 'view 0'; it belongs in section 'record'");
+    QTest::newRow("key that follows in another section")
+        << QByteArray("[record]\nnum_views = 1\n[view 0]\nsplit_views = 0\n")
+        << QByteArray("4: unknown key 'split_views' in section 'view 0'; it belongs in section "
+                      "'record'");
     row("capitals", "Width = 2",
         "3: unknown key 'Width' in section 'view 0'; did you mean 'width'?");
     row("hyphen", "frame-rate = 25",
