@@ -82,6 +82,29 @@ private:
     const bool m_isOurs;
 };
 
+/// Dense screens as Qt 6 has them by itself: all of it in their scale, icons in their density. Qt 5
+/// would keep this beyond the application object, for one that the host makes later.
+class DenseScreens
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+public:
+    DenseScreens() { set(true, true); }
+    DenseScreens(const DenseScreens&) = delete;
+    DenseScreens& operator=(const DenseScreens&) = delete;
+    ~DenseScreens() { set(m_scaled, m_icons); }
+
+private:
+    static void set(bool scaled, bool icons)
+    {
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, scaled);
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, icons);
+    }
+
+    const bool m_scaled = QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling);
+    const bool m_icons = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+};
+
 bool runInHostApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
                           QApplication& application)
 {
@@ -124,6 +147,7 @@ bool runInOwnApplication(KvMvcSettings* settings, const KvMvcHosting& hosting,
     constexpr int versionCode = 0x40702;
     const ProcessLocale hostLocale;
     const ApplicationName name;
+    [[maybe_unused]] const DenseScreens dense;
     QApplication application(argumentCount, arguments, versionCode);
     display.reset();
     ProcessLocale::useCNumbers();

@@ -45,7 +45,13 @@ class TestBundle : public QObject
 
 public:
     // A dense screen for the whole program, so that the toolkit has a choice to make.
-    static void initMain() { qputenv("QT_SCALE_FACTOR", "3"); }
+    static void initMain()
+    {
+        qputenv("QT_SCALE_FACTOR", "3");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    }
 
 private Q_SLOTS:
     void init() { failOnToolkitWarnings(); }

@@ -32,6 +32,7 @@
 // | run             | runs the application's event loop until the last window is closed    |
 // | stay            | has the application outlive its last window, if nothing else ends it   |
 // | locale          | says which the process has                                           |
+// | icon            | says in how many pixels the application has an icon of 16            |
 // | translate       | says what "Views" is called in the application                        |
 // | resources       | says whether the module's are there                                  |
 // | unload          | unloads the module                                                   |
@@ -43,6 +44,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -85,6 +87,11 @@ void describeForeignWindow()
         QString::fromStdString(host_system::stateOf(foreignWindow)).trimmed());
 }
 
+int pixelsOf(const QIcon& icon)
+{
+    return icon.pixmap(QSize(16, 16)).width();
+}
+
 void describe(QDialog* dialog)
 {
     say(QStringLiteral("title ") + dialog->windowTitle());
@@ -111,6 +118,9 @@ void describe(QDialog* dialog)
     }
     if (const auto* banner = dialog->findChild<QLabel*>(QStringLiteral("bannerFrame"))) {
         say(QStringLiteral("banner %1").arg(banner->pixmap(Qt::ReturnByValue).width()));
+    }
+    if (const auto* ok = dialog->findChild<QPushButton*>(QStringLiteral("buttonOk"))) {
+        say(QStringLiteral("icon %1").arg(pixelsOf(ok->icon())));
     }
     if (foreignWindow) {
         describeForeignWindow();
@@ -356,6 +366,10 @@ bool Host::step(const std::string& text)
         QApplication::setQuitOnLastWindowClosed(false);
     } else if (name == "locale") {
         say(QStringLiteral("locale ") + QString::fromLatin1(std::setlocale(LC_ALL, nullptr)));
+    } else if (name == "icon") {
+        QPixmap large(64, 64);
+        large.fill(Qt::red);
+        say(QStringLiteral("icon %1").arg(pixelsOf(QIcon(large))));
     } else if (name == "translate") {
         say(QStringLiteral("translated ") +
             QCoreApplication::translate("AVCVideoEncoderDlg", "Views"));

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void applicationObjectsStayWithTheirOwners();
     void callOutOfAnOpenDialogIsAnError();
     void localeStaysTheHosts();
+    void iconsAreAsDenseAsTheScreen();
     void withoutADisplayThereIsAnErrorAndNoEnd_data();
     void withoutADisplayThereIsAnErrorAndNoEnd();
     void severalCallsInOneProcess_data();
@@ -257,6 +258,17 @@ void TestEntryHosting::localeStaysTheHosts()
     const auto run = sandbox.run(words("locale flags=0x13 call locale"));
     QCOMPARE(run.value("result"), QStringLiteral("1001"));
     QCOMPARE(run.values("locale"), words("C C"));
+}
+
+void TestEntryHosting::iconsAreAsDenseAsTheScreen()
+{
+    const Sandbox sandbox;
+    sandbox.addRequired();
+    const auto run = sandbox.run(words("flags=0x13 call application icon"),
+                                 {{QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("3")}});
+    QCOMPARE(run.value("result"), QStringLiteral("1001"));
+    // What the application of a host does is the host's choice with Qt 5.
+    QCOMPARE(run.values("icon"), words(QT_VERSION_MAJOR < 6 ? "48 16" : "48 48"));
 }
 
 void TestEntryHosting::withoutADisplayThereIsAnErrorAndNoEnd_data()
