@@ -1,5 +1,7 @@
 #include "RecordingCompanions.h"
 
+#include <qtestassert.h>
+
 #include <algorithm>
 
 namespace
@@ -62,7 +64,7 @@ KvMvcFunction getApi(int32_t code)
 
 RecordingCompanions::RecordingCompanions()
 {
-    Q_ASSERT(!current);
+    QTEST_ASSERT(!current);
     current = this;
     companionFunctions() = {&defaults, &check, &getApi, nullptr};
 }

@@ -288,6 +288,7 @@ void TestDialogCodes::currentViewIsDescribed()
     // The base view when the dialog opens, and after an edit the last view that it visited.
     KvMvcSettings settings = exampleSettings();
     put(settings, {{0, 24, 640}, {1, 24, 1024}});
+    m_dialog.reset();
     OpenDialog dialog(usualFlags, settings);
     auto* width = findControl<QSpinBox>(dialog.get(), "VideoFormatPage", "widthSpin");
     QCOMPARE(width->value(), 640);
