@@ -42,7 +42,15 @@ Decimal millions(std::int64_t number)
 
 Decimal frameRateText(double rate)
 {
-    return rounded(rate, 3);
+    // As near to it as the list takes a rate for it.
+    constexpr double film = 24000.0 / 1001;
+    constexpr double tolerance = 0.0001;
+    if (std::fabs(rate - film) < tolerance) {
+        return {23, 2, 98, rate};
+    }
+    const Decimal text = rounded(rate, 3);
+    const bool isMistakable = text.whole == 23 && text.digits == 2 && text.fraction == 98;
+    return isMistakable ? Decimal{23, 3, 980, rate} : text;
 }
 
 Decimal seconds(double time)

@@ -20,7 +20,8 @@ struct Decimal {
 /// Bits, or bits per second, as millions of them: exact, with two decimals or more.
 Decimal millions(std::int64_t number);
 
-/// Frames per second with two decimals, or with three where they differ: 59.94, 23.976.
+/// Frames per second as the dialog's list spells them, 23.98 for 24000/1001; others with two
+/// decimals, or with three where they differ: 48.00, 23.981, and 23.980 for what is not 24000/1001.
 Decimal frameRateText(double rate);
 
 /// Seconds, likewise: 0.50, 0.003.

@@ -21,7 +21,8 @@ constexpr Rule<int, int, Decimal, int, int, Decimal> format = {
 constexpr Rule<> unconfirmed = {
     "disc.format-3d",
     Severity::Risk,
-    "Blu-ray 3D is known at 1920 x 1080, 23.976 frames/s, and 1280 x 720, 50 or 59.94; others may "
+    "Blu-ray 3D is known at 1920 x 1080, 23.98 frames/s, and 1280 x 720, 50.00 or 59.94; others "
+    "may "
     "fail.",
     "disc: authoring programs offer 23.976, 50 and 59.94 frames/s for two views; all discs that "
     "are described have the first",

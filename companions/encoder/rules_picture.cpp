@@ -91,7 +91,7 @@ constexpr Rule<> pulldownMbaff = {
 constexpr Rule<Decimal> pulldown23 = {
     "pulldown.2-3",
     Severity::Risk,
-    "Pulldown 2:3 and 3:2 are meant for 23.976 and 24 frames/s (now %d.%0*d).",
+    "Pulldown 2:3 and 3:2 are meant for 23.98 and 24.00 frames/s (now %d.%0*d).",
     "D.2.3; practice",
     {.setting = "pulldown"}};
 constexpr Rule<Decimal> pulldown22 = {
