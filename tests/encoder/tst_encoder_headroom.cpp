@@ -66,15 +66,14 @@ const FirstNote firstNotes[] = {
          r.views[0].num_ref_frames = 2;
      },
      "Least headroom: decoded pictures, 2 of the 4 frames that level 4.1 allows; 2 left."},
-    // 60 Mbit/s of the base view are no sum of both.
+    // 60 Mbit/s of view 1 are no sum of both.
     {"not the sum of rates of which one is unknown", 2,
      [](Record& r) {
-         r.views[0].max_bitrate = 60000000;
-         r.views[0].bitrate_buffer = 2500000;
-         r.views[1].bitrate_mode = KV_MVC_CONSTANT_QUANTIZER;
+         r.views[0].bitrate_mode = KV_MVC_CONSTANT_QUANTIZER;
+         r.views[1].max_bitrate = 60000000;
+         r.views[1].bitrate_buffer = 2500000;
      },
-     "Least headroom: the base view's bitrate of pictures, 60.00 of the 62.50 Mbit/s that level "
-     "4.1 allows; 2.50 left."},
+     "Least headroom: decoded pictures, 7 of the 8 frames that level 4.1 allows; 1 left."},
     // Its own notes of the cadence and of the aspect come before those of the level.
     {"above notes on the picture", 0,
      [](Record& r) {
