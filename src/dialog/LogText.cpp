@@ -2,6 +2,10 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QStringView>
+
+#include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -23,6 +27,52 @@ bool hasEndlessWord(const QString& text)
         }
     }
     return false;
+}
+
+/// What stands after a number, in the languages of the reference encoder.
+constexpr QStringView units[] = {
+    u"%",           u"s",
+    u"bit",         u"kbit",
+    u"Mbit",        u"bit/s",
+    u"kbit/s",      u"Mbit/s",
+    u"bits",        u"bytes",
+    u"frames",      u"frames/s",
+    u"macroblocks", u"macroblocks/s",
+    u"Bit",         u"Byte",
+    u"Bilder",      u"Bildern",
+    u"Bilder/s",    u"Bildern/s",
+    u"Makroblöcke", u"Makroblöcke/s",
+};
+
+/// Whether a unit begins there. In Japanese all that follows a number counts it.
+bool beginsUnit(QStringView text)
+{
+    const QChar first = text.front();
+    const QChar::Script script = first.script();
+    if (script == QChar::Script_Han || script == QChar::Script_Hiragana ||
+        script == QChar::Script_Katakana) {
+        return true;
+    }
+    const auto isInWord = [](QChar sign) {
+        return sign.isLetter() || sign == QLatin1Char('/') || sign == QLatin1Char('%');
+    };
+    const auto* const end = std::find_if_not(text.begin(), text.end(), isInWord);
+    const QStringView word = text.left(end - text.begin());
+    return std::find(std::begin(units), std::end(units), word) != std::end(units);
+}
+
+/// Lines do not break between a number and its unit. The toolkit copies plain blanks again; what
+/// would also keep them from breaking after the stroke of "Mbit/s" would be copied along.
+QString withUnitsKept(QString text)
+{
+    constexpr QChar blank = QLatin1Char(' ');
+    for (auto at = text.indexOf(blank, 1); at > 0 && at + 1 < text.size();
+         at = text.indexOf(blank, at + 1)) {
+        if (text.at(at - 1).isDigit() && beginsUnit(QStringView(text).mid(at + 1))) {
+            text[at] = QChar::Nbsp;
+        }
+    }
+    return text;
 }
 
 /// Takes messages, one kind after the other, as long as there is room.
@@ -66,7 +116,7 @@ private:
     void append(QString& text, const QString& message)
     {
         const QString shown = shownOf(message);
-        text += shown + QLatin1Char('\n');
+        text += withUnitsKept(shown) + QLatin1Char('\n');
         m_characters -= int(shown.size());
         m_cut += message.size() > longestMessage ? 1 : 0;
     }

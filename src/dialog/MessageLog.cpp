@@ -1,6 +1,7 @@
 #include "MessageLog.h"
 
 #include "Companions.h"
+#include "DigitGroups.h"
 #include "ForeignText.h"
 #include "LogGround.h"
 #include "LogText.h"
@@ -173,6 +174,7 @@ void MessageLog::showIn(QTextEdit* log)
     showsErrors = false;
     // What is taken back is settings, not messages.
     log->setUndoRedoEnabled(false);
+    new DigitGroups(log->document());
 }
 
 void MessageLog::clearMessages()
