@@ -32,14 +32,21 @@ public:
 
     bool contains(const QString& key) const { return m_entries.contains(key); }
 
+    /// The entry of the key; null when it is absent.
+    const ConfigEntry* find(const QString& key) const
+    {
+        const auto found = m_entries.constFind(key);
+        return found == m_entries.constEnd() ? nullptr : &*found;
+    }
+
     /// The entry of the key; an invalid, enabled one when it is absent.
     ConfigEntry entry(const QString& key) const { return m_entries.value(key); }
 
     /// The value of the key, or `absent` when the state does not hold it.
     QVariant value(const QString& key, const QVariant& absent = QVariant()) const
     {
-        const auto found = m_entries.constFind(key);
-        return found == m_entries.constEnd() ? absent : found->value;
+        const ConfigEntry* const found = find(key);
+        return found ? found->value : absent;
     }
 
     const Entries& entries() const { return m_entries; }

@@ -10,7 +10,7 @@ namespace
 {
 
 /// Of a row that is a rule of its own.
-bool differs(QLatin1String key, const KvMvcViewSettings& a, const KvMvcViewSettings& b)
+bool differs(const QString& key, const KvMvcViewSettings& a, const KvMvcViewSettings& b)
 {
     if (key == keys::frameRate) {
         // The field is not aligned, and read by value only.
@@ -53,7 +53,7 @@ QSet<QString> differingKeys(const WorkingRecord& a, const WorkingRecord& b, int 
     for (int each = 0; each < KV_MVC_MAX_VIEWS; ++each) {
         for (const ViewRow& row : table.rateControl) {
             if (differs(row, a.view(each), b.view(each))) {
-                found += keys::ofView(row.key, each);
+                found += row.keyIn(each);
             }
         }
     }

@@ -12,10 +12,14 @@ void resetFurtherViews(WorkingRecord& record)
 void followSecondView(WorkingRecord& record)
 {
     for (KvMvcViewSettings& view : record.furtherViews) {
-        KvMvcViewSettings next = record.view(1);
+        std::vector<qint32> own;
         for (const ViewRow& row : keyTable().rateControl) {
-            next.*row.field = view.*row.field;
+            own.push_back(view.*row.field);
         }
-        view = next;
+        view = record.view(1);
+        auto kept = own.cbegin();
+        for (const ViewRow& row : keyTable().rateControl) {
+            view.*row.field = *kept++;
+        }
     }
 }

@@ -88,9 +88,9 @@ inline constexpr QLatin1String minQuantizer("Min Quantizer");
 inline constexpr QLatin1String hrd("HRD");
 
 /// The key of a rate control setting of one view, 0 to 3: "HRD" of view 2 is "HRD V2".
-inline QString ofView(QLatin1String base, int view)
+inline QString ofView(const QString& base, int view)
 {
-    return QString(base) + QLatin1String(" V") + QString::number(view);
+    return base + QLatin1String(" V") + QString::number(view);
 }
 
 } // namespace keys

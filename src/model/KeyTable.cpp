@@ -130,6 +130,11 @@ KeyTable makeTable()
         {.key = keys::minQuantizer, .field = &V::quant_min},
         {.key = keys::hrd, .field = &V::hrd_mode},
     };
+    for (ViewRow& row : table.rateControl) {
+        for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
+            row.keyOfView.at(std::size_t(view)) = keys::ofView(row.key, view);
+        }
+    }
     return table;
 }
 

@@ -3,10 +3,9 @@
 #include "ConfigState.h"
 #include "Vocabulary.h"
 
-#include <QLatin1String>
-
 #include <kv_config_gui_mvc/settings_record.h>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -46,7 +45,8 @@ struct Fallback {
 /// One setting: its key, the field behind it, and how one becomes the other.
 template <class Record>
 struct SettingRow {
-    QLatin1String key;
+    /// As an object that states share: none is made for each description.
+    QString key;
     /// Null where both functions below are set: the setting is no single whole number.
     qint32 Record::*field = nullptr;
 
@@ -63,6 +63,10 @@ struct SettingRow {
     bool (*enabledWhen)(const Record&) = nullptr;
     void (*describe)(const SettingRow&, const QString& key, const Record&, Describing&) = nullptr;
     void (*apply)(const SettingRow&, const QString& key, const Applying&, Record&) = nullptr;
+
+    /// The keys of rate control, for which `key` is the base text (keys::ofView).
+    std::array<QString, KV_MVC_MAX_VIEWS> keyOfView = {};
+    const QString& keyIn(int view) const { return keyOfView.at(std::size_t(view)); }
 };
 
 using RecordRow = SettingRow<KvMvcSettings>;
@@ -73,7 +77,7 @@ struct KeyTable {
     std::vector<ViewRow> basic;
     std::vector<ViewRow> advanced;
     std::vector<RecordRow> record;
-    /// Base texts; each is a key of its own in every view (keys::ofView).
+    /// Each is a key of its own in every view.
     std::vector<ViewRow> rateControl;
 };
 
@@ -107,15 +111,15 @@ template <class Record>
 void applyPlainly(const SettingRow<Record>& row, const QString& key, const Applying& in,
                   Record& record)
 {
-    if (!in.state.contains(key)) {
+    const ConfigEntry* const entry = in.state.find(key);
+    if (!entry) {
         return;
     }
-    const QVariant value = in.state.value(key);
     if (!row.list) {
-        record.*row.field = qint32(quint32(value.toInt()) + quint32(row.offset));
+        record.*row.field = qint32(quint32(entry->value.toInt()) + quint32(row.offset));
         return;
     }
-    std::optional<qint32> code = in.vocabulary.list(*row.list).codeOf(value.toString());
+    std::optional<qint32> code = in.vocabulary.list(*row.list).codeOf(entry->value.toString());
     if (!code && row.fallback) {
         code = row.fallback->code;
     }

@@ -123,9 +123,11 @@ void add(Index& index, const QString& key, const FieldRow& row, int view, qint32
 void addView(Index& index, const ViewRow& setting, const QString& key, int view)
 {
     for (const FieldRow& row : fieldRows()) {
-        const std::pair own(setting.key, QLatin1String(row.member));
-        const bool isItsOwn = std::find(std::begin(withoutField), std::end(withoutField), own) !=
-                              std::end(withoutField);
+        const auto isOfBoth = [&](const auto& own) {
+            return setting.key == own.first && own.second == QLatin1String(row.member);
+        };
+        const bool isItsOwn =
+            std::any_of(std::begin(withoutField), std::end(withoutField), isOfBoth);
         if (setting.field ? row.ofView == setting.field : isItsOwn) {
             add(index, key, row, view, setting.lock);
         }
@@ -150,7 +152,7 @@ Index makeIndex()
     }
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
         for (const ViewRow& setting : table.rateControl) {
-            addView(index, setting, keys::ofView(setting.key, view), view);
+            addView(index, setting, setting.keyIn(view), view);
         }
     }
     // The presets have a key, but no row of the key table.

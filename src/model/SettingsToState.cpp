@@ -1,7 +1,5 @@
 #include "SettingsToState.h"
 
-#include "KeyNames.h"
-
 #include <kv_config_gui_mvc/config_gui.h>
 
 namespace
@@ -47,7 +45,7 @@ ConfigState describeViews(const Vocabulary& vocabulary, qint32 flags, const Work
     }
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
         for (const ViewRow& row : keyTable().rateControl) {
-            describeRow(row, keys::ofView(row.key, view), record.view(view), out);
+            describeRow(row, row.keyIn(view), record.view(view), out);
         }
     }
     return out.state;

@@ -34,7 +34,7 @@ void applyViews(const Applying& in, WorkingRecord& record)
     }
     for (int view = 0; view < KV_MVC_MAX_VIEWS; ++view) {
         for (const ViewRow& row : keyTable().rateControl) {
-            applyRow(row, keys::ofView(row.key, view), in, record.view(view));
+            applyRow(row, row.keyIn(view), in, record.view(view));
         }
     }
 }
