@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -129,7 +130,7 @@ void SettingHelp::follow(const WorkingRecord& record, int view, const StartingPo
     }
     const QSet<QString> differing = differingKeys(start->record, record, view);
     for (Row& row : m_rows) {
-        tellRange(row);
+        tellFacts(row);
         tellStart(row, isNew, differing.contains(row.key));
         tellReason(row);
     }
@@ -144,10 +145,15 @@ void SettingHelp::describeStart(int view)
     add(m_startState, describeViews(m_vocabulary, 0, m_start->record));
 }
 
-void SettingHelp::tellRange(const Row& row)
+void SettingHelp::tellFacts(Row& row)
 {
+    const auto range = rangeOf(row.widgets.value(0));
+    if (std::exchange(row.isFactTold, true) && row.range == range) {
+        return;
+    }
+    row.range = range;
     QStringList lines;
-    if (const auto range = rangeOf(row.widgets.value(0))) {
+    if (range) {
         const int low = std::max(range->first, row.facts.low.value_or(range->first));
         const int high = std::min(range->second, row.facts.high.value_or(range->second));
         const QString unit = row.facts.unit.isEmpty()
@@ -173,10 +179,16 @@ void SettingHelp::tellRange(const Row& row)
 
 void SettingHelp::tellStart(Row& row, bool isNew, bool isChanged)
 {
-    if (!row.page || (!isNew && row.isChanged == isChanged && row.widgets.size() == 1)) {
+    if (!row.page) {
+        return;
+    }
+    const QWidget* const chosen =
+        row.widgets.size() > 1 ? row.page->widgetOf(row.key) : row.widgets.value(0);
+    if (!isNew && row.isChanged == isChanged && row.chosen == chosen) {
         return;
     }
     row.isChanged = isChanged;
+    row.chosen = chosen;
     const QString name = m_start->name.isEmpty() ? tr("as opened") : m_start->name;
     const QString start = startTextOf(row.key);
     QStringList lines;
@@ -187,16 +199,22 @@ void SettingHelp::tellStart(Row& row, bool isNew, bool isChanged)
     } else if (isChanged) {
         lines += tr("Changed.");
     }
-    QWidget* const chosen = row.page->widgetOf(row.key);
     for (QWidget* widget : row.widgets) {
         ControlTip::of(widget)->setLines(ControlTip::Start, lines);
         ValueMarks::setChanged(widget, isChanged && widget == chosen);
     }
 }
 
-void SettingHelp::tellReason(const Row& row)
+void SettingHelp::tellReason(Row& row) const
 {
-    const bool isEnabled = row.widgets.value(0)->isEnabledTo(m_dialog);
+    const QWidget* const control = row.widgets.value(0);
+    const bool isEnabled = control->isEnabledTo(m_dialog);
+    const bool isPageEnabled = isEnabled || !row.page || row.page->isEnabledTo(m_dialog);
+    if (row.isEnabled == isEnabled && row.isPageEnabled == isPageEnabled) {
+        return;
+    }
+    row.isEnabled = isEnabled;
+    row.isPageEnabled = isPageEnabled;
     const QString reason = isEnabled ? QString() : reasonOf(row);
     for (QWidget* widget : row.widgets) {
         ControlTip::of(widget)->setLines(ControlTip::Reason,
@@ -206,7 +224,7 @@ void SettingHelp::tellReason(const Row& row)
 
 QString SettingHelp::reasonOf(const Row& row) const
 {
-    if (row.page && !row.page->isEnabledTo(m_dialog)) {
+    if (!row.isPageEnabled) {
         return tr("Greyed because this view is not coded; see \"Number of additional views\".");
     }
     const bool sizeLocked = m_flags & KV_MVC_GUI_LOCK_SIZE;
@@ -246,7 +264,11 @@ void SettingHelp::showMessages(const QVector<CheckMessage>& messages)
             words.lines += (isError ? tr("Error: %1") : tr("Warning: %1")).arg(message.text);
         }
     }
-    for (const Row& row : m_rows) {
+    for (Row& row : m_rows) {
+        const bool hasMessages = byKey.contains(row.key);
+        if (!std::exchange(row.hasMessages, hasMessages) && !hasMessages) {
+            continue;
+        }
         const Words words = byKey.value(row.key);
         QWidget* const chosen = row.page ? row.page->widgetOf(row.key) : row.widgets.value(0);
         for (QWidget* widget : row.widgets) {

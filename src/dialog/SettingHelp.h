@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <optional>
+#include <utility>
 
 class QDialog;
 class QSpinBox;
@@ -48,16 +49,22 @@ private:
         QVector<QWidget*> widgets;
         SettingFacts facts;
 
-        /// What its tip tells now.
+        /// What is told of it now.
+        std::optional<std::pair<int, int>> range = {};
+        bool isFactTold = false;
         bool isChanged = false;
+        const QWidget* chosen = nullptr;
+        bool isEnabled = true;
+        bool isPageEnabled = true;
+        bool hasMessages = false;
     };
 
     void addRows(SettingsPage* page);
     void addHints(const Row& row);
     void describeStart(int view);
-    static void tellRange(const Row& row);
+    static void tellFacts(Row& row);
     void tellStart(Row& row, bool isNew, bool isChanged);
-    void tellReason(const Row& row);
+    void tellReason(Row& row) const;
     QString reasonOf(const Row& row) const;
     const Row* rowOf(const QString& key) const;
 

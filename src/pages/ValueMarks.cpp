@@ -82,8 +82,9 @@ void ValueMarks::setChanged(QWidget* control, bool changed)
 {
     Mark* const mark = find(control);
     if (changed != (mark && mark->changed)) {
-        (mark ? *mark : make(control)).changed = changed;
-        control->parentWidget()->update();
+        Mark& made = mark ? *mark : make(control);
+        made.changed = changed;
+        control->parentWidget()->update(barOf(made));
     }
 }
 
@@ -92,8 +93,17 @@ void ValueMarks::setSeverity(QWidget* control, Severity severity)
     Mark* const mark = find(control);
     if (severity != (mark ? mark->severity : Severity::None)) {
         (mark ? *mark : make(control)).severity = severity;
-        control->parentWidget()->update();
+        control->parentWidget()->update(control->geometry().adjusted(-2, -2, 2, 2));
     }
+}
+
+QRect ValueMarks::barOf(const Mark& mark)
+{
+    // A label that is not shown names its control for assistive technology only.
+    const bool hasLabel = mark.anchor && !mark.anchor->isHidden();
+    const QRect place = (hasLabel ? mark.anchor : mark.control)->geometry();
+    const int gap = qMin(place.left(), barWidth + 1);
+    return {place.left() - gap, place.top(), barWidth, place.height()};
 }
 
 bool ValueMarks::eventFilter(QObject* watched, QEvent* event)
@@ -141,12 +151,7 @@ void ValueMarks::paint()
             painter.drawRect(mark.control->geometry().adjusted(-1, -1, 1, 1));
         }
         if (mark.changed) {
-            // A label that is not shown names its control for assistive technology only.
-            const bool hasLabel = mark.anchor && !mark.anchor->isHidden();
-            const QRect place = (hasLabel ? mark.anchor : mark.control)->geometry();
-            const int gap = qMin(place.left(), barWidth + 1);
-            painter.fillRect(place.left() - gap, place.top(), barWidth, place.height(),
-                             inkOn(m_ground, changedInk));
+            painter.fillRect(barOf(mark), inkOn(m_ground, changedInk));
         }
     }
 }

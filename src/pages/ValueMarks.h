@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QVector>
 
 class QPainter;
@@ -35,6 +36,8 @@ private:
     /// Null for a control that never had a mark.
     static Mark* find(QWidget* control);
     static Mark& make(QWidget* control);
+    /// Where its bar stands in the ground.
+    static QRect barOf(const Mark& mark);
     void paint();
 
     QWidget* const m_ground;
