@@ -213,7 +213,8 @@ void MessageLog::rewriteWidget()
         blocks += {text.omitted, noteColour, -1, std::nullopt};
     }
     // Somebody else may have written there.
-    if (blocks != shown || widget->document()->revision() != shownRevision) {
+    const bool isSame = blocks == shown && widget->document()->revision() == shownRevision;
+    if (!isSame) {
         const auto wrap = text.hasEndlessWord ? QTextOption::WrapAnywhere
                                               : QTextOption::WrapAtWordBoundaryOrAnywhere;
         if (widget->wordWrapMode() != wrap) {
@@ -228,7 +229,14 @@ void MessageLog::rewriteWidget()
     markMessages();
     tellErrors();
 
-    scrollToFirstToRead(widget);
+    const QTextCursor cursor = widget->textCursor();
+    const bool isWhereItWas = isSame && keepsItsPlace && !widget->hasFocus() &&
+                              !cursor.hasSelection() &&
+                              cursor.position() == firstToRead(widget).position();
+    // Scrolled to and fro, the log would be painted anew.
+    if (!isWhereItWas) {
+        scrollToFirstToRead(widget);
+    }
     if (keepsItsPlace) {
         widget->verticalScrollBar()->setValue(place);
     }
