@@ -187,6 +187,7 @@ void AVCVideoEncoderDlg::buildPages()
     }
     m_viewsPage = new ViewsPage(this);
     addPage(m_viewsPage, tr("Views"));
+    m_pages = findChildren<SettingsPage*>();
 
     text_fit::shrink(ui.tabWidget->tabBar());
 
@@ -252,9 +253,14 @@ void AVCVideoEncoderDlg::applySkin(const QString& name)
 
 void AVCVideoEncoderDlg::settingsToState()
 {
+    tellPages();
+    m_help->follow(m_record, m_currentView, m_start);
+}
+
+void AVCVideoEncoderDlg::tellPages()
+{
     describeCurrentView();
     describeAllViews();
-    m_help->follow(m_record, m_currentView, m_start);
 }
 
 void AVCVideoEncoderDlg::describeCurrentView()
@@ -267,17 +273,23 @@ void AVCVideoEncoderDlg::describeCurrentView()
     ui.presetList->setEnabled(videoType.enabled);
 
     const BasicDescription basic = describeBasic(m_vocabulary, m_flags, view);
-    if (basic.customFrameRate) {
-        m_customFrameRate = *basic.customFrameRate;
-    }
+    takeFrameRate(basic);
     if (m_basicPage) {
-        if (basic.customFrameRate) {
-            m_basicPage->addFramerateItem(basic.customFrameRate->text);
-        }
         m_basicPage->receiveState(basic.state);
     }
     if (m_advancedPage) {
         m_advancedPage->receiveState(describeAdvanced(m_vocabulary, m_flags, view));
+    }
+}
+
+void AVCVideoEncoderDlg::takeFrameRate(const BasicDescription& description)
+{
+    if (!description.customFrameRate) {
+        return;
+    }
+    m_customFrameRate = *description.customFrameRate;
+    if (m_basicPage) {
+        m_basicPage->addFramerateItem(m_customFrameRate.text);
     }
 }
 
@@ -318,7 +330,8 @@ void AVCVideoEncoderDlg::stateToSettings(const ConfigState& state)
     for (int view = 0; view < views; ++view) {
         m_currentView = view;
         applyToView(edit, currentView());
-        describeCurrentView();
+        // All that stays of a description when the next one comes.
+        takeFrameRate(describeBasic(m_vocabulary, m_flags, currentView()));
     }
     applyViews(edit, m_record);
     if (isNew) {
@@ -336,7 +349,8 @@ void AVCVideoEncoderDlg::slotReceiveState(const ConfigState& state)
     const auto apply = [&] {
         stateToSettings(state);
         if (self) {
-            settingsToState();
+            // The check tells the rest of what the pages are told.
+            tellPages();
             check();
         }
     };

@@ -16,6 +16,7 @@
 
 class AdvancedPage;
 class BasicPage;
+struct BasicDescription;
 class QDropEvent;
 class QDragEnterEvent;
 class SettingHelp;
@@ -71,10 +72,14 @@ private:
     void showTabInFrontWhole();
     void applySkin(const QString& name);
 
-    /// Describes the working copy to the pages; nothing that they report meanwhile is checked.
+    /// Describes the working copy to the pages, where nothing that they report meanwhile is
+    /// checked, and tells what is said and marked at the controls.
     void settingsToState();
+    void tellPages();
     void describeCurrentView();
     void describeAllViews();
+    /// Takes a frame rate that is no item of the list, and makes it one.
+    void takeFrameRate(const BasicDescription& description);
     void stateToSettings(const ConfigState& state);
     KvMvcViewSettings& currentView() { return m_record.view(m_currentView); }
 
@@ -152,6 +157,8 @@ private:
     BasicPage* m_basicPage = nullptr;
     AdvancedPage* m_advancedPage = nullptr;
     ViewsPage* m_viewsPage = nullptr;
+    /// All of them, those in other pages, too.
+    QList<SettingsPage*> m_pages;
 
     QMap<const QObject*, QString> m_widgetKeys;
     Vocabulary m_vocabulary;

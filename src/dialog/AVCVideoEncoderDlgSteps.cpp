@@ -84,14 +84,13 @@ void AVCVideoEncoderDlg::startHere(const QString& name)
 
 QString AVCVideoEncoderDlg::describeEdit(const ConfigState& state) const
 {
-    const auto pages = findChildren<SettingsPage*>();
     QStringList captions;
     const auto& entries = state.entries();
     for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
         if (entry.key() == keys::videoType || entry.key() == keys::restorePreset) {
             return tr("Preset %1").arg(entry->value.toString());
         }
-        for (const SettingsPage* page : pages) {
+        for (const SettingsPage* page : m_pages) {
             const QWidget* const control = page->widgetOf(entry.key());
             if (!control) {
                 continue;
@@ -112,7 +111,6 @@ QString AVCVideoEncoderDlg::describeEdit(const ConfigState& state) const
 
 QString AVCVideoEncoderDlg::keysOfNumber(const ConfigState& state) const
 {
-    const auto pages = findChildren<SettingsPage*>();
     const QStringList keys = state.entries().keys();
     for (const QString& key : keys) {
         const auto isNumber = [&key](const SettingsPage* page) {
@@ -120,7 +118,7 @@ QString AVCVideoEncoderDlg::keysOfNumber(const ConfigState& state) const
             return qobject_cast<const QAbstractSpinBox*>(control) ||
                    qobject_cast<const QAbstractSlider*>(control);
         };
-        if (std::none_of(pages.begin(), pages.end(), isNumber)) {
+        if (std::none_of(m_pages.begin(), m_pages.end(), isNumber)) {
             return {};
         }
     }

@@ -155,16 +155,30 @@ void SettingsPage::reportEdit(const QVariant& value)
 void SettingsPage::setComboFromState(QComboBox* box, const ConfigState& state)
 {
     setBlocked(box, state.entry(keyOf(box)), [box](const QVariant& value) {
-        box->setCurrentIndex(
-            box->findText(value.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        const QString text = value.toString();
+        const int before = box->currentIndex();
+        if (before >= 0 && box->itemText(before) == text) {
+            return;
+        }
+        const int index = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        if (index != before) {
+            box->setCurrentIndex(index);
+            text_fit::refit(box);
+        }
     });
-    text_fit::refit(box);
 }
 
 void SettingsPage::setSpinFromState(QSpinBox* box, const ConfigState& state)
 {
-    setBlocked(box, state.entry(keyOf(box)),
-               [box](const QVariant& value) { box->setValue(value.toInt()); });
+    setBlocked(box, state.entry(keyOf(box)), [this, box](const QVariant& value) {
+        const int number = qBound(box->minimum(), value.toInt(), box->maximum());
+        // What is being typed may differ from the number that the field has.
+        QString& shown = m_shownTexts[box];
+        if (box->value() != number || box->text() != shown) {
+            box->setValue(number);
+            shown = box->text();
+        }
+    });
 }
 
 void SettingsPage::setSpinFromState(QAbstractSlider* slider, const ConfigState& state)

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
+#include <QHash>
 #include <QMap>
 #include <QSpinBox>
 #include <QVector>
@@ -94,7 +95,8 @@ protected:
     QString senderKey() const { return keyOf(sender()); }
     QString keyOf(const QObject* control) const { return controlKeys.value(control); }
 
-    /// Set one control from the state's entry for its key, with its signals blocked.
+    /// Set one control from the state's entry for its key, with its signals blocked. One that shows
+    /// that already is left alone: the toolkit would paint it again, and lay out what it stands in.
     void setComboFromState(QComboBox* box, const ConfigState& state);
     void setSpinFromState(QSpinBox* box, const ConfigState& state);
     void setSpinFromState(QAbstractSlider* slider, const ConfigState& state);
@@ -104,4 +106,6 @@ private:
     QMap<const QObject*, QString> controlKeys;
     QStringList m_keys;
     QVector<StateSetter> m_setters;
+    /// Of the fields, since they were last set.
+    QHash<const QSpinBox*, QString> m_shownTexts;
 };

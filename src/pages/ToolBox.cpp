@@ -82,9 +82,11 @@ private:
 /// the inside outwards.
 void layOutNow(QWidget* widget)
 {
-    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children) {
-        layOutNow(child);
+    // By number: laying out may make widgets.
+    for (int i = 0; i < int(widget->children().size()); ++i) {
+        if (QObject* const child = widget->children().at(i); child->isWidgetType()) {
+            layOutNow(static_cast<QWidget*>(child));
+        }
     }
     QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
 }

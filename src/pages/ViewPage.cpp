@@ -33,6 +33,13 @@ bool isKnown(int units)
     return units >= 0 && units < int(std::size(unitRows));
 }
 
+void setStep(QSpinBox* field, int step)
+{
+    if (field->singleStep() != step) {
+        field->setSingleStep(step);
+    }
+}
+
 void showAll(const QVector<QWidget*>& widgets, bool visible)
 {
     for (QWidget* widget : widgets) {
@@ -96,12 +103,13 @@ void ViewPage::bindControls()
     m_vbvInitial = control<QSpinBox>("vbvInitialSpin");
     m_vbvTarget = control<QSpinBox>("vbvTargetSpin");
     m_oneSecond = control<QCheckBox>("onesecCheck");
+    m_hrd = control<QCheckBox>("hrdCheck");
 
     bind(m_modeList, key(keys::bitrateMode), &ViewPage::slotChangeBitrateMode);
     for (const SpinRow& row : spinRows) {
         bind(control<QSpinBox>(row.control), key(row.key), row.slot);
     }
-    bind(control<QCheckBox>("hrdCheck"), key(keys::hrd), &ViewPage::slotChangeHRD);
+    bind(m_hrd, key(keys::hrd), &ViewPage::slotChangeHRD);
 
     // Both slots hang on the initial fullness; the target is shown but reports nothing.
     bind(m_vbvInitial, key(keys::vbvInitial), &ViewPage::slotChangeVBVInitial);
@@ -267,14 +275,14 @@ void ViewPage::slotChangeOneSec(bool onesec)
 
 void ViewPage::receiveState(const ConfigState& state)
 {
-    const int units = state.value(key(keys::units)).toInt();
+    const int units = state.value(keyOf(m_unitGroup)).toInt();
     if (isKnown(units)) {
         // The limit of the units before would cut what is told, in silence.
-        limitFullness(unlimited);
+        makeRoomFor(m_vbvInitial, state);
+        makeRoomFor(m_vbvTarget, state);
     }
     SettingsPage::receiveState(state);
-    showFor(state.value(key(keys::bitrateMode)).toString(),
-            state.value(key(keys::hrd)).toInt() == 1);
+    showFor(state.value(keyOf(m_modeList)).toString(), state.value(keyOf(m_hrd)).toInt() == 1);
     if (isKnown(units)) {
         setUnits(units);
     }
@@ -298,22 +306,37 @@ void ViewPage::showFor(const QString& mode, bool hrd)
 void ViewPage::setUnits(int units)
 {
     const UnitTexts& texts = m_unitTexts[units];
-    m_bufferLabel->setText(texts.buffer);
-    m_vbvInitialLabel->setText(texts.vbvInitial);
-    m_vbvTargetLabel->setText(texts.vbvTarget);
-    for (QLabel* label : {m_bufferLabel, m_vbvInitialLabel, m_vbvTargetLabel}) {
-        nameLabel(label);
-    }
+    setCaption(m_bufferLabel, texts.buffer);
+    setCaption(m_vbvInitialLabel, texts.vbvInitial);
+    setCaption(m_vbvTargetLabel, texts.vbvTarget);
     const UnitRow& row = unitRows[units];
-    m_buffer->setSingleStep(row.bufferStep);
-    m_vbvInitial->setSingleStep(row.vbvStep);
-    m_vbvTarget->setSingleStep(row.vbvStep);
+    setStep(m_buffer, row.bufferStep);
+    setStep(m_vbvInitial, row.vbvStep);
+    setStep(m_vbvTarget, row.vbvStep);
     // With signals on: a fullness beyond 100 % is clamped, and the clamp is reported like an edit.
     limitFullness(row.vbvMaximum);
 }
 
+void ViewPage::setCaption(QLabel* label, const QString& text)
+{
+    if (label->text() != text) {
+        label->setText(text);
+        nameLabel(label);
+    }
+}
+
+void ViewPage::makeRoomFor(QSpinBox* field, const ConfigState& state)
+{
+    if (state.value(keyOf(field)).toInt() > field->maximum()) {
+        field->setMaximum(unlimited);
+    }
+}
+
 void ViewPage::limitFullness(int maximum)
 {
-    m_vbvInitial->setMaximum(maximum);
-    m_vbvTarget->setMaximum(maximum);
+    for (QSpinBox* field : {m_vbvInitial, m_vbvTarget}) {
+        if (field->maximum() != maximum) {
+            field->setMaximum(maximum);
+        }
+    }
 }

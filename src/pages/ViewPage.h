@@ -76,6 +76,9 @@ private:
     void nameLabel(QLabel* label);
     /// Labels, steps and limits of the units, whose code must be a known one.
     void setUnits(int units);
+    void setCaption(QLabel* label, const QString& text);
+    /// Lifts the limit of a fullness that the state would be cut at.
+    void makeRoomFor(QSpinBox* field, const ConfigState& state);
     /// The largest fullness, initial and target, that the page takes.
     void limitFullness(int maximum);
 
@@ -92,6 +95,7 @@ private:
     QSpinBox* m_vbvInitial = nullptr;
     QSpinBox* m_vbvTarget = nullptr;
     QCheckBox* m_oneSecond = nullptr;
+    QCheckBox* m_hrd = nullptr;
     QLabel* m_bufferLabel = nullptr;
     QLabel* m_vbvInitialLabel = nullptr;
     QLabel* m_vbvTargetLabel = nullptr;

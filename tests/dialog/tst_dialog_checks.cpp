@@ -30,7 +30,8 @@ private Q_SLOTS:
 
     void perEdit_data();
     void perEdit();
-    void pagesAreToldViewByViewAndAgainAfterTheCheck();
+    void pagesAreToldOnceBeforeTheCheckAndOnceAfterIt();
+    void frameRateOfEachViewIsOffered();
     void pushingTellsNothingBack();
     void checkSeesTheEdit();
     void correctionsReachEveryPage();
@@ -163,7 +164,7 @@ void TestDialogChecks::perEdit()
     QCOMPARE(dialog.companions.count(QStringLiteral("check 3 0")), checks);
 }
 
-void TestDialogChecks::pagesAreToldViewByViewAndAgainAfterTheCheck()
+void TestDialogChecks::pagesAreToldOnceBeforeTheCheckAndOnceAfterIt()
 {
     KvMvcSettings settings = exampleSettings();
     put(settings, {{0, 24, 640}, {1, 24, 1024}, {0, 8, 11}, {1, 8, 22}});
@@ -185,8 +186,7 @@ void TestDialogChecks::pagesAreToldViewByViewAndAgainAfterTheCheck()
     edit.insert(QStringLiteral("Deblocking"), 1);
     dialog->slotReceiveState(edit);
     QCOMPARE(calls.join(QLatin1String(", ")),
-             QStringLiteral("width 640, interval 11, width 1024, interval 22, "
-                            "width 1024, interval 22, views 1, "
+             QStringLiteral("width 1024, interval 22, views 1, "
                             "check 3 0, width 1280, interval 33, views 0"));
 
     // A file's settings are told once more than a check tells them.
@@ -196,6 +196,25 @@ void TestDialogChecks::pagesAreToldViewByViewAndAgainAfterTheCheck()
              QStringLiteral("api 8193, read /settings.cfg, "
                             "check 3 0, width 1280, interval 33, views 0, "
                             "width 1280, interval 33, views 0"));
+}
+
+void TestDialogChecks::frameRateOfEachViewIsOffered()
+{
+    KvMvcSettings settings = exampleSettings();
+    for (KvMvcViewSettings& view : settings.views) {
+        view.frame_rate = 25;
+    }
+    OpenDialog dialog(usualFlags, settings);
+    ConfigState edit;
+    edit.insert(QStringLiteral("Deblocking"), 1);
+    dialog->slotReceiveState(edit);
+    QCOMPARE(dialog.probe().currentView(), 1);
+    const auto* const list = on<QComboBox>(dialog, "VideoFormatPage", "framerateList");
+    QCOMPARE(list->findText(QStringLiteral("48")), -1);
+    dialog.probe().record().view(0).frame_rate = 48;
+    dialog->slotReceiveState(edit);
+    QVERIFY(list->findText(QStringLiteral("48")) >= 0);
+    QCOMPARE(list->currentText(), QStringLiteral("25.00"));
 }
 
 void TestDialogChecks::pushingTellsNothingBack()
