@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -39,9 +40,10 @@ void showBox(QMessageBox::Icon icon, const QString& message)
         icon, QCoreApplication::translate("AVCVideoEncoderDlg", "Korvane MVC Video Encoder"),
         message, QMessageBox::Ok, messageLog().widget->parentWidget());
     box->setTextFormat(Qt::PlainText);
-    // The skins size every push button for an icon.
-    box->setStyleSheet(QStringLiteral("QPushButton { min-width: 5em; max-width: 20em;"
-                                      " min-height: 1.5em; max-height: 3em; }"));
+    // The skins size every push button for an icon. Qt 5 would not ask the box about its button.
+    box->button(QMessageBox::Ok)
+        ->setStyleSheet(QStringLiteral("QPushButton { min-width: 5em; max-width: 20em;"
+                                       " min-height: 1.5em; max-height: 3em; }"));
     box->exec();
     delete box;
 }
