@@ -2105,6 +2105,10 @@ Soll die Datei trotzdem gelöscht werden?</translation>
         <translation>Datei</translation>
     </message>
     <message>
+        <source>%1 File</source>
+        <translation>%1-Datei</translation>
+    </message>
+    <message>
         <source>File Folder</source>
         <translation>Ordner</translation>
     </message>

@@ -2105,6 +2105,10 @@ Do you want to delete it anyway?</source>
         <translation>ファイル</translation>
     </message>
     <message>
+        <source>%1 File</source>
+        <translation>%1 ファイル</translation>
+    </message>
+    <message>
         <source>File Folder</source>
         <translation>フォルダー</translation>
     </message>

@@ -93,6 +93,7 @@ const char* const QFileDialog_texts[] = {
     QT_TRANSLATE_NOOP("QFileDialog", "Could not delete directory."),
     QT_TRANSLATE_NOOP("QFileDialog", "Drive"),
     QT_TRANSLATE_NOOP("QFileDialog", "File"),
+    QT_TRANSLATE_NOOP("QFileDialog", "%1 File"),
     QT_TRANSLATE_NOOP("QFileDialog", "File Folder"),
     QT_TRANSLATE_NOOP("QFileDialog", "Folder"),
     QT_TRANSLATE_NOOP("QFileDialog", "Alias"),
