@@ -38,6 +38,8 @@ OpenDialog::OpenDialog(qint32 flags, const KvMvcSettings& settings,
     m_dialog = std::make_unique<AVCVideoEncoderDlg>(&caller, &hosting, nullptr);
     m_dialog->show();
     m_dialog->activateWindow();
+    // A window system takes its time; the offscreen platform has done it.
+    (void)QTest::qWaitForWindowActive(m_dialog.get());
     QCoreApplication::processEvents();
 }
 

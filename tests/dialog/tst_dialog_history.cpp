@@ -436,6 +436,8 @@ void TestDialogHistory::hostDeletesTheDialogMeanwhile()
     const QPointer<AVCVideoEncoderDlg> dialog =
         new AVCVideoEncoderDlg(&settings, &hosting, nullptr);
     dialog->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
     user::type(findControl<QSpinBox>(dialog, "VideoFormatPage", "widthSpin"),
                QStringLiteral("1280"));
     companions.onCheck = [dialog](KvMvcLookup, KvMvcSettings&) {

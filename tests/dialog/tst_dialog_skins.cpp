@@ -153,6 +153,8 @@ void TestDialogSkins::logIsAsLightBeforeTheFirstCheck()
 {
     OpenDialog dialog;
     QTest::keyClick(dialog.get(), Qt::Key_F6);
+    // The check writes three empty paragraphs, for which fonts of some versions need to scroll.
+    dialog.log()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const auto background = [&dialog] { return dialog.log()->viewport()->grab().toImage(); };
     const QImage before = background();
     dialog.probe().check();
