@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "temporary_file.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -236,6 +237,7 @@ std::string readFile(const std::filesystem::path& file, std::size_t largest, std
         return "not a regular file";
     }
     content.clear();
+    content.reserve(std::min(static_cast<std::size_t>(status.st_size), largest));
     std::array<char, 64 * 1024> block;
     while (true) {
         const ssize_t count = ::read(descriptor.number(), block.data(), block.size());
