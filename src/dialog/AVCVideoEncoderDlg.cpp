@@ -31,6 +31,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QShowEvent>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QtMath>
 
@@ -176,16 +177,19 @@ void AVCVideoEncoderDlg::buildPages()
         delete page;
     }
 
+    // Built where they stay: elsewhere each widget would be styled a second time, and each list
+    // make what it opens at once.
+    auto* const stack = ui.tabWidget->findChild<QStackedWidget*>();
     if (m_flags & KV_MVC_GUI_BASIC_TAB) {
-        m_basicPage = new BasicPage(this);
+        m_basicPage = new BasicPage(stack);
         addPage(m_basicPage, tr("Basic Settings"));
     }
     if (m_flags & KV_MVC_GUI_ADVANCED_TAB) {
-        m_advancedPage = new AdvancedPage(this);
+        m_advancedPage = new AdvancedPage(stack);
         m_advancedPage->setProfileLevelLists(m_vocabulary.profiles(), m_vocabulary.levels());
         addPage(m_advancedPage, tr("Advanced Settings"));
     }
-    m_viewsPage = new ViewsPage(this);
+    m_viewsPage = new ViewsPage(stack);
     addPage(m_viewsPage, tr("Views"));
     m_pages = findChildren<SettingsPage*>();
 

@@ -12,14 +12,14 @@ AdvancedPage::AdvancedPage(QWidget* parent) : ContainerPage(parent)
     bind(ui.profileList, keys::profile, &AdvancedPage::slotChangeProfile);
     bind(ui.levelList, keys::level, &AdvancedPage::slotChangeLevel);
 
-    auto* gopStructure = new GOPStructurePage(this);
-    auto* motionEstimation = new MotionEstimationPage(this);
+    makeToolBox(ui.collectionFrame);
+    auto* gopStructure = new GOPStructurePage(sections());
+    auto* motionEstimation = new MotionEstimationPage(sections());
     motionEstimation->fillSearchLists();
-    auto* rateDistortion = new RateDistortionPage(this);
-    auto* misc = new MiscPage(this);
+    auto* rateDistortion = new RateDistortionPage(sections());
+    auto* misc = new MiscPage(sections());
     misc->fillEntropyList();
 
-    makeToolBox(ui.collectionFrame);
     addPage(gopStructure, tr("GOP Structure"));
     addPage(motionEstimation, tr("Motion Estimation"));
     addPage(rateDistortion, tr("Rate Distortion"));

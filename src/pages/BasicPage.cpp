@@ -10,9 +10,9 @@ BasicPage::BasicPage(QWidget* parent) : ContainerPage(parent)
         widget->setVisible(false);
     }
 
-    m_videoFormat = new VideoFormatPage(this);
-    m_videoFormat->fillLists();
     makeToolBox(ui.collectionFrame);
+    m_videoFormat = new VideoFormatPage(sections());
+    m_videoFormat->fillLists();
     addPage(m_videoFormat, tr("Video Format"));
 }
 

@@ -37,11 +37,16 @@ void ContainerPage::tellPage(SettingsPage* page, const ConfigState& state)
 
 void ContainerPage::makeToolBox(QFrame* collectionFrame)
 {
-    m_toolBox = new ToolBox(this);
+    m_toolBox = new ToolBox(collectionFrame);
     auto* layout = new QVBoxLayout(collectionFrame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_toolBox);
     setWeight(m_toolBox, QFont::Bold);
+}
+
+QWidget* ContainerPage::sections() const
+{
+    return m_toolBox->content();
 }
 
 void ContainerPage::addPage(SettingsPage* page, const QString& title)

@@ -19,6 +19,8 @@ protected:
 
     /// Makes the tool box in the frame that shall hold it.
     void makeToolBox(QFrame* collectionFrame);
+    /// What the child pages are built below.
+    QWidget* sections() const;
     /// Appends a section that shows the child page.
     void addPage(SettingsPage* page, const QString& title);
     /// Hands a received state to one of the pages.

@@ -123,7 +123,7 @@ ToolBox::ToolBox(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_stickingTitle = new StickingTitle(m_scrollArea->viewport());
     m_stickingTitle->installEventFilter(this);
-    m_content = new QFrame(this);
+    m_content = new QFrame(m_scrollArea->viewport());
     m_grid = new Column(m_content, [this] { placeStickingTitle(); });
     m_grid->setAlignment(Qt::AlignTop);
     m_grid->setContentsMargins(2, 2, 2, 2);
@@ -204,6 +204,11 @@ void ToolBox::addSection(QWidget* page, const QString& title)
 {
     addSection(page, title, QStringLiteral(":/res_mvc/icons/down.png"),
                QStringLiteral(":/res_mvc/icons/right.png"));
+}
+
+QWidget* ToolBox::content() const
+{
+    return m_content;
 }
 
 bool ToolBox::eventFilter(QObject* watched, QEvent* event)

@@ -31,6 +31,9 @@ public:
     /// The same with the arrows that every section of the dialog has.
     void addSection(QWidget* page, const QString& title);
 
+    /// What the sections stand in. A page that is built below it is not styled a second time.
+    QWidget* content() const;
+
     /// Makes a change of the pages, which may show and hide what is in them, and scrolls so that
     /// the control with the focus does not move under the user's eyes.
     void keepFocusInPlace(const std::function<void()>& change);

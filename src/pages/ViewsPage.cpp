@@ -17,13 +17,13 @@ ViewsPage::ViewsPage(QWidget* parent) : ContainerPage(parent)
     bind(ui.numViewsSpin, keys::numberOfViews, &ViewsPage::slotChangeNumLayers);
     bind(ui.splitCheck, keys::split, &ViewsPage::slotChangeSplit);
 
-    ViewPage* const views[] = {new View0Page(this), new View1Page(this), new View2Page(this),
-                               new View3Page(this)};
+    makeToolBox(ui.collectionFrame);
+    ViewPage* const views[] = {new View0Page(sections()), new View1Page(sections()),
+                               new View2Page(sections()), new View3Page(sections())};
     const QString titles[] = {tr("Base View"), tr("View 1"), tr("View 2"), tr("View 3")};
     for (ViewPage* view : views) {
         view->fillBitrateModes();
     }
-    makeToolBox(ui.collectionFrame);
     for (std::size_t i = 0; i < std::size(views); ++i) {
         addPage(views[i], titles[i]);
         views[i]->nameForAccess(titles[i]);
