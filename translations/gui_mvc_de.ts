@@ -238,6 +238,10 @@ Soll sie überschrieben werden?</translation>
         <source>There are errors: the settings are refused.</source>
         <translation>Es gibt Fehler: Die Einstellungen werden abgelehnt.</translation>
     </message>
+    <message>
+        <source>There are no errors any more.</source>
+        <translation>Es gibt keine Fehler mehr.</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

@@ -238,6 +238,10 @@ Do you want to overwrite it?</source>
         <source>There are errors: the settings are refused.</source>
         <translation>エラーがあるため、設定は受け付けられません。</translation>
     </message>
+    <message>
+        <source>There are no errors any more.</source>
+        <translation>エラーはなくなりました。</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedPage</name>

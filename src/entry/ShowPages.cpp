@@ -58,16 +58,17 @@ private:
     const QPointer<AVCVideoEncoderDlg> m_dialog;
 };
 
-/// A name that a window manager can show, as there are no arguments to take it from. The toolkit
-/// would keep it beyond the application object, for one that the host makes later.
+/// A name that window managers and screen readers can tell, as there are no arguments to take it
+/// from: that of an application object which the host had before, or ours. The toolkit would keep
+/// ours beyond the application object, for one that the host makes later.
 class ApplicationName
 {
 public:
     ApplicationName() : m_isOurs(QCoreApplication::applicationName().isEmpty())
     {
-        if (m_isOurs) {
-            QCoreApplication::setApplicationName(QStringLiteral(KV_MVC_GUI_LIBRARY));
-        }
+        // Also one that is there: unless it was set, the next object takes its own from nothing.
+        QCoreApplication::setApplicationName(m_isOurs ? QStringLiteral(KV_MVC_GUI_LIBRARY)
+                                                      : QCoreApplication::applicationName());
     }
     ApplicationName(const ApplicationName&) = delete;
     ApplicationName& operator=(const ApplicationName&) = delete;

@@ -41,6 +41,8 @@ bool ControlLabel::eventFilter(QObject* watched, QEvent* event)
 void ControlLabel::follow()
 {
     m_label->setToolTip(m_control->toolTip());
+    m_label->setWhatsThis(m_control->whatsThis());
+    m_label->setAccessibleDescription(m_control->accessibleDescription());
     // A page greys its labels itself.
     const bool grey = !m_control->isEnabledTo(m_control->parentWidget());
     m_paleness->setEnabled(grey);

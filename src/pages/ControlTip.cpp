@@ -1,5 +1,6 @@
 #include "ControlTip.h"
 
+#include <QTextDocument>
 #include <QWidget>
 
 QString plainTip(const QString& text)
@@ -41,13 +42,15 @@ void ControlTip::rewrite()
         all += lines;
     }
     const QString text = all.join(QLatin1Char('\n'));
-    m_control->setToolTip(m_picture.isEmpty()
-                              ? plainTip(text)
-                              : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) + m_picture);
-    m_control->setWhatsThis(plainTip(text));
-    // Without messages the tip is the description.
+    const QString tip = m_picture.isEmpty()
+                            ? plainTip(text)
+                            : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) + m_picture;
+    // Without a description the tip is it, marks of its format included.
     const QStringList& messages = m_lines.at(Messages);
-    m_control->setAccessibleDescription(messages.isEmpty() ? QString()
-                                                           : messages.join(QLatin1Char('\n')) +
-                                                                 QLatin1Char('\n') + text);
+    const QString plain = tip == text ? QString() : text;
+    m_control->setAccessibleDescription(
+        messages.isEmpty() ? plain : messages.join(QLatin1Char('\n')) + QLatin1Char('\n') + text);
+    m_control->setWhatsThis(plainTip(text));
+    // Last, as its change is heard of.
+    m_control->setToolTip(tip);
 }

@@ -128,6 +128,7 @@ private Q_SLOTS:
     void unitButtonsAreInTheGroupOfUnits();
     void nameFollowsTheUnits();
     void errorsThatComeAndGoAreTold();
+    void descriptionsHaveNoMarks();
 };
 
 void TestAccessibleInterfaces::control_data()
@@ -395,6 +396,25 @@ void TestAccessibleInterfaces::errorsThatComeAndGoAreTold()
     QCOMPARE(described("wrn_printf"), before);
     QCOMPARE(described("err_printf"), refused);
     QCOMPARE(described("inf_printf"), before);
+}
+
+void TestAccessibleInterfaces::descriptionsHaveNoMarks()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
+        const KvMvcLimitUse use = {
+            sizeof use, KV_MVC_ALL_VIEWS, "Picture size", "", "", "4.1", 8160, 8192};
+        reinterpret_cast<KvMvcTellLimitUse>(lookUp(KV_MVC_LIMIT_USE))(&use);
+        return 0;
+    };
+    dialog.probe().check();
+    auto* const level = on<QComboBox>(dialog, "AdvancedPage", "levelList");
+    QVERIFY2(level->toolTip().contains(QLatin1String("<table")), qPrintable(level->toolTip()));
+    const auto widgets = dialog->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        const QString description = textOf(widget, QAccessible::Description);
+        QVERIFY2(!description.contains(QLatin1Char('<')), qPrintable(description));
+    }
 }
 
 QTEST_MAIN(TestAccessibleInterfaces)

@@ -192,7 +192,9 @@ void TestDialogHelp::whatsThisIsTheSame()
     QCOMPARE(linesOf(width).value(2),
              QStringLiteral("Changed; the starting value is 720 (as opened)."));
     QCOMPARE(width->whatsThis(), width->toolTip());
-    QCOMPARE(labelOf(dialog, "VideoFormatPage", "resolutionLabel")->toolTip(), width->toolTip());
+    const QWidget* const label = labelOf(dialog, "VideoFormatPage", "resolutionLabel");
+    QCOMPARE(label->toolTip(), width->toolTip());
+    QCOMPARE(label->whatsThis(), width->toolTip());
 }
 
 void TestDialogHelp::tipTellsWhyItIsGreyed_data()
