@@ -436,6 +436,10 @@ void AVCVideoEncoderDlg::slotAccept()
         m_suppressNextAccept = false;
         return;
     }
+    // The log is another dialog's then.
+    if (!m_caller) {
+        return;
+    }
     const QPointer<AVCVideoEncoderDlg> self(this);
     if (!endTyping()) {
         return;
@@ -471,9 +475,10 @@ void AVCVideoEncoderDlg::done(int result)
     }
     const QPointer<AVCVideoEncoderDlg> self(this);
     m_isClosed = true;
+    const bool wasOpen = isVisible();
     QDialog::done(result);
-    // A host may have refused it.
-    if (self && isVisible()) {
+    // A host may have refused it, and what was not open can still be used.
+    if (self && (isVisible() || !wasOpen)) {
         m_isClosed = false;
     }
 }

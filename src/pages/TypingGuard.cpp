@@ -33,6 +33,9 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         return true;
     }
+    if (event->type() == QEvent::FocusOut && m_text->isModified()) {
+        return !takeIn();
+    }
     if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(watched, event);
     }
@@ -40,7 +43,7 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
     if (key == Qt::Key_Escape && m_before) {
         takeBack();
     } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_text->isModified()) {
-        watched->event(event);
+        enter();
     } else {
         return QObject::eventFilter(watched, event);
     }
@@ -52,6 +55,29 @@ bool TypingGuard::isForTheDialog(const QKeyEvent* key) const
 {
     return (key->matches(QKeySequence::Undo) && !(m_before && m_text->isUndoAvailable())) ||
            (key->matches(QKeySequence::Redo) && !(m_before && m_text->isRedoAvailable()));
+}
+
+bool TypingGuard::takeIn()
+{
+    const QPointer<TypingGuard> self(this);
+    m_field->interpretText();
+    return self;
+}
+
+void TypingGuard::enter()
+{
+    if (!takeIn()) {
+        return;
+    }
+    const QPointer<TypingGuard> self(this);
+    if (m_field->keyboardTracking()) {
+        // Each key was reported; the toolkit's field reports the number once more.
+        Q_EMIT m_field->valueChanged(m_field->value());
+    }
+    if (self) {
+        m_field->selectAll();
+        Q_EMIT m_field->editingFinished();
+    }
 }
 
 void TypingGuard::takeBack()

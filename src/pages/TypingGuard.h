@@ -12,6 +12,9 @@ class QSpinBox;
 /// takes it, and does not also press the dialog's default button: what the check says of the number
 /// shall be seen first. Escape takes the typing back. Where nothing is typed both go on to the
 /// dialog, and so do the keys that undo and redo, which the text would keep for itself.
+///
+/// A number that is taken is checked, and the host may delete the dialog in that check, which the
+/// toolkit's field does not survive: so the number is taken here first.
 class TypingGuard : public QObject
 {
     Q_OBJECT
@@ -25,6 +28,9 @@ private:
     explicit TypingGuard(QSpinBox* field);
 
     bool isForTheDialog(const QKeyEvent* key) const;
+    /// @return Whether the field is still there.
+    bool takeIn();
+    void enter();
     void takeBack();
 
     QSpinBox* m_field;

@@ -185,13 +185,12 @@ void ViewPage::nameLabel(QLabel* label)
     }
 }
 
-void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate)
+void ViewPage::applyOneSecondBuffer(ConfigState& state, int rate, int units)
 {
     if (!m_oneSecond->isChecked()) {
         return;
     }
-    const bool inBytes = m_unitGroup->checkedId() == BytesAndPercent;
-    state.insert(keyOf(m_buffer), inBytes ? rate / 8 : rate);
+    state.insert(keyOf(m_buffer), units == BytesAndPercent ? rate / 8 : rate);
     setSpinFromState(m_buffer, state);
     m_buffer->setEnabled(false);
 }
@@ -221,7 +220,7 @@ ConfigState ViewPage::withTargetRate(const QString& key, int rate)
         state.insert(keyOf(m_maxRate), rate);
         setSpinFromState(m_maxRate, state);
     }
-    applyOneSecondBuffer(state, rate);
+    applyOneSecondBuffer(state, rate, m_unitGroup->checkedId());
     return state;
 }
 
@@ -232,8 +231,16 @@ ConfigState ViewPage::withMaxRate(const QString& key, int rate)
     if (rate < m_targetRate->value()) {
         state.insert(keyOf(m_targetRate), rate);
         setSpinFromState(m_targetRate, state);
-        applyOneSecondBuffer(state, rate);
+        applyOneSecondBuffer(state, rate, m_unitGroup->checkedId());
     }
+    return state;
+}
+
+ConfigState ViewPage::withUnits(const QString& key, int units)
+{
+    ConfigState state;
+    state.insert(key, units);
+    applyOneSecondBuffer(state, m_targetRate->value(), units);
     return state;
 }
 
@@ -244,6 +251,9 @@ ConfigState ViewPage::edited(const QString& key, const QVariant& value)
     }
     if (key == keyOf(m_maxRate)) {
         return withMaxRate(key, value.toInt());
+    }
+    if (key == keyOf(m_unitGroup)) {
+        return withUnits(key, value.toInt());
     }
     return SettingsPage::edited(key, value);
 }
@@ -260,10 +270,7 @@ void ViewPage::slotChangeMaxRate(int rate)
 
 void ViewPage::slotChangeUnits(QAbstractButton* button)
 {
-    ConfigState state;
-    state.insert(senderKey(), m_unitGroup->id(button));
-    applyOneSecondBuffer(state, m_targetRate->value());
-    Q_EMIT stateChanged(state);
+    Q_EMIT stateChanged(withUnits(senderKey(), m_unitGroup->id(button)));
 }
 
 void ViewPage::slotChangeOneSec(bool onesec)

@@ -66,8 +66,9 @@ private:
     /// What a new rate sets, under the key that it is reported with.
     ConfigState withTargetRate(const QString& key, int rate);
     ConfigState withMaxRate(const QString& key, int rate);
+    ConfigState withUnits(const QString& key, int units);
     /// Keeps the buffer as large as one second at `rate` (bit/s) while the box for it is checked.
-    void applyOneSecondBuffer(ConfigState& state, int rate);
+    void applyOneSecondBuffer(ConfigState& state, int rate, int units);
     void setGroupFromState(QButtonGroup* group, const ConfigState& state);
     /// Finds what a mode or a choice of units changes; once, when the layout has been built.
     void findRows();

@@ -3,6 +3,7 @@
 #include "DialogTest.h"
 #include "ToolkitWarnings.h"
 #include "UserInput.h"
+#include "dialog/MessageLog.h"
 
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -40,6 +41,10 @@ private Q_SLOTS:
     void countsOfViewsFromOutside_data();
     void countsOfViewsFromOutside();
     void deletedWhileANumberIsTyped();
+    void deletedInTheCheckOfATypedNumber_data();
+    void deletedInTheCheckOfATypedNumber();
+    void shellWithoutSettingsLeavesTheLogOfAnother();
+    void canBeUsedBeforeItIsShown();
 };
 
 void TestDialogLifecycle::okWithoutEditsGivesTheRecordBackByteForByte()
@@ -270,6 +275,87 @@ void TestDialogLifecycle::deletedWhileANumberIsTyped()
     QTest::keyClicks(width, QStringLiteral("1280"));
     dialog.reset();
     QCOMPARE(companions.calls, QStringList());
+}
+
+void TestDialogLifecycle::deletedInTheCheckOfATypedNumber_data()
+{
+    QTest::addColumn<QByteArray>("page");
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<bool>("byEnter");
+    const struct {
+        const char* page;
+        const char* field;
+    } fields[] = {{"VideoFormatPage", "widthSpin"}, {"GOPStructurePage", "idrSpin"}};
+    for (const auto& row : fields) {
+        for (const bool byEnter : {true, false}) {
+            QTest::addRow("%s, %s", row.field, byEnter ? "Enter" : "leaving the field")
+                << QByteArray(row.page) << QByteArray(row.field) << byEnter;
+        }
+    }
+}
+
+void TestDialogLifecycle::deletedInTheCheckOfATypedNumber()
+{
+    QFETCH(QByteArray, page);
+    QFETCH(QByteArray, field);
+    QFETCH(bool, byEnter);
+    RecordingCompanions companions;
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {usualFlags, nullptr, nullptr, nullptr};
+    QPointer<AVCVideoEncoderDlg> dialog = new AVCVideoEncoderDlg(&settings, &hosting, nullptr);
+    dialog->show();
+    dialog->activateWindow();
+    QCoreApplication::processEvents();
+    auto* const number = findControl<QSpinBox>(dialog, page.constData(), field.constData());
+    QVERIFY(number);
+    user::reveal(number);
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClick(number, Qt::Key_8);
+    companions.onCheck = [&dialog](KvMvcLookup, KvMvcSettings&) {
+        delete dialog;
+        return 0;
+    };
+    if (byEnter) {
+        QTest::keyClick(number, Qt::Key_Return);
+    } else {
+        dialog->findChild<QTabWidget*>()->setFocus();
+    }
+    // A field that reports each key has nothing more to tell when it is left.
+    QCOMPARE(dialog.isNull(), byEnter || !number->keyboardTracking());
+    companions.onCheck = nullptr;
+    delete dialog;
+    messageLog() = MessageLog();
+}
+
+void TestDialogLifecycle::shellWithoutSettingsLeavesTheLogOfAnother()
+{
+    OpenDialog dialog;
+    dialog.companions.onCheck = [](KvMvcLookup lookUp, KvMvcSettings&) {
+        print(lookUp, "err_printf", "too wide");
+        return 1;
+    };
+    user::type(widthOf(dialog), QStringLiteral("1280"));
+    widthOf(dialog)->setFocus();
+    AVCVideoEncoderDlg shell(nullptr, nullptr, nullptr);
+    shell.slotAccept();
+    QVERIFY(!dialog.log()->textCursor().hasSelection());
+    QCOMPARE(dialog.log()->toPlainText().trimmed(), QStringLiteral("too wide"));
+}
+
+void TestDialogLifecycle::canBeUsedBeforeItIsShown()
+{
+    RecordingCompanions companions;
+    KvMvcSettings settings = exampleSettings();
+    const KvMvcHosting hosting = {usualFlags, nullptr, nullptr, nullptr};
+    AVCVideoEncoderDlg dialog(&settings, &hosting, nullptr);
+    for (const int width : {1280, 640}) {
+        findControl<QSpinBox>(&dialog, "VideoFormatPage", "widthSpin")->setValue(width);
+        dialog.slotAccept();
+        QCOMPARE(int(settings.views[0].width), width);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+    messageLog() = MessageLog();
 }
 
 QTEST_MAIN(TestDialogLifecycle)

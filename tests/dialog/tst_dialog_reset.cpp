@@ -91,6 +91,7 @@ private Q_SLOTS:
     void resetIsOneEdit_data();
     void resetIsOneEdit();
     void resetOfARatePullsTheOtherAlong();
+    void unitsTakeTheBufferOfOneSecondAlong();
     void lockedSettingStays();
     void valueGoesToAllViews_data();
     void valueGoesToAllViews();
@@ -237,6 +238,23 @@ void TestDialogReset::resetOfARatePullsTheOtherAlong()
     QVERIFY(chooseFrom(dialog, target, "Reset to "));
     QCOMPARE(target->value(), startingTarget);
     QCOMPARE(maximum->value(), startingTarget);
+}
+
+void TestDialogReset::unitsTakeTheBufferOfOneSecondAlong()
+{
+    OpenDialog dialog;
+    QSpinBox* const buffer = spinOf(dialog, 0, "bitrateBufferSpin");
+    user::type(spinOf(dialog, 0, "targetRateSpin"), QStringLiteral("4000000"));
+    user::click(on<QCheckBox>(dialog, "View0Page", "onesecCheck"));
+    auto* const bytes = on<QAbstractButton>(dialog, "View0Page", "units1Radio");
+    auto* const bits = on<QAbstractButton>(dialog, "View0Page", "units2Radio");
+    QVERIFY(!bytes->isChecked() || !bits->isChecked());
+    const bool startsInBytes = bytes->isChecked();
+    user::click(startsInBytes ? bits : bytes);
+    QCOMPARE(buffer->value(), startsInBytes ? 4000000 : 500000);
+    QVERIFY(chooseFrom(dialog, bytes, "Reset to "));
+    QCOMPARE(buffer->value(), startsInBytes ? 500000 : 4000000);
+    QCOMPARE(int(dialog.probe().record().view(0).bitrate_buffer), buffer->value());
 }
 
 void TestDialogReset::lockedSettingStays()
