@@ -109,6 +109,7 @@ static inline char* kvMvcFormatMessage(const char* format, va_list arguments)
     size_t size;
     char* text;
     va_copy(measured, arguments);
+    /* NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): clang 16 loses the copy in C++. */
     length = vsnprintf(NULL, 0, format, measured);
     va_end(measured);
     size = (length < 0 ? strlen(format) : (size_t)length) + 1;

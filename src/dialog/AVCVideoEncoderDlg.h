@@ -125,7 +125,7 @@ private:
 
     /// @return Whether settings were taken from it.
     bool loadFromFile(const QString& path);
-    void saveToFile(const QString& path);
+    bool saveToFile(const QString& path);
     /// Takes a number that is still being typed for typed, whether or not something takes the focus
     /// from its field.
     /// @return Whether the dialog is still there: the number was checked.

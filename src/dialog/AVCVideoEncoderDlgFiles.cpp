@@ -76,14 +76,11 @@ bool AVCVideoEncoderDlg::loadFromFile(const QString& path)
     return true;
 }
 
-void AVCVideoEncoderDlg::saveToFile(const QString& path)
+bool AVCVideoEncoderDlg::saveToFile(const QString& path)
 {
     const QPointer<AVCVideoEncoderDlg> self(this);
     check();
-    if (!self || !m_caller) {
-        return;
-    }
-    settings_files::write(m_record.settings, path);
+    return self && m_caller && settings_files::write(m_record.settings, path);
 }
 
 // The host may delete its window, and this dialog with it, while the user chooses a file.
@@ -124,8 +121,8 @@ void AVCVideoEncoderDlg::slotSaveSettings()
     if ((QFile::exists(name) && !mayOverwrite()) || !self) {
         return;
     }
-    saveToFile(settings_files::asPassedOn(name));
-    if (QFile::exists(name)) {
+    // A library that takes the name as it comes may have written another file.
+    if (saveToFile(settings_files::asPassedOn(name)) && QFile::exists(name)) {
         recent_files::add(name);
     }
     if (self) {

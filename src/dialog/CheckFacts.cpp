@@ -52,6 +52,11 @@ bool RunningCheck::isLast()
     return running && running->m_number == begun;
 }
 
+bool RunningCheck::isOvertaken()
+{
+    return running && running->m_number != begun;
+}
+
 void tellMessageAbout(const KvMvcMessageAbout* about)
 {
     if (!running || !about) {

@@ -57,6 +57,8 @@ public:
     /// Whether a message that has come just now is one of the last check's, not of an outer one's
     /// that another check came in between.
     static bool isLast();
+    /// Whether another one was begun since the running one, which it has handled events for.
+    static bool isOvertaken();
 
 private:
     friend void tellMessageAbout(const KvMvcMessageAbout* about);

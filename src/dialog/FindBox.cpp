@@ -1,6 +1,7 @@
 #include "FindBox.h"
 
 #include "SettingControls.h"
+#include "TipWrap.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -130,7 +131,7 @@ void FindBox::narrow(const QString& typed)
     for (const Match& match : std::as_const(matches)) {
         const Entry& entry = m_entries[match.entry];
         auto* const item = new QListWidgetItem(entry.text, m_list);
-        item->setToolTip(entry.tip);
+        item->setToolTip(wrappedTip(entry.tip));
         m_shown += match.entry;
     }
     if (m_shown.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "MessageLog.h"
 
+#include "Announcement.h"
 #include "Companions.h"
 #include "DigitGroups.h"
 #include "ForeignText.h"
@@ -7,7 +8,6 @@
 #include "LogText.h"
 #include "MessageLinks.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,6 +21,7 @@
 #include <cstdarg>
 #include <cstdlib>
 #include <memory>
+#include <ranges>
 #include <utility>
 
 namespace
@@ -67,7 +68,10 @@ void takeText(const Sink& sink, const QString& text, std::optional<MessageFacts>
         messageLog().told.append({sink.kind, text, std::move(facts), isLogged});
     }
     if (isLogged) {
-        messageLog().*sink.buffer += text;
+        // What the other check told is shown, and copied.
+        if (!RunningCheck::isOvertaken()) {
+            messageLog().*sink.buffer += text;
+        }
     } else {
         showBox(sink.icon, text + QLatin1Char('\n'));
     }
@@ -281,13 +285,12 @@ void MessageLog::markMessages() const
 {
     const QTextDocument* const document = widget->document();
     int end = document->blockCount();
-    for (auto block = shown.crbegin(); block != shown.crend(); ++block) {
+    for (const Block& block : std::views::reverse(shown)) {
         // A block ends with an empty paragraph.
-        if (const auto& kind = block->kind) {
-            message_links::mark(document->findBlockByNumber(block->paragraph), end - 1, told,
-                                *kind);
+        if (const auto& kind = block.kind) {
+            message_links::mark(document->findBlockByNumber(block.paragraph), end - 1, told, *kind);
         }
-        end = block->paragraph;
+        end = block.paragraph;
     }
 }
 
@@ -298,12 +301,14 @@ void MessageLog::tellErrors()
     }
     showsErrors = !errors.isEmpty();
     // By its description, which is empty as long as the tip tells all.
-    widget->setAccessibleDescription(
+    const QString text =
         showsErrors ? QCoreApplication::translate("AVCVideoEncoderDlg",
                                                   "There are errors: the settings are refused.")
-                    : QString());
-    QAccessibleEvent alert(widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+                    : QString();
+    widget->setAccessibleDescription(text);
+    announce(widget, showsErrors ? text + QLatin1Char(' ') + errors.first()
+                                 : QCoreApplication::translate("AVCVideoEncoderDlg",
+                                                               "There are no errors any more."));
 }
 
 QString MessageLog::allMessages() const

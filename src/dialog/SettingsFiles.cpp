@@ -46,14 +46,17 @@ std::optional<KvMvcSettings> read(const QString& path)
     return done ? std::optional(settings) : std::nullopt;
 }
 
-void write(const KvMvcSettings& settings, const QString& path)
+bool write(const KvMvcSettings& settings, const QString& path)
 {
     alignas(8) KvMvcSettings copy = settings;
+    bool done = false;
     thrownBy("the writer", [&] {
         const auto writer = settingsIoFunction<KvMvcWriteSettings>(KV_MVC_SETTINGS_IO_WRITER);
         const auto result = writer ? writer(&copy, path.toUtf8().constData()) : 1;
+        done = result == 0;
         traceFile("writer", writer != nullptr, path, result);
     });
+    return done;
 }
 
 bool isDroppable(const QString& path)

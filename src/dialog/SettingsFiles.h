@@ -14,8 +14,9 @@ namespace settings_files
 /// reader, or the reader fails or throws.
 std::optional<KvMvcSettings> read(const QString& path);
 
-/// Writes the settings; that a library has no writer, or that it fails, is not told.
-void write(const KvMvcSettings& settings, const QString& path);
+/// @return Whether the library wrote the settings; false when it has no writer, or the writer fails
+/// or throws.
+bool write(const KvMvcSettings& settings, const QString& path);
 
 /// Whether a file of this name may be dropped on the dialog; its suffix decides, in any case.
 bool isDroppable(const QString& path);

@@ -8,11 +8,11 @@
 #include <QToolTip>
 #include <QWidget>
 
-namespace
+QString wrappedTip(const QString& tip)
 {
-
-QString wrapped(const QString& tip)
-{
+    if (Qt::mightBeRichText(tip)) {
+        return tip;
+    }
     // Of usual letters; of the widest ones half as many.
     constexpr int letters = 70;
     const QFont font = QToolTip::font();
@@ -25,8 +25,6 @@ QString wrapped(const QString& tip)
     }
     return lines.join(QLatin1Char('\n'));
 }
-
-} // namespace
 
 TipWrap::TipWrap(QWidget* window) : QObject(window)
 {
@@ -41,10 +39,9 @@ bool TipWrap::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         auto* const widget = static_cast<QWidget*>(watched);
         const QString tip = widget->toolTip();
-        // A formatted one is wrapped anyway.
-        if (!tip.isEmpty() && !Qt::mightBeRichText(tip)) {
-            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), wrapped(tip), widget,
-                               {}, widget->toolTipDuration());
+        if (!tip.isEmpty()) {
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), wrappedTip(tip),
+                               widget, {}, widget->toolTipDuration());
             return true;
         }
     }

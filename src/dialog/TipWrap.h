@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 class QWidget;
+
+/// The tip on lines of a readable length; a formatted one, which is wrapped anyway, as it is.
+QString wrappedTip(const QString& tip);
 
 /// Shows tips on lines of a readable length: the toolkit shows a plain text on one, however long.
 class TipWrap : public QObject

@@ -6,8 +6,8 @@ class QGraphicsOpacityEffect;
 class QLabel;
 class QWidget;
 
-/// Makes a label one with the control that it stands beside: it shows the control's tip and
-/// all that goes with it, and is grey while the control is disabled. The label itself stays enabled.
+/// Makes a label one with the control that it stands beside: it shows the control's tip and all
+/// that goes with it, and is grey while the control is disabled. The label itself stays enabled.
 class ControlLabel : public QObject
 {
     Q_OBJECT

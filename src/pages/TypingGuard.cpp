@@ -33,9 +33,6 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         return true;
     }
-    if (event->type() == QEvent::FocusOut && m_text->isModified()) {
-        return !takeIn();
-    }
     if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(watched, event);
     }
@@ -57,20 +54,11 @@ bool TypingGuard::isForTheDialog(const QKeyEvent* key) const
            (key->matches(QKeySequence::Redo) && !(m_before && m_text->isRedoAvailable()));
 }
 
-bool TypingGuard::takeIn()
+void TypingGuard::enter()
 {
     const QPointer<TypingGuard> self(this);
     m_field->interpretText();
-    return self;
-}
-
-void TypingGuard::enter()
-{
-    if (!takeIn()) {
-        return;
-    }
-    const QPointer<TypingGuard> self(this);
-    if (m_field->keyboardTracking()) {
+    if (self && m_field->keyboardTracking()) {
         // Each key was reported; the toolkit's field reports the number once more.
         Q_EMIT m_field->valueChanged(m_field->value());
     }

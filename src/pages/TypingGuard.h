@@ -13,8 +13,8 @@ class QSpinBox;
 /// shall be seen first. Escape takes the typing back. Where nothing is typed both go on to the
 /// dialog, and so do the keys that undo and redo, which the text would keep for itself.
 ///
-/// A number that is taken is checked, and the host may delete the dialog in that check, which the
-/// toolkit's field does not survive: so the number is taken here first.
+/// The number that Enter takes is checked, and the host may delete the dialog in that check. The
+/// toolkit's field would go on, so Enter is dealt with here.
 class TypingGuard : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,6 @@ private:
     explicit TypingGuard(QSpinBox* field);
 
     bool isForTheDialog(const QKeyEvent* key) const;
-    /// @return Whether the field is still there.
-    bool takeIn();
     void enter();
     void takeBack();
 

@@ -338,6 +338,8 @@ void TestDialogFailures::editInsideACheckIsKept()
     QCOMPARE(dialog.probe().record().settings.views[0].height, 480);
     QCOMPARE(height->value(), 480);
     QCOMPARE(dialog.log()->toPlainText().trimmed(), QStringLiteral("inner"));
+    // What "Copy all" copies.
+    QCOMPARE(messageLog().allMessages(), QStringLiteral("inner"));
 }
 
 void TestDialogFailures::editInsideTheCheckOfOkIsNotAccepted()

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void escapeClosesTheListOnly();
     void nothingFound();
     void isOverTheDialog();
+    void tipsAreOnReadableLines();
 };
 
 void TestDialogFind::listsAllSettingsAtFirst()
@@ -208,6 +209,19 @@ void TestDialogFind::isOverTheDialog()
     OpenDialog dialog;
     find(dialog, QString());
     QVERIFY(dialog->frameGeometry().contains(openBox()->geometry()));
+}
+
+void TestDialogFind::tipsAreOnReadableLines()
+{
+    OpenDialog dialog;
+    find(dialog, QString());
+    QVERIFY(list());
+    for (int row = 0; row < list()->count(); ++row) {
+        const QStringList lines = list()->item(row)->toolTip().split(QLatin1Char('\n'));
+        for (const QString& line : lines) {
+            QVERIFY2(line.size() <= 100, qPrintable(line));
+        }
+    }
 }
 
 QTEST_MAIN(TestDialogFind)
