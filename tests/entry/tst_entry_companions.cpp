@@ -254,7 +254,7 @@ void TestEntryCompanions::whatTheLoaderWouldHangOrDieOfIsRefused_data()
 {
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("folder");
-    for (const char* what : {"pipe", "half a library", "folder"}) {
+    for (const char* what : {"pipe", "beginning of a library", "folder"}) {
         for (const char* folder : {"host", "module"}) {
             QTest::addRow("%s, %s", what, folder)
                 << QString::fromLatin1(what) << QString::fromLatin1(folder);
@@ -281,7 +281,8 @@ void TestEntryCompanions::whatTheLoaderWouldHangOrDieOfIsRefused()
     } else {
         sandbox.add("stub_entry_encoder", "kv_mvcenc", place.constData());
         QFile whole(name);
-        QVERIFY(whole.resize(whole.size() / 2));
+        // Half of it may be all but what debuggers read.
+        QVERIFY(whole.resize(4096));
     }
     const auto run = sandbox.run(ownCall, sandbox.findingBesideTheModule());
     QCOMPARE(run.value("result"), QStringLiteral("1"));
