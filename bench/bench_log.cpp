@@ -1,5 +1,5 @@
 // What the log of a check takes, from the first message to the last line laid out, beside what it
-// takes for 1,000 messages.
+// takes for 10 messages.
 
 #include "dialog/AVCVideoEncoderDlg.h"
 #include "dialog/Companions.h"
@@ -23,7 +23,9 @@ struct Amount {
     int letters;
 };
 
-constexpr Amount amounts[] = {{"1,000 messages", 1000, 0},
+constexpr Amount amounts[] = {{"10 messages", 10, 0},
+                              {"100 messages", 100, 0},
+                              {"1,000 messages", 1000, 0},
                               {"10,000 messages", 10'000, 0},
                               {"100,000 messages", 100'000, 0},
                               {"a word of 64 KiB", 1, 64 * 1024},
