@@ -5,6 +5,7 @@
 #include "FindBox.h"
 #include "LogMenu.h"
 #include "RecentFiles.h"
+#include "SettingControls.h"
 #include "SettingsText.h"
 #include "Shortcuts.h"
 #include "model/KeyNames.h"
@@ -70,7 +71,12 @@ void AVCVideoEncoderDlg::findSetting()
     if (!endTyping()) {
         return;
     }
-    QVector<FindBox::Entry> entries;
+    // The one setting that is on no page.
+    const QString preset = setting_controls::captionOf(ui.presetList);
+    QVector<FindBox::Entry> entries = {{preset,
+                                        ui.presetList->toolTip(),
+                                        {preset, QStringLiteral("Preset"), keys::videoType},
+                                        ui.presetList}};
     const auto settings = settings_text::settingsOf(this);
     for (const settings_text::Setting& setting : settings) {
         const auto facts = settingFacts(setting.key);

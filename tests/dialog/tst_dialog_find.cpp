@@ -77,8 +77,9 @@ void TestDialogFind::listsAllSettingsAtFirst()
     QVERIFY(items().contains(QStringLiteral("Picture width \u2013 Basic Settings")));
     QVERIFY(items().contains(QStringLiteral("Level \u2013 Advanced Settings")));
     QVERIFY(items().contains(QStringLiteral("View 3, Minimum quantizer \u2013 Views")));
-    // 12 on the basic tab, 29 on the advanced one, 2 of all views and 17 of each.
-    QCOMPARE(items().size(), 12 + 29 + 2 + 4 * 17);
+    QVERIFY(items().contains(QStringLiteral("Preset")));
+    // The preset, 12 on the basic tab, 29 on the advanced one, 2 of all views and 17 of each.
+    QCOMPARE(items().size(), 1 + 12 + 29 + 2 + 4 * 17);
     QCOMPARE(dialog.companions.calls, QStringList());
 }
 
@@ -89,6 +90,8 @@ void TestDialogFind::typingNarrows_data()
     QTest::newRow("label") << QStringLiteral("weighted")
                            << QStringLiteral("Weighted prediction for P-frames");
     QTest::newRow("other case") << QStringLiteral("wIDTH") << QStringLiteral("Picture width");
+    QTest::newRow("the preset, although others' tips name it")
+        << QStringLiteral("preset") << QStringLiteral("Preset");
     QTest::newRow("key") << QStringLiteral("piramyd")
                          << QStringLiteral("Pyramidal structure for B-frames");
     QTest::newRow("member") << QStringLiteral("bit_depth_luma") << QStringLiteral("Bit-depth luma");
@@ -129,6 +132,7 @@ void TestDialogFind::enterGoesThere_data()
                                   << 0;
     QTest::newRow("another tab, below the fold")
         << QStringLiteral("weighted") << QByteArray("weightedPCheck") << 1;
+    QTest::newRow("above the tabs") << QStringLiteral("preset") << QByteArray("presetList") << 0;
     QTest::newRow("a view") << QStringLiteral("view 1, target bitrate")
                             << QByteArray("targetRateSpin") << 2;
 }
