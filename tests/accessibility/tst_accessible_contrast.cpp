@@ -95,7 +95,7 @@ void TestAccessibleContrast::rows()
         const char* name;
         QPalette palette;
     } palettes[] = {
-        {"light", QStyleFactory::create(QStringLiteral("Fusion"))->standardPalette()},
+        {"light", QApplication::style()->standardPalette()},
         {"dark", darkPalette({53, 53, 53}, {25, 25, 25})},
         {"black", darkPalette(Qt::black, Qt::black)},
         {"blue-grey", darkPalette({49, 54, 59}, {35, 38, 41})},
