@@ -3,6 +3,7 @@
 #include "Sandbox.h"
 #include "VirtualDisplay.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 class TestEntryDisplay : public QObject
@@ -35,7 +36,12 @@ void TestEntryDisplay::serverThatStartsAnewWithoutClients()
                      QStringLiteral("call"), QStringLiteral("call"), QStringLiteral("call"),
                      QStringLiteral("call"), QStringLiteral("instance")},
                     display.environment());
-    QCOMPARE(run.errors, QString());
+    QString errors = run.errors;
+    if (QT_VERSION_MAJOR < 6) {
+        // It asks for the focus before the window is there, and says so.
+        errors.remove(QRegularExpression(QStringLiteral("qt\\.qpa\\.xcb: .*SetInputFocus.*\n")));
+    }
+    QCOMPARE(errors, QString());
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.values("result"),
              QStringList({QStringLiteral("1001"), QStringLiteral("1001"), QStringLiteral("1001"),
