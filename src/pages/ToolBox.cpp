@@ -83,6 +83,7 @@ private:
 void layOutNow(QWidget* widget)
 {
     // By number: laying out may make widgets.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (int i = 0; i < int(widget->children().size()); ++i) {
         if (QObject* const child = widget->children().at(i); child->isWidgetType()) {
             layOutNow(static_cast<QWidget*>(child));
