@@ -243,6 +243,8 @@ QString Monkey::playSession(int session, int mostEvents)
     while (QWidget* const popup = QApplication::activePopupWidget()) {
         popup->close();
     }
+    // Also of a dialog that is still open when all events are played.
+    m_digest = m_digest * 31 + qHash(bytesOf(dialog.caller)) + qHash(dialog.bytes());
     if (broken.isEmpty() && !dialog->isVisible()) {
         return endSession(dialog);
     }
@@ -252,7 +254,6 @@ QString Monkey::playSession(int session, int mostEvents)
 QString Monkey::endSession(const OpenDialog& dialog)
 {
     const QByteArray caller = bytesOf(dialog.caller);
-    m_digest = m_digest * 31 + qHash(caller) + qHash(dialog.bytes());
     const bool accepted = dialog->result() == QDialog::Accepted;
     m_accepted += accepted ? 1 : 0;
     if (caller != (accepted ? dialog.bytes() : dialog.given)) {
