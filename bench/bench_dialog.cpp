@@ -234,8 +234,6 @@ void goThroughMaps()
     }
 }
 
-} // namespace
-
 /// What the process has written for itself, in KiB; 0 where the system does not tell. What it has
 /// only read counts as private or shared by whoever else runs.
 long privateMemory()
@@ -264,6 +262,8 @@ void measureGrowth()
     Dialogs four(someSettings(4));
     measure({{"edit, four views, beside one", [&] { four.edit(); }, [&] { one.edit(); }, 10}});
 }
+
+} // namespace
 
 /// bench_dialog memory ours|bare: prints the private memory of a process with that dialog open.
 ///

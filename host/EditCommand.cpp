@@ -163,6 +163,7 @@ DialogCall dialogCall(const Invocation& call)
 int32_t showDialog(const Library& module, const DialogCall& call, KvMvcSettings& settings)
 {
     const auto show = module.function<KvShowMvcEncoderPages>(KV_MVC_GUI_SHOW_PAGES);
+    // However the dialog is hosted: the module shall not take the widgets along when it goes.
     const auto makeApplication =
         windowPart(call.directory).function<KvMakeApplication>(makeApplicationName);
     int32_t flags = call.flags;
